@@ -1,0 +1,329 @@
+// Capability records: what the target tells about its radio.
+//
+// All records are little-endian and naturally aligned. Reserved bytes are not read by the tool; a
+// target may leave anything in them. Counts say how many rows of the fixed table behind them are in
+// use. Bands are 3GPP NR band numbers (TS 38.101-1 table 5.2-1, 78 for n78).
+#pragma once
+
+#include "VondLayout.h"
+
+constexpr int VOND_MAX_BANDS = 25;
+constexpr int VOND_MAX_TX_ROUTES = 100;
+constexpr int VOND_MAX_RX_ROUTES = 100;       // of each type
+constexpr int VOND_MAX_BW_REGIONS = 4;        // aggregate bandwidth regions of a TX route
+constexpr int VOND_MAX_ROUTE_VALUES = 100;    // TX routes paired with one RX route
+constexpr int VOND_MAX_FREQ_LIMITS = 14;      // routes with limits of their own, a direction
+constexpr int VOND_MAX_DETAIL_ROUTES = 1181;  // rows of a hardware detail table
+constexpr int VOND_RX_POWER_MODES = 2;        // 0 high power mode (HPM), 1 low power mode (LPM)
+
+// An item word: a value that may be absent.
+constexpr bool VondItemValid(uint32_t word) { return (word & 1u) != 0; }
+constexpr uint32_t VondItemValue(uint32_t word) { return word >> 2; }
+
+// Request of the three capability reads: the sizes of the two parts that the caller expects.
+struct SVondCapabilityReq
+{
+    uint32_t capabilitySize;   // bytes
+    uint32_t calibrationSize;  // bytes
+};
+VOND_SIZE(SVondCapabilityReq, 8);
+VOND_OFFSET(SVondCapabilityReq, capabilitySize, 0);
+VOND_OFFSET(SVondCapabilityReq, calibrationSize, 4);
+
+// Answer of VOND_ERf_GetRfCapability_r.
+struct SERfCapability
+{
+    uint8_t reserved0[8];
+    uint32_t rfChipId;  // LTE-side RF chip, a key of VOND_ERf_GetChipIdName
+    uint8_t reserved12[236];
+};
+VOND_SIZE(SERfCapability, 248);
+VOND_OFFSET(SERfCapability, reserved0, 0);
+VOND_OFFSET(SERfCapability, rfChipId, 8);
+VOND_OFFSET(SERfCapability, reserved12, 12);
+
+// Answer of VOND_MMRf_GetRfCapability_r.
+struct SMMRfCapability
+{
+    uint8_t reserved0[44];
+    uint32_t worldMode;  // item word: valid when RAT information is there; value bit 6 (0x40) is NR
+    uint8_t reserved48[96];
+};
+VOND_SIZE(SMMRfCapability, 144);
+VOND_OFFSET(SMMRfCapability, reserved0, 0);
+VOND_OFFSET(SMMRfCapability, worldMode, 44);
+VOND_OFFSET(SMMRfCapability, reserved48, 48);
+
+// Answer of VOND_NRf_GetRfCapability_r.
+struct SNRfCapability
+{
+    uint8_t reserved0[8];
+    uint32_t rfChipId;    // NR RF chip, a key of VOND_NRf_GetChipIdName
+    uint32_t generation;  // item word: bits 2 to 9 are the modem generation
+    uint8_t reserved16[20];
+};
+VOND_SIZE(SNRfCapability, 36);
+VOND_OFFSET(SNRfCapability, reserved0, 0);
+VOND_OFFSET(SNRfCapability, rfChipId, 8);
+VOND_OFFSET(SNRfCapability, generation, 12);
+VOND_OFFSET(SNRfCapability, reserved16, 16);
+
+struct SMMRfBandEntryV7
+{
+    uint16_t band;         // NR band number
+    uint8_t downlinkOnly;  // 1: supplementary downlink, left out of TX lists
+    uint8_t uplinkOnly;    // 1: supplementary uplink, left out of RX lists
+};
+VOND_SIZE(SMMRfBandEntryV7, 4);
+VOND_OFFSET(SMMRfBandEntryV7, band, 0);
+VOND_OFFSET(SMMRfBandEntryV7, downlinkOnly, 2);
+VOND_OFFSET(SMMRfBandEntryV7, uplinkOnly, 3);
+
+// Frequency limits that the target declares for single routes, one direction.
+struct SRouteFreqRangeHalf
+{
+    uint16_t count;
+    uint16_t band[VOND_MAX_FREQ_LIMITS];   // NR band number
+    uint16_t route[VOND_MAX_FREQ_LIMITS];  // route number
+    int32_t low[VOND_MAX_FREQ_LIMITS];     // lowest carrier frequency, kHz
+    int32_t high[VOND_MAX_FREQ_LIMITS];    // highest carrier frequency, kHz
+};
+VOND_SIZE(SRouteFreqRangeHalf, 172);
+VOND_OFFSET(SRouteFreqRangeHalf, count, 0);
+VOND_OFFSET(SRouteFreqRangeHalf, band, 2);
+VOND_OFFSET(SRouteFreqRangeHalf, route, 30);
+VOND_OFFSET(SRouteFreqRangeHalf, low, 60);
+VOND_OFFSET(SRouteFreqRangeHalf, high, 116);
+
+struct SRouteFreqRangeV7
+{
+    SRouteFreqRangeHalf tx;
+    SRouteFreqRangeHalf rx;
+};
+VOND_SIZE(SRouteFreqRangeV7, 344);
+VOND_OFFSET(SRouteFreqRangeV7, tx, 0);
+VOND_OFFSET(SRouteFreqRangeV7, rx, 172);
+
+struct SMMRfTxRouteV7
+{
+    uint16_t band;           // NR band number
+    uint16_t route;          // route number
+    uint16_t bwRegionCount;  // rows of bwRegionKhz in use, at most 4
+    uint16_t reserved;
+    uint32_t bwRegionKhz[VOND_MAX_BW_REGIONS];  // upper bound of each region, kHz
+};
+VOND_SIZE(SMMRfTxRouteV7, 24);
+VOND_OFFSET(SMMRfTxRouteV7, band, 0);
+VOND_OFFSET(SMMRfTxRouteV7, route, 2);
+VOND_OFFSET(SMMRfTxRouteV7, bwRegionCount, 4);
+VOND_OFFSET(SMMRfTxRouteV7, reserved, 6);
+VOND_OFFSET(SMMRfTxRouteV7, bwRegionKhz, 8);
+
+struct SMMRfRxType1RouteV7
+{
+    uint16_t band;   // NR band number
+    uint16_t route;  // route number
+};
+VOND_SIZE(SMMRfRxType1RouteV7, 4);
+VOND_OFFSET(SMMRfRxType1RouteV7, band, 0);
+VOND_OFFSET(SMMRfRxType1RouteV7, route, 2);
+
+struct SMMRfRxType2RouteV7
+{
+    uint16_t band;   // NR band number
+    uint16_t route;  // route number
+    uint8_t reserved4[4];
+    uint8_t gainModeFlag;  // not 0: the route takes the type 2 gain layout
+    uint8_t reserved9;
+};
+VOND_SIZE(SMMRfRxType2RouteV7, 10);
+VOND_OFFSET(SMMRfRxType2RouteV7, band, 0);
+VOND_OFFSET(SMMRfRxType2RouteV7, route, 2);
+VOND_OFFSET(SMMRfRxType2RouteV7, reserved4, 4);
+VOND_OFFSET(SMMRfRxType2RouteV7, gainModeFlag, 8);
+VOND_OFFSET(SMMRfRxType2RouteV7, reserved9, 9);
+
+// Which RX gain modes (g0..g2) go with which eLNA gain (G0..G6), for one power mode.
+struct SMMRfRxGainInfoV7
+{
+    uint8_t t1[7][3];     // [G][g]: 1 when g is allowed while one path runs alone
+    uint8_t t2[7][3][3];  // [G][g of path 0][g of path 1]: 1 when both can run together
+    uint8_t reserved84[526];
+};
+VOND_SIZE(SMMRfRxGainInfoV7, 610);
+VOND_OFFSET(SMMRfRxGainInfoV7, t1, 0);
+VOND_OFFSET(SMMRfRxGainInfoV7, t2, 21);
+VOND_OFFSET(SMMRfRxGainInfoV7, reserved84, 84);
+
+// The part of the route configuration that the capability readers hand out as one table.
+struct SMMRfRouteTableV7
+{
+    uint16_t txRouteCount;
+    uint16_t rxType1RouteCount;
+    uint16_t rxType2RouteCount;
+    uint8_t reserved6[2];
+    SMMRfTxRouteV7 txRoute[VOND_MAX_TX_ROUTES];
+    SMMRfRxType1RouteV7 rxType1Route[VOND_MAX_RX_ROUTES];
+    SMMRfRxType2RouteV7 rxType2Route[VOND_MAX_RX_ROUTES];
+};
+VOND_SIZE(SMMRfRouteTableV7, 3808);
+VOND_OFFSET(SMMRfRouteTableV7, txRouteCount, 0);
+VOND_OFFSET(SMMRfRouteTableV7, rxType1RouteCount, 2);
+VOND_OFFSET(SMMRfRouteTableV7, rxType2RouteCount, 4);
+VOND_OFFSET(SMMRfRouteTableV7, reserved6, 6);
+VOND_OFFSET(SMMRfRouteTableV7, txRoute, 8);
+VOND_OFFSET(SMMRfRouteTableV7, rxType1Route, 2408);
+VOND_OFFSET(SMMRfRouteTableV7, rxType2Route, 2808);
+
+// Answer of VOND_MMRf_GetRouteConfigV7_r; the request is one u32 radio kind (0 LTE side, 1 NR).
+struct SMMRfRouteConfigV7
+{
+    uint32_t bandCount;
+    SMMRfBandEntryV7 band[VOND_MAX_BANDS];
+    SRouteFreqRangeV7 freqRange;
+    SMMRfRouteTableV7 routes;
+    SMMRfRxGainInfoV7 rxGainInfo[VOND_RX_POWER_MODES];  // index 0 HPM, 1 LPM
+};
+VOND_SIZE(SMMRfRouteConfigV7, 5476);
+VOND_OFFSET(SMMRfRouteConfigV7, bandCount, 0);
+VOND_OFFSET(SMMRfRouteConfigV7, band, 4);
+VOND_OFFSET(SMMRfRouteConfigV7, freqRange, 104);
+VOND_OFFSET(SMMRfRouteConfigV7, routes, 448);
+VOND_OFFSET(SMMRfRouteConfigV7, rxGainInfo, 4256);
+
+// Answer of VOND_NRf_GetBandRxInfo_r: MIMO ability by band.
+struct SNRfBandRxInfo
+{
+    uint16_t count;
+    uint16_t band[VOND_MAX_BANDS];    // NR band number
+    uint8_t ulMimo[VOND_MAX_BANDS];   // 1: UL MIMO
+    uint8_t rx4x4[VOND_MAX_BANDS];    // 1: 4x4 RX
+};
+VOND_SIZE(SNRfBandRxInfo, 102);
+VOND_OFFSET(SNRfBandRxInfo, count, 0);
+VOND_OFFSET(SNRfBandRxInfo, band, 2);
+VOND_OFFSET(SNRfBandRxInfo, ulMimo, 52);
+VOND_OFFSET(SNRfBandRxInfo, rx4x4, 77);
+
+struct SNRfRxRouteValueEntry
+{
+    uint16_t route;       // RX route number
+    uint16_t valueCount;  // TX routes in use
+    uint16_t value[VOND_MAX_ROUTE_VALUES];  // TX route numbers that can pair with the RX route
+};
+VOND_SIZE(SNRfRxRouteValueEntry, 204);
+VOND_OFFSET(SNRfRxRouteValueEntry, route, 0);
+VOND_OFFSET(SNRfRxRouteValueEntry, valueCount, 2);
+VOND_OFFSET(SNRfRxRouteValueEntry, value, 4);
+
+// Answer of VOND_NRf_GetRxRouteValues_r.
+struct SNRfRxRouteValues
+{
+    uint16_t count;
+    SNRfRxRouteValueEntry entry[VOND_MAX_RX_ROUTES];
+};
+VOND_SIZE(SNRfRxRouteValues, 20402);
+VOND_OFFSET(SNRfRxRouteValues, count, 0);
+VOND_OFFSET(SNRfRxRouteValues, entry, 2);
+
+struct SMMRfRouteDetailTxPair
+{
+    uint16_t route;  // TX route number
+    uint8_t reserved2[2];
+    uint32_t bwRegionKhz;  // one bandwidth region of that route, kHz
+};
+VOND_SIZE(SMMRfRouteDetailTxPair, 8);
+VOND_OFFSET(SMMRfRouteDetailTxPair, route, 0);
+VOND_OFFSET(SMMRfRouteDetailTxPair, reserved2, 2);
+VOND_OFFSET(SMMRfRouteDetailTxPair, bwRegionKhz, 4);
+
+// Request of VOND_MMRf_GetRouteDetailV7_r. The counts are bytes: at most 255 rows of each kind.
+struct SMMRfRouteDetailReqV7
+{
+    uint32_t radioKind;  // 1: NR
+    uint8_t rxType1Count;
+    uint8_t rxType2Count;
+    uint8_t txPairCount;
+    uint8_t reserved7;
+    uint16_t rxType1Route[VOND_MAX_DETAIL_ROUTES];
+    uint16_t rxType2Route[VOND_MAX_DETAIL_ROUTES];
+    SMMRfRouteDetailTxPair txPair[VOND_MAX_DETAIL_ROUTES];
+    uint8_t reserved14180[4200];
+};
+VOND_SIZE(SMMRfRouteDetailReqV7, 18380);
+VOND_OFFSET(SMMRfRouteDetailReqV7, radioKind, 0);
+VOND_OFFSET(SMMRfRouteDetailReqV7, rxType1Count, 4);
+VOND_OFFSET(SMMRfRouteDetailReqV7, rxType2Count, 5);
+VOND_OFFSET(SMMRfRouteDetailReqV7, txPairCount, 6);
+VOND_OFFSET(SMMRfRouteDetailReqV7, reserved7, 7);
+VOND_OFFSET(SMMRfRouteDetailReqV7, rxType1Route, 8);
+VOND_OFFSET(SMMRfRouteDetailReqV7, rxType2Route, 2370);
+VOND_OFFSET(SMMRfRouteDetailReqV7, txPair, 4732);
+VOND_OFFSET(SMMRfRouteDetailReqV7, reserved14180, 14180);
+
+// Hardware behind one RX route. Type 1 and type 2 routes read the tail differently.
+struct SRxRouteHw
+{
+    uint32_t antMask;     // antenna mask, bit per antenna
+    uint16_t feRouteNum;  // front-end route number
+    char port[2][16];     // port names, zero-terminated
+    union
+    {
+        struct
+        {
+            uint8_t srx;            // SRX number
+            uint8_t mimoPairCount;  // rows of mimoPair in use
+            uint16_t mimoPair[6];   // RX route numbers
+        } type1;
+        struct
+        {
+            uint8_t srx[2];         // SRX number of path 0 and of path 1
+            uint8_t mimoPairCount;  // rows of mimoPair in use
+            uint8_t reserved;
+            uint16_t mimoPair[5];   // RX route numbers
+        } type2;
+    };
+};
+VOND_SIZE(SRxRouteHw, 52);
+VOND_OFFSET(SRxRouteHw, antMask, 0);
+VOND_OFFSET(SRxRouteHw, feRouteNum, 4);
+VOND_OFFSET(SRxRouteHw, port, 6);
+VOND_OFFSET(SRxRouteHw, type1.srx, 38);
+VOND_OFFSET(SRxRouteHw, type1.mimoPairCount, 39);
+VOND_OFFSET(SRxRouteHw, type1.mimoPair, 40);
+VOND_OFFSET(SRxRouteHw, type2.srx, 38);
+VOND_OFFSET(SRxRouteHw, type2.mimoPairCount, 40);
+VOND_OFFSET(SRxRouteHw, type2.reserved, 41);
+VOND_OFFSET(SRxRouteHw, type2.mimoPair, 42);
+
+// Hardware behind one bandwidth region of a TX route.
+struct STxBwRegionHw
+{
+    uint32_t antMask;       // antenna mask, bit per antenna
+    uint16_t feRouteNum;    // front-end route number
+    char port[16];          // port name, zero-terminated
+    uint8_t stx;            // STX number
+    uint8_t mimoPairCount;  // rows of mimoPair in use
+    uint16_t mimoPair[6];   // TX route numbers
+};
+VOND_SIZE(STxBwRegionHw, 36);
+VOND_OFFSET(STxBwRegionHw, antMask, 0);
+VOND_OFFSET(STxBwRegionHw, feRouteNum, 4);
+VOND_OFFSET(STxBwRegionHw, port, 6);
+VOND_OFFSET(STxBwRegionHw, stx, 22);
+VOND_OFFSET(STxBwRegionHw, mimoPairCount, 23);
+VOND_OFFSET(STxBwRegionHw, mimoPair, 24);
+
+// Answer of VOND_MMRf_GetRouteDetailV7_r, a hardware block for each row of the request, in its order.
+struct SMMRfRouteDetailCnfV7
+{
+    uint8_t reserved0[18376];
+    SRxRouteHw rxType1[VOND_MAX_DETAIL_ROUTES];
+    SRxRouteHw rxType2[VOND_MAX_DETAIL_ROUTES];
+    STxBwRegionHw txPair[VOND_MAX_DETAIL_ROUTES];
+};
+VOND_SIZE(SMMRfRouteDetailCnfV7, 183716);
+VOND_OFFSET(SMMRfRouteDetailCnfV7, reserved0, 0);
+VOND_OFFSET(SMMRfRouteDetailCnfV7, rxType1, 18376);
+VOND_OFFSET(SMMRfRouteDetailCnfV7, rxType2, 79788);
+VOND_OFFSET(SMMRfRouteDetailCnfV7, txPair, 141200);

@@ -1,0 +1,174 @@
+// Result records: what the target measured.
+//
+// All records are little-endian and naturally aligned. The caller zeroes a record before the call.
+#pragma once
+
+#include "VondLayout.h"
+
+constexpr int VOND_MAX_REPORTS = 10;   // measurements of one RSRP report
+constexpr int VOND_MAX_RSSI_ROWS = 5;  // frequencies of one RSSI measurement
+
+// Answer of VOND_NRf_GetDlFreqV7_r.
+struct SNrDlFreqCnfV7
+{
+    uint32_t status;       // 0: success, see VondStatusText
+    uint32_t dlFrequency;  // kHz
+};
+VOND_SIZE(SNrDlFreqCnfV7, 8);
+VOND_OFFSET(SNrDlFreqCnfV7, status, 0);
+VOND_OFFSET(SNrDlFreqCnfV7, dlFrequency, 4);
+
+// Answer of VOND_NRf_GetMixRxReportV7_r. RSSI and RSRP are dBm in 1/128 dB, one column an antenna.
+struct NRfTestResult_GetMixRxReportV7
+{
+    uint8_t reportCount;  // measurements in use, at most 10
+    uint8_t reserved1[3];
+    int16_t RSSI0[VOND_MAX_REPORTS];
+    int16_t RSSI1[VOND_MAX_REPORTS];
+    int16_t RSSI2[VOND_MAX_REPORTS];
+    int16_t RSSI3[VOND_MAX_REPORTS];
+    int16_t RSRP0[VOND_MAX_REPORTS];
+    int16_t RSRP1[VOND_MAX_REPORTS];
+    int16_t RSRP2[VOND_MAX_REPORTS];
+    int16_t RSRP3[VOND_MAX_REPORTS];
+    uint32_t GoodBLK;  // transport blocks received well since the last reset
+    uint32_t BadBLK;   // transport blocks lost since the last reset
+};
+VOND_SIZE(NRfTestResult_GetMixRxReportV7, 172);
+VOND_OFFSET(NRfTestResult_GetMixRxReportV7, reportCount, 0);
+VOND_OFFSET(NRfTestResult_GetMixRxReportV7, reserved1, 1);
+VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSSI0, 4);
+VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSSI1, 24);
+VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSSI2, 44);
+VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSSI3, 64);
+VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSRP0, 84);
+VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSRP1, 104);
+VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSRP2, 124);
+VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSRP3, 144);
+VOND_OFFSET(NRfTestResult_GetMixRxReportV7, GoodBLK, 164);
+VOND_OFFSET(NRfTestResult_GetMixRxReportV7, BadBLK, 168);
+
+// Gains found by a gain search; SMMGainSearchCnfV7::simultaneous says which layout holds. All gains
+// are dB in 1/32 dB.
+union UMMGainSearchV7
+{
+    struct
+    {
+        int16_t mainRfGain;  // of the path asked for
+        int16_t divRfGain;
+        int16_t mainDigitalGain;
+        int16_t divDigitalGain;
+        uint8_t reserved8[12];
+    } single;
+    struct
+    {
+        uint8_t path0MainGainIdx;  // type 2 gain index
+        uint8_t path0DivGainIdx;
+        uint8_t path1MainGainIdx;
+        uint8_t path1DivGainIdx;
+        int16_t path0MainRfGain;
+        int16_t path0DivRfGain;
+        int16_t path1MainRfGain;
+        int16_t path1DivRfGain;
+        int16_t path0MainDigitalGain;
+        int16_t path0DivDigitalGain;
+        int16_t path1MainDigitalGain;
+        int16_t path1DivDigitalGain;
+    } simultaneous;
+};
+VOND_SIZE(UMMGainSearchV7, 20);
+
+// Answer of VOND_MMRf_GainSearchV7_r.
+struct SMMGainSearchCnfV7
+{
+    int16_t adviseDlPower;  // advised cell power, dBm in 1/32 dB
+    uint8_t reserved2[2];
+    uint32_t simultaneous;  // 1: both paths
+    UMMGainSearchV7 gain;
+};
+VOND_SIZE(SMMGainSearchCnfV7, 28);
+VOND_OFFSET(SMMGainSearchCnfV7, adviseDlPower, 0);
+VOND_OFFSET(SMMGainSearchCnfV7, reserved2, 2);
+VOND_OFFSET(SMMGainSearchCnfV7, simultaneous, 4);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.single.mainRfGain, 8);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.single.divRfGain, 10);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.single.mainDigitalGain, 12);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.single.divDigitalGain, 14);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.single.reserved8, 16);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path0MainGainIdx, 8);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path0DivGainIdx, 9);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path1MainGainIdx, 10);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path1DivGainIdx, 11);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path0MainRfGain, 12);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path0DivRfGain, 14);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path1MainRfGain, 16);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path1DivRfGain, 18);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path0MainDigitalGain, 20);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path0DivDigitalGain, 22);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path1MainDigitalGain, 24);
+VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path1DivDigitalGain, 26);
+
+// Rows of an RSSI measurement; the command's singlePath says which layout holds. RSSI is dBm in
+// 1/32 dB; the G (eLNA) and g (gain mode) bytes are the gains in force.
+union UMMRssiRowsV7
+{
+    struct
+    {
+        struct
+        {
+            int16_t rssiMain;
+            int16_t rssiDiv;
+        } row[VOND_MAX_RSSI_ROWS];
+        uint8_t mainG;
+        uint8_t divG;
+        uint8_t maing;
+        uint8_t divg;
+        uint8_t reserved24[24];
+    } single;
+    struct
+    {
+        struct
+        {
+            int16_t path0Main;
+            int16_t path0Div;
+            int16_t path1Main;
+            int16_t path1Div;
+        } row[VOND_MAX_RSSI_ROWS];
+        uint8_t mainG;
+        uint8_t divG;
+        uint8_t path0Maing;
+        uint8_t path0Divg;
+        uint8_t path1Maing;
+        uint8_t path1Divg;
+        uint8_t reserved46[2];
+    } simultaneous;
+};
+VOND_SIZE(UMMRssiRowsV7, 48);
+
+// Answer of VOND_MMRf_RssiV7_r.
+struct SMMRssiCnfV7
+{
+    uint8_t reserved0[8];
+    uint32_t dlFrequency[VOND_MAX_RSSI_ROWS];  // kHz, of each row
+    UMMRssiRowsV7 rows;
+};
+VOND_SIZE(SMMRssiCnfV7, 76);
+VOND_OFFSET(SMMRssiCnfV7, reserved0, 0);
+VOND_OFFSET(SMMRssiCnfV7, dlFrequency, 8);
+VOND_OFFSET(SMMRssiCnfV7, rows.single.row, 28);
+VOND_OFFSET(SMMRssiCnfV7, rows.single.mainG, 48);
+VOND_OFFSET(SMMRssiCnfV7, rows.single.divG, 49);
+VOND_OFFSET(SMMRssiCnfV7, rows.single.maing, 50);
+VOND_OFFSET(SMMRssiCnfV7, rows.single.divg, 51);
+VOND_OFFSET(SMMRssiCnfV7, rows.single.reserved24, 52);
+VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.row, 28);
+VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.row[0].path0Div, 30);
+VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.row[0].path1Main, 32);
+VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.row[0].path1Div, 34);
+VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.mainG, 68);
+VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.divG, 69);
+VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.path0Maing, 70);
+VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.path0Divg, 71);
+VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.path1Maing, 72);
+VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.path1Divg, 73);
+VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.reserved46, 74);

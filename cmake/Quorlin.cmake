@@ -1,0 +1,95 @@
+# Build functions of the project: one for a module, one for a page, one for a test.
+#
+#   quorlin_module(NAME Model SOURCES JsonPath.cpp JsonPath.h DEPENDS Qt5::Core)
+#   quorlin_page(NAME NrContRxDockWidgetV7)              # its .h, .cpp and .ui, into the folder's module
+#   quorlin_test(NAME JsonPathTest SOURCES JsonPathTest.cpp DEPENDS Model LABELS unit)
+
+include_guard(GLOBAL)
+
+# Compiler cache, told that the precompiled headers of this project are safe to share.
+function(quorlin_use_ccache)
+  find_program(QUORLIN_CCACHE ccache)
+  if(QUORLIN_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime
+        ${QUORLIN_CCACHE} PARENT_SCOPE)
+  endif()
+endfunction()
+
+# Compile settings that all code of the project shares.
+add_library(quorlin_options INTERFACE)
+target_compile_options(quorlin_options INTERFACE -Wall -Wextra
+                       $<$<BOOL:${QUORLIN_WERROR}>:-Werror>)
+target_compile_definitions(quorlin_options INTERFACE QT_NO_FOREACH QT_DEPRECATED_WARNINGS
+                           QT_MESSAGELOGCONTEXT)
+if(QUORLIN_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# Precompiled Qt headers. A target may reuse one only if it is compiled alike, so libraries and
+# programs have one each.
+function(quorlin_precompile target kind)
+  set(header ${PROJECT_SOURCE_DIR}/cmake/QtPrecompiled.h)
+  set(holder quorlin_pch_${kind})
+  if(NOT TARGET ${holder})
+    file(WRITE ${PROJECT_BINARY_DIR}/pch/${holder}.cpp "int main(int, char **) { return 0; }\n")
+    if(kind STREQUAL "program")
+      add_executable(${holder} ${PROJECT_BINARY_DIR}/pch/${holder}.cpp)
+    else()
+      add_library(${holder} STATIC ${PROJECT_BINARY_DIR}/pch/${holder}.cpp)
+    endif()
+    set_target_properties(${holder} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    target_link_libraries(${holder} PRIVATE quorlin_options Qt5::Widgets Qt5::Concurrent)
+    target_precompile_headers(${holder} PRIVATE ${header})
+  endif()
+  # The holder's definitions, whatever the target links: a precompiled header fits only then.
+  target_link_libraries(${target} PRIVATE quorlin_options Qt5::Widgets Qt5::Concurrent)
+  target_precompile_headers(${target} REUSE_FROM ${holder})
+endfunction()
+
+# A module: one folder, one static library. Its headers are found by their folder's name
+# ("Model/JsonPath.h"), and it sees only the modules that it declares.
+#   DEPENDS          modules and libraries that its headers show
+#   PRIVATE_DEPENDS  those that only its sources use
+function(quorlin_module)
+  cmake_parse_arguments(M "" "NAME" "SOURCES;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
+  add_library(${M_NAME} STATIC ${M_SOURCES})
+  target_include_directories(${M_NAME} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${M_NAME} PUBLIC ${M_DEPENDS} PRIVATE ${M_PRIVATE_DEPENDS})
+  quorlin_precompile(${M_NAME} library)
+endfunction()
+
+# A page: adds its header, source and Designer form to the module of the folder it lies in.
+function(quorlin_page)
+  cmake_parse_arguments(P "" "NAME;MODULE" "" ${ARGN})
+  target_sources(${P_MODULE} PRIVATE ${P_NAME}.h ${P_NAME}.cpp ${P_NAME}.ui)
+endfunction()
+
+# A test program, run by ctest from the build's bin folder.
+#   LABELS  unit (no widgets, no plug-in), gui (widgets, offscreen), device (the whole plug-in on the
+#           simulated DUT); the label sets the timeout
+#   QT      uses QtTest; without it the test is a GoogleTest program
+function(quorlin_test)
+  cmake_parse_arguments(T "QT" "NAME;LABELS" "SOURCES;DEPENDS" ${ARGN})
+  set(timeout_unit 30)
+  set(timeout_gui 120)
+  set(timeout_device 300)
+  if(NOT DEFINED timeout_${T_LABELS})
+    message(FATAL_ERROR "quorlin_test(${T_NAME}): LABELS is one of unit, gui, device")
+  endif()
+  add_executable(${T_NAME} ${T_SOURCES})
+  target_include_directories(${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${T_NAME} PRIVATE ${T_DEPENDS})
+  if(T_QT)
+    target_link_libraries(${T_NAME} PRIVATE Qt5::Test)
+    quorlin_precompile(${T_NAME} program)
+  else()
+    set_target_properties(${T_NAME} PROPERTIES AUTOUIC OFF)
+    target_link_libraries(${T_NAME} PRIVATE quorlin_options GTest::gtest_main)
+  endif()
+  add_test(NAME ${T_NAME} COMMAND ${T_NAME} WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  set_tests_properties(${T_NAME} PROPERTIES LABELS ${T_LABELS} TIMEOUT ${timeout_${T_LABELS}}
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=quorlin.*.debug=false;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;ASAN_OPTIONS=detect_odr_violation=0")
+endfunction()
