@@ -1,0 +1,241 @@
+#include "Support/CalIniFile.h"
+
+#include <algorithm>
+#include <charconv>
+#include <climits>
+#include <cstdlib>
+#include <cwchar>
+#include <exception>
+#include <stdexcept>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+// Wide text without the library's own converters, which the package lacks; ours takes their place.
+#define SI_NO_CONVERSION
+// The package's header hides the function bodies, which an instantiation of our own needs.
+#define SI_IMPLEMENTATION
+#include <SimpleIni.h>
+
+#include "Support/WideText.h"
+
+struct CCalIniFile::SIni : CSimpleIniTempl<wchar_t, SI_NoCase<wchar_t>, CWideTextConverter>
+{
+    using CSimpleIniTempl::CSimpleIniTempl;
+};
+
+namespace {
+
+constexpr bool kUtf8 = true;
+constexpr bool kMultiKey = true;
+constexpr bool kMultiLine = false;
+constexpr bool kByteOrderMark = true;
+constexpr bool kReplaceAll = true;
+
+// No INI file of this tool comes near; above it a file is taken for something else.
+constexpr qint64 kMaxFileBytes = 256 * 1024 * 1024;
+// Sign, the 309 digits of the greatest double, point and six decimals.
+constexpr size_t kMaxDoubleText = 320;
+constexpr int kDecimals = 6;
+
+// A name or value as the single-line format can hold it.
+std::wstring ToLine(const std::string &text)
+{
+    std::wstring line = WideFromUtf8(text);
+    std::replace_if(
+        line.begin(), line.end(), [](wchar_t c) { return c == L'\n' || c == L'\r'; }, L' ');
+    return line;
+}
+
+// The library ends lines with "\n" on this platform. A line end that is CRLF already stays.
+std::string WithCrLf(const std::string &text)
+{
+    std::string result;
+    result.reserve(text.size() + text.size() / 16);
+    char last = '\0';
+    for (char c : text) {
+        if (c == '\n' && last != '\r')
+            result += '\r';
+        result += c;
+        last = c;
+    }
+    return result;
+}
+
+}  // namespace
+
+CCalIniFile::CCalIniFile(const wchar_t *path)
+    : m_ini(std::make_unique<SIni>(kUtf8, kMultiKey, kMultiLine)), m_path(path ? path : L"")
+{
+}
+
+CCalIniFile::~CCalIniFile() = default;
+
+bool CCalIniFile::Load()
+{
+    if (m_loaded)
+        return true;
+    try {
+        m_loaded = ParseFile();
+    } catch (const std::exception &) {
+        m_loaded = false;
+    }
+    if (!m_loaded)
+        m_ini->Reset();  // a later try must not add to half a load
+    return m_loaded;
+}
+
+bool CCalIniFile::ParseFile()
+{
+    const QString path = QString::fromStdWString(m_path);
+    const QFileInfo info(path);
+    if (!info.isFile() || info.size() > kMaxFileBytes)  // a folder or a pipe can be opened, too
+        return false;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return false;
+    if (m_ini->LoadData(bytes.constData(), static_cast<size_t>(bytes.size())) < 0)
+        return false;
+
+    // A heading without ']' leaves a section whose name runs on over the next lines and would grow
+    // with every save.
+    SIni::TNamesDepend sections;
+    m_ini->GetAllSections(sections);
+    for (const SIni::Entry &section : sections) {
+        if (std::wcspbrk(section.pItem, L"\r\n"))
+            m_ini->Delete(section.pItem, nullptr);
+    }
+    return true;
+}
+
+void CCalIniFile::RequireLoaded(const std::string &what)
+{
+    if (!Load())
+        throw std::runtime_error("Read " + what + " from " + Utf8FromWide(m_path) +
+                                 " failed (load file failed)");
+}
+
+bool CCalIniFile::HasSection(const std::string &section)
+{
+    RequireLoaded(section);
+    return m_ini->GetSection(ToLine(section).c_str()) != nullptr;
+}
+
+std::string CCalIniFile::ReadString(const std::string &section, const std::string &key,
+                                    const std::string &defaultValue)
+{
+    RequireLoaded(section + "::" + key);
+    const wchar_t *value = m_ini->GetValue(ToLine(section).c_str(), ToLine(key).c_str(), nullptr);
+    return value ? Utf8FromWide(value) : defaultValue;
+}
+
+int CCalIniFile::ReadInt(const std::string &section, const std::string &key, int defaultValue)
+{
+    const std::string text = ReadString(section, key, std::to_string(defaultValue));
+    const long value = std::strtol(text.c_str(), nullptr, 10);
+    return static_cast<int>(std::clamp<long>(value, INT_MIN, INT_MAX));
+}
+
+std::vector<std::string> CCalIniFile::ReadSectionKeys(const std::string &section)
+{
+    RequireLoaded(section);
+    SIni::TNamesDepend names;
+    m_ini->GetAllKeys(ToLine(section).c_str(), names);
+    names.sort(SIni::Entry::LoadOrder());
+    std::vector<std::string> keys;
+    keys.reserve(names.size());
+    for (const SIni::Entry &name : names)
+        keys.push_back(Utf8FromWide(name.pItem));
+    return keys;
+}
+
+void CCalIniFile::WriteString(const std::string &section, const std::string &key,
+                              const std::string &value)
+{
+    const std::string failureText = "Write " + section + "::" + key + " to " +
+                                    Utf8FromWide(m_path) + " failed (create file failed)";
+    PrepareWrite(failureText);
+    const SI_Error result = m_ini->SetValue(ToLine(section).c_str(), ToLine(key).c_str(),
+                                            ToLine(value).c_str(), nullptr, kReplaceAll);
+    if (result < 0)
+        throw std::runtime_error(failureText);
+    if (m_unsavedFailure.empty())
+        m_unsavedFailure = failureText;
+    if (m_openBatches == 0)
+        SaveUnsaved();
+}
+
+void CCalIniFile::WriteInt(const std::string &section, const std::string &key, int value)
+{
+    WriteString(section, key, std::to_string(value));
+}
+
+void CCalIniFile::WriteDouble(const std::string &section, const std::string &key, double value)
+{
+    char text[kMaxDoubleText];  // not printf, whose point follows the locale
+    const std::to_chars_result end =
+        std::to_chars(text, text + kMaxDoubleText, value, std::chars_format::fixed, kDecimals);
+    WriteString(section, key, std::string(text, end.ptr));
+}
+
+// What the file holds is loaded first, so that a save keeps it. A missing file starts empty; one
+// that is there but can't be read must not be overwritten.
+void CCalIniFile::PrepareWrite(const std::string &failureText)
+{
+    if (Load())
+        return;
+    if (m_path.empty() || QFileInfo::exists(QString::fromStdWString(m_path)))
+        throw std::runtime_error(failureText);
+    m_loaded = true;
+}
+
+void CCalIniFile::SaveUnsaved()
+{
+    if (m_unsavedFailure.empty())
+        return;
+    const std::string failureText = std::move(m_unsavedFailure);
+    m_unsavedFailure.clear();
+    if (!SaveToDisk())
+        throw std::runtime_error(failureText);
+}
+
+bool CCalIniFile::SaveToDisk() const
+{
+    std::string text;
+    if (m_ini->Save(text, kByteOrderMark) < 0)
+        return false;
+    text = WithCrLf(text);
+    QSaveFile file(QString::fromStdWString(m_path));
+    const qint64 size = static_cast<qint64>(text.size());
+    // Unbuffered: commit does not notice when the flush of a buffer falls short on a full disk, and
+    // would put the stump in place of the old file.
+    return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+           file.write(text.data(), size) == size && file.commit();
+}
+
+CCalIniFile::CBatch::CBatch(CCalIniFile &file) : m_file(file)
+{
+    ++m_file.m_openBatches;
+}
+
+CCalIniFile::CBatch::~CBatch()
+{
+    try {
+        Commit();
+    } catch (const std::exception &) {
+        // Told to nobody by contract; a destructor can't.
+    }
+}
+
+void CCalIniFile::CBatch::Commit()
+{
+    if (!m_open)
+        return;
+    m_open = false;
+    if (--m_file.m_openBatches == 0)
+        m_file.SaveUnsaved();
+}

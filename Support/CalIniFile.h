@@ -1,0 +1,98 @@
+#pragma once
+
+// One INI file: calibration data or user settings, loaded on first need, saved on every write.
+//
+// Text at this interface is UTF-8. Section and key names that differ only in the case of ASCII
+// letters are one. A name or value holds no line break (each becomes a blank) and loses blanks at
+// its ends when the file is read again; a key holds no '=' and does not begin with '[', ';' or '#'.
+//
+// Reading. The file is loaded by the first operation that needs it and never again. Bytes that are
+// no UTF-8 read as U+FFFD. Lines that are neither section, key nor comment are skipped, and so is a
+// section whose heading lacks its ']', with its keys; all these are gone after the next save. Of a
+// key that a section holds several times, the first counts.
+//
+// Writing. Sets the value, in place of all values that the key had, and saves the whole file:
+// UTF-8 with byte order mark, CRLF line ends, " = " between key and value. What the file held
+// before stays. A save is whole or not at all: after a full disk or a crash the old file is there
+// as it was. A missing file is created, a missing folder is not.
+//
+// Errors. std::runtime_error with one of the texts
+//     Read <section> from <path> failed (load file failed)
+//     Read <section>::<key> from <path> failed (load file failed)
+//     Write <section>::<key> to <path> failed (create file failed)
+// The constructor opens nothing and throws nothing of these. After a failed write the value stays
+// in memory, is what reads return, and goes out with the next save that succeeds.
+//
+// No lock inside: one thread at a time.
+//
+//     CCalIniFile file(path.toStdWString().c_str());
+//     CCalIniFile::CBatch batch(file);
+//     file.WriteInt("NR n78 BW0 TPC", "Route", 7);
+//     file.WriteDouble("NR n78 BW0 TPC", "Tx compensation power detector coupler loss 0", 0.5);
+//     batch.Commit();
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class CCalIniFile
+{
+public:
+    class CBatch;
+
+    explicit CCalIniFile(const wchar_t *path);  // null: an empty path, which can't be read or saved
+    CCalIniFile(const CCalIniFile &) = delete;
+    CCalIniFile &operator=(const CCalIniFile &) = delete;
+    ~CCalIniFile();
+
+    bool Load();  // true when the file is loaded, now or before; throws nothing
+
+    bool HasSection(const std::string &section);
+    std::string ReadString(const std::string &section, const std::string &key,
+                           const std::string &defaultValue);
+    // The leading decimal number of the value, held to the range of int; 0 when it has none.
+    int ReadInt(const std::string &section, const std::string &key, int defaultValue);
+    // Each key once, in the order of the file; empty for an unknown section.
+    std::vector<std::string> ReadSectionKeys(const std::string &section);
+
+    void WriteString(const std::string &section, const std::string &key, const std::string &value);
+    void WriteInt(const std::string &section, const std::string &key, int value);
+    // As "%lf", six decimals, with a point in every locale of the process.
+    void WriteDouble(const std::string &section, const std::string &key, double value);
+
+private:
+    struct SIni;
+
+    bool ParseFile();
+    void RequireLoaded(const std::string &what);
+    void PrepareWrite(const std::string &failureText);
+    void SaveUnsaved();
+    bool SaveToDisk() const;
+
+    std::unique_ptr<SIni> m_ini;
+    std::wstring m_path;
+    bool m_loaded = false;
+    int m_openBatches = 0;
+    std::string m_unsavedFailure;  // failure text of the first unsaved write; empty: all is saved
+};
+
+// A run of writes with one save at its end, to the same bytes as a save for each write.
+//
+// Commit ends the run and throws the text of its first write when the save fails. Destruction
+// without Commit, on the way of an exception too, saves as well but is silent about a failure, so
+// a writer who has to tell the user calls Commit. A batch inside another of the same file leaves
+// the save to the outer one. A run without writes saves nothing. The file outlives its batches.
+class CCalIniFile::CBatch
+{
+public:
+    explicit CBatch(CCalIniFile &file);
+    CBatch(const CBatch &) = delete;
+    CBatch &operator=(const CBatch &) = delete;
+    ~CBatch();
+
+    void Commit();
+
+private:
+    CCalIniFile &m_file;
+    bool m_open = true;
+};

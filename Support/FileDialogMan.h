@@ -1,0 +1,40 @@
+#pragma once
+
+// The open and save dialogs of the tool, which start where the user last was.
+//
+// Both dialogs are modal, start in the remembered directory and return the chosen file, or an empty
+// text when the user cancels. A chosen file makes its directory the remembered one; a cancelled
+// dialog changes nothing. The directory reaches the disk when the object dies, so a local object
+// in the slot of a button serves best.
+//
+// The object may be destroyed while a dialog is open, as happens when the pages are reset; the
+// answer is then empty and not remembered. The dialog belongs to the tool window, not to this
+// object. GUI thread.
+//
+//     CFileDialogMan dialogs;
+//     const QString file = dialogs.GetOpenFileName("", "");
+
+#include <QString>
+#include <QWidget>
+
+#include "Support/FilePathRecordSentry.h"
+
+class CFileDialogMan : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CFileDialogMan(
+        const QString &settingsFile = CFilePathRecordSentry::DefaultSettingsFile());
+
+    // An empty caption or filter stands for the default of the dialog.
+    QString GetSaveFileName(const QString &caption, const QString &filter);
+    QString GetOpenFileName(const QString &caption, const QString &filter);
+
+private:
+    struct SDialogKind;
+
+    QString GetFileName(const SDialogKind &kind, const QString &caption, const QString &filter);
+
+    CFilePathRecordSentry m_record;
+};
