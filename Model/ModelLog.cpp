@@ -1,0 +1,3 @@
+#include "Model/ModelLog.h"
+
+Q_LOGGING_CATEGORY(lcModel, "quorlin.engine")

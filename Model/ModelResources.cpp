@@ -1,0 +1,8 @@
+#include "Model/ModelResources.h"
+
+#include <QtGlobal>
+
+void InitModelResources()
+{
+    Q_INIT_RESOURCE(Model);
+}
