@@ -1,0 +1,114 @@
+#include "Controller/NrCore.h"
+
+#include <iterator>
+
+#include "Controller/PageTable.h"
+#include "Model/ModelResources.h"
+#include "Operations/TargetLink.h"
+#include "Support/Log.h"
+
+namespace {
+
+constexpr uint32_t kRatMaskNr = 0x40;
+
+// A row's position is its id.
+constexpr const char *kCalItems[] = {"RX PathLoss", "APT Profile"};
+
+enum ESupport
+{
+    eUndecided = 0,
+    eSupported = 1,
+    eNotSupported = 2,
+    eUnknown = 3,
+};
+
+const QLatin1String kNoRatInfo("Not Support due to without any this RAT info from SW.");
+const QLatin1String kCheckLink(
+    "Please check the SW load stability or connection status of the target and tool.");
+
+}  // namespace
+
+CNrCore &GetCore()
+{
+    static CNrCore core;
+    return core;
+}
+
+CNrCore::CNrCore() : m_pageMap(BuildPageMap())
+{
+    InitModelResources();
+}
+
+void CNrCore::SetTargetHandle(uint32_t handle)
+{
+    ::SetTargetHandle(handle);
+}
+
+QString CNrCore::GetPageName(int pageId) const
+{
+    return PageName(static_cast<EPageId>(pageId));
+}
+
+QString CNrCore::GetCalItemName(int itemId) const
+{
+    return QString::fromLatin1(kCalItems[itemId]);
+}
+
+void CNrCore::ResetTargetCache()
+{
+    CTargetCapability::Reset();
+}
+
+bool CNrCore::IsC2kModem() const
+{
+    return ReadModemServiceType() == kModemServiceC2k;
+}
+
+SRfSupportStatus CNrCore::GetSupportStatus()
+{
+    const CLockSentry lock(m_targetLock);
+    m_supportStatus = DecideSupportStatus();
+    qCDebug(lcCore) << "[CNrCore] GetSupportStatus" << m_supportStatus.status
+                    << m_supportStatus.message;
+    return m_supportStatus;
+}
+
+SRfSupportStatus CNrCore::DecideSupportStatus()
+{
+    // The advice of an earlier answer stays: only a status of 3 words one.
+    const auto answer = [this](ESupport status, const char *message) {
+        return SRfSupportStatus{status, QLatin1String(message),
+                                status == eUnknown ? QString(kCheckLink)
+                                                   : m_supportStatus.advice};
+    };
+
+    if (IsC2kModem())
+        return answer(eNotSupported, "It is C2K modem now.");
+    const SVondSupportFlags multiMode = m_target.GetMmSupportFlags();
+    if (!multiMode.supported)
+        return answer(eNotSupported, kNoRatInfo.data());
+    if (!multiMode.succeeded)
+        return answer(eUnknown, "We cannot get its support status: Failed to get multi-RAT world "
+                                "mode ID info.");
+    if (!m_target.IsRatInfoValid())
+        return answer(eNotSupported, kNoRatInfo.data());
+    if ((m_target.GetRatMask() & kRatMaskNr) == 0)
+        return answer(eNotSupported,
+                      "Not support this RAT from SW multi-RAT world mode ID info.");
+    if (!m_target.GetNrSupportFlags().succeeded)
+        return answer(eUnknown, "Support this RAT but it failed to get its capability info.");
+    const SVondSupportFlags routes = m_target.GetNrRouteSupportFlags();
+    if (routes.supported && !routes.succeeded)
+        return answer(eUnknown, "Support this RAT but it failed to get CA capability info.");
+    return answer(eSupported, "Support");
+}
+
+void CNrCore::GetAllCalItem(QStringList &out)
+{
+    const CLockSentry lock(m_targetLock);
+    out.clear();
+    if (IsC2kModem() || GetSupportStatus().status != eSupported)
+        return;
+    for (const char *name : kCalItems)
+        out.append(QString::fromLatin1(name));
+}

@@ -1,0 +1,84 @@
+// The core: the one object that knows the target.
+//
+// A process-wide singleton, created on first use from the GUI thread and reached through GetCore(); it
+// lives until the process ends. It decides whether the tool runs on this DUT, supplies each page's
+// document, and turns a page's document into a command, a target call and a result.
+//
+// Threads. Everything that reaches the target blocks, so it is called on pool threads, with the one
+// exception of GetSupportStatus, which the host asks for before the tool is shown. Each job takes
+// m_targetLock for its whole run, the emission of its answer included: the target sees one call at a
+// time, the capability caches one reader, and a job that was started before a reset has answered
+// before any later job runs. ResetTargetCache never waits: it leaves a mark that the next job obeys.
+// Signals are emitted on pool threads.
+//
+//   QObject::connect(&GetCore(), &CNrCore::Signal_TestDone, page, &Page::Slot_Done);
+//   GetCore().Test(GetCore().GetPageName(2), document);
+#pragma once
+
+#include <QMap>
+
+#include "Controller/Interface/CoreInterface.h"
+#include "Controller/NrCoreCmdBuilder.h"
+#include "Model/OperationResult.h"
+#include "Operations/MultiRatContRxV7.h"
+#include "Operations/TargetCapability.h"
+#include "Operations/TestStop.h"
+#include "Support/Lock.h"
+
+class CNrCore : public IRfCoreCalDataOperation, public IRfTest
+{
+    Q_OBJECT
+
+public:
+    // The host's target handle, for all calls to the target from now on. Creates no core. Any thread.
+    static void SetTargetHandle(uint32_t handle);
+
+    void GetAllCalItem(QStringList &out) override;
+    void ResetTargetCache() override;
+    SRfSupportStatus GetSupportStatus() override;
+
+    QStringList GetAllSupportPage() override;
+    std::string GetDataModel(QString pageName) override;
+    void Test(QString pageName, std::string document) override;
+    void Stop() override;
+    // Stops a running test on the pool: an NR one (PUSCH, RSRP) or a multi-RAT one (single tone,
+    // continuous RX).
+    void TestStopStart(bool isNr);
+
+    // Name of a page id or item id; ids are positions of their tables and are not checked.
+    QString GetPageName(int pageId) const;
+    QString GetCalItemName(int itemId) const;
+
+signals:
+    // status 0 means started: a continuous test goes on until a stop. resultModel is the document with
+    // results, of the pages that answer with one.
+    void Signal_TestDone(SEachItemOperationResult itemResult, std::string resultModel);
+    void Signal_TestStopDone(SEachItemOperationResult itemResult);
+
+protected:
+    friend CNrCore &GetCore();
+    CNrCore();
+
+    // Pool side of Test and TestStopStart.
+    void TestInternal(const QString &pageName, const std::string &document);
+    void TestStopInternal(bool isNr);
+
+    std::string GetDataModelV7(const QString &pageName);
+    std::string LoadDataModel(const QString &pageName, const QString &resource);
+
+private:
+    SRfSupportStatus DecideSupportStatus();
+    bool IsC2kModem() const;
+    int RunTestStep(int pageId, const QJsonObject &document);
+    int RunContRxTest(const QJsonObject &document);
+
+    PortableCriticalSection m_targetLock;
+    CTargetCapability m_target;
+    QMap<QString, int> m_pageMap;  // page name to page id
+    CNrTestStop m_nrTestStop;
+    CMultiRatContRxV7 m_contRx;
+    CMultiRatTestStopV7 m_testStop;
+    CNrCoreCmdBuilder m_cmdBuilder;
+};
+
+CNrCore &GetCore();

@@ -1,0 +1,64 @@
+// Page list and documents of the core.
+#include <QJsonDocument>
+
+#include "Controller/NrCore.h"
+#include "Controller/PageTable.h"
+#include "Model/ModelText.h"
+#include "Support/Log.h"
+
+bool IJsonModel::ReadDataModel(QFile &file, QJsonObject &out)
+{
+    if (!file.open(QIODevice::ReadOnly)) {
+        qCCritical(lcCore) << file.fileName() << file.errorString();
+        return false;
+    }
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+    if (error.error != QJsonParseError::NoError) {
+        qCCritical(lcCore) << file.fileName() << "is invalid data model" << error.offset
+                           << error.errorString();
+        return false;
+    }
+    qCDebug(lcCore) << "Get Data Model from Resource" << file.fileName() << "Status"
+                    << error.errorString() << error.error;
+    m_lastModel = document.object();
+    out = m_lastModel;
+    return true;
+}
+
+QStringList CNrCore::GetAllSupportPage()
+{
+    const CLockSentry lock(m_targetLock);
+    const int generation = m_target.GetNrGeneration();
+    qCDebug(lcCore) << "[CNrCore] GetAllSupportPage modem generation: " << generation;
+    return generation == 1 ? ShownPageClasses() : QStringList();
+}
+
+std::string CNrCore::GetDataModel(QString pageName)
+{
+    const CLockSentry lock(m_targetLock);
+    const int generation = m_target.GetNrGeneration();
+    qCDebug(lcCore) << "[CNrCore] GetDataModel()--" << pageName;
+    qCDebug(lcCore) << "modem generation: " << generation;
+    return generation == 1 ? GetDataModelV7(pageName) : std::string();
+}
+
+std::string CNrCore::GetDataModelV7(const QString &pageName)
+{
+    qCDebug(lcCore) << "[CNrCore] GetDataModelV7()--" << pageName;
+    const SPageRow &page = FindPage(static_cast<EPageId>(m_pageMap[pageName]));
+    if (!page.resource)
+        return ModelToText({});
+    return LoadDataModel(pageName, QString::fromLatin1(page.resource));
+}
+
+std::string CNrCore::LoadDataModel(const QString &pageName, const QString &resource)
+{
+    QFile file(resource);
+    QJsonObject document;
+    if (!ReadDataModel(file, document))
+        m_errorMessage = QLatin1String("CNrCore::GetDataModel: cannon get the data Model->")
+                         + pageName;
+    qCDebug(lcCore) << "[CNrCore] GetDataModelV7()Done --" << document;
+    return ModelToText(document);
+}
