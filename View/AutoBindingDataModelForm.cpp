@@ -1,0 +1,242 @@
+#include "View/AutoBindingDataModelForm.h"
+
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QMetaType>
+#include <QTabBar>
+
+#include "Support/Log.h"
+#include "View/AutoBindingDataModelDockWidget.h"
+
+namespace {
+
+enum EBoxKind
+{
+    eBoxWarning = 2,
+    eBoxError = 4,
+};
+
+}  // namespace
+
+CAutoBindingDataModelForm::CAutoBindingDataModelForm(QWidget *parent) : QMainWindow(parent)
+{
+    m_messageBox.SetOwner(this);
+}
+
+CAutoBindingDataModelForm::~CAutoBindingDataModelForm() = default;
+
+QList<CAutoBindingDataModelDockWidget *> CAutoBindingDataModelForm::Pages() const
+{
+    return findChildren<CAutoBindingDataModelDockWidget *>();
+}
+
+void CAutoBindingDataModelForm::DisableAllPages()
+{
+    for (CAutoBindingDataModelDockWidget *page : Pages())
+        page->DisableTestControls();
+}
+
+void CAutoBindingDataModelForm::EnableAllPages()
+{
+    for (CAutoBindingDataModelDockWidget *page : Pages())
+        page->EnableTestControls();
+}
+
+void CAutoBindingDataModelForm::RemovePages()
+{
+    ++m_initRun;
+    for (CAutoBindingDataModelDockWidget *page : Pages()) {
+        removeDockWidget(page);
+        delete page;
+    }
+}
+
+// A floating page docks again, so that the next show finds it in its place.
+void CAutoBindingDataModelForm::closeEvent(QCloseEvent *event)
+{
+    for (CAutoBindingDataModelDockWidget *page : Pages()) {
+        if (page->isFloating())
+            page->setFloating(false);
+    }
+    QMainWindow::closeEvent(event);
+}
+
+// Qt makes a tab bar whenever pages come to share a place, also when the user docks them anew.
+void CAutoBindingDataModelForm::childEvent(QChildEvent *event)
+{
+    QMainWindow::childEvent(event);
+    if (event->type() == QEvent::ChildPolished)
+        WireTabBar(event->child());
+}
+
+void CAutoBindingDataModelForm::WireTabBar(QObject *child)
+{
+    auto *bar = qobject_cast<QTabBar *>(child);
+    if (!bar)
+        return;
+    bar->setElideMode(Qt::ElideNone);
+    bar->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(bar, &QTabBar::customContextMenuRequested, this,
+            &CAutoBindingDataModelForm::ShowContextMenu, Qt::UniqueConnection);
+}
+
+void CAutoBindingDataModelForm::InitPage(const QStringList &pageList)
+{
+    setDockOptions(AllowTabbedDocks | ForceTabbedDocks);
+    setTabPosition(Qt::TopDockWidgetArea, QTabWidget::North);
+    setTabShape(QTabWidget::Triangular);
+    m_allInitPageCount = pageList.size();
+    m_currentInitPageCount = 0;
+    qCDebug(lcForm) << "pageList.length()" << pageList.length();
+
+    delete menuWidget();
+    delete m_pageMenu;
+    auto *menu = new QMenu(QStringLiteral("View"), this);
+    menu->setFont(QFont(QStringLiteral("Arial")));
+
+    QStringList failedPages;
+    QPointer<CAutoBindingDataModelDockWidget> firstPage;
+    for (const QString &name : pageList) {
+        CAutoBindingDataModelDockWidget *page = CreatePage(name, failedPages);
+        if (!page)
+            continue;
+        menu->addAction(page->windowTitle());
+        if (!InitOnePage(page))
+            return;
+        if (firstPage)
+            tabifyDockWidget(firstPage, page);
+        else
+            firstPage = page;
+    }
+    FinishInit(menu, firstPage, failedPages);
+}
+
+CAutoBindingDataModelDockWidget *CAutoBindingDataModelForm::CreatePage(const QString &name,
+                                                                       QStringList &failedPages)
+{
+    const QByteArray idPageName = (name + QLatin1Char('*')).toLatin1();
+    qCDebug(lcForm) << "idPageName: " << idPageName;
+    const int type = QMetaType::type(idPageName);
+    if (type == QMetaType::UnknownType) {
+        failedPages.append(name + QLatin1String(": unknown type"));
+        qCDebug(lcForm) << "InitPage: unknown type";
+        return nullptr;
+    }
+    const QMetaObject *metaObject = QMetaType::metaObjectForType(type);
+    if (!metaObject) {
+        failedPages.append(name + QLatin1String(": no QMetaObject"));
+        qCDebug(lcForm) << "InitPage: no QMetaObject";
+        return nullptr;
+    }
+    QObject *instance = metaObject->newInstance(Q_ARG(QWidget *, this));
+    auto *page = qobject_cast<CAutoBindingDataModelDockWidget *>(instance);
+    if (!page) {
+        delete instance;
+        failedPages.append(name + QLatin1String(": cannot new Instance"));
+        qCDebug(lcForm) << "InitPage: cannot new Instance.";
+        return nullptr;
+    }
+    qCDebug(lcForm) << "idPageName: " << name << "Done" << page->windowTitle();
+    return page;
+}
+
+// Shows the page, which starts its init flow, and waits for its end. False when the pages, or this
+// window, were destroyed meanwhile.
+bool CAutoBindingDataModelForm::InitOnePage(CAutoBindingDataModelDockWidget *page)
+{
+    connect(page, SIGNAL(Signal_UpdateStatus(QString, int)), this,
+            SLOT(Slot_UpdateStatusbar(QString)));
+    connect(page, &CAutoBindingDataModelDockWidget::Signal_InitDone, this,
+            &CAutoBindingDataModelForm::Slot_InitDone);
+    connect(page, SIGNAL(Signal_PluginIsBusy(bool)), this, SIGNAL(Signal_PluginIsBusy(bool)));
+
+    QEventLoop loop;
+    bool isDone = false;
+    connect(page, &CAutoBindingDataModelDockWidget::Signal_InitDone, &loop, [&loop, &isDone] {
+        isDone = true;
+        loop.quit();
+    });
+    connect(page, &QObject::destroyed, &loop, &QEventLoop::quit);
+    const QPointer<CAutoBindingDataModelForm> self(this);
+    const int run = m_initRun;
+    addDockWidget(Qt::TopDockWidgetArea, page);
+    if (!isDone)
+        loop.exec();
+    return self && run == m_initRun;
+}
+
+void CAutoBindingDataModelForm::FinishInit(QMenu *menu, CAutoBindingDataModelDockWidget *firstPage,
+                                           const QStringList &failedPages)
+{
+    setEnabled(true);
+    if (m_allInitPageCount == 0) {
+        Slot_UpdateStatusbar(QStringLiteral("Init failed."));
+        m_messageBox.Show(eBoxWarning, windowTitle(),
+                          QStringLiteral("Without any RF page init flow."), {}, {}, -1);
+        return;
+    }
+
+    // The bar is not shown: the menu is reached as a context menu alone.
+    m_pageMenuBar = std::make_unique<QMenuBar>();
+    connect(menu, &QMenu::triggered, this, &CAutoBindingDataModelForm::SelectPages);
+    m_pageMenuBar->addMenu(menu);
+    m_pageMenu = menu;
+    for (QTabBar *bar : findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly))
+        WireTabBar(bar);
+
+    if (!failedPages.isEmpty()) {
+        const QPointer<CAutoBindingDataModelForm> self(this);
+        const int run = m_initRun;
+        m_messageBox.Show(eBoxError, windowTitle(),
+                          QStringLiteral("There are some page failed in init flow"),
+                          failedPages.join(QLatin1Char('\n')), {}, -1);
+        if (!self || run != m_initRun)
+            return;
+    }
+
+    for (CAutoBindingDataModelDockWidget *page : Pages()) {
+        page->setContextMenuPolicy(Qt::CustomContextMenu);
+        page->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
+        connect(page, &QDockWidget::visibilityChanged, this,
+                &CAutoBindingDataModelForm::Slot_DockWidgetsTabChange);
+        connect(page, &QWidget::customContextMenuRequested, this,
+                &CAutoBindingDataModelForm::ShowContextMenu);
+    }
+    if (firstPage)
+        firstPage->raise();
+    Slot_UpdateStatusbar(QStringLiteral("Init done."));
+}
+
+void CAutoBindingDataModelForm::Slot_InitDone()
+{
+    ++m_currentInitPageCount;
+    qCDebug(lcForm) << windowTitle() << " Slot_InitDone() m_allInitPageCount: "
+                    << m_allInitPageCount << " m_currentInitPageCount" << m_currentInitPageCount;
+}
+
+void CAutoBindingDataModelForm::Slot_DockWidgetsTabChange(bool value)
+{
+    auto *top = qobject_cast<QDockWidget *>(sender());
+    if (!top || !value)
+        return;
+    qCDebug(lcForm) << top->windowTitle() << " Slot_DockWidgetsTabChange() from " << windowTitle();
+    for (CAutoBindingDataModelDockWidget *page : Pages()) {
+        page->Slot_TriggerStopTest();
+        page->setEnabled(page == top || page->isFloating());
+    }
+}
+
+void CAutoBindingDataModelForm::ShowContextMenu(const QPoint &pos)
+{
+    const auto *widget = qobject_cast<QWidget *>(sender());
+    if (m_pageMenu && widget)
+        m_pageMenu->exec(widget->mapToGlobal(pos));
+}
+
+void CAutoBindingDataModelForm::SelectPages(QAction *page)
+{
+    for (CAutoBindingDataModelDockWidget *dock : Pages()) {
+        if (dock->windowTitle() == page->text())
+            dock->raise();
+    }
+}

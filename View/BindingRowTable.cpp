@@ -1,0 +1,291 @@
+// groupType 2: a growing table of results.
+//
+// A table grows for days, so only its newest rows hold editor widgets: an editor costs a tenth of a
+// millisecond at every later append. A row that grows older turns into plain items that look the same.
+#include <QAbstractSpinBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QScrollBar>
+#include <QTableWidget>
+#include <memory>
+
+#include "Model/JsonPath.h"
+#include "Model/MemberPath.h"
+#include "Support/Log.h"
+#include "View/AutoBindingDataModelDockWidget.h"
+#include "View/DataTypes.h"
+#include "View/TableGroup.h"
+#include "View/WidgetIndex.h"
+
+namespace {
+
+constexpr int kEditorRows = 256;   // newest rows that hold editor widgets
+constexpr int kRowHeight = 22;     // pixels
+constexpr int kNarrowRows = 16;    // rows up to which the table is sized to all its columns
+constexpr int kWideColumns = 15;   // columns that the wide size counts
+constexpr int kEmptyHeightFactor = 6;
+constexpr int kAppendMargin = 20;  // pixels for the vertical scroll bar
+
+// One column of the table: its member, and how its cells are made.
+struct SColumn
+{
+    QString member;
+    QString dataType;
+    const SDataType *type;  // null when a row table cannot show it
+    SCellWish wish;
+};
+
+SColumn ReadColumn(const STableGroup &group, const QString &member, ECellUse use,
+                   QTableWidget *table)
+{
+    const QString name = group.Member(member, "trait.dataType").toString();
+    const SDataType *type = FindDataType(name);
+    return {member, name, type && type->inRowTable ? type : nullptr,
+            {use, table, group.Member(member, "trait.value").toObject(), {}, {}}};
+}
+
+QString CellPath(const QString &member, const QString &instance)
+{
+    return member + QLatin1Char('.') + instance + QLatin1String(".defaultValue");
+}
+
+Qt::Alignment AlignmentOf(const QWidget *cell)
+{
+    if (auto *label = qobject_cast<const QLabel *>(cell))
+        return label->alignment();
+    if (auto *box = qobject_cast<const QAbstractSpinBox *>(cell))
+        return (box->alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter;
+    return Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+// Turns the editors of one row into items; false when it has none.
+bool RetireRow(QTableWidget *table, int row, const QVector<SColumn> &columns)
+{
+    bool had = false;
+    for (int c = 0; c < columns.size(); ++c) {
+        QWidget *cell = table->cellWidget(row, c);
+        if (!cell || !columns[c].type)
+            continue;
+        had = true;
+        auto *item = new QTableWidgetItem(columns[c].type->text(cell));
+        item->setFont(cell->font());
+        item->setTextAlignment(AlignmentOf(cell));
+        table->removeCellWidget(row, c);
+        table->setItem(row, c, item);
+    }
+    return had;
+}
+
+void RetireOldRows(QTableWidget *table, const QVector<SColumn> &columns)
+{
+    int row = table->rowCount() - kEditorRows - 1;
+    while (row >= 0 && RetireRow(table, row, columns))
+        --row;
+}
+
+QVector<SColumn> ReadColumns(const STableGroup &group, ECellUse use, QTableWidget *table)
+{
+    QVector<SColumn> columns;
+    for (const QString &member : group.members)
+        columns.append(ReadColumn(group, member, use, table));
+    return columns;
+}
+
+// Makes the cells of the rows from first to the last instance, column by column.
+void MakeCells(QTableWidget *table, const STableGroup &group, QVector<SColumn> &columns, int first,
+               const char *unsupported)
+{
+    for (int r = first; r < group.instances.size(); ++r)
+        table->verticalHeader()->resizeSection(r, kRowHeight);
+    for (int c = 0; c < columns.size(); ++c) {
+        SColumn &column = columns[c];
+        for (int r = first; r < group.instances.size(); ++r) {
+            const QString path = CellPath(column.member, group.instances[r]);
+            column.wish.value = GetJsonValueConst(group.properties, path);
+            if (column.wish.use == ECellUse::RowInit)
+                qCDebug(lcEngine) << "---> [Init][type2] ==" << path << "== Default Value  <---"
+                                  << column.wish.value;
+            if (column.type)
+                table->setCellWidget(r, c, column.type->makeCell(column.wish));
+            else
+                qCCritical(lcEngine) << unsupported << column.dataType;
+        }
+    }
+    RetireOldRows(table, columns);
+}
+
+void SetFixedTableSize(QTableWidget *table, const QSize &size)
+{
+    table->setMaximumSize(size);
+    table->setMinimumSize(table->maximumSize());
+}
+
+// An empty result table shows room for rows.
+QSize WithRoomForRows(const QTableWidget *table, QSize size)
+{
+    if (table->rowCount() <= 1)
+        size.setHeight(size.height() * kEmptyHeightFactor);
+    return size;
+}
+
+}  // namespace
+
+QSize CAutoBindingDataModelDockWidget::FitTableSize(QTableWidget *table)
+{
+    return {table->verticalHeader()->width() + table->horizontalHeader()->length(),
+            table->horizontalHeader()->height() + table->verticalHeader()->length()};
+}
+
+QSize CAutoBindingDataModelDockWidget::FitWideTableSize(QTableWidget *table)
+{
+    int width = table->verticalHeader()->width();
+    for (int c = 0; c < qMin(kWideColumns, table->columnCount()); ++c)
+        width += table->columnWidth(c);
+    return {width, 2 * table->horizontalHeader()->height() + table->verticalHeader()->length()};
+}
+
+// Headers get their real geometry only when the page is shown.
+void CAutoBindingDataModelDockWidget::ShowHeaders()
+{
+    const QPoint position = pos();
+    const bool wasVisible = isVisible();
+    hide();
+    show();
+    setVisible(wasVisible);
+    if (wasVisible && !position.isNull())
+        move(position);
+}
+
+void CAutoBindingDataModelDockWidget::InitRowTable(const QString &path, QWidget *widget)
+{
+    QTableWidget *table =
+        AsTable(widget, "---> [Fail][Init][type2] Now only support table widget(QTableWidget) <--- ");
+    if (!table)
+        return;
+    qCDebug(lcEngine) << "---> [Init][type2] Initialize <---";
+    const STableGroup group(m_dataModel, path);
+
+    // The last member alone decides.
+    bool supported = true;
+    for (const QString &member : group.members) {
+        const QJsonValue flag = group.Member(member, "defaultSupport");
+        supported = !IsJsonValueValid(flag) || flag.toDouble() == 1;
+    }
+    if (!supported) {
+        qCDebug(lcEngine)
+            << "---> [Init][type2] Set visible to false, all member value are not support <---";
+        table->setVisible(false);
+        return;
+    }
+
+    table->setColumnCount(group.members.size());
+    table->setRowCount(group.instances.size());
+    qCDebug(lcEngine) << "---> [Init][type2] Column info - from memeber list <---"
+                      << group.members.size() << group.members;
+    qCDebug(lcEngine) << "---> [Init][type2] Row info - from instance list <---"
+                      << group.instances.size() << group.instances;
+    for (const QString &member : group.members)
+        qCDebug(lcEngine) << "---> [Init][type2] ==" << member << "== Trait JSON Object <---"
+                          << group.Member(member, "trait");
+    QVector<SColumn> columns = ReadColumns(group, ECellUse::RowInit, table);
+    MakeCells(table, group, columns, 0,
+              "---> [Fail][Init][type2] Cannot get the row info - dataType not support yet <--- ");
+
+    const QJsonObject instances = group.group.value(QLatin1String("instanceProperty")).toObject();
+    QStringList rowHeaders;
+    for (const QString &instance : group.instances)
+        rowHeaders.append(
+            GetJsonValueConst(instances, instance + QLatin1String(".caption")).toString());
+    table->setHorizontalHeaderLabels(group.Captions(group.members));
+    table->setVerticalHeaderLabels(rowHeaders);
+
+    ShowHeaders();
+    const bool narrow = group.instances.size() <= kNarrowRows;
+    SetFixedTableSize(table, WithRoomForRows(table, narrow ? FitTableSize(table)
+                                                           : FitWideTableSize(table)));
+    if (narrow)
+        table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void CAutoBindingDataModelDockWidget::UpdateRowTable(const QString &path, QWidget *widget,
+                                                     QJsonObject update)
+{
+    QTableWidget *table =
+        AsTable(widget, "---> [Fail][Update][type2] Now only support table widget(QTableWidget) <--- ");
+    if (!table)
+        return;
+    const STableGroup group(update, path);
+    qCDebug(lcEngine) << "---> [Update][type2] Column info(from memeber list) <---"
+                      << group.members;
+    qCDebug(lcEngine) << "---> [Update][type2] Row info(from instance list) <---"
+                      << group.instances;
+    const QVector<SColumn> columns = ReadColumns(group, ECellUse::RowAppend, table);
+    for (int c = 0; c < columns.size(); ++c) {
+        const SColumn &column = columns[c];
+        qCDebug(lcEngine) << "---> [Update][type2] == " << column.member << " == Data type <---"
+                          << column.dataType;
+        std::unique_ptr<QWidget> scratch;  // words a value as an editor would, for rows of items
+        for (int r = 0; r < group.instances.size(); ++r) {
+            const QString cellPath = CellPath(column.member, group.instances[r]);
+            const QString text = GetJsonValueConst(group.properties, cellPath).toString();
+            qCDebug(lcEngine) << "---> [Update][type2] == " << cellPath << " == defaultValue <---"
+                              << text;
+            if (!column.type) {
+                qCCritical(lcEngine)
+                    << "---> [Fail][Update][type2] Not support this data type yet<---";
+                continue;
+            }
+            if (QWidget *cell = table->cellWidget(r, c)) {
+                if (IsExactClass(cell, column.type->className))
+                    column.type->show(cell, {}, text);
+            } else if (QTableWidgetItem *item = table->item(r, c)) {
+                if (!scratch)
+                    scratch.reset(column.type->makeCell(column.wish));
+                column.type->show(scratch.get(), {}, text);
+                item->setText(column.type->text(scratch.get()));
+            }
+        }
+    }
+}
+
+void CAutoBindingDataModelDockWidget::AppendRowTable(const QString &path, QWidget *widget,
+                                                     QJsonObject update)
+{
+    QTableWidget *table =
+        AsTable(widget, "---> [Fail][Append][type2] Now only support table widget(QTableWidget) <--- ");
+    if (!table)
+        return;
+    const STableGroup group(update, path);
+    const int current = table->rowCount();
+    const int wanted = group.instances.size();
+    qCDebug(lcEngine) << "---> [Append][type2] Current Column size - from table <---"
+                      << table->columnCount();
+    qCDebug(lcEngine) << "---> [Append][type2] Current Row size - from table <---" << current;
+    qCDebug(lcEngine) << "---> [Append][type2] New Column info - from memeber list <---"
+                      << group.members;
+    qCDebug(lcEngine) << "---> [Append][type2] New Row info - from instance list <---" << wanted;
+    if (wanted == current) {
+        qCDebug(lcEngine) << "---> [Append][type2] No new row to update";
+        return;
+    }
+    if (wanted == 0) {
+        table->clear();
+        table->setColumnCount(group.members.size());
+        table->setRowCount(0);
+        table->setHorizontalHeaderLabels(group.Captions(group.members));
+        SetFixedTableSize(table, WithRoomForRows(table, FitTableSize(table)));
+        qCDebug(lcEngine) << "---> [Append][type2] Clear table.";
+        return;
+    }
+    qCDebug(lcEngine)
+        << "---> [Append][type2] Need appending count (New row size - Current row size)"
+        << wanted - current;
+    if (wanted > current)
+        table->setRowCount(wanted);
+    QVector<SColumn> columns = ReadColumns(group, ECellUse::RowAppend, table);
+    MakeCells(table, group, columns, current,
+              "---> [Fail][Append][type2] Not support this data type yet <---");
+    table->setMinimumWidth(FitTableSize(table).width() + kAppendMargin);
+    table->scrollToBottom();
+    qCDebug(lcEngine) << "---> [Append][type2] Done ";
+}

@@ -1,0 +1,69 @@
+#include "View/TableGroup.h"
+
+#include "Model/JsonPath.h"
+#include "Model/MemberPath.h"
+#include "Support/Log.h"
+#include "View/WidgetIndex.h"
+
+namespace {
+
+constexpr int kMaxColumns = 1024;  // the widest table of the pages has 64
+
+int ReadColumns(const QJsonObject &properties)
+{
+    const int columns = properties.value(QLatin1String("dimentionCount")).toInt();
+    if (columns > kMaxColumns)
+        qCCritical(lcEngine) << "dimentionCount is cut to" << kMaxColumns << "from" << columns;
+    return qBound(0, columns, kMaxColumns);
+}
+
+}  // namespace
+
+STableGroup::STableGroup(const QJsonObject &document, const QString &memberPath)
+    : group(GetJsonValueConst(document, GroupPath(memberPath)).toObject())
+{
+    properties = group.value(QLatin1String("memberProperty")).toObject();
+    members = ToStringList(group.value(QLatin1String("memberList")).toArray());
+    instances = ToStringList(group.value(QLatin1String("instanceList")).toArray());
+    columns = ReadColumns(properties);
+    for (const QString &member : qAsConst(members)) {
+        if (Member(member, "defaultSupport").toDouble() == 1)
+            rows.append(member);
+    }
+}
+
+QJsonValue STableGroup::Member(const QString &member, const char *subPath) const
+{
+    return GetJsonValueConst(properties, member + QLatin1Char('.') + QLatin1String(subPath));
+}
+
+QStringList STableGroup::Captions(const QStringList &of) const
+{
+    QStringList captions;
+    for (const QString &member : of)
+        captions.append(Member(member, "caption").toString());
+    return captions;
+}
+
+QJsonValue ColumnElement(const QJsonArray &array, int column)
+{
+    return array.isEmpty() ? QJsonValue(QJsonValue::Undefined)
+                           : array.at(qMin(column, array.size() - 1));
+}
+
+QStringList ToStringList(const QJsonArray &array)
+{
+    QStringList texts;
+    texts.reserve(array.size());
+    for (const QJsonValue &element : array)
+        texts.append(element.toString());
+    return texts;
+}
+
+QTableWidget *AsTable(QWidget *widget, const char *failure)
+{
+    auto *table = ExactCast<QTableWidget>(widget);
+    if (!table)
+        qCCritical(lcEngine) << failure;
+    return table;
+}

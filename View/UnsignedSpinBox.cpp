@@ -1,0 +1,45 @@
+#include "View/UnsignedSpinBox.h"
+
+#include <QToolTip>
+#include <QWheelEvent>
+
+CUnsignedSpinBox::CUnsignedSpinBox(QWidget *parent, int base)
+    : QLineEdit(parent), m_base(base >= 2 && base <= 36 ? base : 10)
+{
+    installEventFilter(this);
+    connect(this, &QLineEdit::textChanged, this, &CUnsignedSpinBox::validate);
+    setFont(QFont(QStringLiteral("Arial")));
+}
+
+QString CUnsignedSpinBox::ToText(unsigned int value, int base)
+{
+    return QString::number(value, base).toUpper();
+}
+
+void CUnsignedSpinBox::validate(QString text)
+{
+    if (text.isEmpty())
+        return;
+    bool ok = false;
+    const unsigned int value = text.toUInt(&ok, m_base);
+    if (ok && value <= m_maximum && value >= m_minimum) {
+        m_lastValidText = text;
+        setText(text.toUpper());
+        return;
+    }
+    setText(m_lastValidText);
+    QToolTip::showText(mapToGlobal(QPoint(5, 5)),
+                       QLatin1String("Range should be:") + ToText(m_minimum, m_base)
+                           + QLatin1Char('~') + ToText(m_maximum, m_base),
+                       this);
+}
+
+void CUnsignedSpinBox::wheelEvent(QWheelEvent *event)
+{
+    const unsigned int value = text().toUInt(nullptr, m_base);
+    const bool down = event->angleDelta().y() < 1;
+    if (value == (down ? m_minimum : m_maximum))
+        return;
+    // Through the signal, so that validate decides and writes the text.
+    emit textChanged(ToText(down ? value - 1 : value + 1, m_base));
+}
