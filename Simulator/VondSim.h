@@ -1,12 +1,12 @@
 // The simulated DUT's own interface: profiles, faults, the journal, and gates for tests.
 //
-// The simulated DUT stands behind the C interface of VondCore and VondApp. This header is for whoever
-// steers it from the same process: tests, the bench host, benchmarks. It is exported by
+// The simulated DUT stands behind the C interface of VondCore and VondApp. This header is for
+// whoever steers it from the same process: tests, the bench host, benchmarks. It is exported by
 // libVondCore.so. All functions may be called from any thread at any time, also while a call to the
 // DUT runs in another; nothing here throws or keeps a pointer that it was given. Strings are UTF-8.
 //
 //   VondSim_SetProfile("handset");
-//   VondSim_AddFault("{\"function\": \"VOND_MMRf_ContRxV7_r\", \"kind\": \"fail\", \"result\": 7}");
+//   VondSim_AddFault(R"({"function": "VOND_MMRf_ContRxV7_r", "kind": "fail", "result": 7})");
 //   ... press Start ...
 //   SVondSimCall call;
 //   VondSim_GetCall(VondSim_CallCount() - 1, &call);
@@ -19,19 +19,20 @@ extern "C" {
 // One call of the journal, in the order in which the calls ended.
 struct SVondSimCall
 {
-    char function[64];    // name, zero-terminated
-    uint32_t handle;      // target handle as given; 0 where the function takes none
-    uint32_t timeoutMs;   // timeout as given, ms; 0 where the function takes none
-    int32_t result;       // value returned; 0 where the function returns a text
-    uint32_t status;      // status word as answered; 0 where the function has none
-    uint64_t durationNs;  // time from entry to return
-    uint32_t requestSize; // bytes that VondSim_GetRequest gives
-    uint32_t answerSize;  // bytes that VondSim_GetAnswer gives
+    char function[64];     // name, zero-terminated
+    uint32_t handle;       // target handle as given; 0 where the function takes none
+    uint32_t timeoutMs;    // timeout as given, ms; 0 where the function takes none
+    int32_t result;        // value returned; 0 where the function returns a text
+    uint32_t status;       // status word as answered; 0 where the function has none
+    uint64_t durationNs;   // time from entry to return
+    uint32_t requestSize;  // bytes that VondSim_GetRequest gives
+    uint32_t answerSize;   // bytes that VondSim_GetAnswer gives
 };
 
-// Puts another DUT in place: a built-in profile's name, the path of a profile file, or (second form)
-// the text of one. The radio is idle afterwards; faults and journal stay. Returns 0; on an unknown
-// name or a broken profile a line goes to stderr, the DUT is unplugged, and -1 is returned.
+// Puts another DUT in place: a built-in profile's name, the path of a profile file, or (second
+// form) the text of one. The radio is idle afterwards; the journal and added faults stay, the old
+// profile's own faults give way to the new one's. Returns 0; on an unknown name or a broken profile
+// a line goes to stderr, the DUT is unplugged, and -1 is returned.
 int32_t VondSim_SetProfile(const char *nameOrPath);
 int32_t VondSim_SetProfileText(const char *json);
 // Name of built-in profile number index, or null behind the last.
@@ -43,14 +44,16 @@ const char *VondSim_ProfileText(void);
 // profile's own, all gates open, the journal empty.
 void VondSim_Reset(void);
 
-// Adds a fault; the JSON object has the form of a profile's "faults" entries, see
-// Simulator/README.md. Returns 0, or -1 with a line on stderr for a broken one.
+// Adds a fault to those of the profile; the JSON object has the form of a profile's "faults"
+// entries, see Simulator/README.md. Returns 0, or -1 with a line on stderr for a broken one.
 int32_t VondSim_AddFault(const char *json);
+// Removes all faults, the profile's own too.
 void VondSim_ClearFaults(void);
 
-// Gates: a held function blocks its caller at entry, before it does or answers anything, until it is
-// released. VondSim_WaitUntilHeld returns 1 as soon as a caller stands at the gate, 0 after
-// timeoutMs. Releasing lets all waiting callers go and opens the gate.
+// Gates: a held function blocks its caller at entry, before it does or answers anything, until it
+// is released. VondSim_WaitUntilHeld returns 1 as soon as a caller stands at the gate, 0 after
+// timeoutMs. Releasing lets all waiting callers go and opens the gate. An unknown name costs a line
+// on stderr and does nothing.
 void VondSim_Hold(const char *function);
 void VondSim_Release(const char *function);
 int32_t VondSim_WaitUntilHeld(const char *function, uint32_t timeoutMs);

@@ -1,0 +1,23 @@
+#include "tests/common/BoxWatcher.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPointer>
+
+CBoxWatcher::CBoxWatcher()
+{
+    connect(&m_timer, &QTimer::timeout, this, &CBoxWatcher::Look);
+    m_timer.start(0);
+}
+
+void CBoxWatcher::Look()
+{
+    const QPointer<QMessageBox> box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    if (!box)
+        return;
+    m_seen.append({box->windowTitle(), box->text(), box->informativeText(), box->icon()});
+    if (onBox)
+        onBox();
+    if (box)
+        box->done(QMessageBox::Close);
+}

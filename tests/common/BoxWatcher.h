@@ -1,0 +1,40 @@
+// Answers modal message boxes as a person would: reads each box that opens and presses its button.
+//
+// Looks at every turn of the event loop while it lives, so it also works while a box's own loop runs.
+// onBox, if set, is called with the box still open, and may do anything but wait.
+//
+//   CBoxWatcher boxes;
+//   ... press Start ...
+//   QCOMPARE(boxes.Seen().size(), 1);
+//   QCOMPARE(boxes.Seen()[0].title, QString("Cont Rx start failed"));
+#pragma once
+
+#include <functional>
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+#include <QVector>
+
+struct SSeenBox
+{
+    QString title;
+    QString text;
+    QString informative;
+    int icon;  // QMessageBox::Icon
+};
+
+class CBoxWatcher : public QObject
+{
+public:
+    CBoxWatcher();
+
+    const QVector<SSeenBox> &Seen() const { return m_seen; }
+    std::function<void()> onBox;
+
+private:
+    void Look();
+
+    QTimer m_timer;
+    QVector<SSeenBox> m_seen;
+};

@@ -1,0 +1,95 @@
+#include "tests/common/PluginSession.h"
+
+#include <QApplication>
+#include <QStatusBar>
+#include <QTest>
+#include <QThreadPool>
+
+#include "Simulator/VondSim.h"
+#include "tests/common/WaitUntil.h"
+
+QString PluginFile()
+{
+    return QCoreApplication::applicationDirPath() + "/../plugins/libQuorlinRf.so";
+}
+
+CPluginSession::CPluginSession(const QString &profile, uint32_t handle)
+{
+    VondSim_Reset();
+    const QByteArray text = profile.toUtf8();
+    if (profile.trimmed().startsWith('{'))
+        VondSim_SetProfileText(text.constData());
+    else
+        VondSim_SetProfile(text.constData());
+    VondSim_ClearJournal();
+    qApp->setProperty("vondTargetHandle", handle);
+    m_loader.setFileName(PluginFile());
+    m_object = m_loader.instance();
+    m_tool = qobject_cast<VondPluginInterface *>(m_object);
+    if (!m_tool)
+        qFatal("%s", qPrintable(m_loader.errorString()));
+    connect(Object(), SIGNAL(Signal_PluginIsActivated(QString, bool)), this,
+            SLOT(OnActivated(QString, bool)));
+    connect(Object(), SIGNAL(Signal_PluginIsBusy(QString, bool)), this, SLOT(OnBusy(QString, bool)));
+    // The core outlives the plug-in object: what it knew of the last session's DUT must go.
+    m_tool->ResetPlugin();
+}
+
+CPluginSession::~CPluginSession()
+{
+    Unload();
+    VondSim_Reset();
+    QThreadPool::globalInstance()->waitForDone();
+}
+
+void CPluginSession::Unload()
+{
+    if (!m_object)
+        return;
+    m_tool = nullptr;
+    m_object = nullptr;
+    m_loader.unload();
+}
+
+QMainWindow *CPluginSession::Window() const
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == "CQuorlinForm")
+            return qobject_cast<QMainWindow *>(widget);
+    }
+    return nullptr;
+}
+
+QString CPluginSession::StatusBar() const
+{
+    const QMainWindow *window = Window();
+    return window ? window->findChild<QStatusBar *>()->currentMessage() : QString();
+}
+
+bool CPluginSession::ShowAndWait()
+{
+    m_tool->ShowPlugin();
+    return WaitForStatus("Init done.");
+}
+
+bool CPluginSession::WaitForStatus(const QString &text) const
+{
+    return WaitUntil([&] { return StatusBar() == text; });
+}
+
+void CPluginSession::Press(const QString &button) const
+{
+    QTest::mouseClick(Find(button), Qt::LeftButton);
+}
+
+void CPluginSession::OnActivated(QString name, bool isActivated)
+{
+    names.append(name);
+    activations.append(isActivated);
+}
+
+void CPluginSession::OnBusy(QString name, bool isBusy)
+{
+    names.append(name);
+    busy.append(isBusy);
+}

@@ -1,0 +1,24 @@
+// The simulated DUT's journal, as values.
+//
+//   const auto starts = JournalOf("VOND_MMRf_ContRxV7_r");
+//   QCOMPARE(starts.size(), 1);
+//   QCOMPARE(starts[0].request, expectedBytes);
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+#include "Simulator/VondSim.h"
+
+struct SJournalCall
+{
+    SVondSimCall call;
+    QByteArray request;
+    QByteArray answer;
+};
+
+// All calls in order, or those of one function.
+QVector<SJournalCall> Journal();
+QVector<SJournalCall> JournalOf(const char *function);
+int CountCalls(const char *function);

@@ -1,0 +1,9 @@
+// Waits for something that events bring about: handles events until the condition holds, without a
+// sleep. False after the deadline, which only a failing test reaches. GUI thread.
+//
+//   QVERIFY(WaitUntil([&] { return session.StatusBar() == "Init done."; }));
+#pragma once
+
+#include <functional>
+
+bool WaitUntil(const std::function<bool()> &condition, int deadlineMs = 20000);

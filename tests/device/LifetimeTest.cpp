@@ -1,0 +1,242 @@
+// Reset, hide and unload while the target works: the answer is dropped, nothing that is gone is used.
+//
+// The gates of the simulated DUT hold a call in the middle; the sanitizer build of this test is what
+// proves the second half.
+#include <functional>
+
+#include <QDockWidget>
+#include <QPushButton>
+#include <QThreadPool>
+#include <QtTest>
+
+#include "tests/common/BoxWatcher.h"
+#include "tests/common/SimJournal.h"
+#include "tests/common/WaitUntil.h"
+#include "tests/device/ContRxProfiles.h"
+
+namespace {
+
+constexpr char kStart[] = "VOND_MMRf_ContRxV7_r";
+constexpr char kStop[] = "VOND_MMRf_TestStopV7_r";
+constexpr char kCapability[] = "VOND_NRf_GetRfCapability_r";
+
+// Lets the held call go, and its answer arrive.
+void Finish(const char *function)
+{
+    VondSim_Release(function);
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+}
+
+bool HoldStart(CPluginSession &session)
+{
+    if (!session.ShowAndWait())
+        return false;
+    ChooseRoute(session, "Type1");
+    VondSim_Hold(kStart);
+    session.Press("m_start");
+    return VondSim_WaitUntilHeld(kStart, 20000) != 0;
+}
+
+// Shows the tool and acts from inside the init flow's own loop, as soon as the page has asked for its
+// document.
+void WhenPageWaits(CPluginSession &session, const std::function<void()> &act)
+{
+    bool hasActed = false;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        if (!hasActed && session.StatusBar() == "Start Init: Continuous RX") {
+            hasActed = true;
+            act();
+        }
+    });
+    watch.start(0);
+    session->ShowPlugin();
+    WaitUntil([&] { return hasActed || session.StatusBar() == "Init done."; });
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+}
+
+}  // namespace
+
+class LifetimeTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void resetWhileAStartIsInFlightDropsTheAnswer();
+    void resetWhileAStopIsInFlightDropsTheAnswer();
+    void guiDoesNotWaitForAHeldCall();
+    void freshPageIsNotTouchedByAnAnswerFromBeforeTheReset();
+    void unloadWhileAStartIsInFlight();
+    void resetWhileThePageListIsRead();
+    void resetWhileAPageWaitsForItsDocument();
+    void unloadWhileAPageWaitsForItsDocument();
+    void resetWhileTheFailureBoxIsOpen();
+    void unloadWhileTheFailureBoxIsOpen();
+    void answerArrivesWhileTheWindowIsHidden();
+    void showAfterAHideStopsARunningTestLikeATabChange();
+};
+
+void LifetimeTest::resetWhileAStartIsInFlightDropsTheAnswer()
+{
+    CPluginSession session(Type1Profile());
+    QVERIFY(HoldStart(session));
+    session->ResetPlugin();
+    Finish(kStart);
+    QCOMPARE(CountCalls(kStart), 1);
+    QCOMPARE(session.busy, (QVector<bool>{true}));
+    QVERIFY(session.StatusBar() != "Cont Rx start...");
+}
+
+void LifetimeTest::resetWhileAStopIsInFlightDropsTheAnswer()
+{
+    CPluginSession session(Type1Profile());
+    QVERIFY(session.ShowAndWait());
+    ChooseRoute(session, "Type1");
+    session.Press("m_start");
+    QVERIFY(session.WaitForStatus("Cont Rx start..."));
+    VondSim_Hold(kStop);
+    session.Press("m_stop");
+    QVERIFY(VondSim_WaitUntilHeld(kStop, 20000));
+    session->ResetPlugin();
+    Finish(kStop);
+    QCOMPARE(session.busy, (QVector<bool>{true, false, true}));
+    QVERIFY(session.StatusBar() != "Cont Rx stop.");
+}
+
+void LifetimeTest::guiDoesNotWaitForAHeldCall()
+{
+    CPluginSession session(Type1Profile());
+    QVERIFY(HoldStart(session));
+    // All of these return while the target still works.
+    session->HidePlugin();
+    session->ShowPlugin();
+    session->DisablePages();
+    session->EnablePages();
+    session->ResetPlugin();
+    session->ShowPlugin();
+    QCOMPARE(CountCalls(kStart), 0);
+    Finish(kStart);
+}
+
+void LifetimeTest::freshPageIsNotTouchedByAnAnswerFromBeforeTheReset()
+{
+    CPluginSession session(Type1Profile());
+    QVERIFY(HoldStart(session));
+    session->HidePlugin();
+    session->ResetPlugin();
+    session->ShowPlugin();
+    VondSim_Release(kStart);
+    QVERIFY(session.WaitForStatus("Init done."));
+    QVERIFY(session.Find<QPushButton>("m_start")->isEnabled());
+    QVERIFY(!session.Find<QPushButton>("m_stop")->isEnabled());
+}
+
+void LifetimeTest::unloadWhileAStartIsInFlight()
+{
+    CPluginSession session(Type1Profile());
+    QVERIFY(HoldStart(session));
+    session.Unload();
+    QVERIFY(!session.Window());
+    Finish(kStart);
+    QCOMPARE(CountCalls(kStart), 1);
+}
+
+void LifetimeTest::resetWhileThePageListIsRead()
+{
+    CPluginSession session(Type1Profile());
+    VondSim_Hold(kCapability);
+    session->ShowPlugin();
+    QVERIFY(VondSim_WaitUntilHeld(kCapability, 20000));
+    session->ResetPlugin();
+    Finish(kCapability);
+    // The window was never hidden, so the list that was asked for still builds the pages.
+    QVERIFY(session.WaitForStatus("Init done."));
+    QCOMPARE(session.Window()->findChildren<QDockWidget *>().size(), 1);
+}
+
+void LifetimeTest::resetWhileAPageWaitsForItsDocument()
+{
+    CPluginSession session(Type1Profile());
+    bool isReset = false;
+    WhenPageWaits(session, [&] {
+        isReset = true;
+        session->HidePlugin();
+        session->ResetPlugin();
+    });
+    QVERIFY(isReset);
+    QVERIFY(session.Window()->findChildren<QDockWidget *>().isEmpty());
+    session->ShowPlugin();
+    QVERIFY(session.WaitForStatus("Init done."));
+    QCOMPARE(session.Window()->findChildren<QDockWidget *>().size(), 1);
+    QVERIFY(session.Window()->isEnabled());
+}
+
+void LifetimeTest::unloadWhileAPageWaitsForItsDocument()
+{
+    CPluginSession session(Type1Profile());
+    bool isUnloaded = false;
+    WhenPageWaits(session, [&] {
+        isUnloaded = true;
+        session.Unload();
+    });
+    QVERIFY(isUnloaded);
+    QVERIFY(!session.Window());
+}
+
+void LifetimeTest::resetWhileTheFailureBoxIsOpen()
+{
+    CPluginSession session(Type1Profile());
+    QVERIFY(session.ShowAndWait());
+    VondSim_AddFault(R"({"function": "VOND_MMRf_ContRxV7_r", "kind": "fail", "result": 7})");
+    CBoxWatcher boxes;
+    boxes.onBox = [&] { session->ResetPlugin(); };
+    session.Press("m_start");
+    QVERIFY(WaitUntil([&] { return boxes.Seen().size() == 1; }));
+    QCoreApplication::processEvents();
+    QVERIFY(!QApplication::activeModalWidget());
+    QVERIFY(session.Window()->findChildren<QDockWidget *>().isEmpty());
+}
+
+void LifetimeTest::unloadWhileTheFailureBoxIsOpen()
+{
+    CPluginSession session(Type1Profile());
+    QVERIFY(session.ShowAndWait());
+    VondSim_AddFault(R"({"function": "VOND_MMRf_ContRxV7_r", "kind": "fail", "result": 7})");
+    CBoxWatcher boxes;
+    boxes.onBox = [&] { session.Unload(); };
+    session.Press("m_start");
+    QVERIFY(WaitUntil([&] { return boxes.Seen().size() == 1; }));
+    QCoreApplication::processEvents();
+    QVERIFY(!session.Window());
+    QVERIFY(!QApplication::activeModalWidget());
+}
+
+void LifetimeTest::answerArrivesWhileTheWindowIsHidden()
+{
+    CPluginSession session(Type1Profile());
+    QVERIFY(HoldStart(session));
+    session->HidePlugin();
+    VondSim_Release(kStart);
+    QVERIFY(session.WaitForStatus("Cont Rx start..."));
+    QVERIFY(session.Find<QPushButton>("m_stop")->isEnabled());
+    QCOMPARE(session.busy, (QVector<bool>{true, false}));
+}
+
+void LifetimeTest::showAfterAHideStopsARunningTestLikeATabChange()
+{
+    CPluginSession session(Type1Profile());
+    QVERIFY(session.ShowAndWait());
+    ChooseRoute(session, "Type1");
+    session.Press("m_start");
+    QVERIFY(session.WaitForStatus("Cont Rx start..."));
+    session->HidePlugin();
+    QCOMPARE(QString(VondSim_RunningTest()), QString("ContRx"));
+    session->ShowPlugin();
+    QVERIFY(session.WaitForStatus("Cont Rx stop."));
+    QCOMPARE(QString(VondSim_RunningTest()), QString());
+}
+
+QTEST_MAIN(LifetimeTest)
+#include "LifetimeTest.moc"

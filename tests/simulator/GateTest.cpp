@@ -1,0 +1,103 @@
+// Gates: held callers stand until they are released, whatever happens to the DUT meanwhile.
+
+#include "tests/simulator/SimulatorFixture.h"
+
+#include <future>
+
+namespace {
+
+constexpr char CONT_RX[] = "VOND_MMRf_ContRxV7_r";
+constexpr uint32_t LONG_MS = 20000;  // ends a broken test; never waited for in a good one
+
+class GateTest : public CSimulatorTest
+{
+protected:
+    std::future<VOND_RESULT> StartInThread()
+    {
+        return std::async(std::launch::async, [] {
+            const SMMContRxCmdV7 command = ContRxCommand();
+            return VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, &command);
+        });
+    }
+
+    static bool Ended(std::future<VOND_RESULT> &call)
+    {
+        return call.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+    }
+};
+
+TEST_F(GateTest, HeldCallDoesNothingUntilItIsReleased)
+{
+    VondSim_Hold(CONT_RX);
+    auto call = StartInThread();
+    ASSERT_EQ(VondSim_WaitUntilHeld(CONT_RX, LONG_MS), 1);
+    EXPECT_FALSE(Ended(call));
+    EXPECT_STREQ(VondSim_RunningTest(), "");
+    EXPECT_EQ(VondSim_CallCount(), 0u);
+    VondSim_Release(CONT_RX);
+    EXPECT_EQ(call.get(), VOND_SUCCESS);
+    EXPECT_STREQ(VondSim_RunningTest(), "ContRx");
+    EXPECT_EQ(VondSim_CallCount(), 1u);
+}
+
+TEST_F(GateTest, OtherFunctionsPassAHeldGate)
+{
+    VondSim_Hold(CONT_RX);
+    auto call = StartInThread();
+    ASSERT_EQ(VondSim_WaitUntilHeld(CONT_RX, LONG_MS), 1);
+    EXPECT_EQ(VOND_NRf_TestStop_r(HANDLE, TIMEOUT_MS), VOND_SUCCESS);
+    VondSim_Release(CONT_RX);
+    EXPECT_EQ(call.get(), VOND_SUCCESS);
+    EXPECT_STREQ(CallAt(0).function, "VOND_NRf_TestStop_r");
+    EXPECT_STREQ(CallAt(1).function, CONT_RX);
+}
+
+TEST_F(GateTest, WaitingForNobodyEndsWithTheTime)
+{
+    VondSim_Hold(CONT_RX);
+    EXPECT_EQ(VondSim_WaitUntilHeld(CONT_RX, 1), 0);
+}
+
+TEST_F(GateTest, ReleaseLetsAllGoEvenWhenTheGateIsHeldAgainAtOnce)
+{
+    VondSim_Hold(CONT_RX);
+    auto first = StartInThread();
+    ASSERT_EQ(VondSim_WaitUntilHeld(CONT_RX, LONG_MS), 1);
+    VondSim_Release(CONT_RX);
+    VondSim_Hold(CONT_RX);
+    EXPECT_EQ(first.get(), VOND_SUCCESS);
+    auto second = StartInThread();
+    EXPECT_EQ(VondSim_WaitUntilHeld(CONT_RX, LONG_MS), 1);
+    VondSim_Release(CONT_RX);
+    EXPECT_EQ(ErrorText(second.get()), "Target: a test is running already");
+}
+
+TEST_F(GateTest, ProfileMayChangeWhileACallIsHeld)
+{
+    VondSim_Hold(CONT_RX);
+    auto call = StartInThread();
+    ASSERT_EQ(VondSim_WaitUntilHeld(CONT_RX, LONG_MS), 1);
+    EXPECT_EQ(VondSim_SetProfile("unplugged"), 0);
+    VondSim_Release(CONT_RX);
+    EXPECT_EQ(ErrorText(call.get()), "Connection: no target is connected");
+}
+
+TEST_F(GateTest, ResetOpensTheGates)
+{
+    VondSim_Hold(CONT_RX);
+    auto call = StartInThread();
+    ASSERT_EQ(VondSim_WaitUntilHeld(CONT_RX, LONG_MS), 1);
+    VondSim_Reset();
+    EXPECT_EQ(call.get(), VOND_SUCCESS);
+}
+
+TEST_F(GateTest, UnknownFunctionIsReportedAndHoldsNothing)
+{
+    ::testing::internal::CaptureStderr();
+    VondSim_Hold("VOND_Dance_r");
+    EXPECT_EQ(VondSim_WaitUntilHeld("VOND_Dance_r", LONG_MS), 0);
+    VondSim_Release(nullptr);
+    EXPECT_NE(::testing::internal::GetCapturedStderr().find("VOND_Dance_r"), std::string::npos);
+}
+
+}  // namespace

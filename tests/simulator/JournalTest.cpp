@@ -1,0 +1,127 @@
+// The journal in memory: order, arguments and bytes of every call.
+
+#include "tests/simulator/SimulatorFixture.h"
+
+#include <cstring>
+
+namespace {
+
+class JournalTest : public CSimulatorTest
+{
+};
+
+template <class Record>
+std::vector<uint8_t> BytesOf(const Record &record)
+{
+    std::vector<uint8_t> bytes(sizeof(record));
+    std::memcpy(bytes.data(), &record, sizeof(record));
+    return bytes;
+}
+
+std::vector<uint8_t> BytesOf(const std::string &text)
+{
+    return std::vector<uint8_t>(text.begin(), text.end());
+}
+
+TEST_F(JournalTest, CommandIsKeptWithItsArgumentsAndBytes)
+{
+    const SMMContRxCmdV7 command = ContRxCommand();
+    VOND_MMRf_ContRxV7_r(0xabcd, 1234, &command);
+    ASSERT_EQ(VondSim_CallCount(), 1u);
+    const SVondSimCall call = CallAt(0);
+    EXPECT_STREQ(call.function, "VOND_MMRf_ContRxV7_r");
+    EXPECT_EQ(call.handle, 0xabcdu);
+    EXPECT_EQ(call.timeoutMs, 1234u);
+    EXPECT_EQ(call.result, VOND_SUCCESS);
+    EXPECT_EQ(call.requestSize, 40u);
+    EXPECT_EQ(call.answerSize, 0u);
+    EXPECT_GT(call.durationNs, 0u);
+    EXPECT_EQ(RequestBytes(0), BytesOf(command));
+}
+
+TEST_F(JournalTest, AnswerIsKept)
+{
+    const SNrDlFreqCmdV7 command = DlFreqCommand();
+    SNrDlFreqCnfV7 answer = {};
+    VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, &command, &answer);
+    EXPECT_EQ(RequestBytes(0), BytesOf(command));
+    EXPECT_EQ(AnswerBytes(0), BytesOf(answer));
+}
+
+TEST_F(JournalTest, StatusIsKept)
+{
+    SNrRsrpCmdV7 command = RsrpForcedCommand();
+    command.forcedMode.carrier.common.dlFrequency = 1;
+    uint32_t status = 0;
+    VOND_NRf_RsrpV7_r(HANDLE, TIMEOUT_MS, &command, &status);
+    EXPECT_EQ(CallAt(0).status, 1u);
+}
+
+TEST_F(JournalTest, RefusalIsKeptWithoutAnAnswer)
+{
+    SMMRssiCmdV7 command = RssiCommand();
+    command.band = 2;
+    SMMRssiCnfV7 answer = {};
+    const VOND_RESULT result = VOND_MMRf_RssiV7_r(HANDLE, TIMEOUT_MS, &command, &answer);
+    EXPECT_NE(result, VOND_SUCCESS);
+    EXPECT_EQ(CallAt(0).result, result);
+    EXPECT_EQ(CallAt(0).answerSize, 0u);
+    EXPECT_EQ(RequestBytes(0), BytesOf(command));
+}
+
+TEST_F(JournalTest, CallsStandInOrder)
+{
+    int32_t index = 0;
+    int32_t service = 0;
+    VondConn_GetMdActiveIdx(HANDLE, &index);
+    VondConn_GetMdSrv(HANDLE, index, &service);
+    VOND_QueryFunctionSupported_r(HANDLE, TIMEOUT_MS, "VOND_MMRf_ContRxV7_r");
+    VOND_GetErrorString(1);
+    VOND_NRf_GetChipIdName(40);
+    VOND_MMRf_TestStopV7_r(HANDLE, TIMEOUT_MS, 1);
+    const std::vector<std::string> expected = {
+        "VondConn_GetMdActiveIdx", "VondConn_GetMdSrv",      "VOND_QueryFunctionSupported_r",
+        "VOND_GetErrorString",     "VOND_NRf_GetChipIdName", "VOND_MMRf_TestStopV7_r"};
+    std::vector<std::string> names;
+    for (uint32_t i = 0; i < VondSim_CallCount(); ++i)
+        names.push_back(CallAt(i).function);
+    EXPECT_EQ(names, expected);
+    EXPECT_EQ(AnswerBytes(1), BytesOf(service));
+    EXPECT_EQ(RequestBytes(2), BytesOf(std::string("VOND_MMRf_ContRxV7_r")));
+    EXPECT_EQ(RequestBytes(3), BytesOf(int32_t(1)));
+    EXPECT_EQ(AnswerBytes(3), BytesOf(std::string("Connection: no target is connected")));
+    EXPECT_EQ(AnswerBytes(4), BytesOf(std::string("VR6240")));
+    EXPECT_EQ(RequestBytes(5), BytesOf(uint32_t(1)));
+}
+
+TEST_F(JournalTest, ShortBufferTakesWhatFits)
+{
+    const SMMContRxCmdV7 command = ContRxCommand();
+    VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, &command);
+    uint8_t bytes[8];
+    std::memset(bytes, 0xee, sizeof(bytes));
+    EXPECT_EQ(VondSim_GetRequest(0, bytes, 4), 40u);
+    EXPECT_EQ(std::memcmp(bytes, &command, 4), 0);
+    EXPECT_EQ(bytes[4], 0xee);
+}
+
+TEST_F(JournalTest, NothingStandsBehindTheLastCall)
+{
+    VOND_NRf_TestStop_r(HANDLE, TIMEOUT_MS);
+    SVondSimCall call = {};
+    EXPECT_EQ(VondSim_GetCall(1, &call), -1);
+    EXPECT_EQ(VondSim_GetCall(0, nullptr), -1);
+    EXPECT_EQ(VondSim_GetRequest(1, nullptr, 0), 0u);
+    EXPECT_EQ(VondSim_GetAnswer(1, nullptr, 0), 0u);
+    VondSim_ClearJournal();
+    EXPECT_EQ(VondSim_CallCount(), 0u);
+}
+
+TEST_F(JournalTest, NullRequestHasNoBytes)
+{
+    EXPECT_EQ(ErrorText(VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, nullptr)),
+              "Argument: null pointer");
+    EXPECT_EQ(CallAt(0).requestSize, 0u);
+}
+
+}  // namespace
