@@ -45,17 +45,16 @@ QStringView FirstMissing(const QJsonObject &object, QStringView path)
     }
 }
 
-// Applies change to the value at a path that is known to exist. Each parent lets go of its child
+// Applies change to the place of a value that is known to exist. Each parent lets go of its child
 // before the child is changed: otherwise the child is shared at that moment and Qt copies it whole.
+// A text read from an object shares the object too, so the old value is not even looked at.
 template <typename Change>
 void Rewrite(QJsonObject &object, QStringView path, const Change &change)
 {
     const SSplit step = Split(path);
-    auto place = object.find(step.head);
+    const auto place = object.find(step.head);
     if (step.tail.isEmpty()) {
-        QJsonValue value = *place;
-        *place = QJsonValue();
-        *place = change(std::move(value));
+        change(*place);
         return;
     }
     QJsonObject child = QJsonValue(*place).toObject();
@@ -105,7 +104,7 @@ bool ModifyJsonValue(QJsonObject &object, const QString &path, const QJsonValue 
             qCDebug(lcModel) << "path: " << path;
         return false;
     }
-    Rewrite(object, path, [&value](QJsonValue &&) { return value; });
+    Rewrite(object, path, [&value](QJsonValueRef place) { place = value; });
     return true;
 }
 
@@ -115,11 +114,11 @@ bool InsertJsonObject(QJsonObject &object, const QString &path, const QString &k
     const QStringView missing = FirstMissing(object, path);
     if (!missing.isNull())
         return LogMissing(missing);
-    Rewrite(object, path, [&](QJsonValue &&old) {
-        QJsonObject target = old.toObject();
-        old = QJsonValue();
+    Rewrite(object, path, [&](QJsonValueRef place) {
+        QJsonObject target = QJsonValue(place).toObject();
+        place = QJsonValue();
         target.insert(key, QJsonObject{{subKey, value}});
-        return QJsonValue(target);
+        place = target;
     });
     return true;
 }

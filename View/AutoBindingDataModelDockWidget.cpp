@@ -164,13 +164,17 @@ QString CAutoBindingDataModelDockWidget::AbsoluteModelPath(const QString &relati
     return ::AbsoluteModelPath(relativePath, m_modelInterface == eInterfaceCmdIf);
 }
 
+QList<QWidget *> CAutoBindingDataModelDockWidget::AllWidgets() const
+{
+    return m_rootWidget ? m_rootWidget->findChildren<QWidget *>() : QList<QWidget *>();
+}
+
 void CAutoBindingDataModelDockWidget::SetGroupBoxFonts()
 {
-    const CIndexScope index(this);
     QFont font(QStringLiteral("Arial"));
     font.setWeight(QFont::Bold);
-    for (QWidget *widget : index->Widgets()) {
-        if (ExactCast<QGroupBox>(widget))
-            widget->setFont(font);
+    for (QWidget *box : AllWidgets()) {
+        if (ExactCast<QGroupBox>(box))
+            box->setFont(font);
     }
 }

@@ -179,6 +179,7 @@ private:
     void StartInit();
     void InitWidget();
     void InitCaption(const QString &path, QWidget *widget, const QString &caption);
+    QList<QWidget *> AllWidgets() const;
     void SetGroupBoxFonts();
     template <typename Filter, typename Visit>
     void WalkMembers(const SWalkWords &words, QJsonObject &source, Filter filter, Visit visit);

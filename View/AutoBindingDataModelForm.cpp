@@ -42,13 +42,34 @@ void CAutoBindingDataModelForm::EnableAllPages()
         page->EnableTestControls();
 }
 
+// The host may reset from inside a signal of a page, which then stands in the midst of its own slot:
+// such pages leave the window at once too, but are destroyed when that slot has ended.
 void CAutoBindingDataModelForm::RemovePages()
 {
     ++m_initRun;
+    if (m_initLoop)
+        m_initLoop->quit();
     for (CAutoBindingDataModelDockWidget *page : Pages()) {
         removeDockWidget(page);
-        delete page;
+        if (m_pageSignalDepth == 0) {
+            delete page;
+            continue;
+        }
+        page->disconnect(this);
+        page->setParent(nullptr);
+        page->deleteLater();
     }
+}
+
+// Passes on a signal that a page emits.
+template <typename Relay>
+void CAutoBindingDataModelForm::RelayPageSignal(const Relay &relay)
+{
+    const QPointer<CAutoBindingDataModelForm> self(this);
+    ++m_pageSignalDepth;
+    relay();
+    if (self)
+        --m_pageSignalDepth;
 }
 
 // A floating page docks again, so that the next show finds it in its place.
@@ -91,7 +112,7 @@ void CAutoBindingDataModelForm::InitPage(const QStringList &pageList)
 
     delete menuWidget();
     delete m_pageMenu;
-    auto *menu = new QMenu(QStringLiteral("View"), this);
+    const QPointer<QMenu> menu = new QMenu(QStringLiteral("View"), this);
     menu->setFont(QFont(QStringLiteral("Arial")));
 
     QStringList failedPages;
@@ -101,8 +122,10 @@ void CAutoBindingDataModelForm::InitPage(const QStringList &pageList)
         if (!page)
             continue;
         menu->addAction(page->windowTitle());
-        if (!InitOnePage(page))
+        if (!InitOnePage(page)) {
+            delete menu;
             return;
+        }
         if (firstPage)
             tabifyDockWidget(firstPage, page);
         else
@@ -140,15 +163,19 @@ CAutoBindingDataModelDockWidget *CAutoBindingDataModelForm::CreatePage(const QSt
     return page;
 }
 
-// Shows the page, which starts its init flow, and waits for its end. False when the pages, or this
-// window, were destroyed meanwhile.
+// Shows the page, which starts its init flow, and waits for its end. False when the pages were removed
+// meanwhile, or this window was destroyed.
 bool CAutoBindingDataModelForm::InitOnePage(CAutoBindingDataModelDockWidget *page)
 {
-    connect(page, SIGNAL(Signal_UpdateStatus(QString, int)), this,
-            SLOT(Slot_UpdateStatusbar(QString)));
+    connect(page, &CAutoBindingDataModelDockWidget::Signal_UpdateStatus, this,
+            [this](const QString &text) {
+                RelayPageSignal([&] { Slot_UpdateStatusbar(text); });
+            });
     connect(page, &CAutoBindingDataModelDockWidget::Signal_InitDone, this,
             &CAutoBindingDataModelForm::Slot_InitDone);
-    connect(page, SIGNAL(Signal_PluginIsBusy(bool)), this, SIGNAL(Signal_PluginIsBusy(bool)));
+    connect(page, &CAutoBindingDataModelDockWidget::Signal_PluginIsBusy, this, [this](bool isBusy) {
+        RelayPageSignal([&] { emit Signal_PluginIsBusy(isBusy); });
+    });
 
     QEventLoop loop;
     bool isDone = false;
@@ -159,8 +186,9 @@ bool CAutoBindingDataModelForm::InitOnePage(CAutoBindingDataModelDockWidget *pag
     connect(page, &QObject::destroyed, &loop, &QEventLoop::quit);
     const QPointer<CAutoBindingDataModelForm> self(this);
     const int run = m_initRun;
+    m_initLoop = &loop;
     addDockWidget(Qt::TopDockWidgetArea, page);
-    if (!isDone)
+    if (!isDone && self && run == m_initRun)
         loop.exec();
     return self && run == m_initRun;
 }
@@ -170,6 +198,7 @@ void CAutoBindingDataModelForm::FinishInit(QMenu *menu, CAutoBindingDataModelDoc
 {
     setEnabled(true);
     if (m_allInitPageCount == 0) {
+        delete menu;
         Slot_UpdateStatusbar(QStringLiteral("Init failed."));
         m_messageBox.Show(eBoxWarning, windowTitle(),
                           QStringLiteral("Without any RF page init flow."), {}, {}, -1);

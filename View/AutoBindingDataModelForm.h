@@ -6,8 +6,10 @@
 // The window stays disabled until the last page is ready. Only the page on top works: switching tabs
 // stops a test that runs on any page.
 //
-// Lifetime. Pages, or the window itself, may be destroyed while the init flow waits (the host resets
-// or unloads the plug-in); the flow then ends without touching what is gone. GUI thread only.
+// Lifetime. Pages may be removed, or the window itself destroyed, while the init flow waits (the host
+// resets or unloads the plug-in); the flow then ends without touching what is gone. A reset may also
+// come from inside a signal of a page: the pages leave the window at once, and are destroyed when
+// control is back in the event loop. GUI thread only.
 //
 //   class CQuorlinForm : public CAutoBindingDataModelForm { ... };
 //   form.show();   // "Please to wait the init flow..." ... "Init done."
@@ -15,6 +17,7 @@
 
 #include <memory>
 
+#include <QEventLoop>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -74,8 +77,12 @@ private:
     void FinishInit(QMenu *menu, CAutoBindingDataModelDockWidget *firstPage,
                     const QStringList &failedPages);
     void WireTabBar(QObject *child);
+    template <typename Relay>
+    void RelayPageSignal(const Relay &relay);
 
     std::unique_ptr<QMenuBar> m_pageMenuBar;  // holds the menu; never attached to the window
     CMessageBoxMan m_messageBox;
-    int m_initRun = 0;  // changes when pages are removed, which ends an init flow that waits
+    QPointer<QEventLoop> m_initLoop;  // where the init flow waits for a page
+    int m_initRun = 0;          // changes when pages are removed, which ends an init flow that waits
+    int m_pageSignalDepth = 0;  // signals of pages that are being passed on
 };

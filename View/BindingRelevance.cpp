@@ -5,6 +5,7 @@
 // the target keeps what it shows until the publisher that completes the key has its turn.
 #include <QCheckBox>
 #include <QComboBox>
+#include <QSpinBox>
 
 #include "Model/JsonPath.h"
 #include "Model/MemberPath.h"

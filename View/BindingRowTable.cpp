@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <memory>
 
@@ -44,9 +45,9 @@ SColumn ReadColumn(const STableGroup &group, const QString &member, ECellUse use
             {use, table, group.Member(member, "trait.value").toObject(), {}, {}}};
 }
 
-QString CellPath(const QString &member, const QString &instance)
+QString CellPath(const QString &member, const QJsonValue &instance)
 {
-    return member + QLatin1Char('.') + instance + QLatin1String(".defaultValue");
+    return member + QLatin1Char('.') + instance.toString() + QLatin1String(".defaultValue");
 }
 
 Qt::Alignment AlignmentOf(const QWidget *cell)
@@ -70,6 +71,7 @@ bool RetireRow(QTableWidget *table, int row, const QVector<SColumn> &columns)
         auto *item = new QTableWidgetItem(columns[c].type->text(cell));
         item->setFont(cell->font());
         item->setTextAlignment(AlignmentOf(cell));
+        item->setFlags(item->flags() & ~Qt::ItemIsEditable);  // a result is for reading
         table->removeCellWidget(row, c);
         table->setItem(row, c, item);
     }
@@ -81,6 +83,43 @@ void RetireOldRows(QTableWidget *table, const QVector<SColumn> &columns)
     int row = table->rowCount() - kEditorRows - 1;
     while (row >= 0 && RetireRow(table, row, columns))
         --row;
+}
+
+// Places a cell's editor. The standard delegate works out the look of the item behind the editor each
+// time, for every editor of the table at every append; a result cell just fills its place.
+class CCellDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                              const QModelIndex &) const override
+    {
+        editor->setGeometry(option.rect);
+    }
+};
+
+// The table as result rows need it, whatever its form says; done once, before the first row.
+void PrepareTable(QTableWidget *table)
+{
+    QHeaderView *header = table->verticalHeader();
+    header->setDefaultSectionSize(
+        qBound(header->minimumSectionSize(), kRowHeight, header->maximumSectionSize()));
+    table->setItemDelegate(new CCellDelegate(table));
+}
+
+// Puts a cell into the table. A cell with a size of its own is not asked for its best one.
+void PlaceCell(QTableWidget *table, int row, int column, QWidget *cell)
+{
+    cell->resize(table->columnWidth(column), table->rowHeight(row));
+    table->setCellWidget(row, column, cell);
+}
+
+// As scrollToBottom, which would place every editor twice: once to lay the new rows out, and once more.
+void ScrollToLastRow(QTableWidget *table)
+{
+    table->visualRect(table->model()->index(table->rowCount() - 1, 0));  // lays them out
+    table->verticalScrollBar()->setValue(table->verticalScrollBar()->maximum());
 }
 
 QVector<SColumn> ReadColumns(const STableGroup &group, ECellUse use, QTableWidget *table)
@@ -95,20 +134,20 @@ QVector<SColumn> ReadColumns(const STableGroup &group, ECellUse use, QTableWidge
 void MakeCells(QTableWidget *table, const STableGroup &group, QVector<SColumn> &columns, int first,
                const char *unsupported)
 {
-    for (int r = first; r < group.instances.size(); ++r)
-        table->verticalHeader()->resizeSection(r, kRowHeight);
     for (int c = 0; c < columns.size(); ++c) {
         SColumn &column = columns[c];
         for (int r = first; r < group.instances.size(); ++r) {
-            const QString path = CellPath(column.member, group.instances[r]);
+            const QString path = CellPath(column.member, group.instances.at(r));
             column.wish.value = GetJsonValueConst(group.properties, path);
             if (column.wish.use == ECellUse::RowInit)
                 qCDebug(lcEngine) << "---> [Init][type2] ==" << path << "== Default Value  <---"
                                   << column.wish.value;
             if (column.type)
-                table->setCellWidget(r, c, column.type->makeCell(column.wish));
-            else
+                PlaceCell(table, r, c, column.type->makeCell(column.wish));
+            else if (column.wish.use == ECellUse::RowInit)
                 qCCritical(lcEngine) << unsupported << column.dataType;
+            else
+                qCCritical(lcEngine) << unsupported;
         }
     }
     RetireOldRows(table, columns);
@@ -178,6 +217,7 @@ void CAutoBindingDataModelDockWidget::InitRowTable(const QString &path, QWidget 
         return;
     }
 
+    PrepareTable(table);
     table->setColumnCount(group.members.size());
     table->setRowCount(group.instances.size());
     qCDebug(lcEngine) << "---> [Init][type2] Column info - from memeber list <---"
@@ -193,9 +233,10 @@ void CAutoBindingDataModelDockWidget::InitRowTable(const QString &path, QWidget 
 
     const QJsonObject instances = group.group.value(QLatin1String("instanceProperty")).toObject();
     QStringList rowHeaders;
-    for (const QString &instance : group.instances)
+    for (const QJsonValue &instance : group.instances)
         rowHeaders.append(
-            GetJsonValueConst(instances, instance + QLatin1String(".caption")).toString());
+            GetJsonValueConst(instances, instance.toString() + QLatin1String(".caption"))
+                .toString());
     table->setHorizontalHeaderLabels(group.Captions(group.members));
     table->setVerticalHeaderLabels(rowHeaders);
 
@@ -226,7 +267,7 @@ void CAutoBindingDataModelDockWidget::UpdateRowTable(const QString &path, QWidge
                           << column.dataType;
         std::unique_ptr<QWidget> scratch;  // words a value as an editor would, for rows of items
         for (int r = 0; r < group.instances.size(); ++r) {
-            const QString cellPath = CellPath(column.member, group.instances[r]);
+            const QString cellPath = CellPath(column.member, group.instances.at(r));
             const QString text = GetJsonValueConst(group.properties, cellPath).toString();
             qCDebug(lcEngine) << "---> [Update][type2] == " << cellPath << " == defaultValue <---"
                               << text;
@@ -286,6 +327,6 @@ void CAutoBindingDataModelDockWidget::AppendRowTable(const QString &path, QWidge
     MakeCells(table, group, columns, current,
               "---> [Fail][Append][type2] Not support this data type yet <---");
     table->setMinimumWidth(FitTableSize(table).width() + kAppendMargin);
-    table->scrollToBottom();
+    ScrollToLastRow(table);
     qCDebug(lcEngine) << "---> [Append][type2] Done ";
 }

@@ -74,7 +74,7 @@ void CAutoBindingDataModelDockWidget::InitWidget()
     qCDebug(lcEngine) << "============ [Start] Init widget ============ ";
     SetGroupBoxFonts();
     const CIndexScope index(this);
-    for (QWidget *widget : index->Widgets()) {
+    for (QWidget *widget : AllWidgets()) {
         const QString name = widget->objectName();
         if (!IsBoundName(name)) {
             qCDebug(lcEngine) << " Skip " << name;
@@ -129,8 +129,9 @@ void CAutoBindingDataModelDockWidget::InitCaption(const QString &path, QWidget *
         widget->setVisible(!IsJsonValueValid(support) || support.toInt() != 0);
 }
 
-// Visits the bound widgets that filter lets through and whose members source holds. visit takes the group type, the
-// path and the widget, and answers whether it supports the type.
+// Visits the bound widgets that filter lets through and whose members source holds. visit takes the
+// group type, the path and the widget, and answers whether it supports the type. A member that is
+// looked for in vain leaves no trace in source.
 template <typename Filter, typename Visit>
 void CAutoBindingDataModelDockWidget::WalkMembers(const SWalkWords &words, QJsonObject &source,
                                                   Filter filter, Visit visit)
@@ -142,7 +143,7 @@ void CAutoBindingDataModelDockWidget::WalkMembers(const SWalkWords &words, QJson
         if (!filter(name))
             continue;
         const QString path = PathFromObjectName(name);
-        if (!IsJsonValueValid(GetJsonValue(source, path))) {
+        if (!IsJsonValueValid(GetJsonValueConst(source, path))) {
             qCCritical(lcEngine) << words.missing << name;
             continue;
         }

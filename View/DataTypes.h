@@ -11,6 +11,7 @@
 //   if (type) type->show(widget, member, "1950000");
 #pragma once
 
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QString>

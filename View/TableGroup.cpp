@@ -24,7 +24,7 @@ STableGroup::STableGroup(const QJsonObject &document, const QString &memberPath)
 {
     properties = group.value(QLatin1String("memberProperty")).toObject();
     members = ToStringList(group.value(QLatin1String("memberList")).toArray());
-    instances = ToStringList(group.value(QLatin1String("instanceList")).toArray());
+    instances = group.value(QLatin1String("instanceList")).toArray();
     columns = ReadColumns(properties);
     for (const QString &member : qAsConst(members)) {
         if (Member(member, "defaultSupport").toDouble() == 1)

@@ -26,7 +26,7 @@ struct STableGroup
     QJsonObject properties;  // memberProperty
     QStringList members;     // memberList
     QStringList rows;        // members that a column table shows
-    QStringList instances;   // instanceList, rows of a row table
+    QJsonArray instances;    // instanceList, rows of a row table: texts, maybe tens of thousands
     int columns = 0;         // dimentionCount, held to what a table can sensibly show
     QJsonObject group;
 };

@@ -1,18 +1,30 @@
 #include "View/WidgetIndex.h"
 
+#include <QAbstractItemView>
+
 #include "Model/MemberPath.h"
 
 CWidgetIndex::CWidgetIndex(const QWidget *root)
-    : m_widgets(root ? root->findChildren<QWidget *>() : QList<QWidget *>())
 {
-    for (QWidget *widget : qAsConst(m_widgets)) {
-        const QString name = widget->objectName();
-        if (!IsBoundName(name))
+    if (root)
+        Add(root);
+}
+
+void CWidgetIndex::Add(const QObject *parent)
+{
+    for (QObject *child : parent->children()) {
+        if (!child->isWidgetType())
             continue;
-        m_bound.append(widget);
-        const QString path = PathFromObjectName(name);
-        if (!m_byPath.contains(path))
-            m_byPath.insert(path, widget);
+        const QString name = child->objectName();
+        if (IsBoundName(name)) {
+            auto *widget = static_cast<QWidget *>(child);
+            const QString path = PathFromObjectName(name);
+            m_bound.append(widget);
+            if (!m_byPath.contains(path))
+                m_byPath.insert(path, widget);
+        }
+        if (!qobject_cast<QAbstractItemView *>(child))
+            Add(child);
     }
 }
 

@@ -1,11 +1,12 @@
 // The widgets of a page by the document path that their names stand for.
 //
 // Built once a walk from all widgets below a root, depth-first with children in creation order. A
-// widget's kind is told by its exact class name, so a subclass of a Qt class is another kind. GUI
-// thread; the index holds plain pointers. The bound widgets come from the form and live as long as
-// the page; cells of tables, which come and go, are among Widgets() alone.
+// widget's kind is told by its exact class name, so a subclass of a Qt class is another kind. The
+// inside of a table is left out: its cells come and go by the thousand, and none is bound by a name.
+// GUI thread; the index holds plain pointers to widgets of the form, which live as long as the page.
 //
 //   const CWidgetIndex index(page);
+//   for (QWidget *widget : index.BoundWidgets()) ...
 //   QWidget *band = index.Find("cmdIf.request.group1.memberProperty.band");
 //   if (auto *box = ExactCast<QComboBox>(band)) ...
 #pragma once
@@ -20,14 +21,14 @@ class CWidgetIndex
 public:
     explicit CWidgetIndex(const QWidget *root);
 
-    // All widgets, and those whose names the engine binds.
-    const QList<QWidget *> &Widgets() const { return m_widgets; }
+    // The widgets whose names the engine binds.
     const QList<QWidget *> &BoundWidgets() const { return m_bound; }
     // First widget whose name maps to the path; null when there is none.
     QWidget *Find(const QString &path) const { return m_byPath.value(path); }
 
 private:
-    QList<QWidget *> m_widgets;
+    void Add(const QObject *parent);
+
     QList<QWidget *> m_bound;
     QHash<QString, QWidget *> m_byPath;
 };

@@ -1,0 +1,194 @@
+#include "Host/BenchHost.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QJsonArray>
+#include <QLabel>
+#include <QTime>
+#include <QTreeWidget>
+#include <QtGlobal>
+
+#include "Host/ToolWindow.h"
+#include "ui_BenchHost.h"
+
+namespace {
+
+constexpr int kMostEvents = 1000;  // of the log; older ones go
+
+QString OrNone(const QString &text)
+{
+    return text.isEmpty() ? QString("none") : text;
+}
+
+QString YesOrNo(bool isYes)
+{
+    return isYes ? "Yes" : "No";
+}
+
+// Qt keeps a version as 0xMMNNPP.
+QString QtVersionText(int version)
+{
+    return QString("%1.%2.%3").arg(version >> 16).arg((version >> 8) & 0xff).arg(version & 0xff);
+}
+
+QString JoinedTexts(const QJsonArray &array)
+{
+    QStringList texts;
+    for (const QJsonValue &value : array)
+        texts << value.toString();
+    return texts.join(", ");
+}
+
+}  // namespace
+
+CBenchHost::CBenchHost(CPluginHandle &plugin, QWidget *parent)
+    : QMainWindow(parent), m_ui(std::make_unique<Ui::CBenchHost>()), m_plugin(plugin)
+{
+    m_ui->setupUi(this);
+    m_ui->m_events->header()->setResizeContentsPrecision(0);  // only the lines in sight
+    for (int column : {0, 1})
+        m_ui->m_events->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    FillPluginFields();
+    ShowState();
+    connect(&m_plugin, &CPluginHandle::Signal_Activated, this,
+            [this](const QString &name, bool isActivated) {
+                AddEvent("Activated", QString("%1: %2").arg(name, isActivated ? "on" : "off"));
+                ShowState();
+            });
+    connect(&m_plugin, &CPluginHandle::Signal_Busy, this, [this](const QString &name, bool isBusy) {
+        AddEvent("Busy", QString("%1: %2").arg(name, isBusy ? "on" : "off"));
+        ShowState();
+    });
+    qApp->installEventFilter(this);
+}
+
+CBenchHost::~CBenchHost() = default;
+
+void CBenchHost::FillPluginFields()
+{
+    const QJsonObject library = m_plugin.MetaData();
+    const QJsonObject plugin = library.value("MetaData").toObject();
+    m_ui->m_name->setText(OrNone(plugin.value("name").toString()));
+    m_ui->m_type->setText(OrNone(plugin.value("type").toString()));
+    m_ui->m_version->setText(OrNone(plugin.value("version").toString()));
+    m_ui->m_dependencies->setText(OrNone(JoinedTexts(plugin.value("dependencies").toArray())));
+    m_ui->m_pluginNote->setText(OrNone(m_plugin.Tool().GetPluginNote()));
+    m_ui->m_class->setText(library.value("className").toString());
+    m_ui->m_interface->setText(library.value("IID").toString());
+    m_ui->m_qt->setText(
+        QString("%1, %2").arg(QtVersionText(library.value("version").toInt()),
+                              library.value("debug").toBool() ? "debug" : "release"));
+    m_ui->m_file->setText(m_plugin.File());
+}
+
+SPluginToolLaunchRequirement CBenchHost::Query()
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    QElapsedTimer timer;
+    timer.start();
+    SPluginToolLaunchRequirement answer = m_plugin.Tool().QueryLaunchRequirement();
+    const qint64 elapsed = timer.elapsed();
+    QApplication::restoreOverrideCursor();
+    FillAnswer(answer);
+    const QString outcome =
+        answer.isSupport ? "supported" : "not supported: " + answer.unsupportReason;
+    AddEvent("Query", QString("%1 ms, %2").arg(elapsed).arg(outcome));
+    return answer;
+}
+
+void CBenchHost::FillAnswer(const SPluginToolLaunchRequirement &answer)
+{
+    const uint32_t handle = qApp->property("vondTargetHandle").toUInt();
+    const QString profile = qEnvironmentVariable("VOND_SIM_PROFILE");
+    m_ui->m_handle->setText(QString("%1 (0x%2)").arg(handle).arg(handle, 0, 16));
+    m_ui->m_profile->setText(profile.isEmpty() ? "not chosen" : profile);
+    m_ui->m_isSupport->setText(answer.isSupport ? "Yes, now" : "No");
+    m_ui->m_reason->setText(OrNone(answer.unsupportReason));
+    m_ui->m_isNeedDb->setText(YesOrNo(answer.isNeedDb));
+    m_ui->m_isNeedDriver->setText(YesOrNo(answer.isNeedDriver));
+    m_ui->m_launchNote->setText(OrNone(answer.launchNote));
+}
+
+void CBenchHost::ShowState()
+{
+    const bool isBusy = m_plugin.IsBusy();
+    m_ui->m_activated->setText(m_plugin.IsActivated() ? "Shown" : "Hidden");
+    m_ui->m_busy->setText(isBusy ? "Working" : "Idle");
+    // These reach the target, or let the user start a second operation on it.
+    for (QPushButton *button : {m_ui->m_query, m_ui->m_reset, m_ui->m_enable})
+        button->setEnabled(!isBusy);
+    if (!isBusy)
+        m_ui->statusbar->clearMessage();
+}
+
+void CBenchHost::AddEvent(const QString &event, const QString &detail)
+{
+    const QString time = QTime::currentTime().toString("HH:mm:ss.zzz");
+    while (m_ui->m_events->topLevelItemCount() >= kMostEvents)
+        delete m_ui->m_events->takeTopLevelItem(0);
+    auto *item = new QTreeWidgetItem(m_ui->m_events, {time, event, detail});
+    item->setToolTip(2, detail);
+    m_ui->m_events->scrollToItem(item);
+}
+
+// Logged before the call: the signals that it raises come behind.
+void CBenchHost::ShowTool()
+{
+    AddEvent("Show", {});
+    m_plugin.Tool().ShowPlugin();
+}
+
+void CBenchHost::on_m_hide_clicked()
+{
+    AddEvent("Hide", {});
+    m_plugin.Tool().HidePlugin();
+}
+
+void CBenchHost::on_m_reset_clicked()
+{
+    AddEvent("Reset", {});
+    m_plugin.Tool().ResetPlugin();
+    if (m_plugin.IsActivated())
+        m_ui->statusbar->showMessage(
+            "The pages are gone. Hide and show the tool to have them again.");
+}
+
+void CBenchHost::on_m_disable_clicked()
+{
+    AddEvent("Disable", {});
+    m_plugin.Tool().DisablePages();
+}
+
+void CBenchHost::on_m_enable_clicked()
+{
+    AddEvent("Enable", {});
+    m_plugin.Tool().EnablePages();
+}
+
+void CBenchHost::closeEvent(QCloseEvent *event)
+{
+    if (m_plugin.IsBusy())
+        return RefuseClose(event, "the bench host");
+    m_plugin.Tool().HidePlugin();
+    event->accept();
+}
+
+// The tool's window doesn't look at its busy state when it is closed: that is left to the host.
+bool CBenchHost::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Close && m_plugin.IsBusy() && watched == FindToolWindow()) {
+        RefuseClose(static_cast<QCloseEvent *>(event), "the tool");
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void CBenchHost::RefuseClose(QCloseEvent *event, const QString &window)
+{
+    event->ignore();
+    AddEvent("Close", QString("%1: refused, the tool is busy").arg(window));
+    m_ui->statusbar->showMessage(
+        QString("The tool works on the target: %1 can be closed when it is idle.").arg(window));
+}

@@ -1,0 +1,61 @@
+// The window "Quorlin bench host": what the plug-in says of itself, and a button for each request
+// that a host can make.
+//
+// Shows the metadata, the answer to the launch query in words, whether the tool's window is shown
+// and whether it works on the target, and a log of all that with times.
+//
+// While the tool is busy, the requests that would disturb the link to the target are off, and
+// neither this window nor the tool's closes: the status bar says why. Closing this window hides the
+// tool. The plug-in must be loaded and outlive the window. GUI thread.
+//
+//     CBenchHost host(plugin);
+//     host.show();
+//     if (host.Query().isSupport)
+//         host.ShowTool();
+#pragma once
+
+#include <memory>
+
+#include <QMainWindow>
+
+#include "Host/PluginHandle.h"
+
+namespace Ui {
+class CBenchHost;
+}
+
+class CBenchHost : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit CBenchHost(CPluginHandle &plugin, QWidget *parent = nullptr);
+    ~CBenchHost() override;
+
+    // Blocks on the link to the target, at most for its timeouts.
+    SPluginToolLaunchRequirement Query();
+    void ShowTool();
+    // A line of the event log, with the time of now.
+    void AddEvent(const QString &event, const QString &detail);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private slots:
+    void on_m_query_clicked() { Query(); }
+    void on_m_show_clicked() { ShowTool(); }
+    void on_m_hide_clicked();
+    void on_m_reset_clicked();
+    void on_m_disable_clicked();
+    void on_m_enable_clicked();
+
+private:
+    void FillPluginFields();
+    void FillAnswer(const SPluginToolLaunchRequirement &answer);
+    void ShowState();
+    void RefuseClose(QCloseEvent *event, const QString &window);
+
+    std::unique_ptr<Ui::CBenchHost> m_ui;
+    CPluginHandle &m_plugin;
+};

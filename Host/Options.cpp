@@ -1,0 +1,88 @@
+#include "Host/Options.h"
+
+#include <cstdio>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+
+namespace {
+
+constexpr char kDescription[] =
+    "Bench host: loads the Quorlin RF plug-in, queries it, and shows its window.\n"
+    "\n"
+    "Exit code: 0 good; 1 the demonstration failed or the tool can't run on the DUT;\n"
+    "2 wrong command line; 3 the plug-in can't be loaded.";
+
+const QCommandLineOption kHelp({"h", "help"}, "Show this help.");
+const QCommandLineOption kPlugin("plugin",
+                                 "The plug-in to load (default: "
+                                 "../plugins/libQuorlinRf.so beside this program).",
+                                 "FILE");
+const QCommandLineOption kProfile("profile",
+                                  "Profile of the simulated DUT: a name or a file "
+                                  "(default: that of VOND_SIM_PROFILE).",
+                                  "NAME");
+const QCommandLineOption kHandle("handle",
+                                 "Target handle for the plug-in, decimal or 0x and "
+                                 "hexadecimal (default: 1).",
+                                 "N", "1");
+const QCommandLineOption kVerbose("verbose", "Log the tool's debug lines too.");
+const QCommandLineOption kScreenshot("screenshot",
+                                     "Save a picture of the tool window as PNG: when "
+                                     "its pages are there, with --demo at the end.",
+                                     "FILE");
+const QCommandLineOption kDemo("demo", "Without a person: query, show, start and stop continuous "
+                                       "RX, end.");
+
+int Refuse(const QString &text)
+{
+    std::fprintf(stderr, "quorlin-host: %s\nTry quorlin-host --help.\n", qPrintable(text));
+    return HostExitOptions;
+}
+
+}  // namespace
+
+std::optional<uint32_t> ReadHandle(const QString &text)
+{
+    const bool isHex = text.startsWith("0x", Qt::CaseInsensitive);
+    bool isNumber = false;
+    const uint32_t handle = text.midRef(isHex ? 2 : 0).toUInt(&isNumber, isHex ? 16 : 10);
+    return isNumber ? std::optional(handle) : std::nullopt;
+}
+
+std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
+{
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(kDescription);
+    parser.addOptions({kHelp, kPlugin, kProfile, kHandle, kVerbose, kScreenshot, kDemo});
+
+    if (!parser.parse(QCoreApplication::arguments()))
+        return Refuse(parser.errorText());
+    if (parser.isSet(kHelp)) {
+        std::fputs(qPrintable(parser.helpText()), stdout);
+        return HostExitGood;
+    }
+    if (!parser.positionalArguments().isEmpty())
+        return Refuse(
+            QString("Unexpected argument '%1'.").arg(parser.positionalArguments().first()));
+    for (const QCommandLineOption &option : {kPlugin, kProfile, kScreenshot}) {
+        if (parser.isSet(option) && parser.value(option).isEmpty())
+            return Refuse(QString("Option '%1' has an empty value.").arg(option.names().first()));
+    }
+    const std::optional<uint32_t> handle = ReadHandle(parser.value(kHandle));
+    if (!handle)
+        return Refuse(QString("'%1' is no target handle.").arg(parser.value(kHandle)));
+
+    options.pluginFile = parser.isSet(kPlugin)
+                             ? parser.value(kPlugin)
+                             : QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                                               "/../plugins/libQuorlinRf.so");
+    options.profile = parser.value(kProfile);
+    options.handle = *handle;
+    options.isVerbose = parser.isSet(kVerbose);
+    options.isDemo = parser.isSet(kDemo);
+    options.screenshotFile = parser.value(kScreenshot);
+    return std::nullopt;
+}

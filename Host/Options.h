@@ -1,0 +1,39 @@
+// The command line of the bench host.
+//
+// Read before the application object exists, so that --help and errors work without a display.
+// Texts of --help go to stdout, errors to stderr.
+//
+//     SHostOptions options;
+//     if (const std::optional<int> exitCode = ReadHostOptions(argc, argv, options))
+//         return *exitCode;
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include <QString>
+
+// Exit codes of the program.
+enum EHostExit : int
+{
+    HostExitGood = 0,
+    HostExitFailed = 1,    // the demonstration failed, or the tool can't run on the DUT
+    HostExitOptions = 2,   // wrong command line
+    HostExitNoPlugin = 3,  // the plug-in can't be loaded
+};
+
+struct SHostOptions
+{
+    QString pluginFile;      // never empty after reading
+    QString profile;         // of the simulated DUT; empty: as the environment says
+    uint32_t handle = 1;     // target handle
+    bool isVerbose = false;  // debug logs of the tool too
+    bool isDemo = false;
+    QString screenshotFile;  // empty: none
+};
+
+// Returns the exit code if the program is to end at once, nothing if it is to go on with options.
+std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options);
+
+// A target handle: decimal, or hexadecimal behind "0x". Nothing if it is no number of 32 bits.
+std::optional<uint32_t> ReadHandle(const QString &text);

@@ -1,0 +1,89 @@
+#include "Host/ToolWindow.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QImageWriter>
+#include <QPixmap>
+#include <QStatusBar>
+
+namespace {
+
+constexpr char kToolWindowName[] = "CQuorlinForm";
+
+}  // namespace
+
+QMainWindow *FindToolWindow()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->objectName() == QLatin1String(kToolWindowName))
+            return qobject_cast<QMainWindow *>(window);
+    }
+    return nullptr;
+}
+
+bool CToolWindow::Attach()
+{
+    m_window = FindToolWindow();
+    QStatusBar *bar = m_window ? m_window->findChild<QStatusBar *>() : nullptr;
+    if (!bar)
+        return false;
+    // Queued: whoever hears a line may click the next button, which is no business of the slot that
+    // has just set the line.
+    connect(bar, &QStatusBar::messageChanged, this, &CToolWindow::Signal_Status,
+            Qt::QueuedConnection);
+    return true;
+}
+
+QDockWidget *CToolWindow::FindPage(const QString &pageTitle) const
+{
+    if (!m_window)
+        return nullptr;
+    const QList<QDockWidget *> pages = m_window->findChildren<QDockWidget *>();
+    for (QDockWidget *page : pages) {
+        if (page->windowTitle() == pageTitle)
+            return page;
+    }
+    return nullptr;
+}
+
+QAbstractButton *CToolWindow::PageButton(const QString &pageTitle, const QString &buttonName) const
+{
+    const QDockWidget *page = FindPage(pageTitle);
+    return page ? page->findChild<QAbstractButton *>(buttonName) : nullptr;
+}
+
+bool CToolWindow::RaisePage(const QString &pageTitle) const
+{
+    QDockWidget *page = FindPage(pageTitle);
+    if (page)
+        page->raise();
+    return page != nullptr;
+}
+
+bool CToolWindow::BrowseList(const QString &pageTitle, const QString &listName) const
+{
+    const QDockWidget *page = FindPage(pageTitle);
+    auto *list = page ? page->findChild<QComboBox *>(listName) : nullptr;
+    if (!list)
+        return false;
+    for (int i = list->count() - 1; i >= 0; --i)
+        list->setCurrentIndex(i);
+    return true;
+}
+
+bool CToolWindow::SaveScreenshot(const QString &file, QString &error) const
+{
+    if (!m_window) {
+        error = "Can't save a picture: the tool has no window.";
+        return false;
+    }
+    QImageWriter writer(file, "png");
+    if (!writer.write(m_window->grab().toImage())) {
+        error = QString("Can't save a picture as %1: %2").arg(file, writer.errorString());
+        return false;
+    }
+    return true;
+}

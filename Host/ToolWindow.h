@@ -1,0 +1,47 @@
+// The tool's window as a host sees it from outside: by its object name, its status bar, its
+// widgets' names. GUI thread.
+//
+//     CToolWindow tool;
+//     if (tool.Attach())
+//         connect(&tool, &CToolWindow::Signal_Status, this, &CDemo::Slot_Status);
+#pragma once
+
+#include <QMainWindow>
+#include <QObject>
+#include <QPointer>
+
+// The tool's window among the windows of the application, or null: it exists from the moment when
+// the plug-in is loaded.
+QMainWindow *FindToolWindow();
+
+class CToolWindow : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    // Finds the window and follows its status bar. False if there is none with a status bar.
+    bool Attach();
+
+    // The button of the page with this title, or null.
+    class QAbstractButton *PageButton(const QString &pageTitle, const QString &buttonName) const;
+    // Brings the page to the front, as a click on its tab does. False if there is no such page.
+    bool RaisePage(const QString &pageTitle) const;
+
+    // Goes through the choices of a list on the page and back to its first, as a user who looks what
+    // there is. False if the page has no such list.
+    bool BrowseList(const QString &pageTitle, const QString &listName) const;
+
+    // Saves a picture of the window as PNG. On failure, error says why.
+    bool SaveScreenshot(const QString &file, QString &error) const;
+
+signals:
+    // A line of the status bar, as soon as the code that set it has returned to the event loop.
+    void Signal_Status(const QString &text);
+
+private:
+    class QDockWidget *FindPage(const QString &pageTitle) const;
+
+    QPointer<QMainWindow> m_window;
+};

@@ -1,0 +1,108 @@
+// The bench host: a host application for the plug-in on the engineer's desk and in tests.
+#include <chrono>
+#include <cstdio>
+
+#include <QApplication>
+#include <QLoggingCategory>
+
+#include "Host/BenchHost.h"
+#include "Host/Demo.h"
+#include "Host/Options.h"
+#include "Host/PluginHandle.h"
+#include "Host/ToolWindow.h"
+
+namespace {
+
+constexpr std::chrono::seconds kDemoDeadline(60);
+constexpr char kPagesReady[] = "Init done.";
+
+void Print(FILE *stream, const QString &line)
+{
+    std::fprintf(stream, "%s\n", line.toUtf8().constData());
+    std::fflush(stream);
+}
+
+void Complain(const QString &text)
+{
+    Print(stderr, "quorlin-host: " + text);
+}
+
+int RunDemo(CBenchHost &host, CPluginHandle &plugin, const SHostOptions &options)
+{
+    CDemo demo(host, plugin, options.screenshotFile);
+    QObject::connect(&demo, &CDemo::Signal_Said, [](const QString &line) { Print(stdout, line); });
+    QObject::connect(&demo, &CDemo::Signal_Ended, [](const QString &failure) {
+        if (failure.isEmpty())
+            Print(stdout, "The demonstration went well.");
+        else
+            Complain(failure);
+        QCoreApplication::exit(failure.isEmpty() ? HostExitGood : HostExitFailed);
+    });
+    demo.Start(kDemoDeadline);
+    return QCoreApplication::exec();
+}
+
+// The picture is taken at the first moment when all pages are there.
+void SaveWhenReady(CToolWindow &tool, CBenchHost &host, const QString &file)
+{
+    if (!tool.Attach())
+        return Complain("Can't save a picture: the tool has no window with a status bar.");
+    QObject::connect(&tool, &CToolWindow::Signal_Status, &host,
+                     [&tool, &host, file](const QString &text) {
+                         if (text != QLatin1String(kPagesReady))
+                             return;
+                         tool.disconnect(&host);
+                         QString error;
+                         if (tool.SaveScreenshot(file, error))
+                             return host.AddEvent("Picture", file);
+                         host.AddEvent("Picture", error);
+                         Complain(error);
+                     });
+}
+
+int RunWindow(CBenchHost &host, const SHostOptions &options)
+{
+    CToolWindow tool;
+    if (!options.screenshotFile.isEmpty())
+        SaveWhenReady(tool, host, options.screenshotFile);
+    QMetaObject::invokeMethod(
+        &host,
+        [&host] {
+            const SPluginToolLaunchRequirement answer = host.Query();
+            if (answer.isSupport)
+                host.ShowTool();
+            else
+                Complain("The tool can't run on this DUT: " + answer.unsupportReason);
+        },
+        Qt::QueuedConnection);
+    return QCoreApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char **argv)
+{
+    SHostOptions options;
+    if (const std::optional<int> exitCode = ReadHostOptions(argc, argv, options))
+        return *exitCode;
+
+    // The simulated DUT comes with the plug-in and takes its profile at that moment.
+    if (!options.profile.isEmpty())
+        qputenv("VOND_SIM_PROFILE", options.profile.toUtf8());
+    QLoggingCategory::setFilterRules(options.isVerbose ? "quorlin.*.debug=true"
+                                                       : "quorlin.*.debug=false");
+    // Without the options: Qt knows a "-plugin" of its own. Its settings come by environment.
+    int programNameOnly = 1;
+    QApplication application(programNameOnly, argv);
+    application.setProperty("vondTargetHandle", options.handle);
+
+    CPluginHandle plugin;
+    QString error;
+    if (!plugin.Load(options.pluginFile, error)) {
+        Complain(error);
+        return HostExitNoPlugin;
+    }
+    CBenchHost host(plugin);
+    host.show();
+    return options.isDemo ? RunDemo(host, plugin, options) : RunWindow(host, options);
+}

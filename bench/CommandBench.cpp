@@ -1,0 +1,53 @@
+// One command built from a packaged document, beside filling the record from numbers at hand.
+#include <QJsonObject>
+#include <benchmark/benchmark.h>
+
+#include "Controller/NrCoreCmdBuilder.h"
+
+namespace {
+
+QJsonObject PackagedDocument()
+{
+    QJsonObject values{
+        {"band", "n1"},          {"rxRoute", "1"},       {"dlBw", "5M"},
+        {"dlFrequency", "1950000"}, {"powerMode", "HPM"}, {"calType", "Simultaneously"},
+    };
+    for (const char *path : {"path0", "path1"}) {
+        for (const char *antenna : {"Main", "Div"}) {
+            values[QString(path) + antenna + "RfGain"] = "60.10";
+            values[QString(path) + antenna + "GainIdx"] = "16";
+        }
+    }
+    const QJsonObject group{{"memberValue", values}};
+    return {{"cmdIf", QJsonObject{{"request", QJsonObject{{"group1", group}}}}}};
+}
+
+void CommandFromDocument(benchmark::State &state)
+{
+    const QJsonObject document = PackagedDocument();
+    const CNrCoreCmdBuilder builder;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(builder.GetContRxCmdV7(document));
+}
+BENCHMARK(CommandFromDocument);
+
+void CommandRecordAlone(benchmark::State &state)
+{
+    int16_t gain = 1923;
+    benchmark::DoNotOptimize(gain);
+    for (auto _ : state) {
+        SMMContRxCmdV7 command = {};
+        command.routeKind = 3;
+        command.dlBandwidth = 5000;
+        command.band = 1;
+        command.rxRoute = 1;
+        command.path = 3;
+        command.gain.simultaneous.path0MainRfGain = gain;
+        command.gain.simultaneous.path0DivRfGain = gain;
+        command.dlFrequency = 1950000;
+        benchmark::DoNotOptimize(command);
+    }
+}
+BENCHMARK(CommandRecordAlone);
+
+}  // namespace

@@ -1,0 +1,33 @@
+#include <QApplication>
+#include <QLoggingCategory>
+
+#include "Model/ModelResources.h"
+#include "bench/BenchMain.h"
+
+namespace {
+
+constexpr SRatio kRatios[] = {
+    {"PageInit", "PageBareForm", 0},
+    {"PagePackage", "PageReadWidgets", 0},
+    {"ColumnTableInit", "ColumnTableBareCells", 0},
+    {"ColumnTableUpdate", "ColumnTableReadCells", 0},
+    {"ColumnTablePackage", "ColumnTableReadCells", 0},
+    {"Append/1000", "Append/0", 1.5},
+    {"Append/10000", "Append/0", 1.5},
+    {"Append/0", "AppendItems/0", 2},
+    {"Append/1000", "AppendItems/1000", 2},
+    {"Append/10000", "AppendItems/10000", 2},
+    {"BandChangeLargeDocument", "BandChangeSmallDocument", 0},
+};
+
+}  // namespace
+
+int main(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLoggingCategory::setFilterRules("quorlin.*.debug=false\nquorlin.*.critical=false");
+    QApplication application(argc, argv);
+    InitModelResources();
+    return RunBenchmarks(argc, argv, kRatios, std::size(kRatios));
+}

@@ -1,0 +1,167 @@
+// The Continuous RX page, and a 64 x 8 column table: Init, Update, Package beside their floors.
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <benchmark/benchmark.h>
+
+#include "Model/ModelText.h"
+#include "View/Rx/NrContRxDockWidgetV7.h"
+#include "View/WidgetIndex.h"
+#include "bench/BenchPage.h"
+
+namespace {
+
+constexpr int kRows = 8;
+constexpr int kColumns = 64;
+
+std::string ContRxText()
+{
+    QFile file(":/NrContRxV7.json");
+    file.open(QIODevice::ReadOnly);
+    return file.readAll().toStdString();
+}
+
+class COpenContRx : public CNrContRxDockWidgetV7
+{
+public:
+    COpenContRx() : CNrContRxDockWidgetV7(nullptr) {}
+    void RequestDataModel() override {}
+    using CAutoBindingDataModelDockWidget::PackageMemberValue;
+};
+
+void PageBareForm(benchmark::State &state)
+{
+    for (auto _ : state) {
+        COpenContRx page;
+        page.show();
+    }
+}
+BENCHMARK(PageBareForm)->Unit(benchmark::kMillisecond);
+
+void PageInit(benchmark::State &state)
+{
+    const std::string text = ContRxText();
+    for (auto _ : state) {
+        COpenContRx page;
+        page.show();
+        page.Slot_GetDataModelDone(text);
+    }
+}
+BENCHMARK(PageInit)->Unit(benchmark::kMillisecond);
+
+void PagePackage(benchmark::State &state)
+{
+    COpenContRx page;
+    page.show();
+    page.Slot_GetDataModelDone(ContRxText());
+    for (auto _ : state)
+        benchmark::DoNotOptimize(page.PackageMemberValue());
+}
+BENCHMARK(PagePackage)->Unit(benchmark::kMicrosecond);
+
+// The floor of Package: find the widgets, make the document's text.
+void PageReadWidgets(benchmark::State &state)
+{
+    COpenContRx page;
+    page.show();
+    page.Slot_GetDataModelDone(ContRxText());
+    const QJsonObject document = ModelFromText(page.PackageMemberValue());
+    for (auto _ : state) {
+        const CWidgetIndex index(&page);
+        benchmark::DoNotOptimize(index.BoundWidgets().size());
+        benchmark::DoNotOptimize(ModelToText(document));
+    }
+}
+BENCHMARK(PageReadWidgets)->Unit(benchmark::kMicrosecond);
+
+QJsonObject ColumnDocument()
+{
+    QJsonArray members;
+    QJsonArray values;
+    for (int c = 0; c < kColumns; ++c)
+        values.append(QString::number(c % 70));
+    QJsonObject properties{{"dimentionCount", kColumns}, {"startIndex", 0}, {"indexStep", 1}};
+    for (int r = 0; r < kRows; ++r) {
+        const QString key = QString("row%1").arg(r);
+        members.append(key);
+        properties[key] = QJsonObject{
+            {"caption", key},
+            {"defaultSupport", 1},
+            {"defaultEnableStatus", 1},
+            {"trait", QJsonObject{{"dataType", "pointRange"},
+                                  {"defaultValue", values},
+                                  {"value", QJsonObject{{"min", 0}, {"max", 70}}}}}};
+    }
+    const QJsonObject group{
+        {"groupType", 3}, {"memberList", members}, {"memberProperty", properties}};
+    return {{"cmdIf", QJsonObject{{"response", QJsonObject{{"group1", group}}}}}};
+}
+
+const char kTableName[] = "cmdIf_response_group1_memberProperty_row0";
+
+void ColumnTableInit(benchmark::State &state)
+{
+    const QJsonObject document = ColumnDocument();
+    for (auto _ : state) {
+        CBenchPage page;
+        page.AddTable(kTableName);
+        page.Open(document);
+    }
+}
+BENCHMARK(ColumnTableInit)->Unit(benchmark::kMillisecond);
+
+// The floor of Init: the same widgets in the same table.
+void ColumnTableBareCells(benchmark::State &state)
+{
+    for (auto _ : state) {
+        CBenchPage page;
+        QTableWidget *table = page.AddTable("table");
+        table->setRowCount(kRows);
+        table->setColumnCount(kColumns);
+        for (int r = 0; r < kRows; ++r) {
+            for (int c = 0; c < kColumns; ++c)
+                table->setCellWidget(r, c, new QDoubleSpinBox(table));
+        }
+        page.show();
+    }
+}
+BENCHMARK(ColumnTableBareCells)->Unit(benchmark::kMillisecond);
+
+void ColumnTableUpdate(benchmark::State &state)
+{
+    CBenchPage page;
+    page.AddTable(kTableName);
+    const QJsonObject document = ColumnDocument();
+    page.Open(document);
+    for (auto _ : state)
+        page.UpdateWidget(document);
+}
+BENCHMARK(ColumnTableUpdate)->Unit(benchmark::kMicrosecond);
+
+void ColumnTablePackage(benchmark::State &state)
+{
+    CBenchPage page;
+    page.AddTable(kTableName);
+    page.Open(ColumnDocument());
+    for (auto _ : state)
+        benchmark::DoNotOptimize(page.PackageMemberValue());
+}
+BENCHMARK(ColumnTablePackage)->Unit(benchmark::kMicrosecond);
+
+// The floor of Update and Package: touch every cell's text once.
+void ColumnTableReadCells(benchmark::State &state)
+{
+    CBenchPage page;
+    QTableWidget *table = page.AddTable(kTableName);
+    page.Open(ColumnDocument());
+    for (auto _ : state) {
+        for (int r = 0; r < kRows; ++r) {
+            for (int c = 0; c < kColumns; ++c)
+                benchmark::DoNotOptimize(
+                    static_cast<QDoubleSpinBox *>(table->cellWidget(r, c))->text());
+        }
+    }
+}
+BENCHMARK(ColumnTableReadCells)->Unit(benchmark::kMicrosecond);
+
+}  // namespace

@@ -1,0 +1,112 @@
+#!/usr/bin/env bash
+# The checks that run no code of the project. All run, then the script fails if one has failed.
+# Needs a configured release build (build/release/compile_commands.json) for clang-tidy.
+#
+#   scripts/static-checks.sh                 clang-tidy on what differs from TIDY_BASE
+#   TIDY_BASE=main scripts/static-checks.sh  another base; "all" for every source
+#
+# A file takes clang-tidy about four seconds, nearly all of it in Qt's headers; all of them would take
+# two cores longer than the tests do. So CI looks at what the last commit changed (TIDY_BASE is
+# HEAD~1), without tests and benchmarks; "all" is for a desk, after a change of .clang-tidy.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/setup.sh
+
+most_lines=500
+tidy_base=${TIDY_BASE:-HEAD~1}
+failed=()
+
+# CI may check the tree out as another user than it runs the checks.
+project_git() {
+    git -c safe.directory="$PWD" "$@"
+}
+
+# Tracked and new files, without those that are ignored or deleted.
+project_files() {
+    local file
+    project_git ls-files --cached --others --exclude-standard -- "$@" | while read -r file; do
+        [ ! -f "$file" ] || echo "$file"
+    done
+}
+
+check_format() {
+    clang-format-14 --dry-run --Werror "${sources[@]}"
+}
+
+check_length() {
+    local file lines good=true
+    for file in "${sources[@]}"; do
+        lines=$(wc -l <"$file")
+        if [ "$lines" -ge "$most_lines" ]; then
+            echo "$file has $lines lines; a file is under $most_lines." >&2
+            good=false
+        fi
+    done
+    $good
+}
+
+check_scripts() {
+    if ! command -v shellcheck >/dev/null; then
+        echo "Skipped: shellcheck is not installed."
+        return 0
+    fi
+    shellcheck -x run.sh test.sh .ci/run scripts/*.sh
+}
+
+# Sources that clang-tidy looks at: a changed header stands for the source of its name. Only what
+# the build compiles.
+tidy_sources() {
+    local file
+    if [ "$tidy_base" = all ]; then
+        printf '%s\n' "${sources[@]}"
+    else
+        project_git diff --name-only "$tidy_base" --
+        project_git ls-files --others --exclude-standard
+    fi | sed -n 's/\.\(cpp\|h\)$/.cpp/p' | grep -v '^\(tests\|bench\)/' | sort -u |
+        while read -r file; do
+            ! grep -qF "\"file\": \"$PWD/$file\"" build/release/compile_commands.json ||
+                echo "$PWD/$file"
+        done
+}
+
+# GCC's precompiled headers mean nothing to clang: the commands are copied without them.
+tidy_commands() {
+    sed -E -e 's/ -Winvalid-pch//g' -e 's/ -include [^ "]*cmake_pch\.hxx//g' \
+        build/release/compile_commands.json >"$1/compile_commands.json"
+}
+
+check_tidy() {
+    local folder files=() good=true
+    if ! command -v run-clang-tidy-14 >/dev/null; then
+        echo "Skipped: clang-tidy is not installed."
+        return 0
+    fi
+    if [ "$tidy_base" != all ] && ! project_git rev-parse -q --verify "$tidy_base" >/dev/null; then
+        echo "Skipped: there is no commit $tidy_base to compare with (a shallow clone?)."
+        return 0
+    fi
+    mapfile -t files < <(tidy_sources)
+    echo "${#files[@]} files"
+    [ "${#files[@]}" -gt 0 ] || return 0
+    folder=$(mktemp -d)
+    tidy_commands "$folder"
+    run-clang-tidy-14 -quiet -p "$folder" -j "$(quorlin_jobs)" "${files[@]/%/\$}" \
+        >"$folder/out" 2>&1 || good=false
+    $good || grep -v -e 'warnings\? generated' -e '^clang-tidy-14 ' "$folder/out" >&2
+    rm -r "$folder"
+    $good
+}
+
+mapfile -t sources < <(project_files '*.cpp' '*.h')
+for check in format length scripts tidy; do
+    quorlin_say "Check: $check"
+    if "check_$check"; then
+        echo "Good."
+    else
+        failed+=("$check")
+    fi
+done
+if [ "${#failed[@]}" -gt 0 ]; then
+    quorlin_say "Failed: ${failed[*]}"
+    exit 1
+fi

@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# Builds the tool and runs all tests: the release build and the demonstration, then the same tests
+# with the address and undefined-behaviour sanitizers. On a fresh Debian 12 it first installs what
+# the build needs. Needs no display. Fails at the first thing that fails.
+#
+#   ./test.sh            all of it
+#   ./test.sh --quick    the release build only
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+. scripts/setup.sh
+
+presets=(release asan)
+case "$#:${1:-}" in
+    0:) ;;
+    1:--quick) presets=(release) ;;
+    *)
+        echo "usage: ./test.sh [--quick]" >&2
+        exit 2
+        ;;
+esac
+
+quorlin_need_packages build
+for preset in "${presets[@]}"; do
+    quorlin_build "$preset"
+    quorlin_say "Tests of $preset"
+    ctest --preset "$preset" --parallel "$(quorlin_jobs)"
+    if [ "$preset" = release ]; then
+        quorlin_demo --profile handset
+    fi
+done
+quorlin_say "All tests passed"

@@ -1,0 +1,39 @@
+// The bench host with the real plug-in on the simulated DUT.
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "HostProcess.h"
+
+class HostDeviceTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void DemoRunsContinuousRxOnTheHandset();
+    void DemoRefusesAModemWithoutNr();
+};
+
+void HostDeviceTest::DemoRunsContinuousRxOnTheHandset()
+{
+    QTemporaryDir folder;
+    const QString file = folder.filePath("tool.png");
+    const SHostRun run = RunHost({"--demo", "--profile", "handset", "--screenshot", file});
+    QVERIFY2(run.exitCode == 0, qPrintable(run.out + run.err));
+    QVERIFY2(run.out.contains("The tool says \"Cont Rx start...\"\n"), qPrintable(run.out));
+    QVERIFY2(run.out.contains("The tool says \"Cont Rx stop.\"\n"), qPrintable(run.out));
+    const QImage picture(file, "png");
+    // The form is 1004 by 769 where the style asks for no more.
+    QVERIFY2(picture.width() >= 1004 && picture.height() >= 769,
+             qPrintable(QString("%1 x %2").arg(picture.width()).arg(picture.height())));
+}
+
+void HostDeviceTest::DemoRefusesAModemWithoutNr()
+{
+    const SHostRun run = RunHost({"--demo", "--profile", "c2k"});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.err.contains("It is C2K modem now."), qPrintable(run.err));
+}
+
+QTEST_MAIN(HostDeviceTest)
+#include "HostDeviceTest.moc"
