@@ -24,10 +24,10 @@ struct SValueTable
 };
 
 constexpr SNamedValue kMcs[] = {
-    {"DFT_S_BPSK", NL1TST_MCS_DFT_S_BPSK},   {"CP_QPSK", NL1TST_MCS_CP_QPSK},
-    {"DFT_S_QPSK", NL1TST_MCS_DFT_S_QPSK},   {"CP_16QAM", NL1TST_MCS_CP_16QAM},
-    {"DFT_S_16QAM", NL1TST_MCS_DFT_S_16QAM}, {"CP_64QAM", NL1TST_MCS_CP_64QAM},
-    {"DFT_S_64QAM", NL1TST_MCS_DFT_S_64QAM}, {"CP_256QAM", NL1TST_MCS_CP_256QAM},
+    {"DFT_S_BPSK", NL1TST_MCS_DFT_S_BPSK},     {"CP_QPSK", NL1TST_MCS_CP_QPSK},
+    {"DFT_S_QPSK", NL1TST_MCS_DFT_S_QPSK},     {"CP_16QAM", NL1TST_MCS_CP_16QAM},
+    {"DFT_S_16QAM", NL1TST_MCS_DFT_S_16QAM},   {"CP_64QAM", NL1TST_MCS_CP_64QAM},
+    {"DFT_S_64QAM", NL1TST_MCS_DFT_S_64QAM},   {"CP_256QAM", NL1TST_MCS_CP_256QAM},
     {"DFT_S_256QAM", NL1TST_MCS_DFT_S_256QAM},
 };
 
@@ -77,7 +77,8 @@ uint32_t Find(const SValueTable &table, const QString &text)
 QString LeadingDigits(const QString &text)
 {
     int count = 0;
-    while (count < text.size() && text[count] >= QLatin1Char('0') && text[count] <= QLatin1Char('9'))
+    while (count < text.size() && text[count] >= QLatin1Char('0') &&
+           text[count] <= QLatin1Char('9'))
         ++count;
     return text.left(count);
 }

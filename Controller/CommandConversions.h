@@ -1,8 +1,8 @@
 // Conversions from the texts of a packaged document to the fields of a command record.
 //
-// Every value of a document is a text; each record field fixes one conversion. Nothing fails outward:
-// a text that does not convert gives 0, or the default that the table names, and the tables say so on
-// the critical log. Pure, any thread.
+// Every value of a document is a text; each record field fixes one conversion. Nothing fails
+// outward: a text that does not convert gives 0, or the default that the table names, and the
+// tables say so on the critical log. Pure, any thread.
 //
 //   BandNumber("n78");            // 78
 //   FixedPoint("-10.5", 256.0);   // -2688, dBm in 1/256 dB
@@ -59,12 +59,12 @@ int16_t FixedPoint(const QString &text, double scale);
 
 NL1TST_MCS_E GetMcsMode(const QString &text);
 
-// SCS and RB texts count by the digits that they begin with: "15kHz" and "15" are one SCS, "25 RB" and
-// "25" one RB count.
+// SCS and RB texts count by the digits that they begin with: "15kHz" and "15" are one SCS, "25 RB"
+// and "25" one RB count.
 NL1TST_SCS_E GetScs(const QString &text);
 
-// Channel bandwidth in kHz of an RB count (3GPP TS 38.101-1 table 5.3.2-1, but for the 15 kHz entry of
-// 15 MHz, which users of the tool know as 97; 79 is refused).
+// Channel bandwidth in kHz of an RB count (3GPP TS 38.101-1 table 5.3.2-1, but for the 15 kHz entry
+// of 15 MHz, which users of the tool know as 97; 79 is refused).
 uint32_t Get15KhzRb(const QString &text);
 uint32_t Get30KhzRb(const QString &text);
 uint32_t Get60KhzRb(const QString &text);

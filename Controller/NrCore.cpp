@@ -23,8 +23,8 @@ enum ESupport
 };
 
 const QLatin1String kNoRatInfo("Not Support due to without any this RAT info from SW.");
-const QLatin1String kCheckLink(
-    "Please check the SW load stability or connection status of the target and tool.");
+const QLatin1String
+    kCheckLink("Please check the SW load stability or connection status of the target and tool.");
 
 }  // namespace
 
@@ -78,8 +78,7 @@ SRfSupportStatus CNrCore::DecideSupportStatus()
     // The advice of an earlier answer stays: only a status of 3 words one.
     const auto answer = [this](ESupport status, const char *message) {
         return SRfSupportStatus{status, QLatin1String(message),
-                                status == eUnknown ? QString(kCheckLink)
-                                                   : m_supportStatus.advice};
+                                status == eUnknown ? QString(kCheckLink) : m_supportStatus.advice};
     };
 
     if (IsC2kModem())
@@ -93,8 +92,7 @@ SRfSupportStatus CNrCore::DecideSupportStatus()
     if (!m_target.IsRatInfoValid())
         return answer(eNotSupported, kNoRatInfo.data());
     if ((m_target.GetRatMask() & kRatMaskNr) == 0)
-        return answer(eNotSupported,
-                      "Not support this RAT from SW multi-RAT world mode ID info.");
+        return answer(eNotSupported, "Not support this RAT from SW multi-RAT world mode ID info.");
     if (!m_target.GetNrSupportFlags().succeeded)
         return answer(eUnknown, "Support this RAT but it failed to get its capability info.");
     const SVondSupportFlags routes = m_target.GetNrRouteSupportFlags();

@@ -1,15 +1,15 @@
 // The core: the one object that knows the target.
 //
-// A process-wide singleton, created on first use from the GUI thread and reached through GetCore(); it
-// lives until the process ends. It decides whether the tool runs on this DUT, supplies each page's
-// document, and turns a page's document into a command, a target call and a result.
+// A process-wide singleton, created on first use from the GUI thread and reached through GetCore();
+// it lives until the process ends. It decides whether the tool runs on this DUT, supplies each
+// page's document, and turns a page's document into a command, a target call and a result.
 //
 // Threads. Everything that reaches the target blocks, so it is called on pool threads, with the one
 // exception of GetSupportStatus, which the host asks for before the tool is shown. Each job takes
-// m_targetLock for its whole run, the emission of its answer included: the target sees one call at a
-// time, the capability caches one reader, and a job that was started before a reset has answered
-// before any later job runs. ResetTargetCache never waits: it leaves a mark that the next job obeys.
-// Signals are emitted on pool threads.
+// m_targetLock for its whole run, the emission of its answer included: the target sees one call at
+// a time, the capability caches one reader, and a job that was started before a reset has answered
+// before any later job runs. ResetTargetCache never waits: it leaves a mark that the next job
+// obeys. Signals are emitted on pool threads.
 //
 //   QObject::connect(&GetCore(), &CNrCore::Signal_TestDone, page, &Page::Slot_Done);
 //   GetCore().Test(GetCore().GetPageName(2), document);
@@ -30,7 +30,8 @@ class CNrCore : public IRfCoreCalDataOperation, public IRfTest
     Q_OBJECT
 
 public:
-    // The host's target handle, for all calls to the target from now on. Creates no core. Any thread.
+    // The host's target handle, for all calls to the target from now on. Creates no core. Any
+    // thread.
     static void SetTargetHandle(uint32_t handle);
 
     void GetAllCalItem(QStringList &out) override;
@@ -50,8 +51,8 @@ public:
     QString GetCalItemName(int itemId) const;
 
 signals:
-    // status 0 means started: a continuous test goes on until a stop. resultModel is the document with
-    // results, of the pages that answer with one.
+    // status 0 means started: a continuous test goes on until a stop. resultModel is the document
+    // with results, of the pages that answer with one.
     void Signal_TestDone(SEachItemOperationResult itemResult, std::string resultModel);
     void Signal_TestStopDone(SEachItemOperationResult itemResult);
 

@@ -73,8 +73,8 @@ SMMContRxCmdV7 CNrCoreCmdBuilder::GetContRxCmdV7(QJsonObject document) const
 
     SMMContRxCmdV7 command = {};
     command.rxRoute = values.Number<uint16_t>("rxRoute");
-    command.routeKind = m_target.GetType2RouteGainFlag(command.rxRoute) != 0 ? kRouteKindGainMode
-                                                                             : kRouteKindPlain;
+    command.routeKind =
+        m_target.GetType2RouteGainFlag(command.rxRoute) != 0 ? kRouteKindGainMode : kRouteKindPlain;
     command.lowPower = values.Text("powerMode").contains(QLatin1String("HPM")) ? 0 : 1;
     command.dlBandwidth = BandwidthKhzOfMhzText(values.Text("dlBw"));
     command.band = BandNumber(values.Text("band"));

@@ -2,8 +2,8 @@
 //
 // A builder reads only memberValue objects, at fixed paths, takes the document by value and returns
 // the record by value, zeroed where the document says nothing. It holds no state and never fails
-// outward: a missing key reads as an empty text, and so as 0 or an enumeration's default. It asks the
-// cached route table for one field, so it runs under the core's lock.
+// outward: a missing key reads as an empty text, and so as 0 or an enumeration's default. It asks
+// the cached route table for one field, so it runs under the core's lock.
 //
 //   const SMMContRxCmdV7 command = builder.GetContRxCmdV7(document);
 #pragma once

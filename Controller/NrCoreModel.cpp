@@ -57,8 +57,8 @@ std::string CNrCore::LoadDataModel(const QString &pageName, const QString &resou
     QFile file(resource);
     QJsonObject document;
     if (!ReadDataModel(file, document))
-        m_errorMessage = QLatin1String("CNrCore::GetDataModel: cannon get the data Model->")
-                         + pageName;
+        m_errorMessage =
+            QLatin1String("CNrCore::GetDataModel: cannon get the data Model->") + pageName;
     qCDebug(lcCore) << "[CNrCore] GetDataModelV7()Done --" << document;
     return ModelToText(document);
 }

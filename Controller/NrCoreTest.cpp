@@ -62,9 +62,8 @@ int CNrCore::RunContRxTest(const QJsonObject &document)
 
 void CNrCore::Stop()
 {
-    emit Signal_TestStopDone(
-        {QString(), eStatusNotExecuted,
-         QStringLiteral("Quorlin RF tool should call the new stop function")});
+    emit Signal_TestStopDone({QString(), eStatusNotExecuted,
+                              QStringLiteral("Quorlin RF tool should call the new stop function")});
 }
 
 void CNrCore::TestStopStart(bool isNr)

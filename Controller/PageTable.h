@@ -4,7 +4,7 @@
 // data, any thread.
 //
 //   PageName(EPageId::ContRx);        // "Continuous RX"
-//   FindPage(EPageId::ContRx)->resource;   // ":/NrContRxV7.json"
+//   FindPage(EPageId::ContRx).resource;   // ":/NrContRxV7.json"
 #pragma once
 
 #include <QMap>

@@ -156,6 +156,7 @@ int FindStringInJsonArray(const QJsonArray &array, const QString &text)
 
 QString AbsoluteModelPath(const QString &relativePath, bool isCmdIf)
 {
-    return QStringLiteral("%1.").arg(isCmdIf ? QLatin1String("cmdIf") : QLatin1String("calDataIf"))
-           + relativePath;
+    return QStringLiteral("%1.").arg(isCmdIf ? QLatin1String("cmdIf")
+                                             : QLatin1String("calDataIf")) +
+           relativePath;
 }

@@ -5,10 +5,10 @@
 // value that is Undefined or Null counts as missing everywhere in this system; a path through
 // something that is no object finds nothing behind it.
 //
-// Reads give copies (Qt's JSON is implicitly shared, so a copy is cheap). Writes rebuild the objects
-// along the path and either succeed whole or leave the document as it was. Failures are a bool or a
-// missing value, and a line on the debug log; nothing throws. All functions work on objects that
-// the caller owns, on any thread.
+// Reads give copies (Qt's JSON is implicitly shared, so a copy is cheap). Writes rebuild the
+// objects along the path and either succeed whole or leave the document as it was. Failures are a
+// bool or a missing value, and a line on the debug log; nothing throws. All functions work on
+// objects that the caller owns, on any thread.
 //
 //   if (HasJsonValue(document, "modelIntegrity")) ...
 //   ModifyJsonValue(document, "cmdIf.response.group1.memberProperty.pdValue.trait.defaultValue",
@@ -34,7 +34,8 @@ bool HasJsonValue(const QJsonObject &object, const QString &path);
 // Replaces the value at the path, which must exist and not be Null. Callers pass depth 0; with it a
 // failure also logs the whole path.
 bool ModifyJsonValue(QJsonObject &object, const QString &path, const QJsonValue &value, int depth);
-// Gives the object at the path the key, holding a new object of subKey alone: what key held is gone.
+// Gives the object at the path the key, holding a new object of subKey alone: what key held is
+// gone.
 bool InsertJsonObject(QJsonObject &object, const QString &path, const QString &key,
                       const QString &subKey, const QJsonValue &value);
 // Removes key from the object at parentPath.

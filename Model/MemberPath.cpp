@@ -15,8 +15,8 @@ QString PathFromObjectName(const QString &objectName)
 
 bool IsBoundName(const QString &objectName)
 {
-    return objectName.contains(QLatin1String("cmdIf_"))
-           || objectName.contains(QLatin1String("calDataIf_"));
+    return objectName.contains(QLatin1String("cmdIf_")) ||
+           objectName.contains(QLatin1String("calDataIf_"));
 }
 
 bool IsCaptionName(const QString &objectName)
@@ -26,8 +26,8 @@ bool IsCaptionName(const QString &objectName)
 
 bool IsResultName(const QString &objectName)
 {
-    return objectName.contains(QLatin1String("cmdIf_response_"))
-           || objectName.contains(QLatin1String("calDataIf_data_"));
+    return objectName.contains(QLatin1String("cmdIf_response_")) ||
+           objectName.contains(QLatin1String("calDataIf_data_"));
 }
 
 QString GroupPrefix(const QString &memberPath)

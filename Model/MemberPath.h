@@ -1,10 +1,11 @@
 // Names of widgets and paths of members.
 //
-// A widget is tied to the document by its objectName alone. "cmdIf_request_group1_memberProperty_band"
-// is the path "cmdIf.request.group1.memberProperty.band": every "_" stands for a point, so no section,
-// group or member key may hold either. The same name with "_caption" behind it names the member's
-// caption. All functions are pure text work, on any thread; a path without "memberProperty" has an
-// empty group.
+// A widget is tied to the document by its objectName alone.
+// "cmdIf_request_group1_memberProperty_band" is the path
+// "cmdIf.request.group1.memberProperty.band": every "_" stands for a point, so no section, group or
+// member key may hold either. The same name with "_caption" behind it names the member's caption.
+// All functions are pure text work, on any thread; a path without "memberProperty" has an empty
+// group.
 //
 //   const QString path = PathFromObjectName(widget->objectName());
 //   GroupPrefix(path);            // "cmdIf.request.group1."

@@ -1,5 +1,5 @@
-// Log category of the document helpers. They serve the binding engine first, so they share its name:
-// turning "quorlin.engine" off silences both.
+// Log category of the document helpers. They serve the binding engine first, so they share its
+// name: turning "quorlin.engine" off silences both.
 #pragma once
 
 #include <QLoggingCategory>

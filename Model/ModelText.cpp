@@ -4,8 +4,7 @@
 
 QJsonObject ModelFromText(const std::string &text)
 {
-    const QByteArray bytes =
-        QByteArray::fromRawData(text.data(), static_cast<int>(text.size()));
+    const QByteArray bytes = QByteArray::fromRawData(text.data(), static_cast<int>(text.size()));
     return QJsonDocument::fromJson(bytes).object();
 }
 

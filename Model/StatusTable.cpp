@@ -15,8 +15,7 @@ struct SRow
 
 constexpr char kCheckLoad[] = "Please check the SW load stability or connection status.";
 constexpr char kRecheckLoad[] = "Please recheck SW load stability or connection status.";
-constexpr char kSelectFile[] =
-    "Please select the file that includes the data you want to operate.";
+constexpr char kSelectFile[] = "Please select the file that includes the data you want to operate.";
 
 constexpr SRow kRows[] = {
     {0, eStatusNote, "Operation is successful.", ""},

@@ -19,9 +19,9 @@ enum EStatusLevel
 enum EStatusCode
 {
     eStatusSuccess = 0,
-    eStatusNotExecuted = 2,    // nothing ran
-    eStatusVondFailed = 3,     // the closed library failed
-    eStatusTargetFailed = 203, // the target answered with a failure status
+    eStatusNotExecuted = 2,     // nothing ran
+    eStatusVondFailed = 3,      // the closed library failed
+    eStatusTargetFailed = 203,  // the target answered with a failure status
 };
 
 struct SStatusRow

@@ -15,14 +15,14 @@ constexpr uint32_t kRatMaskNr = 0x40;
 
 bool IsOffered(const char *function)
 {
-    return VOND_QueryFunctionSupported_r(TargetHandle(), kTargetTimeoutMs, function)
-           == VOND_SUCCESS;
+    return VOND_QueryFunctionSupported_r(TargetHandle(), kTargetTimeoutMs, function) ==
+           VOND_SUCCESS;
 }
 
 bool Succeeded(const char *what, VOND_RESULT result)
 {
     if (result != VOND_SUCCESS)
-        qCDebug(lcTarget) << what << "failed:" << result << VondErrorText(result);
+        qCDebug(lcTarget) << what << "failed:" << result;
     return result == VOND_SUCCESS;
 }
 
@@ -72,9 +72,9 @@ void CutCounts(SNrRouteDetail &detail)
 bool ReadRouteConfig(ERadioKind kind, SMMRfRouteConfigV7 &config)
 {
     const uint32_t radioKind = static_cast<uint32_t>(kind);
-    if (!Succeeded("VOND_MMRf_GetRouteConfigV7_r",
-                   VOND_MMRf_GetRouteConfigV7_r(TargetHandle(), kTargetTimeoutMs, &radioKind,
-                                                &config)))
+    if (!Succeeded(
+            "VOND_MMRf_GetRouteConfigV7_r",
+            VOND_MMRf_GetRouteConfigV7_r(TargetHandle(), kTargetTimeoutMs, &radioKind, &config)))
         return false;
     CutCounts(config);
     return true;
@@ -84,11 +84,11 @@ using CapabilityFunction = VOND_RESULT (*)(uint32_t, uint32_t, const void *, uin
                                            uint32_t);
 
 template <typename Record>
-bool ReadCapability(const char *name, CapabilityFunction function,
-                    const SVondCapabilityReq &sizes, Record &record)
+bool ReadCapability(const char *name, CapabilityFunction function, const SVondCapabilityReq &sizes,
+                    Record &record)
 {
-    return Succeeded(name, function(TargetHandle(), kTargetTimeoutMs, &sizes, sizeof sizes,
-                                    &record, sizeof record));
+    return Succeeded(name, function(TargetHandle(), kTargetTimeoutMs, &sizes, sizeof sizes, &record,
+                                    sizeof record));
 }
 
 constexpr auto kNoGate = [] { return true; };
@@ -119,8 +119,8 @@ bool CapabilityCache::ReadLteCapability()
     return ReadOnce(
         lteCapability, [] { return IsOffered("VOND_ERf_GetRfCapability_r"); },
         [](SERfCapability &record) {
-            if (!ReadCapability("VOND_ERf_GetRfCapability_r", VOND_ERf_GetRfCapability_r,
-                                kLteSizes, record))
+            if (!ReadCapability("VOND_ERf_GetRfCapability_r", VOND_ERf_GetRfCapability_r, kLteSizes,
+                                record))
                 return false;
             if (record.rfChipId == 0)
                 record.rfChipId = 1;
@@ -186,15 +186,14 @@ bool CapabilityCache::ReadNrDetail()
     SNrRouteDetail &record = nrDetail.record;
     const uint32_t handle = TargetHandle();
     if (!Succeeded("VOND_NRf_GetBandRxInfo_r",
-                   VOND_NRf_GetBandRxInfo_r(handle, kTargetTimeoutMs, &record.bandRxInfo))
-        || !Succeeded("VOND_NRf_GetRxRouteValues_r",
-                      VOND_NRf_GetRxRouteValues_r(handle, kTargetTimeoutMs,
-                                                  &record.rxRouteValues)))
+                   VOND_NRf_GetBandRxInfo_r(handle, kTargetTimeoutMs, &record.bandRxInfo)) ||
+        !Succeeded("VOND_NRf_GetRxRouteValues_r",
+                   VOND_NRf_GetRxRouteValues_r(handle, kTargetTimeoutMs, &record.rxRouteValues)))
         return false;
     const SMMRfRouteDetailReqV7 request = BuildRouteDetailRequest(nrRoutes.record.routes);
-    if (!Succeeded("VOND_MMRf_GetRouteDetailV7_r",
-                   VOND_MMRf_GetRouteDetailV7_r(handle, kTargetTimeoutMs, &request,
-                                                &record.hardware)))
+    if (!Succeeded(
+            "VOND_MMRf_GetRouteDetailV7_r",
+            VOND_MMRf_GetRouteDetailV7_r(handle, kTargetTimeoutMs, &request, &record.hardware)))
         return false;
     CutCounts(record);
     nrDetail.flags.succeeded = true;

@@ -24,8 +24,8 @@ uint32_t IGeneralOperation::Finish(uint32_t status, int32_t result)
 {
     if (status == 0)
         return Finish(result);
-    m_errorMessage = QLatin1String("Status error code (") + QString::number(status)
-                     + QLatin1String(") :") + VondStatusText(status);
+    m_errorMessage = QLatin1String("Status error code (") + QString::number(status) +
+                     QLatin1String(") :") + VondStatusText(status);
     qCDebug(lcTarget) << "operation failed, status" << status;
     return kTargetFailed;
 }

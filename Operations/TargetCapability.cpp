@@ -139,8 +139,9 @@ uint8_t CTargetCapability::GetType2RouteGainFlag(uint16_t route) const
     if (!table)
         return 0;
     const auto *end = table->rxType2Route + table->rxType2RouteCount;
-    const auto *row = std::find_if(
-        table->rxType2Route, end, [route](const SMMRfRxType2RouteV7 &r) { return r.route == route; });
+    const auto *row = std::find_if(table->rxType2Route, end, [route](const SMMRfRxType2RouteV7 &r) {
+        return r.route == route;
+    });
     return row == end ? 0 : row->gainModeFlag;
 }
 

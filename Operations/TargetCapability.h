@@ -23,7 +23,8 @@ public:
     uint32_t GetRfChipIdLte() const;
     uint32_t GetRfChipIdNr() const;
 
-    // Multi-RAT world mode: is the information there, and which RATs (0x40 is NR). 0 when it is not.
+    // Multi-RAT world mode: is the information there, and which RATs (0x40 is NR). 0 when it is
+    // not.
     bool IsRatInfoValid() const;
     uint32_t GetRatMask() const;
 
@@ -48,12 +49,12 @@ public:
     // was readable.
     bool GetFreqRangeBlock(SRouteFreqRangeV7 &range) const;
 
-    // Bands of a direction in the DUT's order. True with an empty list on a generation other than 1;
-    // false when a read failed.
+    // Bands of a direction in the DUT's order. True with an empty list on a generation other than
+    // 1; false when a read failed.
     bool GetBandList(EBandDirection direction, std::vector<SBandCapEntry> &bands) const;
 
     // Routes in table order, RX type 1 before type 2. With hardware the detail read is made and
-    // copied. False when a read failed; the list is empty unless the route table was read.
+    // copied. False, with an empty list, when a read failed.
     bool GetTxCommonPathV7(std::vector<STxRouteInfoV7> &routes, bool withHardware) const;
     bool GetRxCommonPathV7(std::vector<SRxRouteInfoV7> &routes, bool withHardware) const;
 

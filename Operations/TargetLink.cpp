@@ -35,8 +35,8 @@ int ReadModemServiceType()
 {
     int32_t index = 0;
     int32_t service = 0;
-    if (VondConn_GetMdActiveIdx(TargetHandle(), &index) != VOND_SUCCESS
-        || VondConn_GetMdSrv(TargetHandle(), index, &service) != VOND_SUCCESS) {
+    if (VondConn_GetMdActiveIdx(TargetHandle(), &index) != VOND_SUCCESS ||
+        VondConn_GetMdSrv(TargetHandle(), index, &service) != VOND_SUCCESS) {
         qCDebug(lcTarget) << "modem service type unknown, index" << index;
         return 0;
     }

@@ -1,5 +1,5 @@
-// The link to the device under test: its handle, the timeout, the modem behind it, and words for what
-// it answers.
+// The link to the device under test: its handle, the timeout, the modem behind it, and words for
+// what it answers.
 //
 // The handle is one process-wide value that the host supplies; 0 stands until it does. Setting and
 // reading it is safe on any thread. ReadModemServiceType blocks the calling thread on the link.

@@ -1,4 +1,5 @@
-// The two stops: of the NR tests (PUSCH, RSRP) and of the multi-RAT ones (single tone, continuous RX).
+// The two stops: of the NR tests (PUSCH, RSRP) and of the multi-RAT ones (single tone, continuous
+// RX).
 //
 // Contract of codes, text and thread: IGeneralOperation.
 //

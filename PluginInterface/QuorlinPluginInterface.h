@@ -1,5 +1,5 @@
-// The object that the host holds: it owns the tool window, forwards every request of the host to it,
-// and relays the window's two state signals with the plug-in's name added.
+// The object that the host holds: it owns the tool window, forwards every request of the host to
+// it, and relays the window's two state signals with the plug-in's name added.
 //
 // Contract of the operations: VondPluginInterface. GUI thread only. The object and its form may be
 // destroyed at any time, also while a target operation runs: the operation ends by itself and its

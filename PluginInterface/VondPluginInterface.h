@@ -3,11 +3,14 @@
 // A host loads the library through QPluginLoader, casts the root object to VondPluginInterface with
 // qobject_cast, and connects to two signals of the root object:
 //     Signal_PluginIsActivated(QString pluginName, bool isActivated)   its window shows or hides
-//     Signal_PluginIsBusy(QString pluginName, bool isBusy)             a target operation runs or ended
-// All calls are made on the GUI thread. The order of the virtual operations is part of the contract.
+//     Signal_PluginIsBusy(QString pluginName, bool isBusy)             a target operation runs or
+//     ended
+// All calls are made on the GUI thread. The order of the virtual operations is part of the
+// contract.
 //
 // The host supplies the target handle as the dynamic property "vondTargetHandle" (unsigned) of the
-// QCoreApplication; the plug-in takes it at every call of the interface, and 0 stands until it is set.
+// QCoreApplication; the plug-in takes it at every call of the interface, and 0 stands until it is
+// set.
 //
 //   QPluginLoader loader("plugins/libQuorlinRf.so");
 //   auto *tool = qobject_cast<VondPluginInterface *>(loader.instance());
@@ -41,7 +44,8 @@ public:
     virtual void HostNotify(uint32_t) {}
 
     virtual QString GetPluginName() = 0;
-    // Forgets all that is known of the target and destroys all pages; the next show builds them anew.
+    // Forgets all that is known of the target and destroys all pages; the next show builds them
+    // anew.
     virtual void ResetPlugin() = 0;
     virtual void ShowPlugin() = 0;
     virtual void HidePlugin() = 0;

@@ -1,12 +1,12 @@
 // The only door from the GUI to the core.
 //
-// Calls into the core can block for seconds on the target link, so a request returns at once, runs on
-// the global pool, and is answered by a signal on the GUI thread. Each page owns one view controller,
-// the form one more; all share the one core. Make one request at a time.
+// Calls into the core can block for seconds on the target link, so a request returns at once, runs
+// on the global pool, and is answered by a signal on the GUI thread. Each page owns one view
+// controller, the form one more; all share the one core. Make one request at a time.
 //
-// Lifetime. A view controller may be destroyed while its request runs: the job owns copies of all it
-// needs and reaches this object only through a guarded call on the GUI thread, so it ends without
-// touching what is gone, and its answer is dropped.
+// Lifetime. A view controller may be destroyed while its request runs: the job owns copies of all
+// it needs and reaches this object only through a guarded call on the GUI thread, so it ends
+// without touching what is gone, and its answer is dropped.
 //
 //   connect(ctrl, &CQuorlinViewCtrl::Signal_ContRxTestDone, this, &Page::Slot_ContRxTestDone);
 //   ctrl->ContRxTest(document);

@@ -17,8 +17,14 @@ constexpr int VOND_MAX_DETAIL_ROUTES = 1181;  // rows of a hardware detail table
 constexpr int VOND_RX_POWER_MODES = 2;        // 0 high power mode (HPM), 1 low power mode (LPM)
 
 // An item word: a value that may be absent.
-constexpr bool VondItemValid(uint32_t word) { return (word & 1u) != 0; }
-constexpr uint32_t VondItemValue(uint32_t word) { return word >> 2; }
+constexpr bool VondItemValid(uint32_t word)
+{
+    return (word & 1u) != 0;
+}
+constexpr uint32_t VondItemValue(uint32_t word)
+{
+    return word >> 2;
+}
 
 // Request of the three capability reads: the sizes of the two parts that the caller expects.
 struct SVondCapabilityReq
@@ -195,9 +201,9 @@ VOND_OFFSET(SMMRfRouteConfigV7, rxGainInfo, 4256);
 struct SNRfBandRxInfo
 {
     uint16_t count;
-    uint16_t band[VOND_MAX_BANDS];    // NR band number
-    uint8_t ulMimo[VOND_MAX_BANDS];   // 1: UL MIMO
-    uint8_t rx4x4[VOND_MAX_BANDS];    // 1: 4x4 RX
+    uint16_t band[VOND_MAX_BANDS];   // NR band number
+    uint8_t ulMimo[VOND_MAX_BANDS];  // 1: UL MIMO
+    uint8_t rx4x4[VOND_MAX_BANDS];   // 1: 4x4 RX
 };
 VOND_SIZE(SNRfBandRxInfo, 102);
 VOND_OFFSET(SNRfBandRxInfo, count, 0);
@@ -207,8 +213,8 @@ VOND_OFFSET(SNRfBandRxInfo, rx4x4, 77);
 
 struct SNRfRxRouteValueEntry
 {
-    uint16_t route;       // RX route number
-    uint16_t valueCount;  // TX routes in use
+    uint16_t route;                         // RX route number
+    uint16_t valueCount;                    // TX routes in use
     uint16_t value[VOND_MAX_ROUTE_VALUES];  // TX route numbers that can pair with the RX route
 };
 VOND_SIZE(SNRfRxRouteValueEntry, 204);
@@ -280,7 +286,7 @@ struct SRxRouteHw
             uint8_t srx[2];         // SRX number of path 0 and of path 1
             uint8_t mimoPairCount;  // rows of mimoPair in use
             uint8_t reserved;
-            uint16_t mimoPair[5];   // RX route numbers
+            uint16_t mimoPair[5];  // RX route numbers
         } type2;
     };
 };
@@ -314,7 +320,8 @@ VOND_OFFSET(STxBwRegionHw, stx, 22);
 VOND_OFFSET(STxBwRegionHw, mimoPairCount, 23);
 VOND_OFFSET(STxBwRegionHw, mimoPair, 24);
 
-// Answer of VOND_MMRf_GetRouteDetailV7_r, a hardware block for each row of the request, in its order.
+// Answer of VOND_MMRf_GetRouteDetailV7_r, a hardware block for each row of the request, in its
+// order.
 struct SMMRfRouteDetailCnfV7
 {
     uint8_t reserved0[18376];

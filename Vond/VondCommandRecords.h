@@ -11,19 +11,19 @@
 // One carrier of a PUSCH test.
 struct SNrPuschCcV7
 {
-    uint16_t band;           // NR band number
-    uint8_t tddSlotConfig;   // slot format index
+    uint16_t band;          // NR band number
+    uint8_t tddSlotConfig;  // slot format index
     uint8_t reserved3;
-    uint32_t ulFrequency;    // kHz
-    uint8_t sulFreqShift;    // 1: shift the raster by 7.5 kHz
+    uint32_t ulFrequency;  // kHz
+    uint8_t sulFreqShift;  // 1: shift the raster by 7.5 kHz
     uint8_t reserved9;
     uint16_t cellId;
-    uint32_t ulBandwidth;    // kHz
-    uint16_t vrbStart;       // first RB
-    uint16_t vrbLength;      // RBs
-    uint32_t txScs;          // 0: 15 kHz, 1: 30 kHz, 2: 60 kHz
-    uint32_t mcsMode;        // waveform and modulation
-    int16_t txPowerValue;    // dBm, 1/256 dB
+    uint32_t ulBandwidth;  // kHz
+    uint16_t vrbStart;     // first RB
+    uint16_t vrbLength;    // RBs
+    uint32_t txScs;        // 0: 15 kHz, 1: 30 kHz, 2: 60 kHz
+    uint32_t mcsMode;      // waveform and modulation
+    int16_t txPowerValue;  // dBm, 1/256 dB
     uint8_t reserved30[2];
     uint32_t networkSelection;  // network signalling value
     uint8_t txCloseLoopDisble;  // 1: no closed loop power control
@@ -116,15 +116,15 @@ VOND_OFFSET(SNrDlFreqCmdV7, txRoute, 10);
 // Command of VOND_MMRf_SingleToneTxV7_r.
 struct SMMSingleToneCmdV7
 {
-    uint32_t radioKind;     // 1: NR
-    uint16_t band;          // NR band number
-    uint16_t txRoute;       // route number
-    uint16_t afcdac;        // AFC DAC code
-    int16_t txPowerValue;   // dBm, 1/256 dB
-    uint32_t ulFrequency;   // kHz
-    uint32_t aggBwKhzRange; // upper bound of the bandwidth region, kHz
-    int32_t ulFreqOffset;   // tone offset from the carrier, kHz
-    uint32_t afcDataType;   // 1: afcdac applies
+    uint32_t radioKind;      // 1: NR
+    uint16_t band;           // NR band number
+    uint16_t txRoute;        // route number
+    uint16_t afcdac;         // AFC DAC code
+    int16_t txPowerValue;    // dBm, 1/256 dB
+    uint32_t ulFrequency;    // kHz
+    uint32_t aggBwKhzRange;  // upper bound of the bandwidth region, kHz
+    int32_t ulFreqOffset;    // tone offset from the carrier, kHz
+    uint32_t afcDataType;    // 1: afcdac applies
 };
 VOND_SIZE(SMMSingleToneCmdV7, 28);
 VOND_OFFSET(SMMSingleToneCmdV7, radioKind, 0);
@@ -147,13 +147,13 @@ struct SNrRsrpCommonV7
     uint16_t band;          // NR band number
     uint8_t tddSlotConfig;  // slot format index
     uint8_t reserved15;
-    uint32_t dlBandwidth;   // kHz
-    uint8_t trxMode;        // 1: pseudo TX/RX, 0: RX only
+    uint32_t dlBandwidth;  // kHz
+    uint8_t trxMode;       // 1: pseudo TX/RX, 0: RX only
     uint8_t reserved21;
-    int16_t txPowerValue;   // dBm, 1/256 dB; pseudo mode only
-    uint16_t vrbStart;      // first RB; pseudo mode only
-    uint16_t vrbLength;     // RBs; pseudo mode only
-    uint32_t mcsMode;       // waveform and modulation; pseudo mode only
+    int16_t txPowerValue;  // dBm, 1/256 dB; pseudo mode only
+    uint16_t vrbStart;     // first RB; pseudo mode only
+    uint16_t vrbLength;    // RBs; pseudo mode only
+    uint32_t mcsMode;      // waveform and modulation; pseudo mode only
 };
 VOND_SIZE(SNrRsrpCommonV7, 32);
 VOND_OFFSET(SNrRsrpCommonV7, measCnt, 0);
@@ -305,7 +305,7 @@ struct SMMGainSearchCmdV7
     uint32_t simultaneous;  // 1: both paths
     uint8_t elnaModeMain;   // G of the main antenna
     uint8_t elnaModeDiv;    // G of the diversity antenna
-    uint8_t search[4];      // g: single path main, div; simultaneous path 0 main, div, path 1 main, div
+    uint8_t search[4];  // g: single path main, div; simultaneous path 0 main, div, path 1 main, div
     uint8_t reserved18[2];
 };
 VOND_SIZE(SMMGainSearchCmdV7, 20);

@@ -9,8 +9,9 @@ namespace {
 QJsonObject PackagedDocument()
 {
     QJsonObject values{
-        {"band", "n1"},          {"rxRoute", "1"},       {"dlBw", "5M"},
-        {"dlFrequency", "1950000"}, {"powerMode", "HPM"}, {"calType", "Simultaneously"},
+        {"band", "n1"},       {"rxRoute", "1"},
+        {"dlBw", "5M"},       {"dlFrequency", "1950000"},
+        {"powerMode", "HPM"}, {"calType", "Simultaneously"},
     };
     for (const char *path : {"path0", "path1"}) {
         for (const char *antenna : {"Main", "Div"}) {

@@ -84,13 +84,13 @@ QJsonObject ColumnDocument()
     for (int r = 0; r < kRows; ++r) {
         const QString key = QString("row%1").arg(r);
         members.append(key);
-        properties[key] = QJsonObject{
-            {"caption", key},
-            {"defaultSupport", 1},
-            {"defaultEnableStatus", 1},
-            {"trait", QJsonObject{{"dataType", "pointRange"},
-                                  {"defaultValue", values},
-                                  {"value", QJsonObject{{"min", 0}, {"max", 70}}}}}};
+        properties[key] =
+            QJsonObject{{"caption", key},
+                        {"defaultSupport", 1},
+                        {"defaultEnableStatus", 1},
+                        {"trait", QJsonObject{{"dataType", "pointRange"},
+                                              {"defaultValue", values},
+                                              {"value", QJsonObject{{"min", 0}, {"max", 70}}}}}};
     }
     const QJsonObject group{
         {"groupType", 3}, {"memberList", members}, {"memberProperty", properties}};

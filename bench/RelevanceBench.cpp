@@ -25,8 +25,8 @@ QJsonObject Member(const QJsonObject &trait, const QJsonObject &relations)
     return member;
 }
 
-// band -> list0 -> range0, list1 -> range1, ...: each list has its own entry a band, each range one a
-// list text. ballast entries pad the tables.
+// band -> list0 -> range0, list1 -> range1, ...: each list has its own entry a band, each range one
+// a list text. ballast entries pad the tables.
 QJsonObject Document(int ballast)
 {
     QJsonArray bands{"n1", "n3"};

@@ -116,7 +116,11 @@ void AppendItems(benchmark::State &state)
         Settle(page);
     }
 }
-BENCHMARK(AppendItems)->Arg(0)->Arg(1000)->Arg(10000)->Iterations(25)->Unit(
-    benchmark::kMillisecond);
+BENCHMARK(AppendItems)
+    ->Arg(0)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Iterations(25)
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -1,4 +1,4 @@
-# Build functions of the project: one for a module, one for a page, one for a test.
+# Build functions of the project: one each for a module, a page, a test and a benchmark.
 #
 #   quorlin_module(NAME Model SOURCES JsonPath.cpp JsonPath.h DEPENDS Qt5::Core)
 #   quorlin_page(NAME NrContRxDockWidgetV7)              # its .h, .cpp and .ui, into the folder's module
@@ -93,4 +93,14 @@ function(quorlin_test)
   add_test(NAME ${T_NAME} COMMAND ${T_NAME} WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
   set_tests_properties(${T_NAME} PROPERTIES LABELS ${T_LABELS} TIMEOUT ${timeout_${T_LABELS}}
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=quorlin.*.debug=false;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;ASAN_OPTIONS=detect_odr_violation=0")
+endfunction()
+
+# A benchmark program, run by hand (bench/README.md); never a test, since its numbers depend on the
+# machine.
+function(quorlin_bench)
+  cmake_parse_arguments(B "" "NAME" "SOURCES;DEPENDS" ${ARGN})
+  add_executable(${B_NAME} ${B_SOURCES})
+  target_include_directories(${B_NAME} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${B_NAME} PRIVATE ${B_DEPENDS} benchmark::benchmark)
+  quorlin_precompile(${B_NAME} program)
 endfunction()

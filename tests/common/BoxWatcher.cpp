@@ -12,7 +12,8 @@ CBoxWatcher::CBoxWatcher()
 
 void CBoxWatcher::Look()
 {
-    const QPointer<QMessageBox> box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    const QPointer<QMessageBox> box =
+        qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
     if (!box)
         return;
     m_seen.append({box->windowTitle(), box->text(), box->informativeText(), box->icon()});

@@ -1,7 +1,7 @@
 // Answers modal message boxes as a person would: reads each box that opens and presses its button.
 //
-// Looks at every turn of the event loop while it lives, so it also works while a box's own loop runs.
-// onBox, if set, is called with the box still open, and may do anything but wait.
+// Looks at every turn of the event loop while it lives, so it also works while a box's own loop
+// runs. onBox, if set, is called with the box still open, and may do anything but wait.
 //
 //   CBoxWatcher boxes;
 //   ... press Start ...

@@ -30,7 +30,8 @@ CPluginSession::CPluginSession(const QString &profile, uint32_t handle)
         qFatal("%s", qPrintable(m_loader.errorString()));
     connect(Object(), SIGNAL(Signal_PluginIsActivated(QString, bool)), this,
             SLOT(OnActivated(QString, bool)));
-    connect(Object(), SIGNAL(Signal_PluginIsBusy(QString, bool)), this, SLOT(OnBusy(QString, bool)));
+    connect(Object(), SIGNAL(Signal_PluginIsBusy(QString, bool)), this,
+            SLOT(OnBusy(QString, bool)));
     // The core outlives the plug-in object: what it knew of the last session's DUT must go.
     m_tool->ResetPlugin();
 }

@@ -1,5 +1,5 @@
-// The plug-in in the hands of a host: loaded through QPluginLoader, spoken to through its interface,
-// its window found among the application's windows and worked by object names.
+// The plug-in in the hands of a host: loaded through QPluginLoader, spoken to through its
+// interface, its window found among the application's windows and worked by object names.
 //
 // Each session starts the simulated DUT anew with a profile and, at its end, destroys the plug-in
 // object; the next session gets a new one. GUI thread.

@@ -184,8 +184,7 @@ void ContRxPageTest::secondTestOnTheSamePageDoesNotDoubleTheSignals()
     QVERIFY(session.WaitForStatus("Cont Rx start..."));
     session.Press("m_stop");
     QVERIFY(session.WaitForStatus("Cont Rx stop."));
-    QCOMPARE(session.busy,
-             (QVector<bool>{true, false, true, false, true, false, true, false}));
+    QCOMPARE(session.busy, (QVector<bool>{true, false, true, false, true, false, true, false}));
     QCOMPARE(CountCalls(kStart), 2);
     QCOMPARE(CountCalls(kStop), 2);
 }

@@ -1,5 +1,5 @@
-// DUTs whose route 1 on n1 is what the Continuous RX page's own document offers: a type 1 route, or a
-// type 2 route with the gain mode flag, open at the document's frequencies.
+// DUTs whose route 1 on n1 is what the Continuous RX page's own document offers: a type 1 route, or
+// a type 2 route with the gain mode flag, open at the document's frequencies.
 #pragma once
 
 #include <QComboBox>
@@ -35,8 +35,8 @@ inline void Choose(const CPluginSession &session, const QString &member, const Q
     box->setCurrentText(text);
 }
 
-// The document opens with a route that its frequency table lacks; choosing the route type anew makes
-// the route publish, and the frequency follow.
+// The document opens with a route that its frequency table lacks; choosing the route type anew
+// makes the route publish, and the frequency follow.
 inline void ChooseRoute(const CPluginSession &session, const QString &routeType)
 {
     Choose(session, "routeType", "Type2");

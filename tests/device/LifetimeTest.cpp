@@ -1,7 +1,8 @@
-// Reset, hide and unload while the target works: the answer is dropped, nothing that is gone is used.
+// Reset, hide and unload while the target works: the answer is dropped, nothing that is gone is
+// used.
 //
-// The gates of the simulated DUT hold a call in the middle; the sanitizer build of this test is what
-// proves the second half.
+// The gates of the simulated DUT hold a call in the middle; the sanitizer build of this test is
+// what proves the second half.
 #include <functional>
 
 #include <QDockWidget>
@@ -38,8 +39,8 @@ bool HoldStart(CPluginSession &session)
     return VondSim_WaitUntilHeld(kStart, 20000) != 0;
 }
 
-// Shows the tool and acts from inside the init flow's own loop, as soon as the page has asked for its
-// document.
+// Shows the tool and acts from inside the init flow's own loop, as soon as the page has asked for
+// its document.
 void WhenPageWaits(CPluginSession &session, const std::function<void()> &act)
 {
     bool hasActed = false;
