@@ -23,7 +23,11 @@ CAutoBindingDataModelForm::CAutoBindingDataModelForm(QWidget *parent) : QMainWin
     m_messageBox.SetOwner(this);
 }
 
-CAutoBindingDataModelForm::~CAutoBindingDataModelForm() = default;
+// Pages go while the window is still whole: they tell of their hiding on the way.
+CAutoBindingDataModelForm::~CAutoBindingDataModelForm()
+{
+    RemovePages();
+}
 
 QList<CAutoBindingDataModelDockWidget *> CAutoBindingDataModelForm::Pages() const
 {
@@ -42,20 +46,22 @@ void CAutoBindingDataModelForm::EnableAllPages()
         page->EnableTestControls();
 }
 
-// The host may reset from inside a signal of a page, which then stands in the midst of its own slot:
-// such pages leave the window at once too, but are destroyed when that slot has ended.
+// The host may reset from inside a signal of a page, which then stands in the midst of its own
+// slot: such pages leave the window at once too, but are destroyed when that slot has ended.
 void CAutoBindingDataModelForm::RemovePages()
 {
     ++m_initRun;
     if (m_initLoop)
         m_initLoop->quit();
-    for (CAutoBindingDataModelDockWidget *page : Pages()) {
+    const QList<CAutoBindingDataModelDockWidget *> pages = Pages();
+    for (CAutoBindingDataModelDockWidget *page : pages)
+        page->disconnect(this);
+    for (CAutoBindingDataModelDockWidget *page : pages) {
         removeDockWidget(page);
         if (m_pageSignalDepth == 0) {
             delete page;
             continue;
         }
-        page->disconnect(this);
         page->setParent(nullptr);
         page->deleteLater();
     }
@@ -163,19 +169,16 @@ CAutoBindingDataModelDockWidget *CAutoBindingDataModelForm::CreatePage(const QSt
     return page;
 }
 
-// Shows the page, which starts its init flow, and waits for its end. False when the pages were removed
-// meanwhile, or this window was destroyed.
+// Shows the page, which starts its init flow, and waits for its end. False when the pages were
+// removed meanwhile, or this window was destroyed.
 bool CAutoBindingDataModelForm::InitOnePage(CAutoBindingDataModelDockWidget *page)
 {
     connect(page, &CAutoBindingDataModelDockWidget::Signal_UpdateStatus, this,
-            [this](const QString &text) {
-                RelayPageSignal([&] { Slot_UpdateStatusbar(text); });
-            });
+            [this](const QString &text) { RelayPageSignal([&] { Slot_UpdateStatusbar(text); }); });
     connect(page, &CAutoBindingDataModelDockWidget::Signal_InitDone, this,
             &CAutoBindingDataModelForm::Slot_InitDone);
-    connect(page, &CAutoBindingDataModelDockWidget::Signal_PluginIsBusy, this, [this](bool isBusy) {
-        RelayPageSignal([&] { emit Signal_PluginIsBusy(isBusy); });
-    });
+    connect(page, &CAutoBindingDataModelDockWidget::Signal_PluginIsBusy, this,
+            [this](bool isBusy) { RelayPageSignal([&] { emit Signal_PluginIsBusy(isBusy); }); });
 
     QEventLoop loop;
     bool isDone = false;
@@ -239,8 +242,9 @@ void CAutoBindingDataModelForm::FinishInit(QMenu *menu, CAutoBindingDataModelDoc
 void CAutoBindingDataModelForm::Slot_InitDone()
 {
     ++m_currentInitPageCount;
-    qCDebug(lcForm) << windowTitle() << " Slot_InitDone() m_allInitPageCount: "
-                    << m_allInitPageCount << " m_currentInitPageCount" << m_currentInitPageCount;
+    qCDebug(lcForm) << windowTitle()
+                    << " Slot_InitDone() m_allInitPageCount: " << m_allInitPageCount
+                    << " m_currentInitPageCount" << m_currentInitPageCount;
 }
 
 void CAutoBindingDataModelForm::Slot_DockWidgetsTabChange(bool value)

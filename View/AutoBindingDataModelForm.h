@@ -1,15 +1,15 @@
 // The reusable tool window: pages as tabbed dock widgets, a page menu and a status bar.
 //
 // The window does not know which pages exist. When it is first shown it asks for a list of class
-// names, creates each page through QMetaType, waits in a local event loop until that page's own init
-// flow is done, and only then creates the next, so that at most one document request is in flight.
-// The window stays disabled until the last page is ready. Only the page on top works: switching tabs
-// stops a test that runs on any page.
+// names, creates each page through QMetaType, waits in a local event loop until that page's own
+// init flow is done, and only then creates the next, so that at most one document request is in
+// flight. The window stays disabled until the last page is ready. Only the page on top works:
+// switching tabs stops a test that runs on any page.
 //
-// Lifetime. Pages may be removed, or the window itself destroyed, while the init flow waits (the host
-// resets or unloads the plug-in); the flow then ends without touching what is gone. A reset may also
-// come from inside a signal of a page: the pages leave the window at once, and are destroyed when
-// control is back in the event loop. GUI thread only.
+// Lifetime. Pages may be removed, or the window itself destroyed, while the init flow waits (the
+// host resets or unloads the plug-in); the flow then ends without touching what is gone. A reset
+// may also come from inside a signal of a page: the pages leave the window at once, and are
+// destroyed when control is back in the event loop. GUI thread only.
 //
 //   class CQuorlinForm : public CAutoBindingDataModelForm { ... };
 //   form.show();   // "Please to wait the init flow..." ... "Init done."
@@ -66,10 +66,10 @@ protected:
     void RemovePages();
     QList<CAutoBindingDataModelDockWidget *> Pages() const;
 
-    bool m_isInitStarted = false;   // the page init flow was started
-    int m_allInitPageCount = 0;     // names in the page list
-    int m_currentInitPageCount = 0; // pages that reported init done
-    QPointer<QMenu> m_pageMenu;     // the "View" menu of pages
+    bool m_isInitStarted = false;    // the page init flow was started
+    int m_allInitPageCount = 0;      // names in the page list
+    int m_currentInitPageCount = 0;  // pages that reported init done
+    QPointer<QMenu> m_pageMenu;      // the "View" menu of pages
 
 private:
     CAutoBindingDataModelDockWidget *CreatePage(const QString &name, QStringList &failedPages);
@@ -83,6 +83,6 @@ private:
     std::unique_ptr<QMenuBar> m_pageMenuBar;  // holds the menu; never attached to the window
     CMessageBoxMan m_messageBox;
     QPointer<QEventLoop> m_initLoop;  // where the init flow waits for a page
-    int m_initRun = 0;          // changes when pages are removed, which ends an init flow that waits
+    int m_initRun = 0;  // changes when pages are removed, which ends an init flow that waits
     int m_pageSignalDepth = 0;  // signals of pages that are being passed on
 };

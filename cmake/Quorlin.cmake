@@ -1,7 +1,7 @@
 # Build functions of the project: one each for a module, a page, a test and a benchmark.
 #
 #   quorlin_module(NAME Model SOURCES JsonPath.cpp JsonPath.h DEPENDS Qt5::Core)
-#   quorlin_page(NAME NrContRxDockWidgetV7)              # its .h, .cpp and .ui, into the folder's module
+#   quorlin_page(MODULE ViewRx NAME NrContRxDockWidgetV7)   # its .h, .cpp and .ui
 #   quorlin_test(NAME JsonPathTest SOURCES JsonPathTest.cpp DEPENDS Model LABELS unit)
 
 include_guard(GLOBAL)
