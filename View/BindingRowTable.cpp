@@ -260,9 +260,11 @@ void CAutoBindingDataModelDockWidget::UpdateRowTable(const QString &path, QWidge
                       << group.members;
     qCDebug(lcEngine) << "---> [Update][type2] Row info(from instance list) <---"
                       << group.instances;
-    const QVector<SColumn> columns = ReadColumns(group, ECellUse::RowAppend, table);
-    for (int c = 0; c < columns.size(); ++c) {
-        const SColumn &column = columns[c];
+    const STableGroup shown(m_dataModel, path);
+    for (int c = 0; c < group.members.size(); ++c) {
+        SColumn column = ReadColumn(group, group.members[c], ECellUse::RowAppend, table);
+        // Editors keep the limits that they were made with; so do the rows that have none any more.
+        column.wish.entry = shown.Member(column.member, "trait.value").toObject();
         qCDebug(lcEngine) << "---> [Update][type2] == " << column.member << " == Data type <---"
                           << column.dataType;
         std::unique_ptr<QWidget> scratch;  // words a value as an editor would, for rows of items
