@@ -9,18 +9,8 @@
 
 namespace {
 
-constexpr uint32_t kRatMaskNr = 0x40;
-
 // A row's position is its id.
 constexpr const char *kCalItems[] = {"RX PathLoss", "APT Profile"};
-
-enum ESupport
-{
-    eUndecided = 0,
-    eSupported = 1,
-    eNotSupported = 2,
-    eUnknown = 3,
-};
 
 const QLatin1String kNoRatInfo("Not Support due to without any this RAT info from SW.");
 const QLatin1String
@@ -59,6 +49,11 @@ void CNrCore::ResetTargetCache()
     CTargetCapability::Reset();
 }
 
+void CNrCore::WaitForTurn()
+{
+    const CLockSentry lock(m_targetLock);
+}
+
 bool CNrCore::IsC2kModem() const
 {
     return ReadModemServiceType() == kModemServiceC2k;
@@ -78,7 +73,8 @@ SRfSupportStatus CNrCore::DecideSupportStatus()
     // The advice of an earlier answer stays: only a status of 3 words one.
     const auto answer = [this](ESupport status, const char *message) {
         return SRfSupportStatus{status, QLatin1String(message),
-                                status == eUnknown ? QString(kCheckLink) : m_supportStatus.advice};
+                                status == eSupportUnknown ? QString(kCheckLink)
+                                                          : m_supportStatus.advice};
     };
 
     if (IsC2kModem())
@@ -87,17 +83,19 @@ SRfSupportStatus CNrCore::DecideSupportStatus()
     if (!multiMode.supported)
         return answer(eNotSupported, kNoRatInfo.data());
     if (!multiMode.succeeded)
-        return answer(eUnknown, "We cannot get its support status: Failed to get multi-RAT world "
-                                "mode ID info.");
+        return answer(eSupportUnknown,
+                      "We cannot get its support status: Failed to get multi-RAT world "
+                      "mode ID info.");
     if (!m_target.IsRatInfoValid())
         return answer(eNotSupported, kNoRatInfo.data());
-    if ((m_target.GetRatMask() & kRatMaskNr) == 0)
+    if ((m_target.GetRatMask() & VOND_RAT_NR) == 0)
         return answer(eNotSupported, "Not support this RAT from SW multi-RAT world mode ID info.");
     if (!m_target.GetNrSupportFlags().succeeded)
-        return answer(eUnknown, "Support this RAT but it failed to get its capability info.");
+        return answer(eSupportUnknown,
+                      "Support this RAT but it failed to get its capability info.");
     const SVondSupportFlags routes = m_target.GetNrRouteSupportFlags();
     if (routes.supported && !routes.succeeded)
-        return answer(eUnknown, "Support this RAT but it failed to get CA capability info.");
+        return answer(eSupportUnknown, "Support this RAT but it failed to get CA capability info.");
     return answer(eSupported, "Support");
 }
 

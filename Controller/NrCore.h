@@ -7,9 +7,9 @@
 // Threads. Everything that reaches the target blocks, so it is called on pool threads, with the one
 // exception of GetSupportStatus, which the host asks for before the tool is shown. Each job takes
 // m_targetLock for its whole run, the emission of its answer included: the target sees one call at
-// a time, the capability caches one reader, and a job that was started before a reset has answered
-// before any later job runs. ResetTargetCache never waits: it leaves a mark that the next job
-// obeys. Signals are emitted on pool threads.
+// a time and the capability caches one reader, also when a reset lets a new init flow begin while a
+// test still runs. ResetTargetCache never waits: it leaves a mark that the next job obeys. Signals
+// are emitted on pool threads.
 //
 //   QObject::connect(&GetCore(), &CNrCore::Signal_TestDone, page, &Page::Slot_Done);
 //   GetCore().Test(GetCore().GetPageName(2), document);
@@ -45,6 +45,9 @@ public:
     // Stops a running test on the pool: an NR one (PUSCH, RSRP) or a multi-RAT one (single tone,
     // continuous RX).
     void TestStopStart(bool isNr);
+
+    // Returns when the job that runs has ended. Pool threads only.
+    void WaitForTurn();
 
     // Name of a page id or item id; ids are positions of their tables and are not checked.
     QString GetPageName(int pageId) const;

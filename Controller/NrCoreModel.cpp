@@ -47,8 +47,10 @@ std::string CNrCore::GetDataModelV7(const QString &pageName)
 {
     qCDebug(lcCore) << "[CNrCore] GetDataModelV7()--" << pageName;
     const SPageRow &page = FindPage(static_cast<EPageId>(m_pageMap[pageName]));
-    if (!page.resource)
+    if (!page.resource) {
+        qCDebug(lcCore) << "[CNrCore] GetDataModelV7()Done --" << QJsonObject();
         return ModelToText({});
+    }
     return LoadDataModel(pageName, QString::fromLatin1(page.resource));
 }
 

@@ -15,7 +15,7 @@ constexpr uint32_t kStopNr = 1;  // radio kind of a multi-RAT stop
 
 void CNrCore::Test(QString pageName, std::string document)
 {
-    m_future = QtConcurrent::run(
+    QtConcurrent::run(
         [this, pageName, document = std::move(document)] { TestInternal(pageName, document); });
 }
 
@@ -68,7 +68,7 @@ void CNrCore::Stop()
 
 void CNrCore::TestStopStart(bool isNr)
 {
-    m_future = QtConcurrent::run([this, isNr] { TestStopInternal(isNr); });
+    QtConcurrent::run([this, isNr] { TestStopInternal(isNr); });
 }
 
 void CNrCore::TestStopInternal(bool isNr)

@@ -100,7 +100,7 @@ bool ModifyJsonValue(QJsonObject &object, const QString &path, const QJsonValue 
     const QStringView missing = FirstMissing(object, path);
     if (!missing.isNull()) {
         LogMissing(missing);
-        if (depth == 0)
+        if (depth == 0 && IsJsonValueValid(object.value(Split(path).head)))
             qCDebug(lcModel) << "path: " << path;
         return false;
     }
@@ -125,18 +125,23 @@ bool InsertJsonObject(QJsonObject &object, const QString &path, const QString &k
 
 bool RemoveJsonValue(QJsonObject &object, const QString &parentPath, const QString &key)
 {
-    const QJsonValue parent = GetJsonValueConst(object, parentPath);
+    QJsonValue parent = GetJsonValueConst(object, parentPath);
     if (!IsJsonValueValid(parent)) {
         qCDebug(lcModel) << "Error: modify non-existing property" << parentPath;
         return false;
     }
-    QJsonObject holder = parent.toObject();
-    if (!IsJsonValueValid(holder.value(key))) {
+    if (!IsJsonValueValid(parent.toObject().value(key))) {
         qCDebug(lcModel) << "Error: remove non-existing property" << key << "in" << parentPath;
         return false;
     }
-    holder.remove(key);
-    return ModifyJsonValue(object, parentPath, holder, 0);
+    parent = QJsonValue();  // or it would share what is about to change
+    Rewrite(object, parentPath, [&key](QJsonValueRef place) {
+        QJsonObject holder = QJsonValue(place).toObject();
+        place = QJsonValue();
+        holder.remove(key);
+        place = holder;
+    });
+    return true;
 }
 
 int GetJsonIntFromString(QJsonObject &object, const QString &path)

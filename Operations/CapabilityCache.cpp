@@ -11,7 +11,6 @@ namespace {
 constexpr SVondCapabilityReq kLteSizes{56, 180};
 constexpr SVondCapabilityReq kMmSizes{4, 132};
 constexpr SVondCapabilityReq kNrSizes{0, 24};  // the target ignores the first word
-constexpr uint32_t kRatMaskNr = 0x40;
 
 bool IsOffered(const char *function)
 {
@@ -147,7 +146,7 @@ bool CapabilityCache::ReadNrCapability()
         [this] {
             ReadMmCapability();
             const uint32_t word = mmCapability.record.worldMode;
-            return VondItemValid(word) && (VondItemValue(word) & kRatMaskNr) != 0;
+            return VondItemValid(word) && (VondItemValue(word) & VOND_RAT_NR) != 0;
         },
         [](SNRfCapability &record) {
             return ReadCapability("VOND_NRf_GetRfCapability_r", VOND_NRf_GetRfCapability_r,

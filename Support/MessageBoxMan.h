@@ -23,6 +23,14 @@
 
 class QShowEvent;
 
+enum EBoxKind
+{
+    eBoxInformation = 1,
+    eBoxWarning = 2,
+    eBoxWarningAsIs = 3,  // the text as it stands
+    eBoxCritical = 4,
+};
+
 class CMessageBoxMan : public QMessageBox
 {
     Q_OBJECT

@@ -13,16 +13,10 @@
 
 namespace {
 
-const QLatin1String kHyphens(
-    "---------------------------------------------------------------------------");
+const QLatin1String
+    kHyphens("---------------------------------------------------------------------------");
 
 const QLatin1String kLineBreak("<br>");  // the box shows its text as rich text
-
-enum EBoxKind
-{
-    eBoxWarning = 2,
-    eBoxCritical = 4,
-};
 
 void LogFramed(const char *words, const QString &title)
 {
@@ -97,7 +91,7 @@ void CAutoBindingDataModelDockWidget::Slot_GetDataModelDone(std::string dataMode
 {
     if (dataModelStr.empty()) {
         qCDebug(lcEngine) << "Without any INIT info, Data Model is empty STRING format.";
-        SetGroupBoxFonts();
+        SetGroupBoxFonts(AllWidgets());
     } else {
         m_dataModel = ModelFromText(dataModelStr);
         InitWidget();
@@ -127,8 +121,8 @@ void CAutoBindingDataModelDockWidget::CheckDateModelIntegrity(QJsonObject update
     if (IsJsonValueValid(integrity) || IsJsonValueValid(emptyModel)) {
         QString text;
         if (!integrity.toBool()) {
-            text = QLatin1String("There are some error in this page:  ")
-                   + windowTitle().toHtmlEscaped() + kLineBreak;
+            text = QLatin1String("There are some error in this page:  ") +
+                   windowTitle().toHtmlEscaped() + kLineBreak;
             for (const QJsonValue &message : messages.toArray())
                 text += message.toString().toHtmlEscaped() + kLineBreak;
         } else if (IsJsonValueValid(emptyModel)) {
@@ -154,9 +148,8 @@ void CAutoBindingDataModelDockWidget::ShowItemResult(const QString &title,
 int CAutoBindingDataModelDockWidget::GetGroupType(const QString &memberPath)
 {
     const QString group = GroupPrefix(memberPath);
-    return group.isEmpty()
-               ? 0
-               : GetJsonValue(m_dataModel, group + QLatin1String("groupType")).toInt();
+    return group.isEmpty() ? 0
+                           : GetJsonValue(m_dataModel, group + QLatin1String("groupType")).toInt();
 }
 
 QString CAutoBindingDataModelDockWidget::AbsoluteModelPath(const QString &relativePath) const
@@ -169,11 +162,11 @@ QList<QWidget *> CAutoBindingDataModelDockWidget::AllWidgets() const
     return m_rootWidget ? m_rootWidget->findChildren<QWidget *>() : QList<QWidget *>();
 }
 
-void CAutoBindingDataModelDockWidget::SetGroupBoxFonts()
+void CAutoBindingDataModelDockWidget::SetGroupBoxFonts(const QList<QWidget *> &widgets)
 {
     QFont font(QStringLiteral("Arial"));
     font.setWeight(QFont::Bold);
-    for (QWidget *box : AllWidgets()) {
+    for (QWidget *box : widgets) {
         if (ExactCast<QGroupBox>(box))
             box->setFont(font);
     }

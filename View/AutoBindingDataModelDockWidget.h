@@ -3,35 +3,38 @@
 // A page is a form of plain Qt widgets and a JSON document, its data model. The engine ties the two
 // together by objectName alone and moves values in four directions:
 //     Init     fills the widgets from the document, once, when the page is first shown
-//     Update   shows a result document in the widgets of its response or data section, and adopts it
-//     Append   adds rows to result tables
-//     Package  writes what the widgets hold into the document's memberValue objects
+//     Update   shows a result document in the widgets of its response or data section, and adopts
+//     it Append   adds rows to result tables Package  writes what the widgets hold into the
+//     document's memberValue objects
 // Between them, relevance follows the document's publish lists as the user edits.
 //
 // Name to path. "cmdIf_request_group1_memberProperty_band" is the path
 // "cmdIf.request.group1.memberProperty.band" of the document; with "_caption" behind it, the widget
 // names the member. A widget whose name holds neither "cmdIf_" nor "calDataIf_" is left alone.
 //
-// Order. A walk visits all widgets below the root depth-first, children in creation order; its result
-// does not depend on that order, since Init takes choices from the document's defaults, never from
-// another widget. No relevance runs during Init.
+// Order. A walk visits all widgets below the root depth-first, children in creation order; its
+// result does not depend on that order, since Init takes choices from the document's defaults,
+// never from another widget. No relevance runs during Init.
 //
 // Binding. The group's groupType decides first: 1 a scalar member in a widget of its own, 2 a row
-// table of results (QTableWidget named after a member of the group), 3 a column table of arrays (the
-// same). Then the member's dataType and the exact class of the widget must fit, as DataTypes.h lists:
+// table of results (QTableWidget named after a member of the group), 3 a column table of arrays
+// (the same). Then the member's dataType and the exact class of the widget must fit, as DataTypes.h
+// lists:
 //     list QComboBox, range QSpinBox, pointRange QDoubleSpinBox, label QLabel, boolean QCheckBox;
 //     in column tables also unsignedRange CUnsignedSpinBox.
 //
 // Relevance. A change publishes to the members in publishValueList (new choices, limits, value) and
-// publishEnableStatusList (enabled or not). It runs at once and depth-first through Qt's own signals:
-// a list that gets new items publishes in turn, before the publisher's next target. Hidden and
-// disabled publishers publish no values; hidden targets are left as they are.
+// publishEnableStatusList (enabled or not). It runs at once and depth-first through Qt's own
+// signals: a list that gets new items publishes in turn, before the publisher's next target. Hidden
+// and disabled publishers publish no values; hidden targets are left as they are.
 //
-// Errors. Every failure of binding is a critical line of "quorlin.engine"; the widget stays as it was
-// and the walk goes on. The user sees the integrity box of a bad document and ShowItemResult alone.
+// Errors. Every failure of binding is a critical line of "quorlin.engine"; the widget stays as it
+// was and the walk goes on. The user sees the integrity box of a bad document and ShowItemResult
+// alone.
 //
 // Threads. GUI thread. Documents arrive as text through queued signals. A box shown here runs an
-// event loop in which the page may be destroyed: nothing touches the page after that.
+// event loop in which the page may be destroyed: nothing touches the page after that. A page's own
+// slot on an editor's change must not open one, since a walk or a chain may be under way.
 //
 // A page adds its form, its buttons and their answers:
 //
@@ -118,8 +121,8 @@ protected:
     void AppendWidget(QJsonObject update);
     // Opens the result box; the page may be gone when it returns.
     void ShowItemResult(const QString &title, const SEachItemOperationResult &result);
-    // Shows and drops the document's record of failed patches, and adopts the document if it is good.
-    // The page may be gone when it returns.
+    // Shows and drops the document's record of failed patches, and adopts the document if it is
+    // good. The page may be gone when it returns.
     void CheckDateModelIntegrity(QJsonObject update);
     int GetGroupType(const QString &memberPath);
     QString AbsoluteModelPath(const QString &relativePath) const;
@@ -180,7 +183,7 @@ private:
     void InitWidget();
     void InitCaption(const QString &path, QWidget *widget, const QString &caption);
     QList<QWidget *> AllWidgets() const;
-    void SetGroupBoxFonts();
+    static void SetGroupBoxFonts(const QList<QWidget *> &widgets);
     template <typename Filter, typename Visit>
     void WalkMembers(const SWalkWords &words, QJsonObject &source, Filter filter, Visit visit);
     bool StoreMemberValue(const QString &path, const QJsonValue &value);

@@ -8,22 +8,12 @@
 #include "Support/Log.h"
 #include "View/AutoBindingDataModelDockWidget.h"
 
-namespace {
-
-enum EBoxKind
-{
-    eBoxWarning = 2,
-    eBoxError = 4,
-};
-
-}  // namespace
-
 CAutoBindingDataModelForm::CAutoBindingDataModelForm(QWidget *parent) : QMainWindow(parent)
 {
     m_messageBox.SetOwner(this);
 }
 
-// Pages go while the window is still whole: they tell of their hiding on the way.
+// Pages go first, cut off from this window: they would tell half a window of their hiding.
 CAutoBindingDataModelForm::~CAutoBindingDataModelForm()
 {
     RemovePages();
@@ -58,24 +48,30 @@ void CAutoBindingDataModelForm::RemovePages()
         page->disconnect(this);
     for (CAutoBindingDataModelDockWidget *page : pages) {
         removeDockWidget(page);
-        if (m_pageSignalDepth == 0) {
+        if (m_relay->depth == 0) {
             delete page;
             continue;
         }
         page->setParent(nullptr);
-        page->deleteLater();
+        m_relay->leaving.append(page);
     }
 }
 
-// Passes on a signal that a page emits.
-template <typename Relay>
-void CAutoBindingDataModelForm::RelayPageSignal(const Relay &relay)
+// Passes on a signal that a page emits. Pages that leave meanwhile go when control is back in the
+// event loop that the signal came from, not in one that a listener runs.
+template <typename Pass>
+void CAutoBindingDataModelForm::RelayPageSignal(const Pass &pass)
 {
-    const QPointer<CAutoBindingDataModelForm> self(this);
-    ++m_pageSignalDepth;
-    relay();
-    if (self)
-        --m_pageSignalDepth;
+    const std::shared_ptr<SRelay> relay = m_relay;  // may outlive this window
+    ++relay->depth;
+    pass();
+    if (--relay->depth > 0)
+        return;
+    for (const QPointer<QObject> &page : qAsConst(relay->leaving)) {
+        if (page)
+            page->deleteLater();
+    }
+    relay->leaving.clear();
 }
 
 // A floating page docks again, so that the next show finds it in its place.
@@ -177,8 +173,12 @@ bool CAutoBindingDataModelForm::InitOnePage(CAutoBindingDataModelDockWidget *pag
             [this](const QString &text) { RelayPageSignal([&] { Slot_UpdateStatusbar(text); }); });
     connect(page, &CAutoBindingDataModelDockWidget::Signal_InitDone, this,
             &CAutoBindingDataModelForm::Slot_InitDone);
-    connect(page, &CAutoBindingDataModelDockWidget::Signal_PluginIsBusy, this,
-            [this](bool isBusy) { RelayPageSignal([&] { emit Signal_PluginIsBusy(isBusy); }); });
+    connect(page, &CAutoBindingDataModelDockWidget::Signal_PluginIsBusy, this, [this](bool isBusy) {
+        RelayPageSignal([&] {
+            m_busyPages += isBusy ? 1 : -1;
+            emit Signal_PluginIsBusy(isBusy);
+        });
+    });
 
     QEventLoop loop;
     bool isDone = false;
@@ -193,7 +193,7 @@ bool CAutoBindingDataModelForm::InitOnePage(CAutoBindingDataModelDockWidget *pag
     addDockWidget(Qt::TopDockWidgetArea, page);
     if (!isDone && self && run == m_initRun)
         loop.exec();
-    return self && run == m_initRun;
+    return isDone && self && run == m_initRun;
 }
 
 void CAutoBindingDataModelForm::FinishInit(QMenu *menu, CAutoBindingDataModelDockWidget *firstPage,
@@ -219,7 +219,7 @@ void CAutoBindingDataModelForm::FinishInit(QMenu *menu, CAutoBindingDataModelDoc
     if (!failedPages.isEmpty()) {
         const QPointer<CAutoBindingDataModelForm> self(this);
         const int run = m_initRun;
-        m_messageBox.Show(eBoxError, windowTitle(),
+        m_messageBox.Show(eBoxCritical, windowTitle(),
                           QStringLiteral("There are some page failed in init flow"),
                           failedPages.join(QLatin1Char('\n')), {}, -1);
         if (!self || run != m_initRun)

@@ -69,6 +69,7 @@ protected:
     bool m_isInitStarted = false;    // the page init flow was started
     int m_allInitPageCount = 0;      // names in the page list
     int m_currentInitPageCount = 0;  // pages that reported init done
+    int m_busyPages = 0;             // pages that reported busy and not yet idle
     QPointer<QMenu> m_pageMenu;      // the "View" menu of pages
 
 private:
@@ -77,12 +78,19 @@ private:
     void FinishInit(QMenu *menu, CAutoBindingDataModelDockWidget *firstPage,
                     const QStringList &failedPages);
     void WireTabBar(QObject *child);
-    template <typename Relay>
-    void RelayPageSignal(const Relay &relay);
+    template <typename Pass>
+    void RelayPageSignal(const Pass &pass);
 
+    // Signals of pages that are being passed on, and pages that were removed meanwhile.
+    struct SRelay
+    {
+        int depth = 0;
+        QVector<QPointer<QObject>> leaving;
+    };
+
+    std::shared_ptr<SRelay> m_relay = std::make_shared<SRelay>();
     std::unique_ptr<QMenuBar> m_pageMenuBar;  // holds the menu; never attached to the window
     CMessageBoxMan m_messageBox;
     QPointer<QEventLoop> m_initLoop;  // where the init flow waits for a page
     int m_initRun = 0;  // changes when pages are removed, which ends an init flow that waits
-    int m_pageSignalDepth = 0;  // signals of pages that are being passed on
 };

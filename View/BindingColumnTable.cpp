@@ -12,16 +12,29 @@
 
 namespace {
 
-constexpr int kColumnWidth = 58;   // pixels
-constexpr int kRowHeight = 22;     // pixels
-constexpr int kNarrowColumns = 16; // columns up to which the table shows all of them
+constexpr int kColumnWidth = 58;    // pixels
+constexpr int kRowHeight = 22;      // pixels
+constexpr int kNarrowColumns = 16;  // columns up to which the table shows all of them
+
+// Keys of an entry that a data type looks at, and what is said of them.
+struct SEntryLog
+{
+    const char *dataType;
+    const char *key;
+    const char *text;
+};
+
+constexpr SEntryLog kEntryLogs[] = {
+    {"pointRange", "decimals", "== Has the decimals setting <--- "},
+    {"unsignedRange", "displayBase", "== It has displayBase <--- "},
+};
 
 QStringList ColumnHeaders(const STableGroup &group)
 {
     const QJsonValue captionList = group.properties.value(QLatin1String("colFieldCaptionList"));
     if (IsJsonValueValid(captionList)) {
-        qCDebug(lcEngine) << "---> [Init][type3] Column info <---" << " dimention: "
-                          << group.columns << " Caption Array:" << captionList;
+        qCDebug(lcEngine) << "---> [Init][type3] Column info <---"
+                          << " dimention: " << group.columns << " Caption Array:" << captionList;
         QStringList captions = ToStringList(captionList.toArray());
         while (captions.size() < group.columns)
             captions.append(QString());
@@ -29,25 +42,21 @@ QStringList ColumnHeaders(const STableGroup &group)
     }
     const int start = group.properties.value(QLatin1String("startIndex")).toInt();
     const int step = group.properties.value(QLatin1String("indexStep")).toInt();
-    qCDebug(lcEngine) << "---> [Init][type3] Column info <---" << " dimention: " << group.columns
-                      << " startLabel:" << start << " steps: " << step;
+    qCDebug(lcEngine) << "---> [Init][type3] Column info <---"
+                      << " dimention: " << group.columns << " startLabel:" << start
+                      << " steps: " << step;
     QStringList headers;
     for (int c = 0; c < group.columns; ++c)
         headers.append(QString::number(start + static_cast<qint64>(c) * step));
     return headers;
 }
 
-bool IsRangeType(const QString &dataType)
-{
-    return dataType.contains(QLatin1String("Range")) || dataType.contains(QLatin1String("range"));
-}
-
 }  // namespace
 
 void CAutoBindingDataModelDockWidget::InitColumnTable(const QString &path, QWidget *widget)
 {
-    QTableWidget *table =
-        AsTable(widget, "---> [[Fail][Init][type3] Now only support table widget(QTableWidget) <--- ");
+    QTableWidget *table = AsTable(
+        widget, "---> [[Fail][Init][type3] Now only support table widget(QTableWidget) <--- ");
     if (!table)
         return;
     qCDebug(lcEngine) << "---> [Init][type3] Initialize <---";
@@ -102,25 +111,31 @@ void CAutoBindingDataModelDockWidget::InitColumnTableRow(QTableWidget *table, in
         return;
     }
     SCellWish wish{ECellUse::Column, table, {}, trait.value(QLatin1String("value")).toArray(), {}};
-    if (IsRangeType(dataType))
+    if (type->cellReadsEntry)
         wish.entry = ResolveInitEntry(memberObject, trait).toObject();
     QJsonArray defaults = trait.value(QLatin1String("defaultValue")).toArray();
     const QJsonValue check = wish.entry.value(QLatin1String("rangeCheck"));
     const bool isChecked = type->cellCheckSlot && IsJsonValueValid(check);
     if (isChecked) {
-        qCDebug(lcEngine) << "---> [Init][type3] ==" << "== Has the rangeCheck <--- " << check;
+        qCDebug(lcEngine) << "---> [Init][type3] =="
+                          << "== Has the rangeCheck <--- " << check;
         const QJsonValue value = wish.entry.value(QLatin1String("value"));
         if (IsJsonValueValid(value)) {
-            qCDebug(lcEngine) << "---> [Init][type3] ==" << "== Has the value and rangeCheck <--- "
-                              << value;
+            qCDebug(lcEngine) << "---> [Init][type3] =="
+                              << "== Has the value and rangeCheck <--- " << value;
             defaults = QJsonArray{value};
         }
     }
-    if (IsJsonValueValid(wish.entry.value(QLatin1String("decimals"))))
-        qCDebug(lcEngine) << "---> [Init][type3] ==" << "== Has the decimals setting <--- ";
-    qCDebug(lcEngine) << "---> [Init][type3] ==" << "== defaultValueArray <--- " << defaults;
-    if (!wish.items.isEmpty())
-        qCDebug(lcEngine) << "---> [Init][type3] ==" << "== listValue <--- " << wish.items;
+    for (const SEntryLog &log : kEntryLogs) {
+        if (dataType == QLatin1String(log.dataType) &&
+            IsJsonValueValid(wish.entry.value(QLatin1String(log.key))))
+            qCDebug(lcEngine) << "---> [Init][type3] ==" << log.text;
+    }
+    qCDebug(lcEngine) << "---> [Init][type3] =="
+                      << "== defaultValueArray <--- " << defaults;
+    if (!type->cellReadsEntry)
+        qCDebug(lcEngine) << "---> [Init][type3] =="
+                          << "== listValue <--- " << wish.items;
 
     for (int c = 0; c < group.columns; ++c) {
         if (type->columnWidth != 0)
@@ -140,8 +155,8 @@ void CAutoBindingDataModelDockWidget::InitColumnTableRow(QTableWidget *table, in
 void CAutoBindingDataModelDockWidget::UpdateColumnTable(const QString &path, QWidget *widget,
                                                         QJsonObject update)
 {
-    QTableWidget *table =
-        AsTable(widget, "---> [Fail][Update][type3] Now only support table widget(QTableWidget) <--- ");
+    QTableWidget *table = AsTable(
+        widget, "---> [Fail][Update][type3] Now only support table widget(QTableWidget) <--- ");
     if (!table)
         return;
     const STableGroup group(update, path);
@@ -155,10 +170,10 @@ void CAutoBindingDataModelDockWidget::UpdateColumnTable(const QString &path, QWi
         const QJsonArray defaults = group.Member(member, "trait.defaultValue").toArray();
         qCDebug(lcEngine) << "---> [Update][type3] Update Row <--- " << member;
         qCDebug(lcEngine) << "---> [Update][type3] == " << dataType << " == DataType <---";
-        qCDebug(lcEngine) << "---> [Update][type3] == " << " == DefaultValueArray " << defaults
-                          << " == <--- ";
+        qCDebug(lcEngine) << "---> [Update][type3] == "
+                          << " == DefaultValueArray " << defaults << " == <--- ";
         const SDataType *type = FindDataType(dataType);
-        if (!type || !type->updatesCell) {
+        if (!type || !type->updatesCell || !type->show) {
             qCCritical(lcEngine)
                 << "---> [Fail][Update][type3] Not support this data type yet <---";
             continue;
@@ -175,15 +190,15 @@ void CAutoBindingDataModelDockWidget::UpdateColumnTable(const QString &path, QWi
 
 void CAutoBindingDataModelDockWidget::PackageColumnTable(const QString &path, QWidget *widget)
 {
-    QTableWidget *table =
-        AsTable(widget, "---> [Fail][Package][type3] Now only support table widget(QTableWidget) <--- ");
+    QTableWidget *table = AsTable(
+        widget, "---> [Fail][Package][type3] Now only support table widget(QTableWidget) <--- ");
     if (!table)
         return;
     const STableGroup group(m_dataModel, path);
     for (int r = 0; r < group.rows.size(); ++r) {
         const QString member = group.rows[r];
         const SDataType *type = FindDataType(group.Member(member, "trait.dataType").toString());
-        if (!type || !type->makeCell) {
+        if (!type || !type->makeCell || !type->text) {
             qCCritical(lcEngine)
                 << "---> [Fail][Package][type3] Not support this data type yet <---";
             continue;
@@ -194,8 +209,7 @@ void CAutoBindingDataModelDockWidget::PackageColumnTable(const QString &path, QW
             values.append(cell && IsExactClass(cell, type->className) ? type->text(cell)
                                                                       : QString());
         }
-        const QString memberPath =
-            GroupPropertyPath(path) + QLatin1Char('.') + member;
+        const QString memberPath = GroupPropertyPath(path) + QLatin1Char('.') + member;
         qCDebug(lcEngine) << "---> [Package][type3] Path in memberValue <--- "
                           << GroupValuePath(path) << " " << member;
         qCDebug(lcEngine) << "---> [Package][type3] Value array<--- " << values;

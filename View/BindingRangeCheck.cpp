@@ -1,15 +1,16 @@
 // The range checks: a spin box whose tool tip lists what may be entered.
 //
-// The list is tokens joined by ",": a number, or low~high with both limits inclusive. An entry that no
-// token allows is replaced by the first token: by the number itself, or by the middle of the range.
-#include "Model/JsonPath.h"
+// The list is tokens joined by ",": a number, or low~high with both limits inclusive. An entry that
+// no token allows is replaced by the first token: by the number itself, or by the middle of the
+// range.
 #include "Support/Log.h"
 #include "View/AutoBindingDataModelDockWidget.h"
 #include "View/NumberBox.h"
 
 namespace {
 
-// A token without "~" allows the text of a QSpinBox as it stands, and the number of a QDoubleSpinBox.
+// A token without "~" allows the text of a QSpinBox as it stands, and the number of a
+// QDoubleSpinBox.
 bool IsSame(const QSpinBox *box, const QString &token)
 {
     return token == box->text();

@@ -1,8 +1,9 @@
 // Relevance: the chain that a change of one member sets off.
 //
-// The chain runs through Qt's direct signals, depth-first, and writes no document: it reads m_dataModel
-// and changes widgets. A key that a target's table lacks is an expected passing state of a fan-out:
-// the target keeps what it shows until the publisher that completes the key has its turn.
+// The chain runs through Qt's direct signals, depth-first, and writes no document: it reads
+// m_dataModel and changes widgets. A key that a target's table lacks is an expected passing state
+// of a fan-out: the target keeps what it shows until the publisher that completes the key has its
+// turn.
 #include <QCheckBox>
 #include <QComboBox>
 #include <QSpinBox>
@@ -12,6 +13,7 @@
 #include "Support/Log.h"
 #include "View/AutoBindingDataModelDockWidget.h"
 #include "View/DataTypes.h"
+#include "View/GroupType.h"
 #include "View/RelevanceWords.h"
 #include "View/TableGroup.h"
 #include "View/WidgetIndex.h"
@@ -26,21 +28,16 @@ struct STableRow
 
 namespace {
 
-enum EGroupType
-{
-    eGroupScalar = 1,
-    eGroupColumnTable = 3,
-};
-
 // Documents are free of loops. One that is not must end all the same: a loop of lists would never
 // come to rest, since a list publishes each time it gets new items.
 constexpr int kMaxDepth = 64;
 constexpr int kMaxPublications = 4096;
 
-void LogIfWorded(const char *words, const QJsonValue &value)
+// Words alone: a table of entries can be most of a document.
+void LogIfWorded(const char *words)
 {
     if (words)
-        qCDebug(lcEngine) << words << value;
+        qCDebug(lcEngine) << words;
 }
 
 // Holds a counter up for the life of a scope.
@@ -99,17 +96,20 @@ void CAutoBindingDataModelDockWidget::Publish(const SRelevanceWords &words,
         return;
     if (m_relevanceDepth == 0)
         m_relevanceCount = 0;
-    if (m_relevanceDepth >= kMaxDepth || ++m_relevanceCount > kMaxPublications) {
-        qCCritical(lcEngine) << "publish lists form a loop, the chain ends at"
-                             << publisher->objectName();
+    if (m_relevanceDepth >= kMaxDepth || m_relevanceCount >= kMaxPublications) {
+        if (m_relevanceCount <= kMaxPublications)
+            qCCritical(lcEngine) << "publish lists form a loop, the chain ends at"
+                                 << publisher->objectName();
+        m_relevanceCount = kMaxPublications + 1;
         return;
     }
+    ++m_relevanceCount;
     const CCountScope depth(m_relevanceDepth);
     const CIndexScope index(this);
 
     qCDebug(lcEngine) << words.key << currentText;
     const QString path = PathFromObjectName(publisher->objectName());
-    const QJsonArray targets = GetJsonValue(m_dataModel, path)
+    const QJsonArray targets = GetJsonValueConst(m_dataModel, path)
                                    .toObject()
                                    .value(QLatin1String(words.publishList))
                                    .toArray();
@@ -126,7 +126,8 @@ void CAutoBindingDataModelDockWidget::PublishTo(const SRelevanceWords &words, co
     const int groupType = GetGroupType(target);
     qCDebug(lcEngine) << words.groupType << groupType;
     const QJsonArray subscribed =
-        GetJsonValue(m_dataModel, target + QLatin1Char('.') + QLatin1String(words.subscribeList))
+        GetJsonValueConst(m_dataModel,
+                          target + QLatin1Char('.') + QLatin1String(words.subscribeList))
             .toArray();
     QString key = currentText;
     if (!subscribed.isEmpty()) {
@@ -157,7 +158,7 @@ QString CAutoBindingDataModelDockWidget::BuildLiveKey(const QJsonArray &list)
         if (!widget)
             continue;
         const QString name =
-            GetJsonValue(m_dataModel, path + QLatin1String(".trait.dataType")).toString();
+            GetJsonValueConst(m_dataModel, path + QLatin1String(".trait.dataType")).toString();
         const SDataType *type = FindScalarType(name, widget);
         if (!type || !type->keyText)
             continue;
@@ -221,20 +222,21 @@ STableRow CAutoBindingDataModelDockWidget::FindTableTarget(const STableTargetWor
 QJsonValue CAutoBindingDataModelDockWidget::FindEntry(const SEntryWords &words,
                                                       const QString &target, const QString &key)
 {
-    const QJsonValue trait = GetJsonValue(m_dataModel, target + QLatin1String(".trait"));
-    LogIfWorded(words.traitFound, trait);
+    const QJsonValue trait = GetJsonValueConst(m_dataModel, target + QLatin1String(".trait"));
+    LogIfWorded(words.traitFound);
     if (!IsJsonValueValid(trait)) {
         qCCritical(lcEngine) << words.noTrait;
         return {};
     }
     const QJsonValue pair = trait.toObject().value(QLatin1String(words.pair));
-    LogIfWorded(words.pairFound, pair);
+    LogIfWorded(words.pairFound);
     if (!IsJsonValueValid(pair)) {
         qCCritical(lcEngine) << words.noPair;
         return {};
     }
     const QJsonValue entry = GetJsonValueConst(pair.toObject(), key);
-    LogIfWorded(words.entryFound, entry);
+    if (words.entryFound)
+        qCDebug(lcEngine) << words.entryFound << entry;
     if (!IsJsonValueValid(entry))
         qCCritical(lcEngine) << words.noEntry;
     return entry;
@@ -250,10 +252,10 @@ void CAutoBindingDataModelDockWidget::ApplyScalarValueRelevance(const QString &t
     if (!IsJsonValueValid(entry))
         return;
     const QJsonObject trait =
-        GetJsonValue(m_dataModel, target + QLatin1String(".trait")).toObject();
+        GetJsonValueConst(m_dataModel, target + QLatin1String(".trait")).toObject();
     const SDataType *type =
         FindScalarType(trait.value(QLatin1String("dataType")).toString(), widget);
-    if (!type) {
+    if (!type || !type->relate) {
         qCCritical(lcEngine) << "---> [Fail][Value Relevance][type1] Cannot get the mapping of "
                                 "dataType and widget <--- ";
         return;
@@ -273,10 +275,11 @@ void CAutoBindingDataModelDockWidget::ApplyTableValueRelevance(const QString &ta
     if (!IsJsonValueValid(entry))
         return;
     const QJsonObject trait =
-        GetJsonValue(m_dataModel, target + QLatin1String(".trait")).toObject();
+        GetJsonValueConst(m_dataModel, target + QLatin1String(".trait")).toObject();
     const SDataType *type = FindDataType(trait.value(QLatin1String("dataType")).toString());
     if (!type || !type->relateCell) {
-        qCCritical(lcEngine) << "---> [Fail][Value Relevance][type3] Not support this data type yet";
+        qCCritical(lcEngine)
+            << "---> [Fail][Value Relevance][type3] Not support this data type yet";
         return;
     }
     qCDebug(lcEngine) << type->relateCellLog;
@@ -291,9 +294,7 @@ void CAutoBindingDataModelDockWidget::ApplyTableValueRelevance(const QString &ta
         if (!cell || !IsExactClass(cell, type->className))
             continue;
         type->relateCell(cell, {entry, ColumnElement(defaults, c).toString(),
-                                m_modelInterface == eInterfaceCmdIf});
-        qCDebug(lcEngine) << "---> [Value Relevance][type3] Final value <--- index[" << c << "] "
-                          << type->text(cell);
+                                m_modelInterface == eInterfaceCmdIf, c});
     }
 }
 
@@ -322,7 +323,7 @@ void CAutoBindingDataModelDockWidget::ApplyScalarStatusRelevance(const QString &
         qCDebug(lcEngine)
             << "---> [Status Relevance][type1] spin box publish current text change <---";
         auto *spinBox = static_cast<QSpinBox *>(widget);
-        emit spinBox->textChanged(spinBox->text());
+        emit spinBox->valueChanged(spinBox->value());
     }
 }
 

@@ -1,7 +1,8 @@
 // groupType 2: a growing table of results.
 //
 // A table grows for days, so only its newest rows hold editor widgets: an editor costs a tenth of a
-// millisecond at every later append. A row that grows older turns into plain items that look the same.
+// millisecond at every later append. A row that grows older turns into plain items that look the
+// same.
 #include <QAbstractSpinBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -11,7 +12,6 @@
 #include <memory>
 
 #include "Model/JsonPath.h"
-#include "Model/MemberPath.h"
 #include "Support/Log.h"
 #include "View/AutoBindingDataModelDockWidget.h"
 #include "View/DataTypes.h"
@@ -20,10 +20,10 @@
 
 namespace {
 
-constexpr int kEditorRows = 256;   // newest rows that hold editor widgets
-constexpr int kRowHeight = 22;     // pixels
-constexpr int kNarrowRows = 16;    // rows up to which the table is sized to all its columns
-constexpr int kWideColumns = 15;   // columns that the wide size counts
+constexpr int kEditorRows = 256;  // newest rows that hold editor widgets
+constexpr int kRowHeight = 22;    // pixels
+constexpr int kNarrowRows = 16;   // rows up to which the table is sized to all its columns
+constexpr int kWideColumns = 15;  // columns that the wide size counts
 constexpr int kEmptyHeightFactor = 6;
 constexpr int kAppendMargin = 20;  // pixels for the vertical scroll bar
 
@@ -41,7 +41,9 @@ SColumn ReadColumn(const STableGroup &group, const QString &member, ECellUse use
 {
     const QString name = group.Member(member, "trait.dataType").toString();
     const SDataType *type = FindDataType(name);
-    return {member, name, type && type->inRowTable ? type : nullptr,
+    return {member,
+            name,
+            type && type->inRowTable ? type : nullptr,
             {use, table, group.Member(member, "trait.value").toObject(), {}, {}}};
 }
 
@@ -59,34 +61,44 @@ Qt::Alignment AlignmentOf(const QWidget *cell)
     return Qt::AlignLeft | Qt::AlignVCenter;
 }
 
-// Turns the editors of one row into items; false when it has none.
-bool RetireRow(QTableWidget *table, int row, const QVector<SColumn> &columns)
+// An item that looks like the editor.
+QTableWidgetItem *ItemOf(const QWidget *cell, const SDataType &type)
+{
+    auto *item = new QTableWidgetItem(type.text(cell));
+    item->setFont(cell->font());
+    item->setTextAlignment(AlignmentOf(cell));
+    item->setFlags(item->flags() & ~Qt::ItemIsEditable);  // a result is for reading
+    return item;
+}
+
+// Turns the editors of one row into items; false when it has none. Goes by the editor's own class:
+// a later document may name another data type for its column.
+bool RetireRow(QTableWidget *table, int row)
 {
     bool had = false;
-    for (int c = 0; c < columns.size(); ++c) {
+    for (int c = 0; c < table->columnCount(); ++c) {
         QWidget *cell = table->cellWidget(row, c);
-        if (!cell || !columns[c].type)
+        const SDataType *type = cell ? FindScalarTypeOfWidget(cell) : nullptr;
+        if (!type)
             continue;
         had = true;
-        auto *item = new QTableWidgetItem(columns[c].type->text(cell));
-        item->setFont(cell->font());
-        item->setTextAlignment(AlignmentOf(cell));
-        item->setFlags(item->flags() & ~Qt::ItemIsEditable);  // a result is for reading
+        QTableWidgetItem *item = ItemOf(cell, *type);
         table->removeCellWidget(row, c);
         table->setItem(row, c, item);
     }
     return had;
 }
 
-void RetireOldRows(QTableWidget *table, const QVector<SColumn> &columns)
+// Of the rows in front of first, those that new rows have pushed out of the newest.
+void RetireOldRows(QTableWidget *table, int first)
 {
-    int row = table->rowCount() - kEditorRows - 1;
-    while (row >= 0 && RetireRow(table, row, columns))
+    int row = qMin(first, table->rowCount() - kEditorRows) - 1;
+    while (row >= 0 && RetireRow(table, row))
         --row;
 }
 
-// Places a cell's editor. The standard delegate works out the look of the item behind the editor each
-// time, for every editor of the table at every append; a result cell just fills its place.
+// Places a cell's editor. The standard delegate works out the look of the item behind the editor
+// each time, for every editor of the table at every append; a result cell just fills its place.
 class CCellDelegate : public QStyledItemDelegate
 {
 public:
@@ -108,49 +120,57 @@ void PrepareTable(QTableWidget *table)
     table->setItemDelegate(new CCellDelegate(table));
 }
 
-// Puts a cell into the table. A cell with a size of its own is not asked for its best one.
-void PlaceCell(QTableWidget *table, int row, int column, QWidget *cell)
+// Puts a new cell into the table: as an editor among the newest rows, as an item above them. A cell
+// with a size of its own is not asked for its best one.
+void PlaceCell(QTableWidget *table, int row, int column, const SDataType &type,
+               const SCellWish &wish)
 {
+    if (row < table->rowCount() - kEditorRows) {
+        SCellWish unplaced = wish;
+        unplaced.table = nullptr;
+        const std::unique_ptr<QWidget> cell(type.makeCell(unplaced));
+        table->setItem(row, column, ItemOf(cell.get(), type));
+        return;
+    }
+    QWidget *cell = type.makeCell(wish);
     cell->resize(table->columnWidth(column), table->rowHeight(row));
     table->setCellWidget(row, column, cell);
 }
 
-// As scrollToBottom, which would place every editor twice: once to lay the new rows out, and once more.
+// As scrollToBottom, which would place every editor twice: once to lay the new rows out, and once
+// more.
 void ScrollToLastRow(QTableWidget *table)
 {
     table->visualRect(table->model()->index(table->rowCount() - 1, 0));  // lays them out
     table->verticalScrollBar()->setValue(table->verticalScrollBar()->maximum());
 }
 
-QVector<SColumn> ReadColumns(const STableGroup &group, ECellUse use, QTableWidget *table)
-{
-    QVector<SColumn> columns;
-    for (const QString &member : group.members)
-        columns.append(ReadColumn(group, member, use, table));
-    return columns;
-}
-
-// Makes the cells of the rows from first to the last instance, column by column.
-void MakeCells(QTableWidget *table, const STableGroup &group, QVector<SColumn> &columns, int first,
+// Makes the cells of the rows from first to the last instance, column by column. Members beyond the
+// table's columns are not shown.
+void MakeCells(QTableWidget *table, const STableGroup &group, ECellUse use, int first,
                const char *unsupported)
 {
-    for (int c = 0; c < columns.size(); ++c) {
-        SColumn &column = columns[c];
+    RetireOldRows(table, first);
+    for (int c = 0; c < qMin(group.members.size(), table->columnCount()); ++c) {
+        SColumn column = ReadColumn(group, group.members[c], use, table);
+        if (use == ECellUse::RowInit)
+            qCDebug(lcEngine) << "---> [Init][type2] ==" << column.member
+                              << "== Trait JSON Object <---"
+                              << group.Member(column.member, "trait");
         for (int r = first; r < group.instances.size(); ++r) {
             const QString path = CellPath(column.member, group.instances.at(r));
             column.wish.value = GetJsonValueConst(group.properties, path);
-            if (column.wish.use == ECellUse::RowInit)
+            if (use == ECellUse::RowInit)
                 qCDebug(lcEngine) << "---> [Init][type2] ==" << path << "== Default Value  <---"
                                   << column.wish.value;
             if (column.type)
-                PlaceCell(table, r, c, column.type->makeCell(column.wish));
-            else if (column.wish.use == ECellUse::RowInit)
+                PlaceCell(table, r, c, *column.type, column.wish);
+            else if (use == ECellUse::RowInit)
                 qCCritical(lcEngine) << unsupported << column.dataType;
             else
                 qCCritical(lcEngine) << unsupported;
         }
     }
-    RetireOldRows(table, columns);
 }
 
 void SetFixedTableSize(QTableWidget *table, const QSize &size)
@@ -197,8 +217,8 @@ void CAutoBindingDataModelDockWidget::ShowHeaders()
 
 void CAutoBindingDataModelDockWidget::InitRowTable(const QString &path, QWidget *widget)
 {
-    QTableWidget *table =
-        AsTable(widget, "---> [Fail][Init][type2] Now only support table widget(QTableWidget) <--- ");
+    QTableWidget *table = AsTable(
+        widget, "---> [Fail][Init][type2] Now only support table widget(QTableWidget) <--- ");
     if (!table)
         return;
     qCDebug(lcEngine) << "---> [Init][type2] Initialize <---";
@@ -224,11 +244,7 @@ void CAutoBindingDataModelDockWidget::InitRowTable(const QString &path, QWidget 
                       << group.members.size() << group.members;
     qCDebug(lcEngine) << "---> [Init][type2] Row info - from instance list <---"
                       << group.instances.size() << group.instances;
-    for (const QString &member : group.members)
-        qCDebug(lcEngine) << "---> [Init][type2] ==" << member << "== Trait JSON Object <---"
-                          << group.Member(member, "trait");
-    QVector<SColumn> columns = ReadColumns(group, ECellUse::RowInit, table);
-    MakeCells(table, group, columns, 0,
+    MakeCells(table, group, ECellUse::RowInit, 0,
               "---> [Fail][Init][type2] Cannot get the row info - dataType not support yet <--- ");
 
     const QJsonObject instances = group.group.value(QLatin1String("instanceProperty")).toObject();
@@ -242,8 +258,8 @@ void CAutoBindingDataModelDockWidget::InitRowTable(const QString &path, QWidget 
 
     ShowHeaders();
     const bool narrow = group.instances.size() <= kNarrowRows;
-    SetFixedTableSize(table, WithRoomForRows(table, narrow ? FitTableSize(table)
-                                                           : FitWideTableSize(table)));
+    SetFixedTableSize(
+        table, WithRoomForRows(table, narrow ? FitTableSize(table) : FitWideTableSize(table)));
     if (narrow)
         table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
@@ -251,8 +267,8 @@ void CAutoBindingDataModelDockWidget::InitRowTable(const QString &path, QWidget 
 void CAutoBindingDataModelDockWidget::UpdateRowTable(const QString &path, QWidget *widget,
                                                      QJsonObject update)
 {
-    QTableWidget *table =
-        AsTable(widget, "---> [Fail][Update][type2] Now only support table widget(QTableWidget) <--- ");
+    QTableWidget *table = AsTable(
+        widget, "---> [Fail][Update][type2] Now only support table widget(QTableWidget) <--- ");
     if (!table)
         return;
     const STableGroup group(update, path);
@@ -294,8 +310,8 @@ void CAutoBindingDataModelDockWidget::UpdateRowTable(const QString &path, QWidge
 void CAutoBindingDataModelDockWidget::AppendRowTable(const QString &path, QWidget *widget,
                                                      QJsonObject update)
 {
-    QTableWidget *table =
-        AsTable(widget, "---> [Fail][Append][type2] Now only support table widget(QTableWidget) <--- ");
+    QTableWidget *table = AsTable(
+        widget, "---> [Fail][Append][type2] Now only support table widget(QTableWidget) <--- ");
     if (!table)
         return;
     const STableGroup group(update, path);
@@ -325,8 +341,7 @@ void CAutoBindingDataModelDockWidget::AppendRowTable(const QString &path, QWidge
         << wanted - current;
     if (wanted > current)
         table->setRowCount(wanted);
-    QVector<SColumn> columns = ReadColumns(group, ECellUse::RowAppend, table);
-    MakeCells(table, group, columns, current,
+    MakeCells(table, group, ECellUse::RowAppend, current,
               "---> [Fail][Append][type2] Not support this data type yet <---");
     table->setMinimumWidth(FitTableSize(table).width() + kAppendMargin);
     ScrollToLastRow(table);

@@ -29,22 +29,21 @@ QJsonValue CAutoBindingDataModelDockWidget::ResolveInitEntry(const QJsonValue &m
 {
     const QJsonObject memberObject = member.toObject();
     const QJsonValue publisher = memberObject.value(QLatin1String("subscribeValue"));
-    const QJsonArray publishers =
-        memberObject.value(QLatin1String("subscribeValueList")).toArray();
+    const QJsonArray publishers = memberObject.value(QLatin1String("subscribeValueList")).toArray();
     QJsonValue entry;
     if (IsJsonValueValid(publisher)) {
         const QString path = AbsoluteModelPath(publisher.toString());
         qCDebug(lcEngine) << "---> [Init] Has the subscibe value <---";
         const QJsonValue source = GetJsonValue(m_dataModel, path);
         if (!IsJsonValueValid(source)) {
-            qCCritical(lcEngine)
-                << "---> [Init] Failed to initialize:  Cannot get the mapping data by KEY info <---";
+            qCCritical(lcEngine) << "---> [Init] Failed to initialize:  Cannot get the mapping "
+                                    "data by KEY info <---";
             return {};
         }
-        const QString key = GetJsonValueConst(source.toObject(),
-                                              QStringLiteral("trait.defaultValue")).toString();
-        qCDebug(lcEngine) << "---> [Init] Subscribe Key info <--- " << path << " default value: "
-                          << key;
+        const QString key =
+            GetJsonValueConst(source.toObject(), QStringLiteral("trait.defaultValue")).toString();
+        qCDebug(lcEngine) << "---> [Init] Subscribe Key info <--- " << path
+                          << " default value: " << key;
         entry = ValuePairEntry(trait, key);
     } else if (!publishers.isEmpty()) {
         qCDebug(lcEngine) << "---> [Init] Has the subscribeValueList <--- ";
@@ -132,7 +131,8 @@ void CAutoBindingDataModelDockWidget::UpdateScalarMember(const QString &path, QW
     qCDebug(lcEngine) << "---> [Update][type1] Value to update <---" << value;
     if (!IsJsonValueValid(value))
         return;
-    if (const SDataType *type = FindScalarType(dataType, widget))
+    const SDataType *type = FindScalarType(dataType, widget);
+    if (type && type->show)
         type->show(widget, member, value.toString());
     else
         qCCritical(lcEngine) << "---> [Fail][Update][type1] Not support this data type yet <---";
@@ -141,7 +141,7 @@ void CAutoBindingDataModelDockWidget::UpdateScalarMember(const QString &path, QW
 void CAutoBindingDataModelDockWidget::PackageScalarMember(const QString &path, QWidget *widget)
 {
     const SDataType *type = FindScalarTypeOfWidget(widget);
-    if (!type) {
+    if (!type || !type->text) {
         qCCritical(lcEngine) << widget->metaObject()->className()
                              << "---> [Fail][Package][type1] : Not support this type yet <--- ";
         return;

@@ -8,6 +8,7 @@
 #include "Model/ModelText.h"
 #include "Support/Log.h"
 #include "View/AutoBindingDataModelDockWidget.h"
+#include "View/GroupType.h"
 #include "View/WidgetIndex.h"
 
 // What a walk says of itself.
@@ -18,16 +19,10 @@ struct SWalkWords
     const char *missing;
     const char *unsupported;
     const char *done;
+    bool tellsClass;  // names the widget's class beside its name
 };
 
 namespace {
-
-enum EGroupType
-{
-    eGroupScalar = 1,
-    eGroupRowTable = 2,
-    eGroupColumnTable = 3,
-};
 
 constexpr SWalkWords kUpdateWords = {
     "============ [Start] Update Widget  ============ ",
@@ -35,6 +30,7 @@ constexpr SWalkWords kUpdateWords = {
     "====== Failed to update: Cannot get its JSON ojbect ======",
     "====== Failed to update : Not support this group type yet ======",
     "============ [Done] Update Widget ============ ",
+    false,
 };
 
 constexpr SWalkWords kAppendWords = {
@@ -43,6 +39,7 @@ constexpr SWalkWords kAppendWords = {
     "====== Failed to append: Cannot get its JSON ojbect ======",
     "====== Failed to append : Not support this group type yet ======",
     "============ [Done] Append Widget ============ ",
+    false,
 };
 
 constexpr SWalkWords kPackageWords = {
@@ -51,6 +48,7 @@ constexpr SWalkWords kPackageWords = {
     "====== Failed to packge: Cannot get its JSON ojbect ====== ",
     "====== Failed to packge : Not support this group type yet ======",
     "============ [Done] Package MemberValue ============ ",
+    true,
 };
 
 // Qt's JSON keeps the bytes of overwritten strings, so a document that is packaged for days is made
@@ -72,9 +70,10 @@ bool IsAnyMember(const QString &name)
 void CAutoBindingDataModelDockWidget::InitWidget()
 {
     qCDebug(lcEngine) << "============ [Start] Init widget ============ ";
-    SetGroupBoxFonts();
+    const QList<QWidget *> widgets = AllWidgets();
+    SetGroupBoxFonts(widgets);
     const CIndexScope index(this);
-    for (QWidget *widget : AllWidgets()) {
+    for (QWidget *widget : widgets) {
         const QString name = widget->objectName();
         if (!IsBoundName(name)) {
             qCDebug(lcEngine) << " Skip " << name;
@@ -108,8 +107,7 @@ void CAutoBindingDataModelDockWidget::InitWidget()
             break;
         default:
             qCCritical(lcEngine)
-                << "====== Failed processing name: Not support this group type yet ====== "
-                << name;
+                << "====== Failed processing name: Not support this group type yet ====== " << name;
         }
     }
     qCDebug(lcEngine) << "============ [Done] Init widget ============ ";
@@ -147,7 +145,10 @@ void CAutoBindingDataModelDockWidget::WalkMembers(const SWalkWords &words, QJson
             qCCritical(lcEngine) << words.missing << name;
             continue;
         }
-        qCDebug(lcEngine) << words.member << name << " " << widget->metaObject()->className();
+        if (words.tellsClass)
+            qCDebug(lcEngine) << words.member << name << " " << widget->metaObject()->className();
+        else
+            qCDebug(lcEngine) << words.member << name;
         const int groupType = GetGroupType(path);
         qCDebug(lcEngine) << "---> GroupType <---" << groupType;
         if (!visit(groupType, path, widget))
@@ -215,10 +216,12 @@ std::string CAutoBindingDataModelDockWidget::PackageMemberValue()
 }
 
 // The first member of a group makes its memberValue object.
-bool CAutoBindingDataModelDockWidget::StoreMemberValue(const QString &path,
-                                                       const QJsonValue &value)
+bool CAutoBindingDataModelDockWidget::StoreMemberValue(const QString &path, const QJsonValue &value)
 {
     const QString valuePath = GroupValuePath(path);
+    const QString leafPath = valuePath + QLatin1Char('.') + MemberKey(path);
+    if (HasJsonValue(m_dataModel, leafPath))
+        return ModifyJsonValue(m_dataModel, leafPath, value, 0);
     if (!HasJsonValue(m_dataModel, valuePath))
         return InsertJsonObject(m_dataModel, GroupPath(path), QStringLiteral("memberValue"),
                                 MemberKey(path), value);

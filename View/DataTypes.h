@@ -1,13 +1,13 @@
 // The data types of the document format, one row each.
 //
 // A data type says how a member is edited: which widget shows it, how Init fills the widget, how
-// Update shows a result, what Package reads, how the widget follows a publisher, which of its signals
-// carry a change to the members that depend on it, and how a table makes a cell of it. The engine
-// knows nothing of a type but its row, so a new type is a new row. A null function means that the type
-// cannot be used so; the engine words that as a failure. Signals and slots are named as Qt's string
-// connections name them. GUI thread.
+// Update shows a result, what Package reads, how the widget follows a publisher, which of its
+// signals carry a change to the members that depend on it, and how a table makes a cell of it. The
+// engine knows nothing of a type but its row, so a new type is a new row. A null function means
+// that the type cannot be used so; the engine words that as a failure. Signals and slots are named
+// as Qt's string connections name them. GUI thread.
 //
-//   const SDataType *type = FindDataType("range", widget);
+//   const SDataType *type = FindScalarType("range", widget);
 //   if (type) type->show(widget, member, "1950000");
 #pragma once
 
@@ -23,7 +23,8 @@ struct SRelevance
 {
     QJsonValue entry;     // of valuePair, for the publisher's current text
     QString defaultText;  // the subscriber's default
-    bool isTestPage;      // a test page starts over in the middle, a calibration page holds its default
+    bool isTestPage;      // starts over in the middle; a calibration page holds its default
+    int column = 0;       // of a table's row
 };
 
 enum class ECellUse
@@ -37,7 +38,7 @@ enum class ECellUse
 struct SCellWish
 {
     ECellUse use;
-    QTableWidget *table;  // parent of the cell
+    QTableWidget *table;  // parent of the cell; null for one that is only read
     QJsonObject entry;    // limits, decimals, radix
     QJsonArray items;     // choices of a list
     QJsonValue value;     // text to start with; undefined when there is none
@@ -74,9 +75,10 @@ struct SDataType
 
     // A cell of a table.
     bool inRowTable = false;
-    bool updatesCell = false;  // a column table's Update writes it
-    bool takesStatus = false;  // defaultEnableStatus applies to it
-    int columnWidth = 0;       // pixels that it wants in a column table; 0: the table's own
+    bool cellReadsEntry = false;  // a column table's cell needs the value or valuePair entry
+    bool updatesCell = false;     // a column table's Update writes it
+    bool takesStatus = false;     // defaultEnableStatus applies to it
+    int columnWidth = 0;          // pixels that it wants in a column table; 0: the table's own
     QWidget *(*makeCell)(const SCellWish &wish) = nullptr;
     const char *relateCellLog = nullptr;
     void (*relateCell)(QWidget *cell, const SRelevance &relevance) = nullptr;

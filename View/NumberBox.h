@@ -5,7 +5,7 @@
 //
 //   const auto limits = ReadLimits<QSpinBox>(entry);
 //   ApplyLimits(box, limits);
-//   box->setValue(limits.Fit(ParseNumber<QSpinBox>(text)));
+//   box->setValue(limits.Fit(SNumber<QSpinBox>::FromText(text)));
 #pragma once
 
 #include <QDoubleSpinBox>

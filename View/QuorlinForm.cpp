@@ -11,6 +11,8 @@ CQuorlinForm::CQuorlinForm(PageTypeRegistrar registerPageTypes)
     delete takeCentralWidget();  // the window lives from dock widgets alone
     RegisterOperationResultTypes();
     registerPageTypes();
+    connect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_Idle, this,
+            [this] { emit Signal_PluginIsBusy(false); });
 }
 
 CQuorlinForm::~CQuorlinForm() = default;
@@ -58,12 +60,16 @@ void CQuorlinForm::ResetPages()
     m_viewCtrl.ResetTargetCache();
     RemovePages();
     m_isInitStarted = false;
+    // The pages that were busy can no longer say that they are done; the target's own end counts.
+    if (m_busyPages > 0)
+        m_viewCtrl.ReportIdle();
+    m_busyPages = 0;
 }
 
 bool CQuorlinForm::QueryPluginSupport(QString &reason)
 {
     const SRfSupportStatus support = m_viewCtrl.GetSupportStatus();
-    const bool isSupported = support.status == 1;
+    const bool isSupported = support.status == eSupported;
     reason = isSupported ? QString() : support.message;
     return isSupported;
 }

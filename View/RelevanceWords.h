@@ -1,8 +1,8 @@
 // What the two kinds of relevance have in common, and what sets them apart, as data.
 //
-// Value relevance recomputes the choices and value of a dependent member, status relevance whether it
-// is enabled. Both follow a publish list of the document, form a key for each target, and look it up
-// in a table of the target's trait. A null log text is not logged.
+// Value relevance recomputes the choices and value of a dependent member, status relevance whether
+// it is enabled. Both follow a publish list of the document, form a key for each target, and look
+// it up in a table of the target's trait. A null log text is not logged.
 #pragma once
 
 class CAutoBindingDataModelDockWidget;

@@ -27,7 +27,8 @@ STableGroup::STableGroup(const QJsonObject &document, const QString &memberPath)
     instances = group.value(QLatin1String("instanceList")).toArray();
     columns = ReadColumns(properties);
     for (const QString &member : qAsConst(members)) {
-        if (Member(member, "defaultSupport").toDouble() == 1)
+        // A key that stands twice in the list is still one row.
+        if (Member(member, "defaultSupport").toDouble() == 1 && !rows.contains(member))
             rows.append(member);
     }
 }

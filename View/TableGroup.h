@@ -1,7 +1,7 @@
 // What a table binds to: the group of its document, read once for a walk over the table.
 //
-// A column table shows one row a supported member (defaultSupport exactly 1), in list order, and one
-// column an element of the members' arrays. Values only; GUI thread.
+// A column table shows one row a supported member (defaultSupport exactly 1), in list order, and
+// one column an element of the members' arrays. Values only; GUI thread.
 //
 //   const STableGroup group(m_dataModel, path);
 //   for (const QString &member : group.rows) ...

@@ -4,7 +4,7 @@
 #include <QWheelEvent>
 
 CUnsignedSpinBox::CUnsignedSpinBox(QWidget *parent, int base)
-    : QLineEdit(parent), m_base(base >= 2 && base <= 36 ? base : 10)
+    : QLineEdit(parent), m_base(ValidBase(base))
 {
     installEventFilter(this);
     connect(this, &QLineEdit::textChanged, this, &CUnsignedSpinBox::validate);
@@ -13,7 +13,7 @@ CUnsignedSpinBox::CUnsignedSpinBox(QWidget *parent, int base)
 
 QString CUnsignedSpinBox::ToText(unsigned int value, int base)
 {
-    return QString::number(value, base).toUpper();
+    return QString::number(value, ValidBase(base)).toUpper();
 }
 
 void CUnsignedSpinBox::validate(QString text)
@@ -29,8 +29,8 @@ void CUnsignedSpinBox::validate(QString text)
     }
     setText(m_lastValidText);
     QToolTip::showText(mapToGlobal(QPoint(5, 5)),
-                       QLatin1String("Range should be:") + ToText(m_minimum, m_base)
-                           + QLatin1Char('~') + ToText(m_maximum, m_base),
+                       QLatin1String("Range should be:") + ToText(m_minimum, m_base) +
+                           QLatin1Char('~') + ToText(m_maximum, m_base),
                        this);
 }
 

@@ -2,8 +2,9 @@
 //
 // Built once a walk from all widgets below a root, depth-first with children in creation order. A
 // widget's kind is told by its exact class name, so a subclass of a Qt class is another kind. The
-// inside of a table is left out: its cells come and go by the thousand, and none is bound by a name.
-// GUI thread; the index holds plain pointers to widgets of the form, which live as long as the page.
+// inside of a table is left out: its cells come and go by the thousand, and none is bound by a
+// name. GUI thread; the index holds plain pointers to widgets of the form, which live as long as
+// the page.
 //
 //   const CWidgetIndex index(page);
 //   for (QWidget *widget : index.BoundWidgets()) ...

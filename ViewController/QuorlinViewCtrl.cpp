@@ -32,23 +32,31 @@ SRfSupportStatus CQuorlinViewCtrl::GetSupportStatus()
 
 void CQuorlinViewCtrl::ResetTargetCache()
 {
+    ++m_epoch;
     GetCore().ResetTargetCache();
 }
 
-// The answer of job goes out through signal, on the GUI thread, if this object still lives then.
+// The answer of job goes out through signal, on the GUI thread, if this object still lives then and
+// no reset came between. A job that throws answers with nothing.
 template <typename Job, typename Answer>
 void CQuorlinViewCtrl::RunOnPool(const char *internalName, Job job,
                                  void (CQuorlinViewCtrl::*signal)(Answer))
 {
     CNrCore &core = GetCore();
-    m_future = QtConcurrent::run(
-        [internalName, job, signal, &core, self = QPointer<CQuorlinViewCtrl>(this)] {
-            qCDebug(lcCore) << internalName;
-            PostToGui([self, signal, answer = job(core)] {
-                if (self)
-                    emit(self->*signal)(answer);
-            });
+    m_future = QtConcurrent::run([internalName, job, signal, &core, epoch = m_epoch,
+                                  self = QPointer<CQuorlinViewCtrl>(this)] {
+        qCDebug(lcCore) << internalName;
+        Answer answer;
+        try {
+            answer = job(core);
+        } catch (...) {
+            qCCritical(lcCore) << internalName << "ended by an exception";
+        }
+        PostToGui([self, signal, epoch, answer] {
+            if (self && self->m_epoch == epoch)
+                emit(self->*signal)(answer);
         });
+    });
 }
 
 void CQuorlinViewCtrl::RequestDataModel(const char *internalName, EPageId page,
@@ -86,6 +94,17 @@ void CQuorlinViewCtrl::RequestStop(const char *internalName, bool isNr)
     });
 }
 
+void CQuorlinViewCtrl::ReportIdle()
+{
+    m_future = QtConcurrent::run([&core = GetCore(), self = QPointer<CQuorlinViewCtrl>(this)] {
+        core.WaitForTurn();
+        PostToGui([self] {
+            if (self)
+                emit self->Signal_Idle();
+        });
+    });
+}
+
 void CQuorlinViewCtrl::GetInitPageList()
 {
     RunOnPool(
@@ -115,10 +134,20 @@ void CQuorlinViewCtrl::MultiRatTestStop()
     RequestStop("MultiRatTestStopInternal", false);
 }
 
+// The core has one signal for the tests of all pages. An answer of another page's test, which was
+// under way when ours began, is not ours.
+bool CQuorlinViewCtrl::TakeAnswer(EPageId page, const SEachItemOperationResult &result)
+{
+    if (result.itemName != GetCore().GetPageName(static_cast<int>(page)))
+        return false;
+    disconnect(&GetCore(), &CNrCore::Signal_TestDone, this, nullptr);
+    return true;
+}
+
 void CQuorlinViewCtrl::Slot_ContRxTestDone(SEachItemOperationResult result, std::string)
 {
-    disconnect(&GetCore(), &CNrCore::Signal_TestDone, this, nullptr);
-    emit Signal_ContRxTestDone(result);
+    if (TakeAnswer(EPageId::ContRx, result))
+        emit Signal_ContRxTestDone(result);
 }
 
 void CQuorlinViewCtrl::Slot_TestStopDone(SEachItemOperationResult result)

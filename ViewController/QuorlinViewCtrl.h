@@ -31,7 +31,9 @@ public:
     // The host's target handle, for all calls to the target from now on.
     static void SetTargetHandle(uint32_t handle);
 
-    // On the calling thread: the support check blocks on the link, the reset never does.
+    // On the calling thread: the support check blocks on the link, the reset never does. Documents
+    // and page lists that were asked for before a reset are of the old target: none arrives after
+    // it.
     SRfSupportStatus GetSupportStatus();
     void ResetTargetCache();
 
@@ -47,11 +49,15 @@ public:
     void NrTestStop();
     void MultiRatTestStop();
 
+    // Signal_Idle as soon as no job of the core runs.
+    void ReportIdle();
+
 signals:
     void Signal_GetInitPageListDone(QStringList pageList);
     void Signal_GetContRxDataModelDone(std::string dataModel);
     void Signal_ContRxTestDone(SEachItemOperationResult result);
     void Signal_TestStopDone(SEachItemOperationResult result);
+    void Signal_Idle();
 
 private slots:
     void Slot_ContRxTestDone(SEachItemOperationResult result, std::string response);
@@ -65,9 +71,11 @@ private:
     void RequestTest(const char *internalName, EPageId page, std::string document,
                      TestDoneSlot done);
     void RequestStop(const char *internalName, bool isNr);
+    bool TakeAnswer(EPageId page, const SEachItemOperationResult &result);
 
     template <typename Job, typename Answer>
     void RunOnPool(const char *internalName, Job job, void (CQuorlinViewCtrl::*signal)(Answer));
 
     QFuture<void> m_future;  // job last started; kept, never waited on
+    int m_epoch = 0;         // changes with a reset
 };

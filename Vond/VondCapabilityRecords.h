@@ -5,7 +5,7 @@
 // use. Bands are 3GPP NR band numbers (TS 38.101-1 table 5.2-1, 78 for n78).
 #pragma once
 
-#include "VondLayout.h"
+#include "Vond/VondLayout.h"
 
 constexpr int VOND_MAX_BANDS = 25;
 constexpr int VOND_MAX_TX_ROUTES = 100;
@@ -47,6 +47,8 @@ VOND_SIZE(SERfCapability, 248);
 VOND_OFFSET(SERfCapability, reserved0, 0);
 VOND_OFFSET(SERfCapability, rfChipId, 8);
 VOND_OFFSET(SERfCapability, reserved12, 12);
+
+constexpr uint32_t VOND_RAT_NR = 0x40;  // bit of NR in the value of the world mode word
 
 // Answer of VOND_MMRf_GetRfCapability_r.
 struct SMMRfCapability

@@ -6,7 +6,7 @@
 // (TS 38.101-1 table 5.2-1). SCS values are 0: 15 kHz, 1: 30 kHz, 2: 60 kHz.
 #pragma once
 
-#include "VondLayout.h"
+#include "Vond/VondLayout.h"
 
 // One carrier of a PUSCH test.
 struct SNrPuschCcV7

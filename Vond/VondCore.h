@@ -11,9 +11,9 @@
 //   if (VOND_MMRf_GetRouteConfigV7_r(handle, 10000, &kind, &config) != VOND_SUCCESS) ...
 #pragma once
 
-#include "VondCapabilityRecords.h"
-#include "VondCommandRecords.h"
-#include "VondResultRecords.h"
+#include "Vond/VondCapabilityRecords.h"
+#include "Vond/VondCommandRecords.h"
+#include "Vond/VondResultRecords.h"
 
 using VOND_RESULT = int32_t;
 constexpr VOND_RESULT VOND_SUCCESS = 0;

@@ -12,6 +12,8 @@
 #include <cstdint>
 #include <type_traits>
 
+static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__, "wire records are little-endian");
+
 #define VOND_SIZE(Record, bytes)                                                                   \
     static_assert(sizeof(Record) == (bytes), #Record " must be " #bytes " bytes");                 \
     static_assert(std::is_trivially_copyable_v<Record> && std::is_standard_layout_v<Record>,       \

@@ -3,7 +3,7 @@
 // All records are little-endian and naturally aligned. The caller zeroes a record before the call.
 #pragma once
 
-#include "VondLayout.h"
+#include "Vond/VondLayout.h"
 
 constexpr int VOND_MAX_REPORTS = 10;   // measurements of one RSRP report
 constexpr int VOND_MAX_RSSI_ROWS = 5;  // frequencies of one RSSI measurement
@@ -156,6 +156,7 @@ VOND_SIZE(SMMRssiCnfV7, 76);
 VOND_OFFSET(SMMRssiCnfV7, reserved0, 0);
 VOND_OFFSET(SMMRssiCnfV7, dlFrequency, 8);
 VOND_OFFSET(SMMRssiCnfV7, rows.single.row, 28);
+VOND_OFFSET(SMMRssiCnfV7, rows.single.row[0].rssiDiv, 30);
 VOND_OFFSET(SMMRssiCnfV7, rows.single.mainG, 48);
 VOND_OFFSET(SMMRssiCnfV7, rows.single.divG, 49);
 VOND_OFFSET(SMMRssiCnfV7, rows.single.maing, 50);

@@ -26,12 +26,14 @@ public:
     {
         std::printf("\n%-40s %-40s %8s %6s\n", "measured", "against", "ratio", "aim");
         for (int i = 0; i < count; ++i) {
+            const char *floorName = ratios[i].floor ? ratios[i].floor : "1 ms";
             const auto measured = m_seconds.find(ratios[i].measured);
-            const auto floor = m_seconds.find(ratios[i].floor);
-            if (measured == m_seconds.end() || floor == m_seconds.end())
+            const auto floor = m_seconds.find(floorName);
+            if (measured == m_seconds.end() || (ratios[i].floor && floor == m_seconds.end()))
                 continue;
-            std::printf("%-40s %-40s %8.2f", ratios[i].measured, ratios[i].floor,
-                        measured->second / floor->second);
+            const double unit = ratios[i].floor ? floor->second : 1e-3;
+            std::printf("%-40s %-40s %8.2f", ratios[i].measured, floorName,
+                        measured->second / unit);
             if (ratios[i].aim > 0)
                 std::printf(" %6.1f", ratios[i].aim);
             std::printf("\n");

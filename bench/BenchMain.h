@@ -1,7 +1,8 @@
 // Runs the benchmarks of a program and prints ratios against floors measured in the same run.
 //
 // A ratio names two benchmarks: what is measured, and the floor that it cannot be faster than. The
-// aim, where there is one, is printed beside it; nothing fails.
+// aim, where there is one, is printed beside it; nothing fails. Without a floor the aim is the time
+// itself, in milliseconds.
 //
 //   static const SRatio kRatios[] = {{"LeafWrite/5000", "LeafWriteMap/5000", 5.0}};
 //   int main(int argc, char **argv) { return RunBenchmarks(argc, argv, kRatios, 1); }
@@ -10,8 +11,8 @@
 struct SRatio
 {
     const char *measured;
-    const char *floor;
-    double aim;  // ratio that should not be exceeded; 0 for none
+    const char *floor;  // null: an absolute time
+    double aim;         // not to be exceeded; 0 for none
 };
 
 int RunBenchmarks(int argc, char **argv, const SRatio *ratios, int count);

@@ -14,10 +14,16 @@ constexpr SRatio kRatios[] = {
     {"ColumnTablePackage", "ColumnTableReadCells", 0},
     {"Append/1000", "Append/0", 1.5},
     {"Append/10000", "Append/0", 1.5},
+    {"Append/0", "Append/1000", 1.5},
+    {"Append/0", "Append/10000", 1.5},
+    {"Append/10000", "Append/1000", 1.5},
+    {"Append/1000", "Append/10000", 1.5},
     {"Append/0", "AppendItems/0", 2},
     {"Append/1000", "AppendItems/1000", 2},
     {"Append/10000", "AppendItems/10000", 2},
     {"BandChangeLargeDocument", "BandChangeSmallDocument", 0},
+    {"BandChangeLargeDocument", nullptr, 16},
+    {"BandChangeLogged", nullptr, 16},
 };
 
 }  // namespace

@@ -53,6 +53,33 @@ check_scripts() {
     shellcheck -x run.sh test.sh .ci/run scripts/*.sh
 }
 
+# The arrows between the folders: what each may include beside itself. The closed libraries' functions
+# are for Operations alone.
+check_arrows() {
+    local folder allowed good=true
+    while read -r folder allowed; do
+        if grep -rnE '^#include "[A-Z][A-Za-z]*/' --include='*.h' --include='*.cpp' "$folder" |
+            grep -vE "\"($folder${allowed:+|$allowed})/" >&2; then
+            good=false
+        fi
+    done <<'END'
+Model
+Support
+Vond
+Operations Support|Vond
+Controller Model|Operations|Support|Vond
+ViewController Controller|Model|Support
+View Model|Support|ViewController
+PluginInterface View|Support
+Host PluginInterface
+Simulator Vond
+END
+    if grep -rnE '"Vond/Vond(Core|App)\.h"' Controller ViewController View PluginInterface Host >&2; then
+        good=false
+    fi
+    $good
+}
+
 # Sources that clang-tidy looks at: a changed header stands for the source of its name. Only what
 # the build compiles.
 tidy_sources() {
@@ -98,7 +125,7 @@ check_tidy() {
 }
 
 mapfile -t sources < <(project_files '*.cpp' '*.h')
-for check in format length scripts tidy; do
+for check in format length arrows scripts tidy; do
     quorlin_say "Check: $check"
     if "check_$check"; then
         echo "Good."

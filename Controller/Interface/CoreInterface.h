@@ -7,18 +7,25 @@
 #include <string>
 
 #include <QFile>
-#include <QFuture>
 #include <QJsonObject>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 
+enum ESupport
+{
+    eSupportUndecided = 0,
+    eSupported = 1,
+    eNotSupported = 2,
+    eSupportUnknown = 3,  // could not be found out
+};
+
 // Can the tool run on the DUT at hand?
 struct SRfSupportStatus
 {
-    int status = 0;   // 0 not yet decided, 1 supported, 2 not supported, 3 could not be found out
-    QString message;  // why, for the host to show
-    QString advice;   // what the user can do about status 3
+    int status = eSupportUndecided;  // ESupport
+    QString message;                 // why, for the host to show
+    QString advice;                  // what the user can do about status 3
 };
 
 // Reads a document from a resource or file.
@@ -65,6 +72,5 @@ public:
 
 protected:
     SRfSupportStatus m_supportStatus;  // last answer of GetSupportStatus
-    QFuture<void> m_future;            // job last started; kept, never waited on
     QString m_errorMessage;
 };

@@ -4,8 +4,10 @@
 //     idle      Start on, Stop off
 //     starting  both off, busy     -> running, or idle when the target refused
 //     running   Start off, Stop on
-//     stopping  both off, busy     -> idle, or running when the stop failed, so that it can be tried again
-// The binding carries all inputs (NrContRxV7.json); this class is the two buttons and their answers.
+//     stopping  both off, busy     -> idle, or running when the stop failed, so that it can be
+//     tried again
+// The binding carries all inputs (NrContRxV7.json); this class is the two buttons and their
+// answers.
 #pragma once
 
 #include <memory>

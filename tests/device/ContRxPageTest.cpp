@@ -2,6 +2,7 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QPushButton>
+#include <QTabBar>
 #include <QtTest>
 
 #include "tests/common/BoxWatcher.h"
@@ -38,6 +39,28 @@ bool Running(CPluginSession &session)
     return session.WaitForStatus("Cont Rx start...");
 }
 
+// Brings another tab to the front, and the page back, at the tab bar.
+void ChangeTabs(CPluginSession &session)
+{
+    auto *page = session.Find<QDockWidget>("CNrContRxDockWidgetV7");
+    if (!session.Find<QDockWidget>("other")) {
+        auto *other = new QDockWidget("Other", session.Window());
+        other->setObjectName("other");
+        session.Window()->addDockWidget(Qt::TopDockWidgetArea, other);
+        session.Window()->tabifyDockWidget(page, other);
+        QCoreApplication::processEvents();
+    }
+    auto *bar = session.Window()->findChild<QTabBar *>(QString(), Qt::FindDirectChildrenOnly);
+    QVERIFY(bar);
+    QCOMPARE(bar->count(), 2);
+    const int pageTab = bar->tabText(0) == page->windowTitle() ? 0 : 1;
+    for (int tab : {1 - pageTab, pageTab}) {
+        QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(tab).center());
+        QCoreApplication::processEvents();
+        QCOMPARE(bar->currentIndex(), tab);
+    }
+}
+
 }  // namespace
 
 class ContRxPageTest : public QObject
@@ -53,6 +76,8 @@ private slots:
     void stopOfAGoneDutFailsAndCanBeTriedAgain();
     void failureWithoutATextShowsTheAdvice();
     void secondTestOnTheSamePageDoesNotDoubleTheSignals();
+    void tabChangeStopsARunningTest();
+    void tabChangeLeavesAStartInFlightAlone();
     void startOnAnotherGenerationSaysThatNothingRan();
     void hostCanDisableAndEnableThePages();
     void windowIsDisabledWhileItsPagesInit();
@@ -187,6 +212,34 @@ void ContRxPageTest::secondTestOnTheSamePageDoesNotDoubleTheSignals()
     QCOMPARE(session.busy, (QVector<bool>{true, false, true, false, true, false, true, false}));
     QCOMPARE(CountCalls(kStart), 2);
     QCOMPARE(CountCalls(kStop), 2);
+}
+
+void ContRxPageTest::tabChangeStopsARunningTest()
+{
+    CPluginSession session(Type1Profile());
+    QVERIFY(Running(session));
+    ChangeTabs(session);
+    QVERIFY(session.WaitForStatus("Cont Rx stop."));
+    QCOMPARE(CountCalls(kStop), 1);
+    QCOMPARE(Enabled(session), QString("start"));
+    // An idle page is left alone.
+    ChangeTabs(session);
+    QCOMPARE(session.busy, (QVector<bool>{true, false, true, false}));
+    QCOMPARE(CountCalls(kStop), 1);
+}
+
+void ContRxPageTest::tabChangeLeavesAStartInFlightAlone()
+{
+    CPluginSession session(Type1Profile());
+    QVERIFY(Ready(session));
+    VondSim_Hold(kStart);
+    session.Press("m_start");
+    QVERIFY(VondSim_WaitUntilHeld(kStart, 20000));
+    ChangeTabs(session);
+    VondSim_Release(kStart);
+    QVERIFY(session.WaitForStatus("Cont Rx start..."));
+    QCOMPARE(CountCalls(kStop), 0);
+    QCOMPARE(Enabled(session), QString("stop"));
 }
 
 void ContRxPageTest::startOnAnotherGenerationSaysThatNothingRan()

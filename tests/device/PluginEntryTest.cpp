@@ -42,6 +42,9 @@ void PluginEntryTest::metadataNamesTheTool()
     const QJsonObject data = QPluginLoader(PluginFile()).metaData();
     QCOMPARE(data["IID"].toString(), QString("com.halvane.Vond.VondToolPlugin"));
     QCOMPARE(data["className"].toString(), QString("QuorlinPluginInterface"));
+#ifdef QT_NO_DEBUG
+    QCOMPARE(data["debug"].toBool(), false);
+#endif
     const QJsonObject own = data["MetaData"].toObject();
     QCOMPARE(own["type"].toString(), QString("RF"));
     QCOMPARE(own["name"].toString(), QString("Quorlin RF"));

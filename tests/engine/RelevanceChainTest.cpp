@@ -170,6 +170,7 @@ private slots:
                             "---> [Value Relevance][type1] Has the subscribeValueList <--- ",
                             "---> [Value Relevance][type1] Key <---  \"y\"",
                             "---> [Value Relevance][type1] Find!!!!!!! <--- ",
+                            "---> [Value Relevance][type1] Vair Pair JSON object <--- ",
                             "---> [Value Relevance][type1] Combobox List <---",
                             "============ [Done][Value Relevance] =========== "}));
     }

@@ -1,0 +1,36 @@
+#include "tests/fuzz/BoxCloser.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QMessageBox>
+
+CBoxCloser::CBoxCloser()
+{
+    qApp->installEventFilter(this);
+}
+
+bool CBoxCloser::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::Polish && event->type() != QEvent::Show)
+        return false;
+    auto *box = qobject_cast<QMessageBox *>(watched);
+    if (!box)
+        return false;
+    if (event->type() == QEvent::Polish) {
+        box->setAttribute(Qt::WA_DontShowOnScreen);  // nobody looks, and painting takes its time
+        return false;
+    }
+    ++m_count;
+    const QPointer<QWidget> shown = box;
+    QMetaObject::invokeMethod(
+        this, [this, shown] { Close(shown); }, Qt::QueuedConnection);
+    return false;
+}
+
+void CBoxCloser::Close(QWidget *box)
+{
+    const QPointer<QWidget> shown = box;
+    delete m_doomed.data();
+    if (shown)
+        shown->close();
+}

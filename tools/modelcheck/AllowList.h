@@ -1,0 +1,44 @@
+// The breaches that pages make on purpose.
+//
+// A text file, one breach a line: file name, path, kind, and the reason in words; blanks between
+// them. A path with a blank in it stands in quotes. Empty lines and lines that start with "#" are
+// left out.
+//
+//     Page.json cmdIf.request.group1.memberProperty.band.trait.defaultValue default-zero fits all
+//     bands
+//
+// A line excuses the findings with that very file name (without its folder), path and kind, and
+// nothing else. A line that excuses nothing, of a file that was checked, is a finding itself, so
+// the list never holds more than the pages need. Lines of files that were not checked rest.
+//
+//   const SAllowList list = ReadAllowList(text);
+//   if (!list.error.isEmpty()) ...                       // "line 7: unknown kind "cicle""
+//   ApplyAllowList(list, "allowed.txt", {"A.json", "A.ui"}, findings);
+#pragma once
+
+#include <vector>
+
+#include <QStringList>
+
+#include "tools/modelcheck/Finding.h"
+
+struct SAllowLine
+{
+    QString file;
+    QString path;
+    EKind kind;
+    QString reason;
+    int line;
+};
+
+struct SAllowList
+{
+    std::vector<SAllowLine> lines;
+    QString error;  // empty when the text is a list
+};
+
+SAllowList ReadAllowList(const QString &text);
+
+// Takes the excused findings out, and adds one for each stale line; listName is the list's file.
+void ApplyAllowList(const SAllowList &list, const QString &listName,
+                    const QStringList &checkedFiles, TFindings &findings);
