@@ -6,13 +6,14 @@
 
 include_guard(GLOBAL)
 
-# Compiler cache, told that the precompiled headers of this project are safe to share.
+# Compiler cache, told that the precompiled headers of this project are safe to share, and that another
+# clone in another folder is the same code.
 function(quorlin_use_ccache)
   find_program(QUORLIN_CCACHE ccache)
   if(QUORLIN_CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER
         ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime
-        ${QUORLIN_CCACHE} PARENT_SCOPE)
+        CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=true ${QUORLIN_CCACHE} PARENT_SCOPE)
   endif()
 endfunction()
 

@@ -1,8 +1,11 @@
 #include "tests/fuzz/BoxCloser.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
+#include <QPointer>
 
 CBoxCloser::CBoxCloser()
 {
@@ -20,7 +23,6 @@ bool CBoxCloser::eventFilter(QObject *watched, QEvent *event)
         box->setAttribute(Qt::WA_DontShowOnScreen);  // nobody looks, and painting takes its time
         return false;
     }
-    ++m_count;
     const QPointer<QWidget> shown = box;
     QMetaObject::invokeMethod(
         this, [this, shown] { Close(shown); }, Qt::QueuedConnection);
@@ -30,7 +32,10 @@ bool CBoxCloser::eventFilter(QObject *watched, QEvent *event)
 void CBoxCloser::Close(QWidget *box)
 {
     const QPointer<QWidget> shown = box;
-    delete m_doomed.data();
+    // Taken away first: it may open a box of its own.
+    const std::function<void()> action = std::exchange(m_action, {});
+    if (action)
+        action();
     if (shown)
         shown->close();
 }

@@ -1,15 +1,18 @@
-// Closes every message box as soon as its event loop runs, and may destroy a page meanwhile.
+// Closes every message box as soon as its event loop runs, and does something else first, once.
 //
 // It watches the application's events for a box that opens, so nothing waits on a clock. One per
 // process. GUI thread.
 //
 //   CBoxCloser closer;
-//   closer.Doom(page);          // goes away with the next box open
-//   page->UpdateWidget(report); // returns, page may be gone
+//   closer.Meanwhile([=] { delete page; });  // while the next box is open
+//   page->UpdateWidget(report);              // returns, page may be gone
 #pragma once
 
-#include <QPointer>
-#include <QWidget>
+#include <functional>
+
+#include <QObject>
+
+class QWidget;
 
 class CBoxCloser : public QObject
 {
@@ -18,9 +21,8 @@ class CBoxCloser : public QObject
 public:
     CBoxCloser();
 
-    // The widget to be destroyed while the next box is open; null for none.
-    void Doom(QWidget *widget) { m_doomed = widget; }
-    int Count() const { return m_count; }
+    // What happens while the next box is open, before it closes; an empty function for nothing.
+    void Meanwhile(std::function<void()> action) { m_action = std::move(action); }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -28,6 +30,5 @@ protected:
 private:
     void Close(QWidget *box);
 
-    QPointer<QWidget> m_doomed;
-    int m_count = 0;
+    std::function<void()> m_action;
 };

@@ -42,8 +42,11 @@ public:
     }
     CFuzzPage *Page() { return m_page; }
     QJsonObject Report(uint8_t which, uint8_t how);
+    void TakeOwnReport();
     void ShowResult(uint8_t which, uint8_t how);
-    void Doom() { s_closer->Doom(m_page); }
+    // What goes on while the next box is open: the page is destroyed, or another report comes.
+    void DestroyLater();
+    void ReportLater(const QJsonObject &report);
 
 private:
     void Act(const QByteArray &actions);
@@ -71,7 +74,7 @@ constexpr SAction kActions[] = {
     {'w', [](CRun &run, uint8_t which, uint8_t how) { FuzzUser::Wheel(run.Editor(which), how); }},
     {'f', [](CRun &run, uint8_t which, uint8_t how) { FuzzUser::Focus(run.Editor(which), how); }},
     {'p', [](CRun &run, uint8_t, uint8_t) { CheckedPackage(*run.Page()); }},
-    {'o', [](CRun &run, uint8_t, uint8_t) { CheckOwnReport(run.Page()); }},
+    {'o', [](CRun &run, uint8_t, uint8_t) { run.TakeOwnReport(); }},
     {'u', [](CRun &run, uint8_t which,
              uint8_t how) { run.Page()->UpdateWidget(run.Report(which, how)); }},
     {'a', [](CRun &run, uint8_t which,
@@ -79,7 +82,8 @@ constexpr SAction kActions[] = {
     {'e', [](CRun &, uint8_t, uint8_t) { QCoreApplication::sendPostedEvents(); }},
     {'h', [](CRun &run, uint8_t, uint8_t how) { run.Page()->setVisible(how % 2 == 0); }},
     {'s', [](CRun &run, uint8_t which, uint8_t how) { run.ShowResult(which, how); }},
-    {'k', [](CRun &run, uint8_t, uint8_t) { run.Doom(); }},
+    {'k', [](CRun &run, uint8_t, uint8_t) { run.DestroyLater(); }},
+    {'l', [](CRun &run, uint8_t which, uint8_t how) { run.ReportLater(run.Report(which, how)); }},
 };
 
 const SAction &FindAction(char key)
@@ -97,6 +101,25 @@ QJsonObject CRun::Report(uint8_t which, uint8_t how)
     if (!reports.isEmpty() && which % 2 == 0)
         return Bounded(ModelFromText(reports[which / 2 % reports.size()].toStdString()));
     return Bounded(FuzzVariant(m_page->Model(), m_page->Word(), m_page->ResultSection(), how));
+}
+
+void CRun::DestroyLater()
+{
+    s_closer->Meanwhile([page = m_page] { delete page.data(); });
+}
+
+void CRun::ReportLater(const QJsonObject &report)
+{
+    s_closer->Meanwhile([page = m_page, report] {
+        if (page)
+            page->UpdateWidget(report);
+    });
+}
+
+void CRun::TakeOwnReport()
+{
+    s_closer->Meanwhile({});  // it would come between the checks
+    CheckOwnReport(*m_page);
 }
 
 void CRun::ShowResult(uint8_t which, uint8_t how)
@@ -127,13 +150,15 @@ void CRun::Go()
     m_page = new CFuzzPage(m_input.ModelInterface(), s_host);
     m_page->setGeometry(s_host->rect());
     m_page->show();
+    if (m_input.Actions().startsWith('k'))
+        DestroyLater();
     m_page->Deliver(m_input.Document());
     if (m_page)
         CheckedPackage(*m_page);
     Act(m_input.Actions());
     if (m_page)
-        CheckOwnReport(m_page);
-    s_closer->Doom(nullptr);
+        TakeOwnReport();
+    s_closer->Meanwhile({});
     delete m_page.data();
 }
 

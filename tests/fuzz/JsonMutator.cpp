@@ -60,7 +60,7 @@ constexpr double kNumbers[] = {0,    1,       2,        3,      4,           16,
                                36,   37,      -1,       0.5,    9,           17,
                                64,   99,      1023,     1025,   2147483647,  -2147483648.0,
                                1e19, 1.7e308, -1.7e308, 5e-324, 4294967295.0};
-constexpr char kActionKeys[] = "vvvvtttwwfpouuaaehsk";
+constexpr char kActionKeys[] = "vvvvtttwwfpouuaaehskl";
 constexpr int kShown = 94;  // printable characters behind the blank
 
 class CJsonMutator

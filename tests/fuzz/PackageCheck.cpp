@@ -7,7 +7,6 @@
 #include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QJsonDocument>
-#include <QPointer>
 #include <QSpinBox>
 
 #include "Model/JsonPath.h"
@@ -32,9 +31,11 @@ void CheckScalar(QWidget *editor, const QString &text)
     if (ExactCast<QSpinBox>(editor)) {
         text.toInt(&ok, 10);
         Require(ok, "a range packages as a decimal integer");
-    } else if (ExactCast<QDoubleSpinBox>(editor)) {
+    } else if (const auto *box = ExactCast<QDoubleSpinBox>(editor)) {
+        // What is half typed packages as it stands, such as "-".
         const double value = text.toDouble(&ok);
-        Require(ok && std::isfinite(value), "a point range packages as a number");
+        Require((ok && std::isfinite(value)) || !box->hasAcceptableInput(),
+                "a point range packages as a number");
     } else if (ExactCast<QCheckBox>(editor)) {
         Require(text == QLatin1String("true") || text == QLatin1String("false"),
                 "a boolean packages as true or false");
@@ -121,24 +122,19 @@ QJsonObject CheckedPackage(CFuzzPage &page)
     return packaged;
 }
 
-void CheckOwnReport(CFuzzPage *page)
+void CheckOwnReport(CFuzzPage &page)
 {
-    const QString results = page->Word() + QLatin1Char('.') + page->ResultSection();
-    const QString inputs = page->Word() + QLatin1Char('.') + page->InputSection();
-    const QJsonObject before = CheckedPackage(*page);
+    const QString results = page.Word() + QLatin1Char('.') + page.ResultSection();
+    const QString inputs = page.Word() + QLatin1Char('.') + page.InputSection();
+    const QJsonObject before = CheckedPackage(page);
     const bool isQuiet = !Publishes(GetJsonValueConst(before, results).toObject());
-    const QPointer<CFuzzPage> alive = page;
 
-    page->UpdateWidget(before);
-    if (!alive)
-        return;
-    const QJsonObject once = CheckedPackage(*page);
+    page.UpdateWidget(before);
+    const QJsonObject once = CheckedPackage(page);
     Require(!isQuiet || GetJsonValueConst(once, inputs) == GetJsonValueConst(before, inputs),
             "a report leaves what the user entered");
 
-    page->UpdateWidget(before);
-    if (!alive)
-        return;
-    const QJsonObject twice = CheckedPackage(*page);
+    page.UpdateWidget(before);
+    const QJsonObject twice = CheckedPackage(page);
     Require(!isQuiet || twice == once, "the same report again changes nothing");
 }

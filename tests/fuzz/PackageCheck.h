@@ -18,6 +18,5 @@ void Require(bool holds, const char *rule);
 QJsonObject CheckedPackage(CFuzzPage &page);
 
 // The page takes its own packaged document as a report. Nothing that the user entered changes, and
-// taking it again changes nothing at all, as long as no result member publishes to others. The page
-// may be gone afterwards; the check then ends.
-void CheckOwnReport(CFuzzPage *page);
+// taking it again changes nothing at all, as long as no result member publishes to others.
+void CheckOwnReport(CFuzzPage &page);
