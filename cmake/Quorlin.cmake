@@ -75,7 +75,7 @@ endfunction()
 #   QT      uses QtTest; without it the test is a GoogleTest program
 function(quorlin_test)
   cmake_parse_arguments(T "QT" "NAME;LABELS" "SOURCES;DEPENDS" ${ARGN})
-  set(timeout_unit 30)
+  set(timeout_unit 120)
   set(timeout_gui 120)
   set(timeout_device 300)
   if(NOT DEFINED timeout_${T_LABELS})

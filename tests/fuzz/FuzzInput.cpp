@@ -2,20 +2,13 @@
 
 #include "View/AutoBindingDataModelDockWidget.h"
 
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define QUORLIN_LEAKS_COUNT
-#endif
-#elif defined(__SANITIZE_ADDRESS__)
-#define QUORLIN_LEAKS_COUNT
-#endif
-
-#ifdef QUORLIN_LEAKS_COUNT
+// GCC names the sanitizer in a macro, clang as a feature; Qt makes the latter harmless elsewhere.
+#if defined(__SANITIZE_ADDRESS__) || __has_feature(address_sanitizer)
 extern "C" void __lsan_disable();
 extern "C" void __lsan_enable();
 #else
-void __lsan_disable() {}
-void __lsan_enable() {}
+static void __lsan_disable() {}
+static void __lsan_enable() {}
 #endif
 
 namespace {

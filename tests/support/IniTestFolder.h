@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 class CIniTestFolder
@@ -48,7 +49,15 @@ public:
     }
 
 private:
-    QTemporaryDir m_folder;
+    // In memory where the system has a place for that: a save waits for the disk, and the tests
+    // save thousands of times.
+    static QString Template()
+    {
+        const QString memory = "/dev/shm";
+        return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + "/ini-test-XXXXXX";
+    }
+
+    QTemporaryDir m_folder{Template()};
 };
 
 // The text of the std::runtime_error that the call throws; empty when it throws none.
