@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
-# Hunts for inputs that break the binding engine: builds the fuzz target with clang, libFuzzer and the
-# address and undefined-behaviour sanitizers in build/fuzz, and runs it in the background on what is
-# known. What it finds lies in build/fuzz/found, what it learnt in build/fuzz/corpus for the next time.
+# Hunts for inputs that break the binding engine: builds the fuzz target with clang, libFuzzer and
+# the address and undefined-behaviour sanitizers in build/fuzz, and runs it in the background on what
+# is known. What it finds lies in build/fuzz/found, with its stacks in build/fuzz/fuzz.log; what it
+# learnt lies in build/fuzz/corpus for the next time.
 #
 #   tests/fuzz/run-fuzz.sh                 ten minutes, one process
 #   tests/fuzz/run-fuzz.sh 3600 4          an hour, four processes
 #
-# Fails when something was found. On Debian 12 the packages clang-14 and libclang-rt-14-dev are needed,
-# and are installed when this runs as root.
+# Fails when something was found, this time or before. On Debian 12 the packages clang-14 and
+# libclang-rt-14-dev are needed, and are installed when this runs as root.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
@@ -42,7 +43,8 @@ build_target() {
 # Leaks are left to the replay of the address sanitizer's build: looking for them after each input
 # makes a hunt many times slower. Stacks of allocations are kept short for the same reason.
 hunt() {
-    local sanitizer=detect_odr_violation=0:detect_leaks=0:malloc_context_size=2:quarantine_size_mb=32
+    local sanitizer=detect_odr_violation=0:detect_leaks=0
+    sanitizer+=:malloc_context_size=2:quarantine_size_mb=32
     exec env ASAN_OPTIONS=$sanitizer nice -n 10 "$build/bin/EngineFuzz" \
         -fork="$jobs" -ignore_crashes=1 -ignore_timeouts=1 -ignore_ooms=1 -detect_leaks=0 \
         -max_total_time="$seconds" -max_len=4096 -timeout=10 -rss_limit_mb=1500 \
