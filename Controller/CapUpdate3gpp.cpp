@@ -92,10 +92,9 @@ CNrDataModelCapUpdater::ReadBandTables(const QJsonArray &bands) const
             OfferDefault(tables.defaultRb, rbList);
         }
     }
-    const auto [slotFlags, scs, mhz] = byBand.ToObjects();
-    tables.slotFlags = slotFlags;
-    tables.scs = scs;
-    tables.mhz = mhz;
+    tables.slotFlags = byBand.ToObject(0);
+    tables.scs = byBand.ToObject(1);
+    tables.mhz = byBand.ToObject(2);
     tables.rb = rbTable.ToObject();
     return tables;
 }

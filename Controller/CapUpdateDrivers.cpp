@@ -144,11 +144,10 @@ bool CNrDataModelCapUpdater::UpdatePseudoTx(QJsonObject &doc, const QJsonArray &
     }
     // The defaults are fixed and do not follow the DUT: the page computes both from the carrier
     // that is chosen.
-    const auto [names, offsets] = byBand.ToObjects();
     return CDocumentWriter(doc).Write({
-        {ValuePairOf(group, "band"), names, "Update tx band value failed"},
+        {ValuePairOf(group, "band"), byBand.ToObject(0), "Update tx band value failed"},
         {DefaultOf(group, "band"), "n1", "Update tx band value failed"},
-        {ValuePairOf(group, "ulFrequency"), offsets, "Update ulFrequency value failed"},
+        {ValuePairOf(group, "ulFrequency"), byBand.ToObject(1), "Update ulFrequency value failed"},
         {DefaultOf(group, "ulFrequency"), "1920000", "Update ulFrequency value failed"},
     });
 }

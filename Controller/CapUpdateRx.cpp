@@ -82,7 +82,8 @@ bool CNrDataModelCapUpdater::UpdateRxHwSettingAndTxRouteV7(QJsonObject &doc,
                 defaultTxRoute = row->txRoutes.value(0);
             path0.Put(key, HwLabels(row->hw, 1, 0));
             path1.Put(key, SameHwLabels(""));
-            txRouteTable.Put(route, QJsonArray::fromStringList(row->txRoutes));
+            if (!txRouteValuePairPath.IsEmpty())
+                txRouteTable.Put(route, QJsonArray::fromStringList(row->txRoutes));
         }
         if (!GetRxRoutesByBand(routes, 2, band))
             continue;

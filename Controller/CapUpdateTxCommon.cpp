@@ -18,8 +18,8 @@ public:
         m_second.Put(QLatin1String("1,") + band, 0);
         m_second.Put(QLatin1String("2,") + band, flag);
     }
-    QJsonObject First() const { return m_first.ToObject(); }
-    QJsonObject Second() const { return m_second.ToObject(); }
+    QJsonObject First() { return m_first.ToObject(); }
+    QJsonObject Second() { return m_second.ToObject(); }
 
 private:
     CObjectTable m_first;
@@ -29,7 +29,8 @@ private:
 // The text that names a region's limits, MHz.
 QString RegionRange(uint32_t lowerMhz, const QString &region, uint32_t upperMhz)
 {
-    return QStringLiteral("%1 < %2 <= %3MHz").arg(lowerMhz).arg(region).arg(upperMhz);
+    return QString::number(lowerMhz) + QLatin1String(" < ") + region + QLatin1String(" <= ") +
+           QString::number(upperMhz) + QLatin1String("MHz");
 }
 
 }  // namespace
@@ -104,7 +105,7 @@ bool CNrDataModelCapUpdater::UpdateCwTxCommonV7(QJsonObject &doc, const SCWTxCom
             QJsonArray regions;
             uint32_t lowerMhz = 0;
             for (int i = 0; row && i < row->bwRegionCount; ++i) {
-                const QString region = QStringLiteral("BW%1").arg(i);
+                const QString region = QLatin1String("BW") + QString::number(i);
                 const uint32_t upperMhz = row->bwRegionLimitKhz[i] / 1000;
                 regions.append(region);
                 rangeTable.Put(route + QLatin1Char(',') + region,

@@ -16,13 +16,23 @@ struct SCarrier
 
 // The region of a bandwidth: the first whose limit holds it. Beyond the last limit it is the first
 // region.
-int RegionOf(const STxRouteInfoV7 &row, int bandwidthKhz)
+std::size_t RegionOf(const STxRouteInfoV7 &row, int bandwidthKhz)
 {
     for (int i = 0; i < row.bwRegionCount; ++i) {
         if (static_cast<uint32_t>(bandwidthKhz) <= row.bwRegionLimitKhz[i])
-            return i;
+            return static_cast<std::size_t>(i);
     }
     return 0;
+}
+
+// Many carriers share a region.
+using TRegionLabels = std::array<THwLabels, VOND_MAX_BW_REGIONS>;
+TRegionLabels RegionLabels(const STxRouteInfoV7 &row)
+{
+    TRegionLabels labels;
+    for (std::size_t i = 0; i < labels.size(); ++i)
+        labels[i] = HwLabels(row.bwRegion[i]);
+    return labels;
 }
 
 }  // namespace
@@ -51,6 +61,7 @@ bool CNrDataModelCapUpdater::UpdateTxHwSettingByScsRBv7(QJsonObject &doc, const 
         return carriers;
     };
 
+    const THwLabels notFound = SameHwLabels("Not found");
     CHwLabelTable labels;
     for (const QJsonValue &element : path.bands) {
         const QString band = element.toString();
@@ -60,12 +71,13 @@ bool CNrDataModelCapUpdater::UpdateTxHwSettingByScsRBv7(QJsonObject &doc, const 
         const std::vector<SCarrier> carriers = carriersOf(band);
         for (const QString &route : qAsConst(routes)) {
             const STxRouteInfoV7 *row = RowOf(table, GetTxRouteIndex(route.toInt()));
+            const TRegionLabels ofRegions = row ? RegionLabels(*row) : TRegionLabels();
             for (const SCarrier &carrier : carriers) {
                 const QString key = route + carrier.suffix;
                 if (carrier.bandwidthKhz == -1 || !row)
-                    labels.PutNoDefault(key, SameHwLabels("Not found"));
+                    labels.PutNoDefault(key, notFound);
                 else
-                    labels.Put(key, HwLabels(row->bwRegion[RegionOf(*row, carrier.bandwidthKhz)]));
+                    labels.Put(key, ofRegions[RegionOf(*row, carrier.bandwidthKhz)]);
             }
         }
     }
@@ -87,7 +99,8 @@ bool CNrDataModelCapUpdater::UpdateTxHwSettingByBwRegion(QJsonObject &doc, const
         for (const QString &route : qAsConst(routes)) {
             const STxRouteInfoV7 *row = RowOf(table, GetTxRouteIndex(route.toInt()));
             for (int i = 0; row && i < row->bwRegionCount; ++i)
-                labels.Put(QStringLiteral("%1,BW%2").arg(route).arg(i), HwLabels(row->bwRegion[i]));
+                labels.Put(route + QLatin1String(",BW") + QString::number(i),
+                           HwLabels(row->bwRegion[i]));
         }
     }
     return WriteHwLabels(writer, path, labels);

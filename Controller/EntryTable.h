@@ -7,11 +7,12 @@
 //
 //   CEntryTable<2> vrb;
 //   vrb.Put("25 RB", {start, length});
-//   const auto [starts, lengths] = vrb.ToObjects();
+//   const QJsonObject starts = vrb.ToObject(0);
 #pragma once
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 #include <vector>
 
 #include <QJsonObject>
@@ -24,27 +25,21 @@ class CEntryTable
 public:
     using TValues = std::array<QJsonValue, Columns>;
 
-    void Put(const QString &key, const TValues &values) { m_rows.push_back({key, values}); }
-
-    std::array<QJsonObject, Columns> ToObjects() const
+    void Put(const QString &key, const TValues &values)
     {
-        std::vector<const SRow *> sorted;
-        sorted.reserve(m_rows.size());
-        for (const SRow &row : m_rows)
-            sorted.push_back(&row);
-        std::stable_sort(sorted.begin(), sorted.end(),
-                         [](const SRow *a, const SRow *b) { return a->key < b->key; });
+        m_rows.push_back({key, values});
+        m_sorted.clear();
+    }
 
-        std::array<QJsonObject, Columns> objects;
-        for (std::size_t i = 0; i < sorted.size(); ++i) {
-            if (i + 1 < sorted.size() && sorted[i + 1]->key == sorted[i]->key)
-                continue;
-            for (std::size_t c = 0; c < Columns; ++c) {
-                if (!sorted[i]->values[c].isUndefined())
-                    objects[c].insert(sorted[i]->key, sorted[i]->values[c]);
-            }
+    QJsonObject ToObject(std::size_t column)
+    {
+        Sort();
+        QJsonObject object;
+        for (const std::size_t row : m_sorted) {
+            if (!m_rows[row].values[column].isUndefined())
+                object.insert(m_rows[row].key, m_rows[row].values[column]);
         }
-        return objects;
+        return object;
     }
 
 private:
@@ -53,7 +48,27 @@ private:
         QString key;
         TValues values;
     };
+
+    // The rows in the order of their keys, each key once: its last row.
+    void Sort()
+    {
+        if (!m_sorted.empty())
+            return;
+        m_sorted.resize(m_rows.size());
+        std::iota(m_sorted.begin(), m_sorted.end(), std::size_t(0));
+        std::sort(m_sorted.begin(), m_sorted.end(), [this](std::size_t a, std::size_t b) {
+            const int order = QString::compare(m_rows[a].key, m_rows[b].key);
+            return order != 0 ? order < 0 : a > b;
+        });
+        m_sorted.erase(std::unique(m_sorted.begin(), m_sorted.end(),
+                                   [this](std::size_t a, std::size_t b) {
+                                       return m_rows[a].key == m_rows[b].key;
+                                   }),
+                       m_sorted.end());
+    }
+
     std::vector<SRow> m_rows;  // in the order in which they came
+    std::vector<std::size_t> m_sorted;
 };
 
 // One object alone.
@@ -61,7 +76,7 @@ class CObjectTable
 {
 public:
     void Put(const QString &key, const QJsonValue &value) { m_table.Put(key, {value}); }
-    QJsonObject ToObject() const { return m_table.ToObjects()[0]; }
+    QJsonObject ToObject() { return m_table.ToObject(0); }
 
 private:
     CEntryTable<1> m_table;

@@ -82,25 +82,25 @@ void CHwLabelTable::Put(const QString &key, const THwLabels &labels)
     m_hasDefaults = true;
 }
 
-bool WriteHwLabels(CDocumentWriter &writer, const SHwSettingPaths &path,
-                   const CHwLabelTable &labels)
+bool WriteHwLabels(CDocumentWriter &writer, const SHwSettingPaths &path, CHwLabelTable &labels)
 {
-    const auto objects = labels.ToObjects();
     for (std::size_t i = 0; i < kHwLabels; ++i) {
         const SLabelRow &row = kRows[i];
-        if (!writer.Write({{path.valuePairs.*row.paths, objects[i], row.valueMessage},
+        const SPaths &valuePairs = path.valuePairs.*row.paths;
+        const QJsonObject object = valuePairs.IsEmpty() ? QJsonObject() : labels.ToObject(i);
+        if (!writer.Write({{valuePairs, object, row.valueMessage},
                            {path.defaults.*row.paths, labels.Defaults()[i], row.defaultMessage}}))
             return false;
     }
     return true;
 }
 
-bool WritePath1HwLabels(CDocumentWriter &writer, const SHwSettingPaths &path,
-                        const CHwLabelTable &labels)
+bool WritePath1HwLabels(CDocumentWriter &writer, const SHwSettingPaths &path, CHwLabelTable &labels)
 {
-    const auto objects = labels.ToObjects();
     for (std::size_t i = 0; i < kHwLabels; ++i) {
-        if (!writer.Write(path.path1ValuePairs.*kRows[i].paths, objects[i], kRows[i].valueMessage))
+        const SPaths &valuePairs = path.path1ValuePairs.*kRows[i].paths;
+        if (!valuePairs.IsEmpty() &&
+            !writer.Write(valuePairs, labels.ToObject(i), kRows[i].valueMessage))
             return false;
     }
     return true;

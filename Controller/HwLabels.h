@@ -33,7 +33,7 @@ public:
 
     bool HasDefaults() const { return m_hasDefaults; }
     const THwLabels &Defaults() const { return m_defaults; }  // empty texts when there are none
-    auto ToObjects() const { return m_table.ToObjects(); }
+    QJsonObject ToObject(std::size_t label) { return m_table.ToObject(label); }
 
 private:
     CEntryTable<kHwLabels> m_table;
@@ -41,9 +41,9 @@ private:
     bool m_hasDefaults = false;
 };
 
-// Writes the five objects of path 0 with their defaults, in the order of the labels.
-bool WriteHwLabels(CDocumentWriter &writer, const SHwSettingPaths &path,
-                   const CHwLabelTable &labels);
-// Writes the five objects of path 1.
+// Writes the objects of path 0 with their defaults, in the order of the labels. A label that the
+// page does not show has no paths.
+bool WriteHwLabels(CDocumentWriter &writer, const SHwSettingPaths &path, CHwLabelTable &labels);
+// Writes the objects of path 1.
 bool WritePath1HwLabels(CDocumentWriter &writer, const SHwSettingPaths &path,
-                        const CHwLabelTable &labels);
+                        CHwLabelTable &labels);

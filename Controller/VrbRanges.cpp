@@ -18,6 +18,5 @@ SVrbRanges VrbRanges()
                   {QJsonObject{{"min", 0}, {"max", rb - 1}, {"value", 0}},
                    QJsonObject{{"min", 1}, {"max", rb}, {"value", 1}}});
     }
-    const auto [start, length] = table.ToObjects();
-    return {start, length};
+    return {table.ToObject(0), table.ToObject(1)};
 }

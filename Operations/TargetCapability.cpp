@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QHash>
+
 #include "Operations/CapabilityCache.h"
 #include "Support/Log.h"
 
@@ -23,8 +25,25 @@ bool ReadHardware()
     return Cache().nrDetail.flags.succeeded;
 }
 
-// TX routes that can pair with an RX route, as decimal texts; every row of that route adds its own.
-QStringList PairedTxRoutes(uint16_t route)
+// Numbers as decimal texts; the same number is the same text, since RX routes share their TX
+// routes.
+class CNumberTexts
+{
+public:
+    const QString &Of(uint16_t number)
+    {
+        QString &text = m_texts[number];
+        if (text.isNull())
+            text = QString::number(number);
+        return text;
+    }
+
+private:
+    QHash<uint16_t, QString> m_texts;
+};
+
+// TX routes that can pair with an RX route; every row of that route adds its own.
+QStringList PairedTxRoutes(uint16_t route, CNumberTexts &numbers)
 {
     QStringList texts;
     const SNRfRxRouteValues &values = Cache().nrDetail.record.rxRouteValues;
@@ -33,7 +52,7 @@ QStringList PairedTxRoutes(uint16_t route)
         if (entry.route != route)
             continue;
         for (int j = 0; j < entry.valueCount; ++j)
-            texts.append(QString::number(entry.value[j]));
+            texts.append(numbers.Of(entry.value[j]));
     }
     return texts;
 }
@@ -42,6 +61,7 @@ template <typename Route>
 void AppendRxRoutes(std::vector<SRxRouteInfoV7> &routes, const Route *table, int count,
                     uint32_t routeType, const SRxRouteHw *hardware)
 {
+    CNumberTexts numbers;
     for (int i = 0; i < count; ++i) {
         SRxRouteInfoV7 info;
         info.band = table[i].band;
@@ -51,9 +71,9 @@ void AppendRxRoutes(std::vector<SRxRouteInfoV7> &routes, const Route *table, int
             info.hwValid = 1;
             info.hw = hardware[i];
             if (routeType == 1)
-                info.txRoutes = PairedTxRoutes(info.route);
+                info.txRoutes = PairedTxRoutes(info.route, numbers);
         }
-        routes.push_back(info);
+        routes.push_back(std::move(info));
     }
 }
 
