@@ -258,7 +258,7 @@ void CSimulator::PutInPlace(SProfile profile, std::string text)
         faults.push_back(ParseFault(nlohmann::json::parse(fault), "faults"));
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_dut.profile = std::move(profile);
-    m_dut.radio = CRadio();
+    m_dut.radio = CRadio(m_dut.profile.radio.seed);
     m_faults.SetProfileFaults(faults);
     m_profileText = std::move(text);
 }
