@@ -2,9 +2,10 @@
 // VOND_SIM_JOURNAL names a file, as one JSON line each. All functions may be called from any
 // thread.
 //
-// Memory is bounded, so that a run may last for days: beyond 64 MiB the oldest calls go, while the
-// numbers of the others stay. The file keeps everything. The file is emptied when the journal opens and flushed with each line. Its keys are told in
-// Simulator/README.md. Clearing the journal leaves the file as it is.
+// The file is emptied when the journal opens and flushed with each line. Its keys are told in
+// Simulator/README.md. Clearing the journal leaves the file as it is. Memory is bounded, so that a
+// run may last for days: beyond 64 MiB the oldest calls go, while the numbers of the others stay.
+// The file keeps everything.
 #pragma once
 
 #include "Simulator/Functions.h"
