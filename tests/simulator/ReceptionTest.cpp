@@ -195,6 +195,17 @@ TEST_F(ReceptionTest, LowPowerModeHasMoreNoise)
     EXPECT_NEAR(MainRssi(GOOD_GAIN, 0.0, true) - MainRssi(GOOD_GAIN), 1.5, RSSI_STEP);
 }
 
+// The 127 elements of the SSS add up coherently, 21 dB, so that RSRP still follows a cell that RSSI
+// hardly shows.
+TEST_F(ReceptionTest, RsrpFollowsTheCellBelowTheNoise)
+{
+    const double noise = -174.0 + 10.0 * std::log10(52 * 12 * 15e3) + 6.0;
+    Plug(QuietRadio(noise - 5.0));
+    const NRfTestResult_GetMixRxReportV7 report = ReportOf(RsrpForcedCommand());
+    EXPECT_NEAR(report.RSSI0[0] * PER_128, noise + 1.19, REPORT_STEP);
+    EXPECT_NEAR(report.RSRP0[0] * PER_128, noise - 5.0 - 27.95 + 0.11, REPORT_STEP);
+}
+
 // RSRP of a strong cell cannot follow once the lowest gain (7 dB) fills the ADC: at -15 dBm.
 TEST_F(ReceptionTest, RsrpSaturatesAtTheLowestGain)
 {
