@@ -69,7 +69,12 @@ SVerdict CheckDownlink(const SProfile &profile, const SCarrierPlace &place)
             !FindRoute(profile.rxType2Routes, place.route, place.band))
             return EResult::RouteNotOnBand;
     }
-    return CheckFrequency(profile, place, LimitsOf(profile.rxLimits, place, band->downlink));
+    return CheckFrequency(profile, place, DownlinkLimits(profile, place));
+}
+
+SFreqLimits DownlinkLimits(const SProfile &profile, const SCarrierPlace &place)
+{
+    return LimitsOf(profile.rxLimits, place, FindBand(profile, place.band)->downlink);
 }
 
 SVerdict ChooseRxRoute(const SProfile &profile, uint16_t band, uint16_t route, uint32_t routeKind,

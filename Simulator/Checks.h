@@ -28,6 +28,8 @@ struct SCarrierPlace
 
 SVerdict CheckUplink(const SProfile &profile, const SCarrierPlace &place);
 SVerdict CheckDownlink(const SProfile &profile, const SCarrierPlace &place);
+// What the receiver of the place takes: the route's own limits, otherwise those of the listed band.
+SFreqLimits DownlinkLimits(const SProfile &profile, const SCarrierPlace &place);
 
 // Finds the RX route that a multi-mode command means; routeKind 3 is right for a type 2 route with
 // gain mode flag, 1 for any other.

@@ -2,6 +2,7 @@
 
 #include "Simulator/JsonReader.h"
 #include "Simulator/Results.h"
+#include "Vond/VondCapabilityRecords.h"
 
 #include <algorithm>
 
@@ -16,10 +17,11 @@ struct SKindRow
 constexpr SKindRow KINDS[] = {
     {"fail", EFaultKind::Fail},   {"status", EFaultKind::Status},
     {"delay", EFaultKind::Delay}, {"nullText", EFaultKind::NullText},
-    {"noise", EFaultKind::Noise},
+    {"noise", EFaultKind::Noise}, {"bytes", EFaultKind::Bytes},
 };
 
 constexpr uint32_t LONGEST_DELAY_MS = 3600000;
+constexpr uint32_t LARGEST_ANSWER = sizeof(SMMRfRouteDetailCnfV7);
 
 EFaultKind ReadKind(CJsonReader &reader)
 {
@@ -42,6 +44,29 @@ const SFunction *ReadFunction(CJsonReader &reader)
     return function;
 }
 
+int HexDigit(char digit)
+{
+    static constexpr std::string_view DIGITS = "0123456789abcdef";
+    const std::size_t value = DIGITS.find(digit);
+    return value != DIGITS.npos ? static_cast<int>(value) : -1;
+}
+
+std::vector<uint8_t> ReadHex(CJsonReader &reader, const char *key)
+{
+    const std::string text = reader.Text(key, 2 * LARGEST_ANSWER);
+    std::vector<uint8_t> bytes;
+    for (std::size_t i = 0; i + 1 < text.size(); i += 2) {
+        const int high = HexDigit(text[i]);
+        const int low = HexDigit(text[i + 1]);
+        if (high < 0 || low < 0)
+            break;
+        bytes.push_back(static_cast<uint8_t>(high * 16 + low));
+    }
+    if (bytes.empty() || bytes.size() * 2 != text.size())
+        CJsonReader::Fail(reader.Place(key), "is not made of pairs of 0 to 9 and a to f");
+    return bytes;
+}
+
 // A text function has nothing but its text and its delay to go wrong.
 bool CanShow(const SFunction &function, EFaultKind kind)
 {
@@ -49,6 +74,7 @@ bool CanShow(const SFunction &function, EFaultKind kind)
     switch (kind) {
     case EFaultKind::Fail:
     case EFaultKind::Noise:
+    case EFaultKind::Bytes:
         return !isText;
     case EFaultKind::Status:
         return function.hasStatus;
@@ -81,6 +107,10 @@ SFault ParseFault(const nlohmann::json &json, const std::string &place)
         fault.status = reader.Integer<uint32_t>("status", 1, UINT32_MAX);
     if (fault.kind == EFaultKind::Delay)
         fault.delayMs = reader.Integer<uint32_t>("ms", 0, LONGEST_DELAY_MS);
+    if (fault.kind == EFaultKind::Bytes) {
+        fault.patch.offset = reader.Integer<uint32_t>("offset", 0, LARGEST_ANSWER - 1, 0u);
+        fault.patch.bytes = ReadHex(reader, "hex");
+    }
     fault.nth = reader.Integer<uint32_t>("nth", 1, UINT32_MAX, 0u);
     if (reader.Has("probability"))
         fault.probability = reader.Real("probability", 0.0, 1.0);
@@ -135,6 +165,9 @@ SFaultPlan CFaultSet::Plan(const SFunction &function)
             break;
         case EFaultKind::Noise:
             plan.noiseSeed = fault.seed + state.fired;
+            break;
+        case EFaultKind::Bytes:
+            plan.patches.push_back(fault.patch);
             break;
         }
     }

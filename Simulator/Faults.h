@@ -24,7 +24,15 @@ enum class EFaultKind
     Status,
     Delay,
     NullText,
-    Noise
+    Noise,
+    Bytes
+};
+
+// Bytes that are laid over an answer.
+struct SPatch
+{
+    uint32_t offset = 0;
+    std::vector<uint8_t> bytes;
 };
 
 struct SFault
@@ -35,6 +43,7 @@ struct SFault
     uint32_t status = 0;   // Status
     uint32_t delayMs = 0;  // Delay
     uint32_t seed = 1;     // Noise, and the draw of a probability
+    SPatch patch;          // Bytes
     uint32_t nth = 0;      // fires on this call only, counted from 1; 0: on every call
     std::optional<double> probability;
 };
@@ -47,6 +56,7 @@ struct SFaultPlan
     uint64_t delayMs = 0;
     bool nullText = false;
     std::optional<uint32_t> noiseSeed;
+    std::vector<SPatch> patches;  // in the order in which they were added
 };
 
 // Throws std::runtime_error for an unknown key, kind or function, or a kind that the function

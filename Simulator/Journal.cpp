@@ -9,6 +9,13 @@
 
 namespace {
 
+constexpr std::size_t MOST_BYTES = 64 * 1024 * 1024;
+
+std::size_t BytesOf(const SJournalEntry &entry)
+{
+    return sizeof(entry) + entry.request.size() + entry.answer.size();
+}
+
 void AppendHex(std::string &line, const std::vector<uint8_t> &bytes)
 {
     static constexpr char DIGITS[] = "0123456789abcdef";
@@ -34,36 +41,50 @@ void CJournal::Append(SJournalEntry entry)
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_file.is_open())
         WriteLine(entry);
+    m_bytes += BytesOf(entry);
     m_entries.push_back(std::move(entry));
+    while (m_bytes > MOST_BYTES) {
+        m_bytes -= BytesOf(m_entries.front());
+        m_entries.pop_front();
+        ++m_gone;
+    }
 }
 
 void CJournal::Clear()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_entries.clear();
+    m_gone = 0;
+    m_bytes = 0;
 }
 
 uint32_t CJournal::Count() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return static_cast<uint32_t>(m_entries.size());
+    return m_gone + static_cast<uint32_t>(m_entries.size());
+}
+
+const SJournalEntry *CJournal::Find(uint32_t index) const
+{
+    const uint32_t place = index - m_gone;
+    return index >= m_gone && place < m_entries.size() ? &m_entries[place] : nullptr;
 }
 
 bool CJournal::Get(uint32_t index, SVondSimCall &call) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (index >= m_entries.size())
+    const SJournalEntry *const entry = Find(index);
+    if (entry == nullptr)
         return false;
-    const SJournalEntry &entry = m_entries[index];
     call = {};
-    entry.function->name.copy(call.function, sizeof(call.function) - 1);
-    call.handle = entry.handle;
-    call.timeoutMs = entry.timeoutMs;
-    call.result = entry.result;
-    call.status = entry.status;
-    call.durationNs = entry.durationNs;
-    call.requestSize = static_cast<uint32_t>(entry.request.size());
-    call.answerSize = static_cast<uint32_t>(entry.answer.size());
+    entry->function->name.copy(call.function, sizeof(call.function) - 1);
+    call.handle = entry->handle;
+    call.timeoutMs = entry->timeoutMs;
+    call.result = entry->result;
+    call.status = entry->status;
+    call.durationNs = entry->durationNs;
+    call.requestSize = static_cast<uint32_t>(entry->request.size());
+    call.answerSize = static_cast<uint32_t>(entry->answer.size());
     return true;
 }
 
@@ -71,9 +92,10 @@ uint32_t CJournal::Copy(uint32_t index, std::vector<uint8_t> SJournalEntry::*par
                         uint32_t size) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (index >= m_entries.size())
+    const SJournalEntry *const entry = Find(index);
+    if (entry == nullptr)
         return 0;
-    const std::vector<uint8_t> &source = m_entries[index].*part;
+    const std::vector<uint8_t> &source = entry->*part;
     const std::size_t count = std::min<std::size_t>(source.size(), size);
     if (bytes != nullptr && count > 0)
         std::memcpy(bytes, source.data(), count);

@@ -22,8 +22,10 @@ bool CJsonReader::Boolean(const char *key, std::optional<bool> fallback)
     return value.get<bool>();
 }
 
-double CJsonReader::Real(const char *key, double least, double most)
+double CJsonReader::Real(const char *key, double least, double most, std::optional<double> fallback)
 {
+    if (fallback && !Has(key))
+        return *fallback;
     const json &value = Take(key);
     if (!value.is_number())
         Fail(Place(key), "is not a number");

@@ -33,7 +33,8 @@ public:
         return static_cast<Number>(IntegerOf(Take(key), Place(key), least, most));
     }
     bool Boolean(const char *key, std::optional<bool> fallback = std::nullopt);
-    double Real(const char *key, double least, double most);
+    double Real(const char *key, double least, double most,
+                std::optional<double> fallback = std::nullopt);
     std::string Text(const char *key, std::size_t longest,
                      std::optional<std::string> fallback = std::nullopt);
     const nlohmann::json &Take(const char *key);

@@ -1,54 +1,18 @@
 #include "Simulator/Measurements.h"
 
+#include "Simulator/Checks.h"
+#include "Simulator/Receiver.h"
+
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace {
 
-constexpr double CELL_POWER = -60.0;    // dBm, at every antenna
-constexpr double DIVERSITY_LOSS = 0.8;  // dB, of each further antenna
-constexpr double BEST_RF_GAIN = 45.0;   // dB; reading errors grow away from it
-constexpr double GAIN_ERROR = 0.02;     // dB a dB
-constexpr double TOTAL_GAIN = 62.0;     // dB, that a gain search aims for
 constexpr int BLOCKS_A_MEASUREMENT = 20;
-
-// A fixed sequence of numbers from a seed (splitmix64).
-class CRipple
-{
-public:
-    explicit CRipple(uint64_t seed) : m_state(seed) {}
-
-    uint64_t Next()
-    {
-        m_state += 0x9e3779b97f4a7c15u;
-        uint64_t mixed = m_state;
-        mixed = (mixed ^ (mixed >> 30)) * 0xbf58476d1ce4e5b9u;
-        mixed = (mixed ^ (mixed >> 27)) * 0x94d049bb133111ebu;
-        return mixed ^ (mixed >> 31);
-    }
-
-    // Within plus or minus width.
-    double Next(double width)
-    {
-        return (static_cast<double>(Next() >> 11) / 4503599627370496.0 - 1.0) * width;
-    }
-
-private:
-    uint64_t m_state;
-};
-
-// FNV-1a over the bytes of a record.
-template <class Record>
-uint64_t SeedOf(const Record &record)
-{
-    unsigned char bytes[sizeof(Record)];
-    std::memcpy(bytes, &record, sizeof(Record));
-    uint64_t hash = 0xcbf29ce484222325u;
-    for (const unsigned char byte : bytes)
-        hash = (hash ^ byte) * 0x100000001b3u;
-    return hash;
-}
+constexpr uint8_t FORCED_LPM = 1;         // lpmHpmConf
+constexpr double SYNC_RATIO = -10.0;      // dB; below it no SSB is detected
+constexpr double BROADCAST_RATIO = -8.0;  // dB; below it the PBCH is not decoded
+constexpr double SSS_GAIN = 21.0;         // dB: 127 elements of the SSS add up coherently
 
 int16_t Fixed(double value, int unitsADb)
 {
@@ -56,82 +20,146 @@ int16_t Fixed(double value, int unitsADb)
     return static_cast<int16_t>(std::clamp(scaled, -32768.0, 32767.0));
 }
 
-// Slow swing of cables and filters over frequency.
-double SwingOf(uint32_t kHz)
+// Power of the cell at an antenna connector of the route.
+double CellPower(const SProfile &profile, const SCarrierPlace &place, uint16_t route, int antenna)
 {
-    return 1.5 * std::cos(kHz / 7000.0);
+    return profile.radio.LevelOf(place.band) - profile.radio.LossOf(route) -
+           FilterLoss(place.kHz, DownlinkLimits(profile, place)) - DIVERSITY_LOSS * antenna;
 }
 
-double RfGainOf(uint8_t elna, uint8_t mode, bool lowPower)
+int16_t DigitalGain(double rfGain, double cellPower)
 {
-    return 60.0 - 8.0 * elna - 2.5 * mode - (lowPower ? 1.5 : 0.0);
+    const double gain = ADC_TARGET + DIGITAL_LIFT - (cellPower + rfGain);
+    return Fixed(std::clamp(gain, -42.0, 54.0), 32);
 }
 
-struct SGainMode
+// One RSSI measurement: the places are the frequencies of one route.
+class CRssiMeter
 {
-    uint8_t elna = 0;  // G
-    uint8_t mode = 0;  // g
+public:
+    CRssiMeter(const SProfile &profile, const SMMRssiCmdV7 &command, CNoise &noise)
+        : m_profile(profile), m_command(command), m_noise(noise)
+    {
+    }
+
+    // Gains in 1/32 dB; antennas of path 0 are 0 and 1, of path 1 are 2 and 3.
+    int16_t Read(uint32_t kHz, int antenna, int16_t rfGain, int16_t digitalGain)
+    {
+        const SProfileRadio &radio = m_profile.radio;
+        const SCarrierPlace place = {m_command.band, kHz, true, m_command.rxRoute, false};
+        const double cell = CellPower(m_profile, place, m_command.rxRoute, antenna) +
+                            radio.fluctuationDb * m_noise.Bell();
+        const double figure =
+            radio.noiseFigureDb + (m_command.lowPower == 1 ? LOW_POWER_LOSS : 0.0);
+        const double input = PowerSum(cell, ThermalNoise(RSSI_BANDWIDTH, figure));
+        return Fixed(ReadingOf(input, rfGain / 32.0, digitalGain / 32.0), 32);
+    }
+
+    SGainMode Mode(int16_t rfGain) const
+    {
+        return NearestMode(rfGain / 32.0, m_command.lowPower == 1);
+    }
+
+private:
+    const SProfile &m_profile;
+    const SMMRssiCmdV7 &m_command;
+    CNoise &m_noise;
 };
 
-// The gain mode whose RF gain is nearest to the one that is set.
-SGainMode NearestMode(int16_t rfGain, bool lowPower)
+void MeasureOnePath(const SMMRssiCmdV7 &command, CRssiMeter &meter, SMMRssiCnfV7 &answer)
 {
-    SGainMode nearest;
-    double distance = 1e9;
-    for (uint8_t elna = 0; elna < 7; ++elna) {
-        for (uint8_t mode = 0; mode < 3; ++mode) {
-            const double off = std::fabs(rfGain / 32.0 - RfGainOf(elna, mode, lowPower));
-            if (off < distance) {
-                distance = off;
-                nearest = {elna, mode};
-            }
+    const auto &gain = command.gain.single;
+    auto &rows = answer.rows.single;
+    const int first = command.path == 1 ? 2 : 0;
+    for (int i = 0; i < command.numFreq; ++i) {
+        const uint32_t kHz = command.dlFrequency[i];
+        auto &row = rows.row[i];
+        row.rssiMain = meter.Read(kHz, first, gain.mainRfGain, gain.mainDigitalGain);
+        row.rssiDiv = meter.Read(kHz, first + 1, gain.divRfGain, gain.divDigitalGain);
+    }
+    const SGainMode main = meter.Mode(gain.mainRfGain);
+    const SGainMode div = meter.Mode(gain.divRfGain);
+    rows.mainG = main.elna;
+    rows.divG = div.elna;
+    rows.maing = main.mode;
+    rows.divg = div.mode;
+}
+
+void MeasureBothPaths(const SMMRssiCmdV7 &command, CRssiMeter &meter, SMMRssiCnfV7 &answer)
+{
+    const auto &gain = command.gain.simultaneous;
+    auto &rows = answer.rows.simultaneous;
+    for (int i = 0; i < command.numFreq; ++i) {
+        const uint32_t kHz = command.dlFrequency[i];
+        auto &row = rows.row[i];
+        row.path0Main = meter.Read(kHz, 0, gain.path0MainRfGain, gain.path0MainDigitalGain);
+        row.path0Div = meter.Read(kHz, 1, gain.path0DivRfGain, gain.path0DivDigitalGain);
+        row.path1Main = meter.Read(kHz, 2, gain.path1MainRfGain, gain.path1MainDigitalGain);
+        row.path1Div = meter.Read(kHz, 3, gain.path1DivRfGain, gain.path1DivDigitalGain);
+    }
+    // The eLNA is in front of both paths.
+    rows.mainG = meter.Mode(gain.path0MainRfGain).elna;
+    rows.divG = meter.Mode(gain.path0DivRfGain).elna;
+    rows.path0Maing = meter.Mode(gain.path0MainRfGain).mode;
+    rows.path0Divg = meter.Mode(gain.path0DivRfGain).mode;
+    rows.path1Maing = meter.Mode(gain.path1MainRfGain).mode;
+    rows.path1Divg = meter.Mode(gain.path1DivRfGain).mode;
+}
+
+// The route that the DUT takes by itself: the first one that serves the band; 0 when none does.
+uint16_t RouteOfBand(const SProfile &profile, uint16_t band)
+{
+    for (const auto *routes : {&profile.rxType1Routes, &profile.rxType2Routes}) {
+        for (const SProfileRxRoute &row : *routes) {
+            if (row.band == band)
+                return row.route;
         }
     }
-    return nearest;
+    return 0;
 }
 
-double RssiOf(uint32_t kHz, int antenna, int16_t rfGain, CRipple &ripple)
+// Of all antennas together, each weighted by its own ratio.
+double CombinedRatio(const SRsrpRun &run, const SReception *receptions)
 {
-    return CELL_POWER + SwingOf(kHz) - DIVERSITY_LOSS * antenna +
-           GAIN_ERROR * (rfGain / 32.0 - BEST_RF_GAIN) + ripple.Next(0.1);
+    double combined = receptions[0].ratio;
+    for (int antenna = 1; antenna < run.antennas; ++antenna)
+        combined = PowerSum(combined, receptions[antenna].ratio);
+    return combined;
 }
 
-int16_t DigitalGain(double rfGain, CRipple &ripple)
+SReception ReceptionOf(const SRsrpRun &run, int antenna, double fluctuation)
 {
-    return Fixed(std::clamp(TOTAL_GAIN - rfGain + ripple.Next(0.25), -42.0, 54.0), 32);
-}
-
-uint8_t GainIndex(uint8_t elna, uint8_t mode)
-{
-    return static_cast<uint8_t>(std::min(3 * elna + mode, 17));
+    const double signal = run.cellPower - DIVERSITY_LOSS * antenna + fluctuation;
+    return Receive(signal, run.noise, run.lowPower);
 }
 
 }  // namespace
 
-int16_t MeasurePd(int16_t txPower, uint32_t ulFrequencyKhz)
+int16_t MeasurePd(const SProfileRadio &radio, int16_t txPower, CNoise &noise)
 {
-    CRipple ripple(ulFrequencyKhz * 65536ull + static_cast<uint16_t>(txPower));
-    return static_cast<int16_t>(txPower + static_cast<int>(std::lround(ripple.Next(64.0))));
+    const double power = txPower / 256.0;
+    return Fixed(radio.pdSlope * power + radio.pdOffsetDb + radio.fluctuationDb * noise.Bell(),
+                 256);
 }
 
 SMMGainSearchCnfV7 SearchGain(const SMMGainSearchCmdV7 &command)
 {
     SMMGainSearchCnfV7 answer = {};
-    CRipple ripple(SeedOf(command));
     const bool lowPower = command.lowPower == 1;
     const uint8_t mainG = command.elnaModeMain;
     const uint8_t divG = command.elnaModeDiv;
     const uint8_t *search = command.search;
     const double path0Main = RfGainOf(mainG, search[0], lowPower);
     const double path0Div = RfGainOf(divG, search[1], lowPower);
-    answer.adviseDlPower = Fixed(-20.0 - path0Main, 32);
+    const double advised = ADC_TARGET - path0Main;
+    answer.adviseDlPower = Fixed(advised, 32);
     answer.simultaneous = command.simultaneous;
     if (command.simultaneous == 0) {
         auto &gain = answer.gain.single;
         gain.mainRfGain = Fixed(path0Main, 32);
         gain.divRfGain = Fixed(path0Div, 32);
-        gain.mainDigitalGain = DigitalGain(path0Main, ripple);
-        gain.divDigitalGain = DigitalGain(path0Div, ripple);
+        gain.mainDigitalGain = DigitalGain(path0Main, advised);
+        gain.divDigitalGain = DigitalGain(path0Div, advised);
         return answer;
     }
     const double path1Main = RfGainOf(mainG, search[2], lowPower);
@@ -145,90 +173,80 @@ SMMGainSearchCnfV7 SearchGain(const SMMGainSearchCmdV7 &command)
     gain.path0DivRfGain = Fixed(path0Div, 32);
     gain.path1MainRfGain = Fixed(path1Main, 32);
     gain.path1DivRfGain = Fixed(path1Div, 32);
-    gain.path0MainDigitalGain = DigitalGain(path0Main, ripple);
-    gain.path0DivDigitalGain = DigitalGain(path0Div, ripple);
-    gain.path1MainDigitalGain = DigitalGain(path1Main, ripple);
-    gain.path1DivDigitalGain = DigitalGain(path1Div, ripple);
+    gain.path0MainDigitalGain = DigitalGain(path0Main, advised);
+    gain.path0DivDigitalGain = DigitalGain(path0Div, advised);
+    gain.path1MainDigitalGain = DigitalGain(path1Main, advised);
+    gain.path1DivDigitalGain = DigitalGain(path1Div, advised);
     return answer;
 }
 
-SMMRssiCnfV7 MeasureRssi(const SMMRssiCmdV7 &command)
+SMMRssiCnfV7 MeasureRssi(const SProfile &profile, const SMMRssiCmdV7 &command, CNoise &noise)
 {
     SMMRssiCnfV7 answer = {};
-    CRipple ripple(SeedOf(command));
-    const bool lowPower = command.lowPower == 1;
-    const auto &one = command.gain.single;
-    const auto &both = command.gain.simultaneous;
-    for (int i = 0; i < command.numFreq; ++i) {
-        const uint32_t kHz = command.dlFrequency[i];
-        answer.dlFrequency[i] = kHz;
-        if (command.singlePath == 1) {
-            auto &row = answer.rows.single.row[i];
-            row.rssiMain = Fixed(RssiOf(kHz, 0, one.mainRfGain, ripple), 32);
-            row.rssiDiv = Fixed(RssiOf(kHz, 1, one.divRfGain, ripple), 32);
-        } else {
-            auto &row = answer.rows.simultaneous.row[i];
-            row.path0Main = Fixed(RssiOf(kHz, 0, both.path0MainRfGain, ripple), 32);
-            row.path0Div = Fixed(RssiOf(kHz, 1, both.path0DivRfGain, ripple), 32);
-            row.path1Main = Fixed(RssiOf(kHz, 2, both.path1MainRfGain, ripple), 32);
-            row.path1Div = Fixed(RssiOf(kHz, 3, both.path1DivRfGain, ripple), 32);
-        }
-    }
-    if (command.singlePath == 1) {
-        const SGainMode main = NearestMode(one.mainRfGain, lowPower);
-        const SGainMode div = NearestMode(one.divRfGain, lowPower);
-        auto &rows = answer.rows.single;
-        rows.mainG = main.elna;
-        rows.divG = div.elna;
-        rows.maing = main.mode;
-        rows.divg = div.mode;
-    } else {
-        const SGainMode main = NearestMode(both.path0MainRfGain, lowPower);
-        const SGainMode div = NearestMode(both.path0DivRfGain, lowPower);
-        auto &rows = answer.rows.simultaneous;
-        rows.mainG = main.elna;
-        rows.divG = div.elna;
-        rows.path0Maing = main.mode;
-        rows.path0Divg = div.mode;
-        rows.path1Maing = NearestMode(both.path1MainRfGain, lowPower).mode;
-        rows.path1Divg = NearestMode(both.path1DivRfGain, lowPower).mode;
-    }
+    std::copy_n(command.dlFrequency, command.numFreq, answer.dlFrequency);
+    CRssiMeter meter(profile, command, noise);
+    if (command.singlePath == 1)
+        MeasureOnePath(command, meter, answer);
+    else
+        MeasureBothPaths(command, meter, answer);
     return answer;
 }
 
-SRsrpRun RsrpRun(const SNrRsrpCmdV7 &command)
+SRsrpRun RsrpRun(const SProfile &profile, const SNrRsrpCmdV7 &command)
 {
     const bool forced = command.forced == 1;
-    const SNrRsrpCommonV7 &carrier =
-        forced ? command.forcedMode.carrier.common : command.normalMode.carrier[0].common;
+    const SNrRsrpForcedCcV7 &forcedCarrier = command.forcedMode.carrier;
+    const SNrRsrpCcV7 &normalCarrier = command.normalMode.carrier[0];
+    const SNrRsrpCommonV7 &carrier = forced ? forcedCarrier.common : normalCarrier.common;
+    const uint16_t route = forced ? forcedCarrier.rxRoute : RouteOfBand(profile, carrier.band);
+    const double elements = 12.0 * ResourceBlocks(carrier.rxScs, carrier.dlBandwidth);
+    const double spacing = 15.0e3 * (1u << carrier.rxScs);  // Hz
     SRsrpRun run;
     run.measCnt = carrier.measCnt;
-    run.dlFrequency = carrier.dlFrequency;
-    run.resourceBlocks = ResourceBlocks(carrier.rxScs, carrier.dlBandwidth);
-    run.antennas = !forced && command.normalMode.carrier[0].mimo4x4 == 1 ? 4 : 2;
+    run.antennas = !forced && normalCarrier.mimo4x4 == 1 ? 4 : 2;
+    run.cellPower =
+        CellPower(profile, {carrier.band, carrier.dlFrequency, forced, route, true}, route, 0);
+    run.lowPower = forced && forcedCarrier.lpmHpmConf == FORCED_LPM;
+    run.noise = ThermalNoise(elements * spacing,
+                             profile.radio.noiseFigureDb + (run.lowPower ? LOW_POWER_LOSS : 0.0));
+    run.elements = 10.0 * std::log10(elements);
+    run.fluctuation = profile.radio.fluctuationDb;
     return run;
 }
 
-SMixRxReading MeasureMixRx(const SRsrpRun &run, uint32_t sequence)
+EStatus CellStatus(const SRsrpRun &run)
+{
+    SReception receptions[4];
+    for (int antenna = 0; antenna < run.antennas; ++antenna)
+        receptions[antenna] = ReceptionOf(run, antenna, 0.0);
+    const double ratio = CombinedRatio(run, receptions);
+    if (ratio < SYNC_RATIO)
+        return EStatus::CellNotExist;
+    return ratio < BROADCAST_RATIO ? EStatus::MibDecodeError : EStatus::Success;
+}
+
+SMixRxReading MeasureMixRx(const SRsrpRun &run, CNoise &noise)
 {
     SMixRxReading reading;
     NRfTestResult_GetMixRxReportV7 &report = reading.report;
-    CRipple ripple((uint64_t(run.dlFrequency) << 32) ^ sequence);
     int16_t *const rssi[] = {report.RSSI0, report.RSSI1, report.RSSI2, report.RSSI3};
     int16_t *const rsrp[] = {report.RSRP0, report.RSRP1, report.RSRP2, report.RSRP3};
-    // RSRP is the power of one resource element of twelve a block.
-    const double share = 10.0 * std::log10(12.0 * std::max<uint32_t>(run.resourceBlocks, 1));
     report.reportCount = static_cast<uint8_t>(std::min<int>(run.measCnt, VOND_MAX_REPORTS));
     for (int i = 0; i < report.reportCount; ++i) {
+        SReception receptions[4];
         for (int antenna = 0; antenna < run.antennas; ++antenna) {
-            const double power =
-                CELL_POWER + SwingOf(run.dlFrequency) - DIVERSITY_LOSS * antenna + ripple.Next(0.5);
-            rssi[antenna][i] = Fixed(power, 128);
-            rsrp[antenna][i] = Fixed(power - share, 128);
+            SReception &reception = receptions[antenna];
+            reception = ReceptionOf(run, antenna, run.fluctuation * noise.Bell());
+            rssi[antenna][i] = Fixed(reception.total, 128);
+            // RSRP is the power of one resource element; what noise the estimate lets through is
+            // its floor.
+            const double element =
+                PowerSum(reception.signal, reception.signal - reception.ratio - SSS_GAIN);
+            rsrp[antenna][i] = Fixed(element - run.elements, 128);
         }
-        const uint32_t bad = static_cast<uint32_t>(ripple.Next() % 3);
-        reading.badBlocks += bad;
-        reading.goodBlocks += BLOCKS_A_MEASUREMENT - bad;
+        const double errorRate = BlockErrorRate(CombinedRatio(run, receptions));
+        for (int block = 0; block < BLOCKS_A_MEASUREMENT; ++block)
+            ++(noise.Uniform() < errorRate ? reading.badBlocks : reading.goodBlocks);
     }
     return reading;
 }

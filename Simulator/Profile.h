@@ -10,6 +10,7 @@
 #include "Simulator/Bands.h"
 #include "Vond/VondCapabilityRecords.h"
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -75,6 +76,31 @@ struct SProfileRouteLimits
     SFreqLimits limits;
 };
 
+// The test set at the connectors, and what is analog in the DUT. Levels are those of a whole cell,
+// path losses lie between the test set and the RX route's connector.
+struct SProfileRadio
+{
+    uint32_t seed = 1;
+    double fluctuationDb = 0.2;  // a reading strays by no more
+    double noiseFigureDb = 6.0;
+    double levelDbm = -65.0;
+    std::map<uint16_t, double> bandLevelDbm;  // by band, where it differs
+    double pathLossDb = 0.5;
+    std::map<uint16_t, double> routeLossDb;  // by RX route, where it differs
+    double pdSlope = 0.98;                   // of the power detector over the TX power
+    double pdOffsetDb = 0.6;                 // its reading at 0 dBm
+
+    double LevelOf(uint16_t band) const { return ValueOr(bandLevelDbm, band, levelDbm); }
+    double LossOf(uint16_t route) const { return ValueOr(routeLossDb, route, pathLossDb); }
+
+private:
+    static double ValueOr(const std::map<uint16_t, double> &values, uint16_t key, double fallback)
+    {
+        const auto found = values.find(key);
+        return found != values.end() ? found->second : fallback;
+    }
+};
+
 struct SProfile
 {
     std::string name;
@@ -96,6 +122,7 @@ struct SProfile
     std::vector<SProfileRouteLimits> txLimits;
     std::vector<SProfileRouteLimits> rxLimits;
     SMMRfRxGainInfoV7 gain[VOND_RX_POWER_MODES] = {};
+    SProfileRadio radio;
     std::vector<std::string> faults;  // JSON objects, see Faults.h
 };
 

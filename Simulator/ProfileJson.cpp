@@ -1,6 +1,7 @@
 #include "Simulator/ProfileJson.h"
 
 #include "Simulator/BuiltinProfiles.h"
+#include "Simulator/ProfileRadio.h"
 #include "Simulator/ProfileTables.h"
 
 #include <fstream>
@@ -127,6 +128,7 @@ SProfile ReadProfile(const json &whole)
     ReadBands(reader, profile);
     ReadRoutes(reader, profile);
     ReadGainTables(reader, profile);
+    ReadRadio(reader, profile);
     ReadFaults(reader, profile);
     reader.Done();
     CheckTables(profile);

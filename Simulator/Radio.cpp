@@ -46,7 +46,7 @@ SVerdict CRadio::StartSingleTone(const SProfile &profile, const SMMSingleToneCmd
     const SVerdict verdict = CheckSingleTone(profile, command);
     if (verdict.Ok()) {
         m_running = ERunningTest::SingleToneTx;
-        Transmit(command.txPowerValue, command.ulFrequency);
+        Transmit(command.txPowerValue);
     }
     return verdict;
 }
@@ -60,7 +60,7 @@ SVerdict CRadio::StartPuschTx(const SProfile &profile, const SNrPuschTxCmdV7 &co
         const SNrPuschCcV7 &carrier =
             command.forced == 1 ? command.forcedMode.carrier : command.normalMode.carrier[0];
         m_running = ERunningTest::PuschTx;
-        Transmit(carrier.txPowerValue, carrier.ulFrequency);
+        Transmit(carrier.txPowerValue);
     }
     return verdict;
 }
@@ -72,16 +72,15 @@ SVerdict CRadio::StartRsrp(const SProfile &profile, const SNrRsrpCmdV7 &command)
     const SVerdict verdict = CheckRsrp(profile, command);
     if (!verdict.Ok())
         return verdict;
+    const SRsrpRun run = RsrpRun(profile, command);
+    if (const EStatus cell = CellStatus(run); cell != EStatus::Success)
+        return cell;
     m_running = ERunningTest::Rsrp;
-    m_rsrp = RsrpRun(command);
-    m_reports = 0;
+    m_rsrp = run;
     const SNrRsrpCommonV7 &carrier = command.forced == 1 ? command.forcedMode.carrier.common
                                                          : command.normalMode.carrier[0].common;
-    if (carrier.trxMode == 1) {
-        const SProfileBand &band = *FindBand(profile, carrier.band);
-        Transmit(carrier.txPowerValue,
-                 static_cast<uint32_t>(carrier.dlFrequency - DuplexDistance(band)));
-    }
+    if (carrier.trxMode == 1)
+        Transmit(carrier.txPowerValue);
     return verdict;
 }
 
@@ -98,14 +97,13 @@ SVerdict CRadio::StopMultiMode(uint32_t kind)
     return {};
 }
 
-SVerdict CRadio::Rssi(const SProfile &profile, const SMMRssiCmdV7 &command,
-                      SMMRssiCnfV7 &answer) const
+SVerdict CRadio::Rssi(const SProfile &profile, const SMMRssiCmdV7 &command, SMMRssiCnfV7 &answer)
 {
     if (m_running != ERunningTest::None)
         return EResult::TestRunning;
     const SVerdict verdict = CheckRssi(profile, command);
     if (verdict.Ok())
-        answer = MeasureRssi(command);
+        answer = MeasureRssi(profile, command, m_noise);
     return verdict;
 }
 
@@ -118,13 +116,13 @@ SVerdict CRadio::GainSearch(const SProfile &profile, const SMMGainSearchCmdV7 &c
     return verdict;
 }
 
-SVerdict CRadio::PdValue(uint32_t kind, int16_t &value) const
+SVerdict CRadio::PdValue(const SProfile &profile, uint32_t kind, int16_t &value)
 {
     if (kind != 1)
         return EResult::PdKind;
     if (!m_transmits)
         return EResult::NotTransmitting;
-    value = MeasurePd(m_txPower, m_txFrequency);
+    value = MeasurePd(profile.radio, m_txPower, m_noise);
     return {};
 }
 
@@ -132,7 +130,7 @@ void CRadio::MixRxReport(NRfTestResult_GetMixRxReportV7 &report)
 {
     report = {};
     if (m_running == ERunningTest::Rsrp) {
-        const SMixRxReading reading = MeasureMixRx(m_rsrp, m_reports++);
+        const SMixRxReading reading = MeasureMixRx(m_rsrp, m_noise);
         report = reading.report;
         m_goodBlocks += reading.goodBlocks;
         m_badBlocks += reading.badBlocks;
@@ -166,11 +164,10 @@ SVerdict CRadio::DlFrequency(const SProfile &profile, const SNrDlFreqCmdV7 &comm
     return {};
 }
 
-void CRadio::Transmit(int16_t txPower, uint32_t kHz)
+void CRadio::Transmit(int16_t txPower)
 {
     m_transmits = true;
     m_txPower = txPower;
-    m_txFrequency = kHz;
 }
 
 void CRadio::Stop(ERunningTest one, ERunningTest other)

@@ -37,6 +37,15 @@ void FillWithNoise(const SBytes &bytes, uint32_t seed)
     std::generate(to, to + bytes.size, [&] { return static_cast<uint8_t>(noise()); });
 }
 
+// What lies behind the answer's end is left out.
+void LayOver(const SBytes &answer, const SPatch &patch)
+{
+    if (answer.data == nullptr || patch.offset >= answer.size)
+        return;
+    const std::size_t count = std::min(patch.bytes.size(), answer.size - patch.offset);
+    std::copy_n(patch.bytes.data(), count, static_cast<uint8_t *>(answer.data) + patch.offset);
+}
+
 uint64_t NanosecondsSince(Clock::time_point start)
 {
     return static_cast<uint64_t>(
@@ -96,6 +105,10 @@ int32_t CSimulator::Run(const SCall &call, const Body &body)
         FillWithNoise(call.answer, *plan.noiseSeed);
         if (call.status != nullptr)
             FillWithNoise({call.status, sizeof(*call.status)}, *plan.noiseSeed);
+    }
+    for (const SPatch &patch : plan.patches)
+        LayOver(call.answer, patch);
+    if (plan.noiseSeed || !plan.patches.empty()) {
         outcome.answered = true;
         outcome.status = call.status != nullptr ? *call.status : 0;
     }
@@ -245,7 +258,7 @@ void CSimulator::PutInPlace(SProfile profile, std::string text)
         faults.push_back(ParseFault(nlohmann::json::parse(fault), "faults"));
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_dut.profile = std::move(profile);
-    m_dut.radio = CRadio();
+    m_dut.radio = CRadio(m_dut.profile.radio.seed);
     m_faults.SetProfileFaults(faults);
     m_profileText = std::move(text);
 }

@@ -232,7 +232,7 @@ VOND_RESULT VOND_MMRf_ContRxV7_r(uint32_t h, uint32_t t, const SMMContRxCmdV7 *c
 VOND_RESULT VOND_MMRf_GetPdValueV7_r(uint32_t h, uint32_t t, uint32_t kind, int16_t *value)
 {
     return Run({EFunction::GetPdValue, h, t, RequestOf(&kind), AnswerOf(value)},
-               [&](SDut &dut) { return dut.radio.PdValue(kind, *value); });
+               [&](SDut &dut) { return dut.radio.PdValue(dut.profile, kind, *value); });
 }
 
 VOND_RESULT VOND_NRf_GetMixRxReportV7_r(uint32_t h, uint32_t t,

@@ -62,7 +62,8 @@ int32_t VondSim_WaitUntilHeld(const char *function, uint32_t timeoutMs);
 // or "" when it is idle.
 const char *VondSim_RunningTest(void);
 
-// The journal. A call is counted when it has ended. GetCall returns 0, or -1 behind the last call.
+// The journal. A call is counted when it has ended. GetCall returns 0, or -1 behind the last call
+// and for the oldest ones of a journal beyond 64 MiB, which have gone.
 // GetRequest and GetAnswer copy at most size bytes and return the full length (0 behind the last).
 uint32_t VondSim_CallCount(void);
 int32_t VondSim_GetCall(uint32_t index, SVondSimCall *call);

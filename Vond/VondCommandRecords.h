@@ -6,6 +6,7 @@
 // (TS 38.101-1 table 5.2-1). SCS values are 0: 15 kHz, 1: 30 kHz, 2: 60 kHz.
 #pragma once
 
+#include "Vond/VondGainRecords.h"
 #include "Vond/VondLayout.h"
 
 // One carrier of a PUSCH test.
@@ -317,36 +318,6 @@ VOND_OFFSET(SMMGainSearchCmdV7, elnaModeDiv, 13);
 VOND_OFFSET(SMMGainSearchCmdV7, search, 14);
 VOND_OFFSET(SMMGainSearchCmdV7, reserved18, 18);
 
-// Gain block of an RSSI command; SMMRssiCmdV7::singlePath says which layout holds. All gains are dB
-// in 1/32 dB.
-union UMMRssiGainV7
-{
-    struct
-    {
-        int16_t mainRfGain;
-        int16_t divRfGain;
-        int16_t mainDigitalGain;
-        int16_t divDigitalGain;
-        uint8_t reserved8[12];
-    } single;
-    struct
-    {
-        uint8_t path0MainGainIdx;  // type 2 gain index
-        uint8_t path0DivGainIdx;
-        uint8_t path1MainGainIdx;
-        uint8_t path1DivGainIdx;
-        int16_t path0MainRfGain;
-        int16_t path0DivRfGain;
-        int16_t path1MainRfGain;
-        int16_t path1DivRfGain;
-        int16_t path0MainDigitalGain;
-        int16_t path0DivDigitalGain;
-        int16_t path1MainDigitalGain;
-        int16_t path1DivDigitalGain;
-    } simultaneous;
-};
-VOND_SIZE(UMMRssiGainV7, 20);
-
 // Command of VOND_MMRf_RssiV7_r.
 struct SMMRssiCmdV7
 {
@@ -358,8 +329,8 @@ struct SMMRssiCmdV7
     uint8_t singlePath;       // 1: one path, 0: both paths simultaneously
     uint8_t numFreq;          // frequencies to measure, at most 5
     uint8_t reserved34[2];
-    uint32_t path;  // 0, 1, or 3 when no single path is meant
-    UMMRssiGainV7 gain;
+    uint32_t path;       // 0, 1, or 3 when no single path is meant
+    UMMRssiGainV7 gain;  // singlePath says which layout holds
 };
 VOND_SIZE(SMMRssiCmdV7, 60);
 VOND_OFFSET(SMMRssiCmdV7, routeKind, 0);
@@ -371,20 +342,4 @@ VOND_OFFSET(SMMRssiCmdV7, singlePath, 32);
 VOND_OFFSET(SMMRssiCmdV7, numFreq, 33);
 VOND_OFFSET(SMMRssiCmdV7, reserved34, 34);
 VOND_OFFSET(SMMRssiCmdV7, path, 36);
-VOND_OFFSET(SMMRssiCmdV7, gain.single.mainRfGain, 40);
-VOND_OFFSET(SMMRssiCmdV7, gain.single.divRfGain, 42);
-VOND_OFFSET(SMMRssiCmdV7, gain.single.mainDigitalGain, 44);
-VOND_OFFSET(SMMRssiCmdV7, gain.single.divDigitalGain, 46);
-VOND_OFFSET(SMMRssiCmdV7, gain.single.reserved8, 48);
-VOND_OFFSET(SMMRssiCmdV7, gain.simultaneous.path0MainGainIdx, 40);
-VOND_OFFSET(SMMRssiCmdV7, gain.simultaneous.path0DivGainIdx, 41);
-VOND_OFFSET(SMMRssiCmdV7, gain.simultaneous.path1MainGainIdx, 42);
-VOND_OFFSET(SMMRssiCmdV7, gain.simultaneous.path1DivGainIdx, 43);
-VOND_OFFSET(SMMRssiCmdV7, gain.simultaneous.path0MainRfGain, 44);
-VOND_OFFSET(SMMRssiCmdV7, gain.simultaneous.path0DivRfGain, 46);
-VOND_OFFSET(SMMRssiCmdV7, gain.simultaneous.path1MainRfGain, 48);
-VOND_OFFSET(SMMRssiCmdV7, gain.simultaneous.path1DivRfGain, 50);
-VOND_OFFSET(SMMRssiCmdV7, gain.simultaneous.path0MainDigitalGain, 52);
-VOND_OFFSET(SMMRssiCmdV7, gain.simultaneous.path0DivDigitalGain, 54);
-VOND_OFFSET(SMMRssiCmdV7, gain.simultaneous.path1MainDigitalGain, 56);
-VOND_OFFSET(SMMRssiCmdV7, gain.simultaneous.path1DivDigitalGain, 58);
+VOND_OFFSET(SMMRssiCmdV7, gain, 40);

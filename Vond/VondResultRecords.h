@@ -3,6 +3,7 @@
 // All records are little-endian and naturally aligned. The caller zeroes a record before the call.
 #pragma once
 
+#include "Vond/VondGainRecords.h"
 #include "Vond/VondLayout.h"
 
 constexpr int VOND_MAX_REPORTS = 10;   // measurements of one RSRP report
@@ -48,65 +49,19 @@ VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSRP3, 144);
 VOND_OFFSET(NRfTestResult_GetMixRxReportV7, GoodBLK, 164);
 VOND_OFFSET(NRfTestResult_GetMixRxReportV7, BadBLK, 168);
 
-// Gains found by a gain search; SMMGainSearchCnfV7::simultaneous says which layout holds. All gains
-// are dB in 1/32 dB.
-union UMMGainSearchV7
-{
-    struct
-    {
-        int16_t mainRfGain;  // of the path asked for
-        int16_t divRfGain;
-        int16_t mainDigitalGain;
-        int16_t divDigitalGain;
-        uint8_t reserved8[12];
-    } single;
-    struct
-    {
-        uint8_t path0MainGainIdx;  // type 2 gain index
-        uint8_t path0DivGainIdx;
-        uint8_t path1MainGainIdx;
-        uint8_t path1DivGainIdx;
-        int16_t path0MainRfGain;
-        int16_t path0DivRfGain;
-        int16_t path1MainRfGain;
-        int16_t path1DivRfGain;
-        int16_t path0MainDigitalGain;
-        int16_t path0DivDigitalGain;
-        int16_t path1MainDigitalGain;
-        int16_t path1DivDigitalGain;
-    } simultaneous;
-};
-VOND_SIZE(UMMGainSearchV7, 20);
-
 // Answer of VOND_MMRf_GainSearchV7_r.
 struct SMMGainSearchCnfV7
 {
     int16_t adviseDlPower;  // advised cell power, dBm in 1/32 dB
     uint8_t reserved2[2];
     uint32_t simultaneous;  // 1: both paths
-    UMMGainSearchV7 gain;
+    UMMRssiGainV7 gain;     // simultaneous says which layout holds
 };
 VOND_SIZE(SMMGainSearchCnfV7, 28);
 VOND_OFFSET(SMMGainSearchCnfV7, adviseDlPower, 0);
 VOND_OFFSET(SMMGainSearchCnfV7, reserved2, 2);
 VOND_OFFSET(SMMGainSearchCnfV7, simultaneous, 4);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.single.mainRfGain, 8);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.single.divRfGain, 10);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.single.mainDigitalGain, 12);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.single.divDigitalGain, 14);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.single.reserved8, 16);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path0MainGainIdx, 8);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path0DivGainIdx, 9);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path1MainGainIdx, 10);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path1DivGainIdx, 11);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path0MainRfGain, 12);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path0DivRfGain, 14);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path1MainRfGain, 16);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path1DivRfGain, 18);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path0MainDigitalGain, 20);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path0DivDigitalGain, 22);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path1MainDigitalGain, 24);
-VOND_OFFSET(SMMGainSearchCnfV7, gain.simultaneous.path1DivDigitalGain, 26);
+VOND_OFFSET(SMMGainSearchCnfV7, gain, 8);
 
 // Rows of an RSSI measurement; the command's singlePath says which layout holds. RSSI is dBm in
 // 1/32 dB; the G (eLNA) and g (gain mode) bytes are the gains in force.

@@ -8,6 +8,12 @@ constexpr const char *kOffered[] = {kLteCapability, kMmCapability,  kNrCapabilit
                                     kBandRxInfo,    kRxRouteValues, kRouteDetail,  kContRx,
                                     kMmStop,        kNrStop};
 
+void AddFault(const std::string &function, const std::string &kind)
+{
+    const std::string text = R"({"function": ")" + function + R"(", "kind": )" + kind + "}";
+    ASSERT_EQ(VondSim_AddFault(text.c_str()), 0) << text;
+}
+
 void Forget()
 {
     CTargetCapability::Reset();
@@ -55,16 +61,37 @@ void PlugHandsetWithout(const std::string &function)
 
 void Fault(const std::string &function, int result)
 {
-    const std::string text = R"({"function": ")" + function + R"(", "kind": "fail", "result": )" +
-                             std::to_string(result) + "}";
-    ASSERT_EQ(VondSim_AddFault(text.c_str()), 0) << text;
+    AddFault(function, R"("fail", "result": )" + std::to_string(result));
+}
+
+void AnswerStatus(const std::string &function, uint32_t status)
+{
+    AddFault(function, R"("status", "status": )" + std::to_string(status));
 }
 
 void Noise(const std::string &function, int seed)
 {
-    const std::string text = R"({"function": ")" + function + R"(", "kind": "noise", "seed": )" +
-                             std::to_string(seed) + "}";
-    ASSERT_EQ(VondSim_AddFault(text.c_str()), 0) << text;
+    AddFault(function, R"("noise", "seed": )" + std::to_string(seed));
+}
+
+void AnswerBytes(const std::string &function, int offset, const std::string &hex)
+{
+    AddFault(function,
+             R"("bytes", "offset": )" + std::to_string(offset) + R"(, "hex": ")" + hex + "\"");
+}
+
+void NoErrorTexts()
+{
+    AddFault(kErrorString, R"("nullText")");
+}
+
+void ExpectOneCall(const char *function, const QByteArray &request)
+{
+    const auto calls = JournalOf(function);
+    ASSERT_EQ(calls.size(), 1) << function;
+    EXPECT_EQ(calls[0].call.handle, kHandle);
+    EXPECT_EQ(calls[0].call.timeoutMs, 10000u);
+    EXPECT_EQ(calls[0].request, request);
 }
 
 std::string FlagText(const SVondSupportFlags &flags)

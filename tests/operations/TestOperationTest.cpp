@@ -21,22 +21,13 @@ SMMContRxCmdV7 Command()
     return command;
 }
 
-void ExpectOneCall(const char *function, const QByteArray &request)
-{
-    const auto calls = JournalOf(function);
-    ASSERT_EQ(calls.size(), 1);
-    EXPECT_EQ(calls[0].call.handle, kHandle);
-    EXPECT_EQ(calls[0].call.timeoutMs, 10000u);
-    EXPECT_EQ(calls[0].request, request);
-}
-
 TEST_F(TestOperationTest, ContRxSendsItsCommandOnce)
 {
     const SMMContRxCmdV7 command = Command();
     CMultiRatContRxV7 contRx;
     EXPECT_EQ(contRx.RunContRx(&command), 0u);
     EXPECT_STREQ(VondSim_RunningTest(), "ContRx");
-    ExpectOneCall(kContRx, QByteArray(reinterpret_cast<const char *>(&command), sizeof command));
+    ExpectOneCall(kContRx, BytesOf(command));
     EXPECT_EQ(VondSim_CallCount(), 1u);
 }
 

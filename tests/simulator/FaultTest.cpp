@@ -113,6 +113,53 @@ TEST_F(FaultTest, NoiseFillsTheWholeAnswerAndRepeatsWithItsSeed)
               std::vector<uint8_t>(bytes, bytes + sizeof(clean)));
 }
 
+TEST_F(FaultTest, BytesLieOverTheAnswerAndTheRestStaysAsMeasured)
+{
+    Add(R"({"function": "VOND_NRf_GetDlFreqV7_r", "kind": "bytes", "offset": 5, "hex": "0badf0"})");
+    const SNrDlFreqCmdV7 command = DlFreqCommand();
+    SNrDlFreqCnfV7 answer = {};
+    EXPECT_EQ(VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, &command, &answer), VOND_SUCCESS);
+    EXPECT_EQ(answer.status, 0u);
+    EXPECT_EQ(answer.dlFrequency, 0xf0ad0b00u | (2140000u & 0xff));
+    EXPECT_EQ(AnswerBytes(VondSim_CallCount() - 1),
+              (std::vector<uint8_t>{0, 0, 0, 0, 0x60, 0x0b, 0xad, 0xf0}));
+}
+
+TEST_F(FaultTest, BytesBehindTheEndOfTheAnswerAreLeftOut)
+{
+    struct
+    {
+        SNrDlFreqCnfV7 answer;
+        uint32_t behind;
+    } memory = {{}, 0x12345678};
+    Add(R"({"function": "*", "kind": "bytes", "offset": 6, "hex": "aabbccdd"})");
+    Add(R"({"function": "*", "kind": "bytes", "offset": 8, "hex": "ee"})");
+    const SNrDlFreqCmdV7 command = DlFreqCommand();
+    EXPECT_EQ(VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, &command, &memory.answer), VOND_SUCCESS);
+    EXPECT_EQ(memory.answer.dlFrequency, 0xbbaa0000u | (2140000u & 0xffff));
+    EXPECT_EQ(memory.behind, 0x12345678u);
+    EXPECT_EQ(Stop(), VOND_SUCCESS);
+}
+
+TEST_F(FaultTest, BytesInAStatusInsideARecordAreJournalledAsTheStatus)
+{
+    Add(R"({"function": "VOND_NRf_GetDlFreqV7_r", "kind": "bytes", "hex": "02"})");
+    const SNrDlFreqCmdV7 command = DlFreqCommand();
+    SNrDlFreqCnfV7 answer = {};
+    EXPECT_EQ(VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, &command, &answer), VOND_SUCCESS);
+    EXPECT_EQ(answer.status, 2u);
+    EXPECT_EQ(LastCall().status, 2u);
+}
+
+TEST_F(FaultTest, BytesGoWithAFailure)
+{
+    Add(R"({"function": "VOND_NRf_GetMixRxReportV7_r", "kind": "fail", "result": 7})");
+    Add(R"({"function": "VOND_NRf_GetMixRxReportV7_r", "kind": "bytes", "hex": "0c"})");
+    NRfTestResult_GetMixRxReportV7 report = {};
+    EXPECT_EQ(VOND_NRf_GetMixRxReportV7_r(HANDLE, TIMEOUT_MS, &report), 7);
+    EXPECT_EQ(report.reportCount, 12);
+}
+
 TEST_F(FaultTest, NthFiresOnThatCallAlone)
 {
     Add(R"({"function": "VOND_NRf_TestStop_r", "kind": "fail", "nth": 2})");
@@ -191,6 +238,13 @@ TEST_F(FaultTest, BrokenFaultsAreRefusedWithOneLine)
         {R"({"function": "VOND_NRf_TestStop_r", "kind": "status", "status": 1})", "does not go"},
         {R"({"function": "VOND_NRf_TestStop_r", "kind": "nullText"})", "does not go"},
         {R"({"function": "VOND_GetErrorString", "kind": "fail"})", "does not go"},
+        {R"({"function": "VOND_GetErrorString", "kind": "bytes", "hex": "00"})", "does not go"},
+        {R"({"function": "*", "kind": "bytes"})", "fault.hex: is missing"},
+        {R"({"function": "*", "kind": "bytes", "hex": ""})", "is not made of pairs"},
+        {R"({"function": "*", "kind": "bytes", "hex": "0"})", "is not made of pairs"},
+        {R"({"function": "*", "kind": "bytes", "hex": "0g"})", "is not made of pairs"},
+        {R"({"function": "*", "kind": "bytes", "hex": "00 1"})", "is not made of pairs"},
+        {R"({"function": "*", "kind": "bytes", "hex": "00", "offset": -1})", "fault.offset: -1"},
     };
     for (const auto &entry : broken) {
         ::testing::internal::CaptureStderr();

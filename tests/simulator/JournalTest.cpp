@@ -124,4 +124,28 @@ TEST_F(JournalTest, NullRequestHasNoBytes)
     EXPECT_EQ(CallAt(0).requestSize, 0u);
 }
 
+// A run of days must not fill the memory: 4000 answers of 20 kB are more than 64 MiB.
+TEST_F(JournalTest, OldestCallsGoAndTheOthersKeepTheirNumbers)
+{
+    constexpr uint32_t CALLS = 4000;
+    SNRfRxRouteValues values = {};
+    for (uint32_t i = 0; i < CALLS; ++i)
+        ASSERT_EQ(VOND_NRf_GetRxRouteValues_r(i, TIMEOUT_MS, &values), VOND_SUCCESS);
+    EXPECT_EQ(VondSim_CallCount(), CALLS);
+    SVondSimCall call = {};
+    EXPECT_EQ(VondSim_GetCall(0, &call), -1);
+    EXPECT_EQ(VondSim_GetAnswer(0, nullptr, 0), 0u);
+    EXPECT_EQ(CallAt(CALLS - 1).handle, CALLS - 1);
+    EXPECT_EQ(AnswerBytes(CALLS - 1).size(), sizeof(values));
+    uint32_t kept = 0;
+    for (uint32_t i = 0; i < CALLS; ++i)
+        kept += VondSim_GetCall(i, &call) == 0 ? 1 : 0;
+    EXPECT_GT(kept, 3000u);
+    EXPECT_LE(kept, 64u * 1024 * 1024 / sizeof(values));
+    VondSim_ClearJournal();
+    EXPECT_EQ(VondSim_CallCount(), 0u);
+    ASSERT_EQ(VOND_NRf_GetRxRouteValues_r(7, TIMEOUT_MS, &values), VOND_SUCCESS);
+    EXPECT_EQ(CallAt(0).handle, 7u);
+}
+
 }  // namespace

@@ -108,6 +108,7 @@ SMMGainSearchCmdV7 GainSearchCommand()
     command.elnaModeMain = 1;
     command.elnaModeDiv = 1;
     command.search[0] = 1;
+    command.search[1] = 1;
     return command;
 }
 

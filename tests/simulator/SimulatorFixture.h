@@ -29,7 +29,7 @@ SMMContRxCmdV7 ContRxBothPathsCommand();
 // RSSI on n78, type 2 route 105, path 1, two frequencies.
 SMMRssiCmdV7 RssiCommand();
 SMMRssiCmdV7 RssiBothPathsCommand();
-// G1 with g1 and g0, one path, high power mode.
+// G1 with g1 on both antennas, one path, high power mode.
 SMMGainSearchCmdV7 GainSearchCommand();
 // Single tone on n41, TX route 9, region 40 MHz, 10 dBm.
 SMMSingleToneCmdV7 SingleToneCommand();

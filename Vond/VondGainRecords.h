@@ -1,0 +1,57 @@
+// The gain block that a gain search answers with and an RSSI command sends back: one layout, so
+// that what the target advised goes to it as it came.
+//
+// Little-endian and naturally aligned. All gains are dB in 1/32 dB. The record around the block
+// says which layout holds.
+#pragma once
+
+#include "Vond/VondLayout.h"
+
+constexpr uint8_t VOND_HIGHEST_GAIN_IDX = 17;  // last entry of the type 2 gain table
+constexpr uint8_t VOND_HIGHEST_ELNA_MODE = 6;  // G0 to G6
+constexpr uint8_t VOND_HIGHEST_GAIN_MODE = 2;  // g0 to g2
+
+union UMMRssiGainV7
+{
+    struct
+    {
+        int16_t mainRfGain;  // of the path asked for
+        int16_t divRfGain;
+        int16_t mainDigitalGain;
+        int16_t divDigitalGain;
+        uint8_t reserved8[12];
+    } single;
+    struct
+    {
+        uint8_t path0MainGainIdx;  // type 2 gain index, 0 to 17
+        uint8_t path0DivGainIdx;
+        uint8_t path1MainGainIdx;
+        uint8_t path1DivGainIdx;
+        int16_t path0MainRfGain;
+        int16_t path0DivRfGain;
+        int16_t path1MainRfGain;
+        int16_t path1DivRfGain;
+        int16_t path0MainDigitalGain;
+        int16_t path0DivDigitalGain;
+        int16_t path1MainDigitalGain;
+        int16_t path1DivDigitalGain;
+    } simultaneous;
+};
+VOND_SIZE(UMMRssiGainV7, 20);
+VOND_OFFSET(UMMRssiGainV7, single.mainRfGain, 0);
+VOND_OFFSET(UMMRssiGainV7, single.divRfGain, 2);
+VOND_OFFSET(UMMRssiGainV7, single.mainDigitalGain, 4);
+VOND_OFFSET(UMMRssiGainV7, single.divDigitalGain, 6);
+VOND_OFFSET(UMMRssiGainV7, single.reserved8, 8);
+VOND_OFFSET(UMMRssiGainV7, simultaneous.path0MainGainIdx, 0);
+VOND_OFFSET(UMMRssiGainV7, simultaneous.path0DivGainIdx, 1);
+VOND_OFFSET(UMMRssiGainV7, simultaneous.path1MainGainIdx, 2);
+VOND_OFFSET(UMMRssiGainV7, simultaneous.path1DivGainIdx, 3);
+VOND_OFFSET(UMMRssiGainV7, simultaneous.path0MainRfGain, 4);
+VOND_OFFSET(UMMRssiGainV7, simultaneous.path0DivRfGain, 6);
+VOND_OFFSET(UMMRssiGainV7, simultaneous.path1MainRfGain, 8);
+VOND_OFFSET(UMMRssiGainV7, simultaneous.path1DivRfGain, 10);
+VOND_OFFSET(UMMRssiGainV7, simultaneous.path0MainDigitalGain, 12);
+VOND_OFFSET(UMMRssiGainV7, simultaneous.path0DivDigitalGain, 14);
+VOND_OFFSET(UMMRssiGainV7, simultaneous.path1MainDigitalGain, 16);
+VOND_OFFSET(UMMRssiGainV7, simultaneous.path1DivDigitalGain, 18);
