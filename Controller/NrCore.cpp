@@ -47,6 +47,7 @@ QString CNrCore::GetCalItemName(int itemId) const
 void CNrCore::ResetTargetCache()
 {
     CTargetCapability::Reset();
+    m_isUpdaterStale.store(true);
 }
 
 void CNrCore::WaitForTurn()

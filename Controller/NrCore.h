@@ -15,10 +15,14 @@
 //   GetCore().Test(GetCore().GetPageName(2), document);
 #pragma once
 
+#include <atomic>
+
 #include <QMap>
 
 #include "Controller/Interface/CoreInterface.h"
 #include "Controller/NrCoreCmdBuilder.h"
+#include "Controller/NrDataModelCapUpdater.h"
+#include "Controller/PageTable.h"
 #include "Model/OperationResult.h"
 #include "Operations/MultiRatContRxV7.h"
 #include "Operations/TargetCapability.h"
@@ -68,7 +72,8 @@ protected:
     void TestStopInternal(bool isNr);
 
     std::string GetDataModelV7(const QString &pageName);
-    std::string LoadDataModel(const QString &pageName, const QString &resource);
+    std::string LoadDataModel(const QString &pageName, const SPageRow &page,
+                              const QString &resource);
 
 private:
     SRfSupportStatus DecideSupportStatus();
@@ -82,6 +87,8 @@ private:
     CNrTestStop m_nrTestStop;
     CMultiRatContRxV7 m_contRx;
     CMultiRatTestStopV7 m_testStop;
+    CNrDataModelCapUpdater m_capUpdater;
+    std::atomic<bool> m_isUpdaterStale{true};  // its caches are of an earlier connection
     CNrCoreCmdBuilder m_cmdBuilder;
 };
 

@@ -51,16 +51,21 @@ std::string CNrCore::GetDataModelV7(const QString &pageName)
         qCDebug(lcCore) << "[CNrCore] GetDataModelV7()Done --" << QJsonObject();
         return ModelToText({});
     }
-    return LoadDataModel(pageName, QString::fromLatin1(page.resource));
+    return LoadDataModel(pageName, page, QString::fromLatin1(page.resource));
 }
 
-std::string CNrCore::LoadDataModel(const QString &pageName, const QString &resource)
+std::string CNrCore::LoadDataModel(const QString &pageName, const SPageRow &page,
+                                   const QString &resource)
 {
+    if (m_isUpdaterStale.exchange(false))
+        m_capUpdater.ResetCapabilityCache();
     QFile file(resource);
     QJsonObject document;
     if (!ReadDataModel(file, document))
         m_errorMessage =
             QLatin1String("CNrCore::GetDataModel: cannon get the data Model->") + pageName;
+    // Whatever a driver could not patch stands in the document, for the page to show.
+    (m_capUpdater.*page.driver)(document);
     qCDebug(lcCore) << "[CNrCore] GetDataModelV7()Done --" << document;
     return ModelToText(document);
 }

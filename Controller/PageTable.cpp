@@ -2,26 +2,36 @@
 
 #include <iterator>
 
+#include "Controller/NrDataModelCapUpdater.h"
+
 namespace {
 
 // A row's position is its id.
 constexpr SPageRow kPages[] = {
-    {EPageId::Rssi, "RSSI", nullptr},
-    {EPageId::RssiScan, "RSSI Scan", nullptr},
-    {EPageId::ContRx, "Continuous RX", ":/NrContRxV7.json"},
-    {EPageId::RouteCalculator, "Route Calculator", nullptr},
-    {EPageId::RxPathLoss, "RX PathLoss", nullptr},
-    {EPageId::RsrpForce, "RSRP Force Mode", nullptr},
-    {EPageId::RsrpNormal, "RSRP Normal Mode", nullptr},
-    {EPageId::SingleToneTx, "Single Tone TX", nullptr},
-    {EPageId::PuschTxForce, "PUSCH TX Force Mode", nullptr},
-    {EPageId::PuschTxNormal, "PUSCH TX Normal Mode", nullptr},
-    {EPageId::PrachTx, "PRACH TX", nullptr},
-    {EPageId::PucchTx, "PUCCH TX", nullptr},
-    {EPageId::SrsTx, "SRS TX", nullptr},
-    {EPageId::AptProfile, "APT Profile", nullptr},
-    {EPageId::CcaBwCalculator, "CCA BW Calculator", nullptr},
-    {EPageId::ErrorPage, "Error Page", nullptr},
+    {EPageId::Rssi, "RSSI", ":/NrRssiV7.json", &CNrDataModelCapUpdater::UpdateRssiV7},
+    {EPageId::RssiScan, "RSSI Scan", nullptr, nullptr},
+    {EPageId::ContRx, "Continuous RX", ":/NrContRxV7.json",
+     &CNrDataModelCapUpdater::UpdateContRxV7},
+    {EPageId::RouteCalculator, "Route Calculator", nullptr, nullptr},
+    {EPageId::RxPathLoss, "RX PathLoss", ":/NrRxPathLossV7.json",
+     &CNrDataModelCapUpdater::UpdatePathLossV7},
+    {EPageId::RsrpForce, "RSRP Force Mode", ":/NrRsrpForceModeV7.json",
+     &CNrDataModelCapUpdater::UpdateRsrpForceModeV7},
+    {EPageId::RsrpNormal, "RSRP Normal Mode", ":/NrRsrpNormalModeV7.json",
+     &CNrDataModelCapUpdater::UpdateRsrpNormalModeV7},
+    {EPageId::SingleToneTx, "Single Tone TX", ":/NrSingleToneTxV7.json",
+     &CNrDataModelCapUpdater::UpdateSingleToneTxV7},
+    {EPageId::PuschTxForce, "PUSCH TX Force Mode", ":/NrPuschTxForceModeV7.json",
+     &CNrDataModelCapUpdater::UpdatePuschTxForceModeV7},
+    {EPageId::PuschTxNormal, "PUSCH TX Normal Mode", ":/NrPuschTxNormalModeV7.json",
+     &CNrDataModelCapUpdater::UpdatePuschTxNormalModeV7},
+    {EPageId::PrachTx, "PRACH TX", nullptr, nullptr},
+    {EPageId::PucchTx, "PUCCH TX", nullptr, nullptr},
+    {EPageId::SrsTx, "SRS TX", nullptr, nullptr},
+    {EPageId::AptProfile, "APT Profile", ":/NrAptProfileV7.json",
+     &CNrDataModelCapUpdater::UpdateAptProfileV7},
+    {EPageId::CcaBwCalculator, "CCA BW Calculator", nullptr, nullptr},
+    {EPageId::ErrorPage, "Error Page", nullptr, nullptr},
 };
 
 constexpr bool PositionsAreIds()

@@ -1,4 +1,5 @@
-// The RF page table: page ids, page names, and the document that each page starts from.
+// The RF page table: page ids, page names, the document that each page starts from, and the driver
+// that patches it with what the DUT can do.
 //
 // A page's name is what travels through the requests; the id is what the core switches on. Constant
 // data, any thread.
@@ -10,6 +11,9 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+
+class CNrDataModelCapUpdater;
+class QJsonObject;
 
 enum class EPageId
 {
@@ -36,6 +40,7 @@ struct SPageRow
     EPageId id;
     const char *name;
     const char *resource;  // null: the page has no document
+    bool (CNrDataModelCapUpdater::*driver)(QJsonObject &document);
 };
 
 const SPageRow &FindPage(EPageId id);

@@ -111,12 +111,19 @@ public:
     }
 };
 
-// The table as result rows need it, whatever its form says; done once, before the first row.
+// The table as result rows need it, whatever its form says; done once, before the first row. A
+// table that scrolls by rows keeps a whole row at its top: new rows at its end then shift what is
+// shown by a part of a row, and back, which moves every editor twice.
 void PrepareTable(QTableWidget *table)
 {
     QHeaderView *header = table->verticalHeader();
     header->setDefaultSectionSize(
         qBound(header->minimumSectionSize(), kRowHeight, header->maximumSectionSize()));
+    table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    // All that the table itself does for new rows is to place every editor, before it knows where;
+    // the header, which hears of them too, has them placed with the layout.
+    QObject::disconnect(table->model(), SIGNAL(rowsInserted(QModelIndex, int, int)), table,
+                        SLOT(rowsInserted(QModelIndex, int, int)));
     table->setItemDelegate(new CCellDelegate(table));
 }
 

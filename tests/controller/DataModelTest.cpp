@@ -3,6 +3,7 @@
 #include <QJsonDocument>
 #include <QTemporaryDir>
 
+#include "Model/JsonPath.h"
 #include "Model/ModelText.h"
 #include "Support/Log.h"
 #include "tests/controller/CoreFixture.h"
@@ -31,7 +32,12 @@ protected:
     QTemporaryDir m_folder;
 };
 
+const SPageRow &kContRxPage = FindPage(EPageId::ContRx);
 constexpr char kCannotGet[] = "CNrCore::GetDataModel: cannon get the data Model->Continuous RX";
+
+// The driver runs on the empty object, finds nothing to patch, and says so.
+constexpr char kNearEmpty[] =
+    R"({"modelIntegrity":{"integrity":false,"messageList":["Update band failed"]}})";
 
 TEST_F(DataModelTest, ContRxDocumentComesAsCompactText)
 {
@@ -79,30 +85,49 @@ TEST_F(DataModelTest, ProcessWideCoreIsOneAndSupplied)
     EXPECT_EQ(GetCore().GetDataModel("Continuous RX"), m_core.GetDataModel("Continuous RX"));
 }
 
-TEST_F(DataModelTest, TruncatedResourceLeavesAMessageAndAnEmptyDocument)
+TEST_F(DataModelTest, TruncatedResourceLeavesAMessageAndANearEmptyDocument)
 {
     const QByteArray whole = Resource();
     for (const int length : {0, 1, 100, whole.size() / 2, whole.size() - 3}) {
         CTestCore core;
         const LogCapture log(lcCore());
-        EXPECT_EQ(core.LoadDataModel("Continuous RX", FileWith(whole.left(length))), "{}")
+        EXPECT_EQ(core.LoadDataModel("Continuous RX", kContRxPage, FileWith(whole.left(length))),
+                  kNearEmpty)
             << length;
         EXPECT_EQ(core.GetErrorMessage(), QString(kCannotGet)) << length;
         EXPECT_TRUE(log.Holds(QtCriticalMsg, "is invalid data model")) << length;
     }
 }
 
-TEST_F(DataModelTest, WholeFileReadsAsItsDocument)
+TEST_F(DataModelTest, FileReadsAsTheResourceDoes)
 {
-    const std::string text = m_core.LoadDataModel("Continuous RX", FileWith(Resource()));
-    EXPECT_EQ(ModelFromText(text), QJsonDocument::fromJson(Resource()).object());
+    const std::string text =
+        m_core.LoadDataModel("Continuous RX", kContRxPage, FileWith(Resource()));
+    EXPECT_EQ(text, m_core.GetDataModel("Continuous RX"));
     EXPECT_TRUE(m_core.GetErrorMessage().isEmpty());
+}
+
+TEST_F(DataModelTest, DocumentIsPatchedForTheDutThatIsThereAfterAReset)
+{
+    const auto bands = [this] {
+        const QJsonObject document = ModelFromText(m_core.GetDataModel("Continuous RX"));
+        return GetJsonValueConst(document, "cmdIf.request.group1.memberProperty.band.trait.value")
+            .toArray();
+    };
+    EXPECT_TRUE(bands().contains("n78"));
+    ASSERT_EQ(VondSim_SetProfileText(R"({"name": "one", "base": "handset", "txRoutes": [],
+        "rxType1Routes": [], "rxType2Routes": [], "txLimits": [], "rxLimits": [],
+        "bands": [{"band": 41}]})"),
+              0);
+    EXPECT_TRUE(bands().contains("n78"));
+    m_core.ResetTargetCache();
+    EXPECT_EQ(bands(), QJsonArray{"n41"});
 }
 
 TEST_F(DataModelTest, MissingResourceLeavesAMessageAndAnEmptyDocument)
 {
     const LogCapture log(lcCore());
-    EXPECT_EQ(m_core.LoadDataModel("Continuous RX", ":/NoSuchModel.json"), "{}");
+    EXPECT_EQ(m_core.LoadDataModel("Continuous RX", kContRxPage, ":/NoSuchModel.json"), kNearEmpty);
     EXPECT_EQ(m_core.GetErrorMessage(), QString(kCannotGet));
     EXPECT_TRUE(log.Holds(QtCriticalMsg, ":/NoSuchModel.json"));
 }

@@ -13,11 +13,12 @@ TFindings OneFinding()
     return {{"folder/A.json", "cmdIf.request", EKind::Cycle, "text"}};
 }
 
-QStringList Applied(const QString &listText, TFindings findings)
+QStringList Applied(const QString &listText, TFindings findings,
+                    const QStringList &withoutForms = {})
 {
     const SAllowList list = ReadAllowList(listText);
     EXPECT_EQ(list.error, QString()) << qPrintable(list.error);
-    ApplyAllowList(list, "allowed.txt", {"folder/A.json", "A.ui"}, findings);
+    ApplyAllowList(list, "allowed.txt", {{"folder/A.json", "A.ui"}, withoutForms}, findings);
     return Lines(findings);
 }
 
@@ -48,6 +49,17 @@ TEST(AllowList, ReportsALineThatExcusesNothing)
 TEST(AllowList, LetsLinesOfUncheckedFilesRest)
 {
     EXPECT_EQ(Applied(QString("C.json cmdIf.request") + kReason, {}), QStringList());
+}
+
+// Nothing was said of widgets, so nothing is known about such a line.
+TEST(AllowList, LetsLinesAboutWidgetsRestWhenTheFormWasNotChecked)
+{
+    const QString lines = "A.json cmdIf.request member-without-widget for the test\n"
+                          "A.json cmdIf.response cycle for the test\n";
+    EXPECT_EQ(Applied(lines, {}, {"folder/A.json"}),
+              QStringList({"allowed.txt: cmdIf.response: allowed breach does not occur "
+                           "(line 2: A.json, cycle) [stale-allow]"}));
+    EXPECT_EQ(Applied(lines, {}).size(), 2);
 }
 
 TEST(AllowList, TakesAPathWithABlankInQuotes)

@@ -16,6 +16,24 @@ QString SlipFile(const SBrokenPage &page)
     return form.startsWith("bad_") ? form : QString(page.document);
 }
 
+QString KindOf(const QString &line)
+{
+    return line.mid(line.lastIndexOf('[') + 1).chopped(1);
+}
+
+// Those of the page's lines that the document alone gives.
+QStringList LinesWithoutForm(const SBrokenPage &page)
+{
+    QStringList lines;
+    for (const QString &line : QString(page.lines).split('\n')) {
+        const SKind *kind = FindKind(KindOf(line));
+        EXPECT_TRUE(kind) << qPrintable(line);
+        if (kind && !kind->needsForm && !line.startsWith(page.form))
+            lines.append(line);
+    }
+    return lines;
+}
+
 std::string TestName(const testing::TestParamInfo<SBrokenPage> &info)
 {
     return SlipFile(info.param).replace('.', '_').toStdString();
@@ -31,6 +49,12 @@ TEST_P(BrokenPage, IsReportedInItsWordsAndNoOthers)
     EXPECT_EQ(LinesOf(page.document, page.form).join('\n').toStdString(), page.lines);
 }
 
+TEST_P(BrokenPage, HasItsDocumentReportedInTheSameWordsWithoutAForm)
+{
+    const SBrokenPage &page = GetParam();
+    EXPECT_EQ(LinesOf(page.document), LinesWithoutForm(page));
+}
+
 INSTANTIATE_TEST_SUITE_P(Slips, BrokenPage,
                          testing::ValuesIn(BrokenPages().begin(), BrokenPages().end()), TestName);
 
@@ -39,7 +63,7 @@ TEST(BrokenPages, HaveAnExampleOfEveryKind)
     QSet<QString> seen{"stale-allow"};  // belongs to the allow list, not to a page
     for (const SBrokenPage &page : BrokenPages()) {
         for (const QString &line : QString(page.lines).split('\n'))
-            seen.insert(line.mid(line.lastIndexOf('[') + 1).chopped(1));
+            seen.insert(KindOf(line));
     }
     for (int i = 0; i < int(EKind::Count); ++i) {
         const char *name = KindRow(EKind(i)).name;

@@ -34,3 +34,8 @@ QStringList LinesOf(const QString &document, const QString &form)
 {
     return Lines(CheckPage(ReadText(DataFile(document)), ReadText(DataFile(form))));
 }
+
+QStringList LinesOf(const QString &document)
+{
+    return Lines(CheckDocument(ReadText(DataFile(document))));
+}

@@ -15,4 +15,6 @@ QString SourceFile(const QString &path);
 STextFile ReadText(const QString &file);
 // One line a finding of two files of this folder's data.
 QStringList LinesOf(const QString &document, const QString &form);
+// The same of a document alone.
+QStringList LinesOf(const QString &document);
 QStringList Lines(const TFindings &findings);

@@ -62,6 +62,28 @@ TEST(ModelCheckProgram, PrintsALineAFindingUnderTheGivenFileName)
     EXPECT_EQ(run.err, QString());
 }
 
+TEST(ModelCheckProgram, ChecksADocumentWithoutAFormAlone)
+{
+    EXPECT_EQ(Check({DataFile("good.json")}).code, 0);
+    const SRun run = Check(QStringList({DataFile("good.json"), DataFile("bad_key_member.json")}) +
+                           Pair("small.json", "bad_member_without_widget.ui"));
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.out, DataFile("bad_key_member.json") +
+                           ": cmdIf.request.group1.memberProperty.band.colour: unknown key "
+                           "\"colour\" [unknown-key]\n" +
+                           DataFile("small.json") +
+                           ": cmdIf.request.group1.memberProperty.gain: no widget is named after "
+                           "this member [member-without-widget]\n");
+}
+
+TEST(ModelCheckProgram, LetsAllowedLinesAboutWidgetsRestOverADocumentAlone)
+{
+    const QTemporaryDir folder;
+    const QString list = FileWith(folder, "good.json cmdIf table-missing for the test\n");
+    EXPECT_EQ(Check({DataFile("good.json"), "--allow", list}).code, 0);
+    EXPECT_EQ(Check(Pair("good.json", "good.ui") + QStringList({"--allow", list})).code, 1);
+}
+
 TEST(ModelCheckProgram, AllowsWhatTheListExcuses)
 {
     const QTemporaryDir folder;
@@ -106,10 +128,9 @@ struct SBadCall
 TEST(ModelCheckProgram, ComplainsOfACallWithoutSense)
 {
     const SBadCall kCalls[] = {
-        {{}, "a page is two files, its document and its form"},
-        {{"a.json"}, "a page is two files, its document and its form"},
-        {{"a.json", "a.ui", "b.json"}, "a page is two files, its document and its form"},
+        {{}, "no page is given"},
         {{"a.ui", "a.json"}, "\"a.ui\" stands where a document belongs"},
+        {{"a.json", "a.ui", "b.ui"}, "\"b.ui\" stands where a document belongs"},
         {{"--alow", "x", "a.json", "a.ui"}, "unknown option \"--alow\""},
         {{"a.json", "a.ui", "--allow"}, "--allow stands once and takes a file"},
         {{"--allow", "x", "--allow", "y"}, "--allow stands once and takes a file"},
@@ -117,8 +138,8 @@ TEST(ModelCheckProgram, ComplainsOfACallWithoutSense)
     for (const SBadCall &call : kCalls) {
         const SRun run = Check(call.args);
         EXPECT_EQ(run.code, 2) << call.complaint;
-        EXPECT_EQ(run.err, QString("modelcheck: %1\nUsage: modelcheck PAGE.json PAGE.ui "
-                                   "[PAGE.json PAGE.ui ...] [--allow FILE]\n")
+        EXPECT_EQ(run.err, QString("modelcheck: %1\nUsage: modelcheck PAGE.json [PAGE.ui] "
+                                   "[PAGE.json [PAGE.ui] ...] [--allow FILE]\n")
                                .arg(call.complaint));
         EXPECT_EQ(run.out, QString());
     }

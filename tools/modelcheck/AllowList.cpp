@@ -39,6 +39,14 @@ bool Excuses(const SAllowLine &line, const SFinding &finding)
            line.file == QFileInfo(finding.file).fileName();
 }
 
+QStringList WithoutFolders(const QStringList &files)
+{
+    QStringList names;
+    for (const QString &file : files)
+        names.append(QFileInfo(file).fileName());
+    return names;
+}
+
 }  // namespace
 
 SAllowList ReadAllowList(const QString &text)
@@ -59,22 +67,23 @@ SAllowList ReadAllowList(const QString &text)
     return list;
 }
 
-void ApplyAllowList(const SAllowList &list, const QString &listName,
-                    const QStringList &checkedFiles, TFindings &findings)
+void ApplyAllowList(const SAllowList &list, const QString &listName, const SCheckedFiles &checked,
+                    TFindings &findings)
 {
-    QStringList checked;
-    for (const QString &file : checkedFiles)
-        checked.append(QFileInfo(file).fileName());
+    const QStringList all = WithoutFolders(checked.all);
+    const QStringList alone = WithoutFolders(checked.withoutForms);
     TFindings stale;
     for (const SAllowLine &line : list.lines) {
         const auto rest =
             std::remove_if(findings.begin(), findings.end(),
                            [&line](const SFinding &finding) { return Excuses(line, finding); });
-        if (rest == findings.end() && checked.contains(line.file))
+        const SKind &kind = KindRow(line.kind);
+        const bool lookedAt = !kind.needsForm || !alone.contains(line.file);
+        if (rest == findings.end() && all.contains(line.file) && lookedAt)
             stale.push_back({listName, line.path, EKind::StaleAllow,
                              QStringLiteral("allowed breach does not occur (line %1: %2, %3)")
                                  .arg(line.line)
-                                 .arg(line.file, QLatin1String(KindRow(line.kind).name))});
+                                 .arg(line.file, QLatin1String(kind.name))});
         findings.erase(rest, findings.end());
     }
     findings.insert(findings.end(), stale.begin(), stale.end());

@@ -9,11 +9,12 @@
 //
 // A line excuses the findings with that very file name (without its folder), path and kind, and
 // nothing else. A line that excuses nothing, of a file that was checked, is a finding itself, so
-// the list never holds more than the pages need. Lines of files that were not checked rest.
+// the list never holds more than the pages need. Lines of files that were not checked rest, and so
+// do lines about widgets when the document was checked without its form.
 //
 //   const SAllowList list = ReadAllowList(text);
 //   if (!list.error.isEmpty()) ...                       // "line 7: unknown kind "cicle""
-//   ApplyAllowList(list, "allowed.txt", {"A.json", "A.ui"}, findings);
+//   ApplyAllowList(list, "allowed.txt", {{"A.json", "A.ui", "B.json"}, {"B.json"}}, findings);
 #pragma once
 
 #include <vector>
@@ -37,8 +38,14 @@ struct SAllowList
     QString error;  // empty when the text is a list
 };
 
+struct SCheckedFiles
+{
+    QStringList all;           // documents and forms
+    QStringList withoutForms;  // the documents that were checked alone
+};
+
 SAllowList ReadAllowList(const QString &text);
 
 // Takes the excused findings out, and adds one for each stale line; listName is the list's file.
-void ApplyAllowList(const SAllowList &list, const QString &listName,
-                    const QStringList &checkedFiles, TFindings &findings);
+void ApplyAllowList(const SAllowList &list, const QString &listName, const SCheckedFiles &checked,
+                    TFindings &findings);

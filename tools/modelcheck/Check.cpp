@@ -31,6 +31,13 @@ bool ReadRoot(const QByteArray &text, const SReport &report, QJsonObject &root)
     return true;
 }
 
+void CheckAlone(const SPage &page, const SReport &report)
+{
+    for (const auto check :
+         {CheckDocumentKeys, CheckEntries, CheckDefaults, CheckRelations, CheckCycles})
+        check(page, report);
+}
+
 }  // namespace
 
 TFindings CheckPage(const STextFile &document, const STextFile &form)
@@ -47,10 +54,18 @@ TFindings CheckPage(const STextFile &document, const STextFile &form)
         return findings;
 
     const SPage page = ReadPage(root);
-    for (const auto check :
-         {CheckDocumentKeys, CheckEntries, CheckDefaults, CheckRelations, CheckCycles})
-        check(page, pageReport);
+    CheckAlone(page, pageReport);
     if (widgets.error.isEmpty())
         CheckWidgets(page, widgets, pageReport, formReport);
+    return findings;
+}
+
+TFindings CheckDocument(const STextFile &document)
+{
+    TFindings findings;
+    const SReport report{document.name, findings};
+    QJsonObject root;
+    if (ReadRoot(document.text, report, root))
+        CheckAlone(ReadPage(root), report);
     return findings;
 }

@@ -71,8 +71,9 @@ enum class EKind
 struct SKind
 {
     EKind kind;
-    const char *name;     // in reports and in the allow list
-    const char *meaning;  // for --help
+    const char *name;        // in reports and in the allow list
+    const char *meaning;     // for --help
+    bool needsForm = false;  // found only where there is a form to look at
 };
 
 // In the order of EKind.

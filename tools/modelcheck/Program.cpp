@@ -8,11 +8,12 @@
 namespace {
 
 constexpr char kUsage[] =
-    "Usage: modelcheck PAGE.json PAGE.ui [PAGE.json PAGE.ui ...] [--allow FILE]\n";
+    "Usage: modelcheck PAGE.json [PAGE.ui] [PAGE.json [PAGE.ui] ...] [--allow FILE]\n";
 
 constexpr char kHelp[] =
     "Checks the document of a page against the document format and against the page's\n"
     "Designer form, and prints one line a finding: file: path: what [kind]\n"
+    "A document with no form behind it is checked alone; nothing is said of widgets.\n"
     "\n"
     "  --allow FILE  breaches that are meant, one a line: file-name path kind reason\n"
     "  --help        this text\n"
@@ -21,13 +22,31 @@ constexpr char kHelp[] =
     "\n"
     "Kinds:\n";
 
+struct SPageFiles
+{
+    QString document;
+    QString form;  // empty: the document is checked alone
+};
+
 struct SArguments
 {
-    QStringList pages;  // document, form, document, form...
+    std::vector<SPageFiles> pages;
     QString allow;
     bool help = false;
     QString error;  // empty when the call makes sense
 };
+
+// The error in words; empty when the file has found its place.
+QString AddFile(const QString &file, std::vector<SPageFiles> &pages)
+{
+    if (!file.endsWith(QLatin1String(".ui")))
+        pages.push_back({file, {}});
+    else if (pages.empty() || !pages.back().form.isEmpty())
+        return QStringLiteral("\"%1\" stands where a document belongs").arg(file);
+    else
+        pages.back().form = file;
+    return {};
+}
 
 SArguments ParseArguments(const QStringList &args)
 {
@@ -43,19 +62,19 @@ SArguments ParseArguments(const QStringList &args)
         else if (arg.startsWith(QLatin1Char('-')))
             parsed.error = QStringLiteral("unknown option \"%1\"").arg(arg);
         else
-            parsed.pages.append(arg);
+            parsed.error = AddFile(arg, parsed.pages);
     }
-    if (!parsed.error.isEmpty() || parsed.help)
-        return parsed;
-    if (parsed.pages.isEmpty() || parsed.pages.size() % 2)
-        parsed.error = "a page is two files, its document and its form";
-    for (int i = 0; i < parsed.pages.size() && parsed.error.isEmpty(); i += 2) {
-        if (parsed.pages.at(i).endsWith(QLatin1String(".ui")))
-            parsed.error =
-                QStringLiteral("\"%1\" stands where a document belongs").arg(parsed.pages.at(i));
-    }
+    if (parsed.error.isEmpty() && !parsed.help && parsed.pages.empty())
+        parsed.error = "no page is given";
     return parsed;
 }
+
+// What is read before anything is checked.
+struct SPageTexts
+{
+    STextFile document;
+    STextFile form;
+};
 
 bool ReadFile(const QString &name, QByteArray &text, QTextStream &err)
 {
@@ -72,6 +91,19 @@ int Fail(QTextStream &err, const QString &what)
 {
     err << "modelcheck: " << what << '\n';
     return eExitUsage;
+}
+
+SCheckedFiles CheckedFiles(const std::vector<SPageFiles> &pages)
+{
+    SCheckedFiles checked;
+    for (const SPageFiles &page : pages) {
+        checked.all.append(page.document);
+        if (page.form.isEmpty())
+            checked.withoutForms.append(page.document);
+        else
+            checked.all.append(page.form);
+    }
+    return checked;
 }
 
 void PrintHelp(QTextStream &out)
@@ -105,19 +137,22 @@ int RunModelCheck(const QStringList &args, QTextStream &out, QTextStream &err)
     if (!allow.error.isEmpty())
         return Fail(err, QStringLiteral("%1: %2").arg(arguments.allow, allow.error));
 
-    std::vector<STextFile> files;
-    for (const QString &name : arguments.pages) {
-        files.push_back({name, {}});
-        if (!ReadFile(name, files.back().text, err))
+    std::vector<SPageTexts> texts;
+    for (const SPageFiles &page : arguments.pages) {
+        texts.push_back({{page.document, {}}, {page.form, {}}});
+        if (!ReadFile(page.document, texts.back().document.text, err))
+            return eExitUsage;
+        if (!page.form.isEmpty() && !ReadFile(page.form, texts.back().form.text, err))
             return eExitUsage;
     }
 
     TFindings findings;
-    for (std::size_t i = 0; i < files.size(); i += 2) {
-        const TFindings found = CheckPage(files[i], files[i + 1]);
+    for (const SPageTexts &page : texts) {
+        const TFindings found = page.form.name.isEmpty() ? CheckDocument(page.document)
+                                                         : CheckPage(page.document, page.form);
         findings.insert(findings.end(), found.begin(), found.end());
     }
-    ApplyAllowList(allow, arguments.allow, arguments.pages, findings);
+    ApplyAllowList(allow, arguments.allow, CheckedFiles(arguments.pages), findings);
     for (const SFinding &finding : findings)
         out << FindingLine(finding) << '\n';
     return findings.empty() ? eExitGood : eExitFindings;

@@ -1,7 +1,8 @@
 // The program: arguments in, one line a finding out.
 //
-//   modelcheck PAGE.json PAGE.ui [PAGE.json PAGE.ui ...] [--allow FILE]
+//   modelcheck PAGE.json [PAGE.ui] [PAGE.json [PAGE.ui] ...] [--allow FILE]
 //
+// A form stands behind its document; a document without one is checked alone.
 // Findings go to out, complaints about the call and the files to err. Returns the exit code.
 //
 //   QTextStream out(stdout), err(stderr);

@@ -1,0 +1,94 @@
+// Hardware labels of the TX pages, by what the page selects: route, SCS and RB count, or route and
+// bandwidth region.
+#include "Controller/CommandConversions.h"
+#include "Controller/DocumentWriter.h"
+#include "Controller/HwLabels.h"
+#include "Controller/NrDataModelCapUpdater.h"
+
+namespace {
+
+// An SCS and RB count of a band: how a key ends, and the bandwidth that they stand for.
+struct SCarrier
+{
+    QString suffix;    // ",15kHz,25 RB"
+    int bandwidthKhz;  // -1: the pair stands for none
+};
+
+// The region of a bandwidth: the first whose limit holds it. Beyond the last limit it is the first
+// region.
+int RegionOf(const STxRouteInfoV7 &row, int bandwidthKhz)
+{
+    for (int i = 0; i < row.bwRegionCount; ++i) {
+        if (static_cast<uint32_t>(bandwidthKhz) <= row.bwRegionLimitKhz[i])
+            return i;
+    }
+    return 0;
+}
+
+}  // namespace
+
+bool CNrDataModelCapUpdater::UpdateTxHwSettingByScsRBv7(QJsonObject &doc, const SHwSettingV7 path)
+{
+    CDocumentWriter writer(doc);
+    std::vector<STxRouteInfoV7> table;
+    if (!m_target.GetTxCommonPathV7(table, true))
+        return writer.Fail("Get HW setting from L1 capbiliy failed ");
+
+    const QJsonObject scsByBand = Table3gpp("SCSkHzByBand");
+    const QJsonObject rbByBandScs = Table3gpp("RBNumByBandSCS");
+    const auto carriersOf = [&](const QString &band) {
+        std::vector<SCarrier> carriers;
+        const QJsonArray scsNames = scsByBand.value(band).toArray();
+        for (const QJsonValue &element : scsNames) {
+            const QString scs = element.toString();
+            const QJsonArray counts = rbByBandScs.value(band + QLatin1Char(',') + scs).toArray();
+            for (const QJsonValue &count : counts) {
+                const QString rb = count.toString();
+                carriers.push_back(
+                    {QLatin1Char(',') + scs + QLatin1Char(',') + rb, GetBandwidthByScsRb(scs, rb)});
+            }
+        }
+        return carriers;
+    };
+
+    CHwLabelTable labels;
+    for (const QJsonValue &element : path.bands) {
+        const QString band = element.toString();
+        QStringList routes;
+        if (!GetTxRoutesByBand(routes, BandNumber(band)))
+            continue;
+        const std::vector<SCarrier> carriers = carriersOf(band);
+        for (const QString &route : qAsConst(routes)) {
+            const STxRouteInfoV7 *row = RowOf(table, GetTxRouteIndex(route.toInt()));
+            for (const SCarrier &carrier : carriers) {
+                const QString key = route + carrier.suffix;
+                if (carrier.bandwidthKhz == -1 || !row)
+                    labels.PutNoDefault(key, SameHwLabels("Not found"));
+                else
+                    labels.Put(key, HwLabels(row->bwRegion[RegionOf(*row, carrier.bandwidthKhz)]));
+            }
+        }
+    }
+    return WriteHwLabels(writer, path, labels);
+}
+
+bool CNrDataModelCapUpdater::UpdateTxHwSettingByBwRegion(QJsonObject &doc, const SHwSettingV7 path)
+{
+    CDocumentWriter writer(doc);
+    std::vector<STxRouteInfoV7> table;
+    if (!m_target.GetTxCommonPathV7(table, true))
+        return writer.Fail("Get HW setting from L1 capbiliy failed ");
+
+    CHwLabelTable labels;
+    for (const QJsonValue &element : path.bands) {
+        QStringList routes;
+        if (!GetTxRoutesByBand(routes, BandNumber(element.toString())))
+            continue;
+        for (const QString &route : qAsConst(routes)) {
+            const STxRouteInfoV7 *row = RowOf(table, GetTxRouteIndex(route.toInt()));
+            for (int i = 0; row && i < row->bwRegionCount; ++i)
+                labels.Put(QStringLiteral("%1,BW%2").arg(route).arg(i), HwLabels(row->bwRegion[i]));
+        }
+    }
+    return WriteHwLabels(writer, path, labels);
+}
