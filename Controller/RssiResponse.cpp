@@ -145,7 +145,7 @@ void CNrDataModelResponseBuilder::UpdateRssiGainResultV7(QJsonObject &document,
                                                          SMMGainSearchCnfV7 result,
                                                          bool success) const
 {
-    using Gains = UMMGainSearchV7;
+    using Gains = decltype(result.gain);
     const auto show = [&](const char *member, const QString &text) {
         ShowScalar(document, member, success ? text : kError);
     };

@@ -74,9 +74,10 @@ void FillGains(const SingleRows &singleRows, const BothRows &bothRows, const CPa
     }
 }
 
-template <typename Gains, typename Command>
+template <typename Command>
 void FillRfGains(const CPackagedGroup &values, Command &command)
 {
+    using Gains = decltype(Command::gain);
     FillGains(kSingleRfGains<Gains>, kBothRfGains<Gains>, values, command);
     if (command.singlePath != 0)
         return;
@@ -113,7 +114,7 @@ SMMContRxCmdV7 CNrCoreCmdBuilder::GetContRxCmdV7(QJsonObject document) const
     SMMContRxCmdV7 command = {};
     FillReceiver(values, m_target, command);
     FillFields(kContRx, values, command);
-    FillRfGains<UMMContRxGainV7>(values, command);
+    FillRfGains(values, command);
     return command;
 }
 
@@ -153,7 +154,8 @@ SMMRssiCmdV7 CNrCoreCmdBuilder::GetRssiCmdV7(QJsonObject document) const
 
     // The gains are those that the last gain search has shown.
     const CPackagedGroup found(document, "cmdIf.response.group1");
-    FillRfGains<UMMRssiGainV7>(found, command);
-    FillGains(kSingleDigitalGains<UMMRssiGainV7>, kBothDigitalGains<UMMRssiGainV7>, found, command);
+    FillRfGains(found, command);
+    using Gains = decltype(command.gain);
+    FillGains(kSingleDigitalGains<Gains>, kBothDigitalGains<Gains>, found, command);
     return command;
 }
