@@ -63,6 +63,9 @@ constexpr SValueTable kRbTables[] = {
     {std::begin(kRb60), std::end(kRb60), "Get 60 kHz RB  failed", 10000},
 };
 
+constexpr int32_t kToneOffsetsKhz[] = {-540, -450, -360, -270, -180, -90, 0,
+                                       90,   180,  270,  360,  450,  540};
+
 uint32_t Find(const SValueTable &table, const QString &text)
 {
     const auto *row = std::find_if(table.begin, table.end, [&text](const SNamedValue &r) {
@@ -88,6 +91,12 @@ QString LeadingDigits(const QString &text)
 uint16_t BandNumber(const QString &text)
 {
     return DecimalInt<uint16_t>(text.mid(1));
+}
+
+uint8_t GainModeNumber(const QString &text)
+{
+    const bool lettered = !text.isEmpty() && text[0].isLetter();
+    return DecimalInt<uint8_t>(lettered ? text.mid(1) : text);
 }
 
 uint8_t BoolFlag(const QString &text)
@@ -116,21 +125,39 @@ NL1TST_SCS_E GetScs(const QString &text)
 
 uint32_t Get15KhzRb(const QString &text)
 {
-    return BandwidthKhz(NL1TST_SCS_15_KHZ, text);
+    return GetRbBandwidth(NL1TST_SCS_15_KHZ, text);
 }
 
 uint32_t Get30KhzRb(const QString &text)
 {
-    return BandwidthKhz(NL1TST_SCS_30_KHZ, text);
+    return GetRbBandwidth(NL1TST_SCS_30_KHZ, text);
 }
 
 uint32_t Get60KhzRb(const QString &text)
 {
-    return BandwidthKhz(NL1TST_SCS_60_KHZ, text);
+    return GetRbBandwidth(NL1TST_SCS_60_KHZ, text);
 }
 
-uint32_t BandwidthKhz(uint32_t scs, const QString &text)
+uint32_t GetRbBandwidth(uint32_t scs, const QString &text)
 {
     const uint32_t row = std::min<uint32_t>(scs, std::size(kRbTables) - 1);
     return Find(kRbTables[row], LeadingDigits(text));
+}
+
+uint32_t KhzOfMhzText(const QString &text, int unitLength)
+{
+    return DecimalInt<uint32_t>(text.chopped(qMin(unitLength, text.size()))) * 1000;
+}
+
+uint32_t UpperBoundKhz(const QString &text)
+{
+    constexpr int kUnitLength = 3;  // "MHz"
+    return KhzOfMhzText(text.mid(text.lastIndexOf(QLatin1Char(' ')) + 1), kUnitLength);
+}
+
+int32_t ToneOffsetKhz(int index)
+{
+    if (index < 0 || index >= static_cast<int>(std::size(kToneOffsetsKhz)))
+        return 0;
+    return kToneOffsetsKhz[index];
 }

@@ -6,7 +6,7 @@
 //
 //   BandNumber("n78");            // 78
 //   FixedPoint("-10.5", 256.0);   // -2688, dBm in 1/256 dB
-//   BandwidthKhz(0, "25 RB");     // 5000: 25 RBs at 15 kHz SCS
+//   GetRbBandwidth(0, "25 RB");   // 5000: 25 RBs at 15 kHz SCS
 #pragma once
 
 #include <cstdint>
@@ -54,6 +54,8 @@ Int DecimalInt(const QString &text)
 uint16_t BandNumber(const QString &text);
 // 1 for "true" exactly, else 0.
 uint8_t BoolFlag(const QString &text);
+// Number of an eLNA mode or gain mode such as "G3" or "g1": all behind the letter.
+uint8_t GainModeNumber(const QString &text);
 // The number times scale, truncated toward zero, its low 16 bits.
 int16_t FixedPoint(const QString &text, double scale);
 
@@ -69,4 +71,12 @@ uint32_t Get15KhzRb(const QString &text);
 uint32_t Get30KhzRb(const QString &text);
 uint32_t Get60KhzRb(const QString &text);
 // The same by the record's SCS value.
-uint32_t BandwidthKhz(uint32_t scs, const QString &text);
+uint32_t GetRbBandwidth(uint32_t scs, const QString &text);
+
+// The number in front of a unit of some characters, in MHz, as kHz: ("5M", 1) is 5000.
+uint32_t KhzOfMhzText(const QString &text, int unitLength);
+// Upper bound in kHz of a range text: "0 < BW0 <= 20MHz" is 20000.
+uint32_t UpperBoundKhz(const QString &text);
+
+// Offset in kHz of a tone by its place among the thirteen choices, -540 to 540; 0 for any other.
+int32_t ToneOffsetKhz(int index);

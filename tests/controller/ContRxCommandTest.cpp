@@ -1,6 +1,7 @@
 // The continuous RX command, byte for byte.
 #include "Controller/NrCoreCmdBuilder.h"
 #include "tests/controller/CoreFixture.h"
+#include "tests/controller/PageDocuments.h"
 
 namespace {
 
@@ -20,6 +21,23 @@ protected:
 
 // The records stand field by field.
 // clang-format off
+
+TEST_F(ContRxCommandTest, DefaultsOfThePage)
+{
+    QJsonObject document = PackagedPage("NrContRxV7");
+    Put(document, "cmdIf.request.group1", {{"rxRoute", "1"}});
+    EXPECT_EQ(Build(document), (Bytes{
+        1, 0, 0, 0,              // route kind
+        0, 0, 0, 0,              // HPM
+        0x88, 0x13, 0, 0,        // 5000 kHz
+        1, 0,                    // n1
+        1, 0,                    // route 1
+        1, 0, 0, 0,              // one path
+        0, 0, 0, 0,              // path 0
+        0x83, 0x07, 0x83, 0x07,  // 60.1 dB: 1923
+        0, 0, 0, 0, 0, 0, 0, 0,
+        0x30, 0xC1, 0x1D, 0}));  // 1950000 kHz
+}
 
 TEST_F(ContRxCommandTest, Type1RouteOnPath0)
 {

@@ -101,15 +101,15 @@ TEST(RbCount, SeventyNineAtFifteenKilohertzIsRefused)
 
 TEST(RbCount, BandwidthGoesByTheScsValue)
 {
-    EXPECT_EQ(BandwidthKhz(0, "106 RB"), 20000u);
-    EXPECT_EQ(BandwidthKhz(1, "106 RB"), 40000u);
-    EXPECT_EQ(BandwidthKhz(2, "51"), 40000u);
+    EXPECT_EQ(GetRbBandwidth(0, "106 RB"), 20000u);
+    EXPECT_EQ(GetRbBandwidth(1, "106 RB"), 40000u);
+    EXPECT_EQ(GetRbBandwidth(2, "51"), 40000u);
 }
 
 TEST(RbCount, ScsValueBeyondTheTablesReadsNoMemoryBehindThem)
 {
-    EXPECT_EQ(BandwidthKhz(3, "135"), 100000u);
-    EXPECT_EQ(BandwidthKhz(0xFFFFFFFFu, "nonsense"), 10000u);
+    EXPECT_EQ(GetRbBandwidth(3, "135"), 100000u);
+    EXPECT_EQ(GetRbBandwidth(0xFFFFFFFFu, "nonsense"), 10000u);
 }
 
 }  // namespace

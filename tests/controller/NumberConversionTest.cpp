@@ -106,4 +106,47 @@ TEST(FixedPoint, WhatIsNoFiniteNumberIsZero)
         EXPECT_EQ(FixedPoint(text, kPowerScale), 0) << text;
 }
 
+TEST(GainModeNumber, IsAllBehindTheLetter)
+{
+    EXPECT_EQ(GainModeNumber("G3"), 3);
+    EXPECT_EQ(GainModeNumber("g1"), 1);
+    EXPECT_EQ(GainModeNumber("g12"), 12);
+    EXPECT_EQ(GainModeNumber("3"), 3);
+}
+
+TEST(GainModeNumber, TextWithoutANumberIsZero)
+{
+    for (const char *text : {"", "G", "g", "GG1", "g256", "g-1", "g1.5"})
+        EXPECT_EQ(GainModeNumber(text), 0) << text;
+}
+
+TEST(KhzOfMhzText, IsTheNumberInFrontOfTheUnit)
+{
+    EXPECT_EQ(KhzOfMhzText("5M", 1), 5000u);
+    EXPECT_EQ(KhzOfMhzText("100MHz", 3), 100000u);
+    for (const char *text : {"", "M", "MHz", "xM", "1.5M"})
+        EXPECT_EQ(KhzOfMhzText(text, 1), 0u) << text;
+}
+
+TEST(UpperBoundKhz, IsTheNumberThatEndsTheRange)
+{
+    EXPECT_EQ(UpperBoundKhz("0 < BW0 <= 20MHz"), 20000u);
+    EXPECT_EQ(UpperBoundKhz("20 < BW1 <= 100MHz"), 100000u);
+    EXPECT_EQ(UpperBoundKhz("20MHz"), 20000u);
+}
+
+TEST(UpperBoundKhz, TextWithoutARangeIsZero)
+{
+    for (const char *text : {"", "NA", "Not found", "0 < BW0 <= MHz", "0 < BW0 <= 20MHz "})
+        EXPECT_EQ(UpperBoundKhz(text), 0u) << text;
+}
+
+TEST(ToneOffsetKhz, StepsByNinetyAndIsZeroBeyondTheChoices)
+{
+    for (int i = 0; i < 13; ++i)
+        EXPECT_EQ(ToneOffsetKhz(i), -540 + 90 * i);
+    for (int i : {-1, 13, 1000})
+        EXPECT_EQ(ToneOffsetKhz(i), 0);
+}
+
 }  // namespace
