@@ -144,12 +144,11 @@ void PlaceCell(QTableWidget *table, int row, int column, const SDataType &type,
     table->setCellWidget(row, column, cell);
 }
 
-// As scrollToBottom, which would place every editor twice: once to lay the new rows out, and once
-// more.
-void ScrollToLastRow(QTableWidget *table)
+// Lays the rows out now, which places every editor, rather than once more at each later step: only
+// then are the header's width and the scroll bar's range those of all rows.
+void LayOut(QTableWidget *table)
 {
-    table->visualRect(table->model()->index(table->rowCount() - 1, 0));  // lays them out
-    table->verticalScrollBar()->setValue(table->verticalScrollBar()->maximum());
+    table->visualRect(table->model()->index(table->rowCount() - 1, 0));
 }
 
 // Makes the cells of the rows from first to the last instance, column by column. Members beyond the
@@ -350,7 +349,8 @@ void CAutoBindingDataModelDockWidget::AppendRowTable(const QString &path, QWidge
         table->setRowCount(wanted);
     MakeCells(table, group, ECellUse::RowAppend, current,
               "---> [Fail][Append][type2] Not support this data type yet <---");
+    LayOut(table);
     table->setMinimumWidth(FitTableSize(table).width() + kAppendMargin);
-    ScrollToLastRow(table);
+    table->verticalScrollBar()->setValue(table->verticalScrollBar()->maximum());
     qCDebug(lcEngine) << "---> [Append][type2] Done ";
 }
