@@ -22,9 +22,14 @@
 #include "Controller/Interface/CoreInterface.h"
 #include "Controller/NrCoreCmdBuilder.h"
 #include "Controller/NrDataModelCapUpdater.h"
+#include "Controller/NrDataModelResponseBuilder.h"
 #include "Controller/PageTable.h"
 #include "Model/OperationResult.h"
 #include "Operations/MultiRatContRxV7.h"
+#include "Operations/MultiRatRssiV7.h"
+#include "Operations/MultiRatSingleToneTxV7.h"
+#include "Operations/NrPuschTxV7.h"
+#include "Operations/NrRsrpV7.h"
 #include "Operations/TargetCapability.h"
 #include "Operations/TestStop.h"
 #include "Support/Lock.h"
@@ -49,6 +54,17 @@ public:
     // Stops a running test on the pool: an NR one (PUSCH, RSRP) or a multi-RAT one (single tone,
     // continuous RX).
     void TestStopStart(bool isNr);
+
+    // Reads beside a test: a document in, the document with what was read out. Pool threads only;
+    // each blocks on the link. On another generation the document comes back as it was, and a
+    // result has status 2.
+    std::string GetPdValue(std::string document);
+    std::string GetDlFreqForPuschTx(QString pageName, std::string document);
+    std::string FetchMixRxReport(QString pageName, std::string document,
+                                 SEachItemOperationResult &result);
+    SEachItemOperationResult ResetMixRxCounter();
+    std::string ClearMixRxReport(std::string document);
+    std::string RssiGainCalculate(std::string document, SEachItemOperationResult &result);
 
     // Returns when the job that runs has ended. Pool threads only.
     void WaitForTurn();
@@ -78,18 +94,27 @@ protected:
 private:
     SRfSupportStatus DecideSupportStatus();
     bool IsC2kModem() const;
-    int RunTestStep(int pageId, const QJsonObject &document);
-    int RunContRxTest(const QJsonObject &document);
+    // answer: the document with results, of the page that answers with one.
+    int RunTestStep(int pageId, QJsonObject document, std::string &answer);
+    template <typename Operation, typename Command>
+    int RunCommand(Operation &operation, uint32_t (Operation::*run)(const Command *),
+                   const Command &command);
+    int RunRssiTest(QJsonObject &document, std::string &answer);
 
     PortableCriticalSection m_targetLock;
     CTargetCapability m_target;
     QMap<QString, int> m_pageMap;  // page name to page id
     CNrTestStop m_nrTestStop;
+    CNrPuschTxV7 m_puschTx;
+    CMultiRatSingleToneTxV7 m_singleToneTx;
+    CNrRsrpV7 m_rsrp;
     CMultiRatContRxV7 m_contRx;
     CMultiRatTestStopV7 m_testStop;
+    CMultiRatRssiV7 m_rssi;
     CNrDataModelCapUpdater m_capUpdater;
     std::atomic<bool> m_isUpdaterStale{true};  // its caches are of an earlier connection
     CNrCoreCmdBuilder m_cmdBuilder;
+    CNrDataModelResponseBuilder m_responseBuilder;
 };
 
 CNrCore &GetCore();

@@ -25,38 +25,82 @@ void CNrCore::TestInternal(const QString &pageName, const std::string &document)
     qCDebug(lcCore) << "CNrCore::Start--> " << pageName;
     m_errorMessage.clear();
     int status = eStatusNotExecuted;
+    std::string answer;
     try {
-        status = RunTestStep(m_pageMap[pageName], ModelFromText(document));
+        status = RunTestStep(m_pageMap[pageName], ModelFromText(document), answer);
     } catch (...) {
         qCCritical(lcCore) << "CNrCore::Test ended by an exception" << pageName;
     }
     qCDebug(lcCore) << "CNrCore::Done--> " << pageName;
-    emit Signal_TestDone({pageName, status, m_errorMessage}, std::string());
+    emit Signal_TestDone({pageName, status, m_errorMessage}, answer);
 }
 
-int CNrCore::RunTestStep(int pageId, const QJsonObject &document)
+template <typename Operation, typename Command>
+int CNrCore::RunCommand(Operation &operation, uint32_t (Operation::*run)(const Command *),
+                        const Command &command)
+{
+    const uint32_t status = (operation.*run)(&command);
+    m_errorMessage = operation.GetErrorMessage();
+    return static_cast<int>(status);
+}
+
+int CNrCore::RunTestStep(int pageId, QJsonObject document, std::string &answer)
 {
     struct SStep
     {
         EPageId page;
-        int (CNrCore::*run)(const QJsonObject &);
+        int (*run)(CNrCore &core, QJsonObject &document, std::string &answer);
     };
     static constexpr SStep kSteps[] = {
-        {EPageId::ContRx, &CNrCore::RunContRxTest},
+        {EPageId::Rssi, [](CNrCore &core, QJsonObject &document,
+                           std::string &answer) { return core.RunRssiTest(document, answer); }},
+        {EPageId::ContRx,
+         [](CNrCore &core, QJsonObject &document, std::string &) {
+             return core.RunCommand(core.m_contRx, &CMultiRatContRxV7::RunContRx,
+                                    core.m_cmdBuilder.GetContRxCmdV7(document));
+         }},
+        {EPageId::SingleToneTx,
+         [](CNrCore &core, QJsonObject &document, std::string &) {
+             return core.RunCommand(core.m_singleToneTx, &CMultiRatSingleToneTxV7::RunSingleTone,
+                                    core.m_cmdBuilder.GetSingleToneTxCmdV7(document));
+         }},
+        {EPageId::PuschTxForce,
+         [](CNrCore &core, QJsonObject &document, std::string &) {
+             return core.RunCommand(core.m_puschTx, &CNrPuschTxV7::RunPuschTx,
+                                    core.m_cmdBuilder.GetPuschTxForceCmdV7(document));
+         }},
+        {EPageId::PuschTxNormal,
+         [](CNrCore &core, QJsonObject &document, std::string &) {
+             return core.RunCommand(core.m_puschTx, &CNrPuschTxV7::RunPuschTx,
+                                    core.m_cmdBuilder.GetPuschTxNormalCmdV7(document));
+         }},
+        {EPageId::RsrpForce,
+         [](CNrCore &core, QJsonObject &document, std::string &) {
+             return core.RunCommand(core.m_rsrp, &CNrRsrpV7::RunRsrp,
+                                    core.m_cmdBuilder.GetRsrpForceCmdV7(document));
+         }},
+        {EPageId::RsrpNormal,
+         [](CNrCore &core, QJsonObject &document, std::string &) {
+             return core.RunCommand(core.m_rsrp, &CNrRsrpV7::RunRsrp,
+                                    core.m_cmdBuilder.GetRsrpNormalCmdV7(document));
+         }},
     };
     for (const SStep &step : kSteps) {
         if (static_cast<int>(step.page) == pageId)
-            return m_target.GetNrGeneration() == 1 ? (this->*step.run)(document)
+            return m_target.GetNrGeneration() == 1 ? step.run(*this, document, answer)
                                                    : eStatusNotExecuted;
     }
     return eStatusNotExecuted;
 }
 
-int CNrCore::RunContRxTest(const QJsonObject &document)
+// The one test whose answer is a document: it measures and is over.
+int CNrCore::RunRssiTest(QJsonObject &document, std::string &answer)
 {
-    const SMMContRxCmdV7 command = m_cmdBuilder.GetContRxCmdV7(document);
-    const uint32_t status = m_contRx.RunContRx(&command);
-    m_errorMessage = m_contRx.GetErrorMessage();
+    SMMRssiCnfV7 result = {};
+    const uint32_t status = m_rssi.RunRssi(m_cmdBuilder.GetRssiCmdV7(document), &result);
+    m_errorMessage = m_rssi.GetErrorMessage();
+    m_responseBuilder.UpdateRssiResultV7(document, result, status == 0);
+    answer = ModelToText(document);
     return static_cast<int>(status);
 }
 

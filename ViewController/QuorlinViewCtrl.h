@@ -40,10 +40,35 @@ public:
     void GetInitPageList();
 
     // Documents, one request a page.
+    void GetPuschTxForceDataModel();
+    void GetPuschTxNormalDataModel();
+    void GetSingleToneTxDataModel();
+    void GetRsrpForceDataModel();
+    void GetRsrpNormalDataModel();
     void GetContRxDataModel();
+    void GetRssiDataModel();
+    void GetAptDataModel();
+    void GetPathLossDataModel();
 
-    // Tests, one request a page; the document is the packaged one.
+    // Tests, one request a page; the document is the packaged one. All but RSSI start something
+    // that goes on until a stop.
+    void PuschTxForceTest(std::string document);
+    void PuschTxNormalTest(std::string document);
+    void SingleToneTxTest(std::string document);
+    void RsrpForceTest(std::string document);
+    void RsrpNormalTest(std::string document);
     void ContRxTest(std::string document);
+    void RssiTest(std::string document);
+
+    // Reads beside a test: the answer is the document with what was read.
+    void GetPuschTxForceDlFreq(std::string document);
+    void GetPuschTxNormalDlFreq(std::string document);
+    void GetSingleToneTxPdValue(std::string document);
+    void RsrpForceFetchReport(std::string document);
+    void RsrpNormalFetchReport(std::string document);
+    void RsrpResetCounter();
+    void RsrpClearReport(std::string document);
+    void RssiGainCalculator(std::string document);
 
     // Stops: of the NR tests, and of the multi-RAT ones.
     void NrTestStop();
@@ -54,27 +79,65 @@ public:
 
 signals:
     void Signal_GetInitPageListDone(QStringList pageList);
+    void Signal_GetPuschTxForceDataModelDone(std::string dataModel);
+    void Signal_GetPuschTxNormalDataModelDone(std::string dataModel);
+    void Signal_GetSingleToneTxDataModelDone(std::string dataModel);
+    void Signal_GetRsrpForceDataModelDone(std::string dataModel);
+    void Signal_GetRsrpNormalDataModelDone(std::string dataModel);
     void Signal_GetContRxDataModelDone(std::string dataModel);
+    void Signal_GetRssiDataModelDone(std::string dataModel);
+    void Signal_GetAptDataModelDone(std::string dataModel);
+    void Signal_GetPathLossDataModelDone(std::string dataModel);
+
+    void Signal_PuschTxForceTestDone(SEachItemOperationResult result);
+    void Signal_PuschTxNormalTestDone(SEachItemOperationResult result);
+    void Signal_SingleToneTxTestDone(SEachItemOperationResult result);
+    void Signal_RsrpForceTestDone(SEachItemOperationResult result);
+    void Signal_RsrpNormalTestDone(SEachItemOperationResult result);
     void Signal_ContRxTestDone(SEachItemOperationResult result);
+    void Signal_RssiTestDone(SEachItemOperationResult result, std::string response);
+
+    void Signal_GetPuschTxDlFreqDone(std::string resultModel);
+    void Signal_GetSingleToneTxPdValueDone(std::string resultModel);
+    void Signal_RsrpForceFetchReportDone(SEachItemOperationResult result, std::string response);
+    void Signal_RsrpNormalFetchReportDone(SEachItemOperationResult result, std::string response);
+    void Signal_RsrpResetCounterDone(SEachItemOperationResult result);
+    void Signal_RsrpClearReportDone(std::string response);
+    void Signal_RssiGainCalculatorDone(SEachItemOperationResult result, std::string response);
+
     void Signal_TestStopDone(SEachItemOperationResult result);
     void Signal_Idle();
 
 private slots:
+    void Slot_PuschTxForceTestDone(SEachItemOperationResult result, std::string response);
+    void Slot_PuschTxNormalTestDone(SEachItemOperationResult result, std::string response);
+    void Slot_SingleToneTxTestDone(SEachItemOperationResult result, std::string response);
+    void Slot_RsrpForceTestDone(SEachItemOperationResult result, std::string response);
+    void Slot_RsrpNormalTestDone(SEachItemOperationResult result, std::string response);
     void Slot_ContRxTestDone(SEachItemOperationResult result, std::string response);
+    void Slot_RssiTestDone(SEachItemOperationResult result, std::string response);
     void Slot_TestStopDone(SEachItemOperationResult result);
 
 private:
     using DataModelSignal = void (CQuorlinViewCtrl::*)(std::string);
+    using ResultSignal = void (CQuorlinViewCtrl::*)(SEachItemOperationResult);
+    using ResponseSignal = void (CQuorlinViewCtrl::*)(SEachItemOperationResult, std::string);
     using TestDoneSlot = void (CQuorlinViewCtrl::*)(SEachItemOperationResult, std::string);
 
     void RequestDataModel(const char *internalName, EPageId page, DataModelSignal answer);
     void RequestTest(const char *internalName, EPageId page, std::string document,
                      TestDoneSlot done);
     void RequestStop(const char *internalName, bool isNr);
+    void RequestDlFreq(EPageId page, std::string document);
+    void RequestReport(const char *internalName, EPageId page, std::string document,
+                       ResponseSignal answer);
     bool TakeAnswer(EPageId page, const SEachItemOperationResult &result);
+    // Passes a test's answer on to the page, without the document.
+    void PassAnswer(EPageId page, const SEachItemOperationResult &result, ResultSignal signal);
 
-    template <typename Job, typename Answer>
-    void RunOnPool(const char *internalName, Job job, void (CQuorlinViewCtrl::*signal)(Answer));
+    // Job: CNrCore & -> std::tuple<Answers...>.
+    template <typename Job, typename... Answers>
+    void RunOnPool(const char *internalName, Job job, void (CQuorlinViewCtrl::*signal)(Answers...));
 
     QFuture<void> m_future;  // job last started; kept, never waited on
     int m_epoch = 0;         // changes with a reset
