@@ -23,17 +23,9 @@ QString Enabled(const CPluginSession &session)
     return start && stop ? "both" : start ? "start" : stop ? "stop" : "none";
 }
 
-bool Ready(CPluginSession &session)
-{
-    if (!session.ShowAndWait())
-        return false;
-    ChooseRoute(session, "Type1");
-    return true;
-}
-
 bool Running(CPluginSession &session)
 {
-    if (!Ready(session))
+    if (!session.ShowAndWait())
         return false;
     session.Press("m_start");
     return session.WaitForStatus("Cont Rx start...");
@@ -106,14 +98,13 @@ void ContRxPageTest::pageShowsItsDocument()
              QString("DL Freq.(1kHz)"));
     QCOMPARE(session.Find<QPushButton>("m_start")->text(), QString("&Start"));
     QCOMPARE(session.Find<QPushButton>("m_stop")->toolTip(), QString("Stop"));
-    ChooseRoute(session, "Type1");
     QCOMPARE(session.Find<QSpinBox>(MemberName("dlFrequency"))->value(), 1950000);
 }
 
 void ContRxPageTest::startAndStopGoThroughTheirStates()
 {
     CPluginSession session(Type1Profile());
-    QVERIFY(Ready(session));
+    QVERIFY(session.ShowAndWait());
     VondSim_Hold(kStart);
     session.Press("m_start");
     QCOMPARE(Enabled(session), QString("none"));
@@ -137,7 +128,7 @@ void ContRxPageTest::startAndStopGoThroughTheirStates()
 void ContRxPageTest::failedStartLeavesStopDisabledAndShowsTheTargetsText()
 {
     CPluginSession session(Type1Profile());
-    QVERIFY(Ready(session));
+    QVERIFY(session.ShowAndWait());
     VondSim_AddFault(R"({"function": "VOND_MMRf_ContRxV7_r", "kind": "fail", "result": 7})");
     CBoxWatcher boxes;
     session.Press("m_start");
@@ -189,7 +180,7 @@ void ContRxPageTest::stopOfAGoneDutFailsAndCanBeTriedAgain()
 void ContRxPageTest::failureWithoutATextShowsTheAdvice()
 {
     CPluginSession session(Type1Profile());
-    QVERIFY(Ready(session));
+    QVERIFY(session.ShowAndWait());
     VondSim_AddFault(R"({"function": "VOND_MMRf_ContRxV7_r", "kind": "fail", "result": 7})");
     VondSim_AddFault(R"({"function": "VOND_GetErrorString", "kind": "nullText"})");
     CBoxWatcher boxes;
@@ -231,7 +222,7 @@ void ContRxPageTest::tabChangeStopsARunningTest()
 void ContRxPageTest::tabChangeLeavesAStartInFlightAlone()
 {
     CPluginSession session(Type1Profile());
-    QVERIFY(Ready(session));
+    QVERIFY(session.ShowAndWait());
     VondSim_Hold(kStart);
     session.Press("m_start");
     QVERIFY(VondSim_WaitUntilHeld(kStart, 20000));
@@ -245,7 +236,7 @@ void ContRxPageTest::tabChangeLeavesAStartInFlightAlone()
 void ContRxPageTest::startOnAnotherGenerationSaysThatNothingRan()
 {
     CPluginSession session(Type1Profile());
-    QVERIFY(Ready(session));
+    QVERIFY(session.ShowAndWait());
     VondSim_SetProfile("gen0");
     // The caches forget, the page stays: the host resets, and shows nothing yet.
     const QPointer<QDockWidget> page = session.Find<QDockWidget>("CNrContRxDockWidgetV7");

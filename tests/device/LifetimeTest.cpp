@@ -33,7 +33,6 @@ bool HoldStart(CPluginSession &session)
 {
     if (!session.ShowAndWait())
         return false;
-    ChooseRoute(session, "Type1");
     VondSim_Hold(kStart);
     session.Press("m_start");
     return VondSim_WaitUntilHeld(kStart, 20000) != 0;
@@ -93,7 +92,6 @@ void LifetimeTest::resetWhileAStopIsInFlightDropsTheAnswer()
 {
     CPluginSession session(Type1Profile());
     QVERIFY(session.ShowAndWait());
-    ChooseRoute(session, "Type1");
     session.Press("m_start");
     QVERIFY(session.WaitForStatus("Cont Rx start..."));
     VondSim_Hold(kStop);
@@ -238,7 +236,6 @@ void LifetimeTest::showAfterAHideStopsARunningTestLikeATabChange()
 {
     CPluginSession session(Type1Profile());
     QVERIFY(session.ShowAndWait());
-    ChooseRoute(session, "Type1");
     session.Press("m_start");
     QVERIFY(session.WaitForStatus("Cont Rx start..."));
     session->HidePlugin();
