@@ -220,6 +220,18 @@ TEST_F(BandFrequencyTest, BandsWithoutRoutesKeepTheTemplatesFrequencies)
     EXPECT_FALSE(m_page.contains("modelIntegrity"));
 }
 
+TEST_F(BandFrequencyTest, LimitsThatCannotBeReadKeepTheTemplatesFrequenciesWithoutAMessage)
+{
+    BandsOf(kAllRx);
+    CapabilityCache::Get().nrCapability.flags.succeeded = false;
+    const LogCapture log(lcUpdate());
+    EXPECT_TRUE(Update(kAllRx, true));
+    EXPECT_EQ(Written("band.trait.defaultValue"), QJsonValue("n1"));
+    EXPECT_EQ(Written("freq.trait.valuePair"), QJsonValue("sample"));
+    EXPECT_FALSE(m_page.contains("modelIntegrity"));
+    EXPECT_EQ(log.Lines(QtCriticalMsg), QStringList("Get route frequency range from L1 failed"));
+}
+
 SRouteFreqRangeV7 TwoLimits()
 {
     SRouteFreqRangeV7 range = {};

@@ -5,12 +5,6 @@
 #include "tests/model/LogCapture.h"
 #include "tests/model/Nr3gppDocument.h"
 
-// The resource macros want the global namespace.
-static void HideDocuments()
-{
-    Q_CLEANUP_RESOURCE(Model);
-}
-
 namespace {
 
 using BandTableTest = CUpdaterTest;

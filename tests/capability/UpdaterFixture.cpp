@@ -33,6 +33,11 @@ void Compare(const QJsonValue &actual, const QJsonValue &expected, const QString
 
 }  // namespace
 
+void HideDocuments()
+{
+    Q_CLEANUP_RESOURCE(Model);
+}
+
 void CUpdaterTest::SetUp()
 {
     CTargetTest::SetUp();
@@ -63,6 +68,11 @@ QJsonObject CUpdaterTest::Patched(EPageId id)
 std::string PageLabel(EPageId id)
 {
     return PageName(id).remove(' ').toStdString();
+}
+
+std::string CallLabel(const char *function)
+{
+    return QString(function).section('_', 1, -2).remove('_').toStdString();
 }
 
 QJsonObject ReadObject(const QString &path)

@@ -42,11 +42,16 @@ constexpr EPageId kPatchedPages[] = {
 };
 // "ContinuousRX", to name the tests of a page.
 std::string PageLabel(EPageId id);
+// "GetRouteConfigV7" of a call to the DUT.
+std::string CallLabel(const char *function);
 
 QJsonObject ReadObject(const QString &path);
 // A page's document as the library carries it, and as it should come out on the handset.
 QJsonObject TemplateOf(EPageId id);
 QJsonObject ExpectedOf(EPageId id);
+
+// As if the library carried no documents, until InitModelResources.
+void HideDocuments();
 
 QJsonValue At(const QJsonObject &document, const QString &path);
 // The path must be there.
