@@ -85,6 +85,18 @@ TEST_F(BandFrequencyTest, MimoBandsAreThoseOfTheDirection)
     EXPECT_FALSE(m_updater.IsBandMimoSupported(EBandDirection::Rx, 2));
 }
 
+TEST_F(BandFrequencyTest, MimoFlagOtherThanOneIsNone)
+{
+    BandsOf(kAllRx);
+    SNRfBandRxInfo &info = CapabilityCache::Get().nrDetail.record.bandRxInfo;
+    for (uint8_t &flag : info.rx4x4)
+        flag = flag ? 2 : 0;
+    info.rx4x4[1] = 1;
+    EXPECT_EQ(BandsOf(kMimoRx), Names({"n3"}));
+    EXPECT_FALSE(m_updater.IsBandMimoSupported(EBandDirection::Rx, 1));
+    EXPECT_TRUE(m_updater.IsBandMimoSupported(EBandDirection::Rx, 3));
+}
+
 TEST_F(BandFrequencyTest, FddBandsArePlainOnesAlone)
 {
     EXPECT_EQ(BandsOf(kFddRx), Names({"n1", "n3", "n5", "n7", "n28"}));

@@ -111,6 +111,18 @@ TEST_F(DriverTest, RsrpForcedPageOfADutWithBandsAndNoRoutesHasNoFrequencies)
     EXPECT_EQ(At(document, kGroup1 + "dlFrequency.trait.valuePair"), QJsonObject());
 }
 
+TEST_F(DriverTest, AllPagesTogetherMakeEachReadOnce)
+{
+    GetCore().ResetTargetCache();
+    VondSim_ClearJournal();
+    for (const EPageId id : kPatchedPages)
+        EXPECT_EQ(Differences(ModelFromText(GetCore().GetDataModel(PageName(id))), ExpectedOf(id)),
+                  "");
+    EXPECT_EQ(CalledFunctions(),
+              (std::vector<std::string>{kQuery, kMmCapability, kNrCapability, kRouteConfig,
+                                        kBandRxInfo, kRxRouteValues, kRouteDetail}));
+}
+
 // A DUT without bands, which every page tells the same.
 class NoBandsTest : public CUpdaterTest, public ::testing::WithParamInterface<EPageId>
 {

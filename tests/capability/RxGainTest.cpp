@@ -118,6 +118,9 @@ TEST_F(RxGainTest, DefaultOfPath0IsTheFirstGainOfTheHighPowerModeAlone)
     QJsonObject document = GainPage();
     EXPECT_TRUE(m_updater.UpdateRSSIGainInfoV7(document, path));
     EXPECT_EQ(At(document, "g.memberProperty.path0.trait.defaultValue"), QJsonValue("g2"));
+    PlugGain(Mode(kNoT1, kNoT2), Mode(lateT1, kNoT2));
+    EXPECT_TRUE(m_updater.UpdateRSSIGainInfoV7(document, path));
+    EXPECT_EQ(At(document, "g.memberProperty.path0.trait.defaultValue"), QJsonValue(""));
 }
 
 TEST_F(RxGainTest, DefaultsOfTheRssiPageStayTheTemplates)
