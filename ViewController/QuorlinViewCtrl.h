@@ -21,6 +21,7 @@
 #include "Controller/Interface/CoreInterface.h"
 #include "Model/OperationResult.h"
 
+class CNrCore;
 enum class EPageId;
 
 class CQuorlinViewCtrl : public QObject
@@ -119,12 +120,12 @@ private slots:
     void Slot_TestStopDone(SEachItemOperationResult result);
 
 private:
-    using DataModelSignal = void (CQuorlinViewCtrl::*)(std::string);
+    using DocumentSignal = void (CQuorlinViewCtrl::*)(std::string);
     using ResultSignal = void (CQuorlinViewCtrl::*)(SEachItemOperationResult);
     using ResponseSignal = void (CQuorlinViewCtrl::*)(SEachItemOperationResult, std::string);
     using TestDoneSlot = void (CQuorlinViewCtrl::*)(SEachItemOperationResult, std::string);
 
-    void RequestDataModel(const char *internalName, EPageId page, DataModelSignal answer);
+    void RequestDataModel(const char *internalName, EPageId page, DocumentSignal answer);
     void RequestTest(const char *internalName, EPageId page, std::string document,
                      TestDoneSlot done);
     void RequestStop(const char *internalName, bool isNr);
@@ -135,9 +136,13 @@ private:
     // Passes a test's answer on to the page, without the document.
     void PassAnswer(EPageId page, const SEachItemOperationResult &result, ResultSignal signal);
 
+    template <typename... Answers>
+    void AwaitAnswer(void (CNrCore::*signal)(Answers...),
+                     void (CQuorlinViewCtrl::*done)(Answers...));
+
     // Job: CNrCore & -> std::tuple<Answers...>.
     template <typename Job, typename... Answers>
-    void RunOnPool(const char *internalName, Job job, void (CQuorlinViewCtrl::*signal)(Answers...));
+    void RunOnPool(const char *internalName, void (CQuorlinViewCtrl::*signal)(Answers...), Job job);
 
     QFuture<void> m_future;  // job last started; kept, never waited on
     int m_epoch = 0;         // changes with a reset
