@@ -32,9 +32,8 @@ public:
     // The host's target handle, for all calls to the target from now on.
     static void SetTargetHandle(uint32_t handle);
 
-    // On the calling thread: the support check blocks on the link, the reset never does. Documents
-    // and page lists that were asked for before a reset are of the old target: none arrives after
-    // it.
+    // On the calling thread: the support check blocks on the link, the reset never does. What was
+    // asked for before a reset is of the old target: no answer arrives after it.
     SRfSupportStatus GetSupportStatus();
     void ResetTargetCache();
 

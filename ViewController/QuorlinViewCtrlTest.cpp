@@ -6,14 +6,18 @@
 #include "Support/Log.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
-// The connection to the core lives for one request: made here, taken down in the done slot.
+// The connection to the core lives for one request: made here, taken down in the done slot. What
+// was asked for before a reset is not answered after it.
 template <typename... Answers>
 void CQuorlinViewCtrl::AwaitAnswer(void (CNrCore::*signal)(Answers...),
                                    void (CQuorlinViewCtrl::*done)(Answers...))
 {
     CNrCore &core = GetCore();
     disconnect(&core, signal, this, nullptr);
-    connect(&core, signal, this, done);
+    connect(&core, signal, this, [this, done, epoch = m_epoch](const Answers &...answers) {
+        if (m_epoch == epoch)
+            (this->*done)(answers...);
+    });
 }
 
 void CQuorlinViewCtrl::RequestTest(const char *internalName, EPageId page, std::string document,
