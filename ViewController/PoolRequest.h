@@ -14,6 +14,7 @@
 #include <QtConcurrent>
 
 #include "Controller/NrCore.h"
+#include "Model/StatusTable.h"
 #include "Support/Log.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
@@ -23,6 +24,18 @@ void PostToGui(Call call)
 {
     if (QCoreApplication *application = QCoreApplication::instance())
         QMetaObject::invokeMethod(application, std::move(call), Qt::QueuedConnection);
+}
+
+// What a job that threw answers: that nothing ran, and nothing else.
+template <typename Answer>
+Answer AnswerOfNothing()
+{
+    return {};
+}
+template <>
+inline SEachItemOperationResult AnswerOfNothing()
+{
+    return {QString(), eStatusNotExecuted, QString()};
 }
 
 // The answers of job go out through signal, on the GUI thread, if this object still lives then and
@@ -36,7 +49,7 @@ void CQuorlinViewCtrl::RunOnPool(const char *internalName,
         QtConcurrent::run([internalName, signal, &core, job = std::make_shared<Job>(std::move(job)),
                            epoch = m_epoch, self = QPointer<CQuorlinViewCtrl>(this)] {
             qCDebug(lcCore) << internalName;
-            std::tuple<Answers...> answers;
+            std::tuple<Answers...> answers{AnswerOfNothing<Answers>()...};
             try {
                 answers = (*job)(core);
             } catch (...) {
