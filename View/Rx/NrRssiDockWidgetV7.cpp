@@ -13,12 +13,18 @@ namespace {
 const QLatin1String kWidestCell("-1024.00000");  // longer than any reading or frequency
 constexpr int kCellMargin = 8;                   // pixels of frame and indent around a cell's text
 
-// Columns as wide as the widest result, so that no later answer is cut off.
-void WidenColumns(QTableWidget *table)
+// Cells in the font of their page, columns as wide as the widest result: no later answer is cut
+// off.
+void FitCells(QTableWidget *table)
 {
     const int width = table->fontMetrics().horizontalAdvance(kWidestCell) + kCellMargin;
-    for (int c = 0; c < table->columnCount(); ++c)
+    for (int c = 0; c < table->columnCount(); ++c) {
         table->setColumnWidth(c, width);
+        for (int r = 0; r < table->rowCount(); ++r) {
+            if (QWidget *cell = table->cellWidget(r, c))
+                cell->setFont(table->font());
+        }
+    }
 }
 
 }  // namespace
@@ -77,7 +83,7 @@ void CNrRssiDockWidgetV7::FixLayout()
     for (QTableWidget *table : {m_ui->cmdIf_request_group2_memberProperty_dlFrequency,
                                 m_ui->cmdIf_response_group2_memberProperty_dlFrequency,
                                 m_ui->cmdIf_response_group3_memberProperty_dlFrequency}) {
-        WidenColumns(table);
+        FitCells(table);
         table->setMaximumSize(FitTableSize(table));
         table->setMinimumSize(table->maximumSize());
         table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
