@@ -11,7 +11,7 @@
 namespace {
 
 const QLatin1String kWidestCell("-1024.00000");  // longer than any reading or frequency
-constexpr int kCellMargin = 8;                   // pixels of frame and indent around a cell's text
+constexpr int kCellMargin = 12;                  // pixels of frame and indent around a cell's text
 
 // Cells in the font of their page, columns as wide as the widest result: no later answer is cut
 // off.
