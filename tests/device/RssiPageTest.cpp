@@ -2,9 +2,6 @@
 // the calculator is a row of one table.
 #include <QDockWidget>
 #include <QGroupBox>
-#include <QStackedWidget>
-#include <QThreadPool>
-#include <QtTest>
 
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
@@ -14,19 +11,6 @@
 namespace {
 
 constexpr int kTurns = 50;  // of the event loop, which a blocked one would not make
-
-QString FailFault(const QString &function)
-{
-    return QString(R"({"function": "%1", "kind": "fail", "result": 7})").arg(function);
-}
-
-// Lets the held call go, and its answer arrive.
-void Finish(const QByteArray &function)
-{
-    VondSim_Release(function);
-    QThreadPool::globalInstance()->waitForDone();
-    QCoreApplication::processEvents();
-}
 
 }  // namespace
 
@@ -46,38 +30,7 @@ private slots:
     void failureWithoutATextShowsTheAdvice_data();
     void failureWithoutATextShowsTheAdvice();
     void measurementIsRefusedWhileAnotherTestRuns();
-    void answerArrivesBehindAnotherTab_data();
-    void answerArrivesBehindAnotherTab();
-    void answerArrivesWhileTheWindowIsHidden_data();
-    void answerArrivesWhileTheWindowIsHidden();
-    void resetDuringARequestDropsTheAnswer_data();
-    void resetDuringARequestDropsTheAnswer();
-    void resetWhileTheFailureBoxIsOpen_data();
-    void resetWhileTheFailureBoxIsOpen();
-    void otherGenerationLeavesThePageAsItWas_data();
-    void otherGenerationLeavesThePageAsItWas();
-    void hostCanDisableAndEnableThePage();
-
-private:
-    void BothRequests();
 };
-
-// A row a button: what it calls and what the page says.
-void RssiPageTest::BothRequests()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QByteArray>("function");
-    QTest::addColumn<QString>("done");
-    QTest::addColumn<QString>("failed");
-    QTest::addColumn<QString>("title");
-    QTest::newRow("measurement") << kStartButton << QByteArray(kRssiCall) << "Fetch RSSI done"
-                                 << "Fetch RSSI failed."
-                                 << "Fetch RSSI failed.";
-    QTest::newRow("calculator") << kCalculateButton << QByteArray(kGainCall)
-                                << "Fetch Gain info done"
-                                << "Fetch Gain info failed"
-                                << "Fetch Gain info failed.";
-}
 
 void RssiPageTest::pageShowsItsDocument()
 {
@@ -116,7 +69,7 @@ void RssiPageTest::groupBoxesHaveTheirTitles()
 
 void RssiPageTest::requestGoesThroughItsStates_data()
 {
-    BothRequests();
+    AddRequestRows();
 }
 
 void RssiPageTest::requestGoesThroughItsStates()
@@ -150,7 +103,7 @@ void RssiPageTest::requestGoesThroughItsStates()
 
 void RssiPageTest::secondRequestDoesNotDoubleTheSignals_data()
 {
-    BothRequests();
+    AddRequestRows();
 }
 
 void RssiPageTest::secondRequestDoesNotDoubleTheSignals()
@@ -169,7 +122,7 @@ void RssiPageTest::secondRequestDoesNotDoubleTheSignals()
 
 void RssiPageTest::failingCallIsToldAndLeavesThePageUsable_data()
 {
-    BothRequests();
+    AddRequestRows();
 }
 
 void RssiPageTest::failingCallIsToldAndLeavesThePageUsable()
@@ -181,7 +134,7 @@ void RssiPageTest::failingCallIsToldAndLeavesThePageUsable()
     QFETCH(QString, title);
     CRssiSession session;
     QVERIFY(session.ShowAndWait());
-    VondSim_AddFault(FailFault(function).toUtf8());
+    VondSim_AddFault(FailFault(function));
     CBoxWatcher boxes;
     QString enabledInTheBox;
     boxes.onBox = [&] { enabledInTheBox = session.Enabled(); };
@@ -205,7 +158,7 @@ void RssiPageTest::failingCallIsToldAndLeavesThePageUsable()
 
 void RssiPageTest::failureWithoutATextShowsTheAdvice_data()
 {
-    BothRequests();
+    AddRequestRows();
 }
 
 void RssiPageTest::failureWithoutATextShowsTheAdvice()
@@ -214,7 +167,7 @@ void RssiPageTest::failureWithoutATextShowsTheAdvice()
     QFETCH(QByteArray, function);
     CRssiSession session;
     QVERIFY(session.ShowAndWait());
-    VondSim_AddFault(FailFault(function).toUtf8());
+    VondSim_AddFault(FailFault(function));
     VondSim_AddFault(R"({"function": "VOND_GetErrorString", "kind": "nullText"})");
     CBoxWatcher boxes;
     session.Press(button);
@@ -230,7 +183,7 @@ void RssiPageTest::measurementIsRefusedWhileAnotherTestRuns()
     QVERIFY(session.ShowAndWait());
     QVERIFY(session.ClickTab("Continuous RX"));
     auto *other = session.Window()->findChild<QDockWidget *>("CNrContRxDockWidgetV7");
-    VondSim_AddFault(FailFault("VOND_MMRf_TestStopV7_r").toUtf8());
+    VondSim_AddFault(FailFault("VOND_MMRf_TestStopV7_r"));
     CBoxWatcher boxes;
     QTest::mouseClick(other->findChild<QPushButton *>("m_start"), Qt::LeftButton);
     QVERIFY(session.WaitForStatus("Cont Rx start..."));
@@ -243,161 +196,6 @@ void RssiPageTest::measurementIsRefusedWhileAnotherTestRuns()
     QCOMPARE(boxes.Seen()[1].informative, QString("Target: a test is running already"));
     session.Press(kCalculateButton);
     QVERIFY(session.WaitForStatus("Fetch Gain info done"));
-}
-
-void RssiPageTest::answerArrivesBehindAnotherTab_data()
-{
-    BothRequests();
-}
-
-// There is nothing to stop: a change of tabs leaves the request alone.
-void RssiPageTest::answerArrivesBehindAnotherTab()
-{
-    QFETCH(QString, button);
-    QFETCH(QByteArray, function);
-    QFETCH(QString, done);
-    CRssiSession session;
-    QVERIFY(session.ShowAndWait());
-    VondSim_Hold(function);
-    session.Press(button);
-    QVERIFY(VondSim_WaitUntilHeld(function, 20000));
-    QVERIFY(session.ClickTab("Continuous RX"));
-    VondSim_Release(function);
-    QVERIFY(session.WaitForStatus(done));
-    QVERIFY(session.ClickTab("RSSI"));
-    QCOMPARE(session.Enabled(), QString("both"));
-    QCOMPARE(session.busy, (QVector<bool>{true, false}));
-    QCOMPARE(CountCalls("VOND_MMRf_TestStopV7_r") + CountCalls("VOND_NRf_TestStop_r"), 0);
-}
-
-void RssiPageTest::answerArrivesWhileTheWindowIsHidden_data()
-{
-    BothRequests();
-}
-
-void RssiPageTest::answerArrivesWhileTheWindowIsHidden()
-{
-    QFETCH(QString, button);
-    QFETCH(QByteArray, function);
-    QFETCH(QString, done);
-    CRssiSession session;
-    QVERIFY(session.ShowAndWait());
-    VondSim_Hold(function);
-    session.Press(button);
-    QVERIFY(VondSim_WaitUntilHeld(function, 20000));
-    session->HidePlugin();
-    VondSim_Release(function);
-    QVERIFY(session.WaitForStatus(done));
-    QCOMPARE(session.busy, (QVector<bool>{true, false}));
-    session->ShowPlugin();
-    QCOMPARE(session.Enabled(), QString("both"));
-}
-
-void RssiPageTest::resetDuringARequestDropsTheAnswer_data()
-{
-    BothRequests();
-}
-
-void RssiPageTest::resetDuringARequestDropsTheAnswer()
-{
-    QFETCH(QString, button);
-    QFETCH(QByteArray, function);
-    QFETCH(QString, done);
-    CRssiSession session;
-    QVERIFY(session.ShowAndWait());
-    VondSim_Hold(function);
-    session.Press(button);
-    QVERIFY(VondSim_WaitUntilHeld(function, 20000));
-    session->ResetPlugin();
-    QVERIFY(!session.Page());
-    Finish(function);
-    QCOMPARE(CountCalls(function), 1);
-    QVERIFY(session.StatusBar() != done);
-    session->HidePlugin();
-    QVERIFY(session.ShowAndWait());
-    QCOMPARE(session.Enabled(), QString("both"));
-    session.Press(button);
-    QVERIFY(session.WaitForStatus(done));
-}
-
-void RssiPageTest::resetWhileTheFailureBoxIsOpen_data()
-{
-    BothRequests();
-}
-
-void RssiPageTest::resetWhileTheFailureBoxIsOpen()
-{
-    QFETCH(QString, button);
-    QFETCH(QByteArray, function);
-    CRssiSession session;
-    QVERIFY(session.ShowAndWait());
-    VondSim_AddFault(FailFault(function).toUtf8());
-    CBoxWatcher boxes;
-    boxes.onBox = [&] { session->ResetPlugin(); };
-    session.Press(button);
-    QVERIFY(WaitUntil([&] { return boxes.Seen().size() == 1; }));
-    QCoreApplication::processEvents();
-    QVERIFY(!QApplication::activeModalWidget());
-    QVERIFY(!session.Page());
-}
-
-void RssiPageTest::otherGenerationLeavesThePageAsItWas_data()
-{
-    BothRequests();
-}
-
-// The DUT was changed under the page. The measurement answers no document at all.
-void RssiPageTest::otherGenerationLeavesThePageAsItWas()
-{
-    QFETCH(QString, button);
-    QFETCH(QByteArray, function);
-    QFETCH(QString, failed);
-    CRssiSession session;
-    QVERIFY(session.ShowAndWait());
-    session.Press(kStartButton);
-    QVERIFY(session.WaitForStatus("Fetch RSSI done"));
-    const QStringList shown = session.ResultRow(0, CRssiSession::MainRssi);
-    const int before = CountCalls(function);
-
-    // The caches forget, the page stays: the host resets, and shows nothing yet.
-    const QPointer<QDockWidget> page = session.Page();
-    const auto press = [&] {
-        QTest::mouseClick(page->findChild<QPushButton *>(button), Qt::LeftButton);
-    };
-    QTableWidget *table = session.ResultTable(0);
-    page->setParent(nullptr);
-    VondSim_SetProfile("gen0");
-    session->ResetPlugin();
-    page->show();
-    CBoxWatcher boxes;
-    press();
-    QVERIFY(WaitUntil([&] { return boxes.Seen().size() == 1; }));
-    QVERIFY(boxes.Seen()[0].text.contains("Operation does not execute yet."));
-    QCOMPARE(boxes.Seen()[0].icon, int(QMessageBox::Warning));
-    QCOMPARE(CountCalls(function), before);
-    for (int c = 0; c < table->columnCount(); ++c)
-        QCOMPARE(qobject_cast<QLabel *>(table->cellWidget(CRssiSession::MainRssi, c))->text(),
-                 shown[c]);
-
-    // The page still has its document: with the DUT back, it asks as before.
-    VondSim_SetProfileText(Type1Profile().toUtf8());
-    session->ResetPlugin();
-    press();
-    QVERIFY(WaitUntil([&] { return CountCalls(function) == before + 1; }));
-    QCOMPARE(JournalOf(function).last().call.result, 0);
-    QVERIFY(WaitUntil([&] { return page->findChild<QPushButton *>(button)->isEnabled(); }));
-    QCOMPARE(boxes.Seen().size(), 1);
-    delete page;
-}
-
-void RssiPageTest::hostCanDisableAndEnableThePage()
-{
-    CRssiSession session;
-    QVERIFY(session.ShowAndWait());
-    session->DisablePages();
-    QCOMPARE(session.Enabled(), QString("none"));
-    session->EnablePages();
-    QCOMPARE(session.Enabled(), QString("both"));
 }
 
 QTEST_MAIN(RssiPageTest)
