@@ -3,8 +3,10 @@
 #include <QMetaType>
 
 #include "View/Rx/NrContRxDockWidgetV7.h"
+#include "View/Tx/NrSingleToneTxDockWidgetV7.h"
 
 void RegisterPageTypes()
 {
     qRegisterMetaType<CNrContRxDockWidgetV7 *>("CNrContRxDockWidgetV7*");
+    qRegisterMetaType<CNrSingleToneTxDockWidgetV7 *>("CNrSingleToneTxDockWidgetV7*");
 }

@@ -26,7 +26,7 @@ constexpr SPageFiles kPages[] = {
     {"Model/resources/NrRsrpNormalModeV7.json", nullptr},
     {"Model/resources/NrRssiV7.json", nullptr},
     {"Model/resources/NrRxPathLossV7.json", nullptr},
-    {"Model/resources/NrSingleToneTxV7.json", nullptr},
+    {"Model/resources/NrSingleToneTxV7.json", "View/Tx/NrSingleToneTxDockWidgetV7.ui"},
     {"tests/recipes/NrExampleV7.json", "tests/recipes/NrExampleDockWidgetV7.ui"},
 };
 
