@@ -46,6 +46,8 @@ static_assert(PositionsAreIds(), "kPages is indexed by page id");
 
 constexpr const char *kShownPages[] = {
     "CNrContRxDockWidgetV7",
+    "CNrRsrpForceDockWidgetV7",
+    "CNrRsrpNormalDockWidgetV7",
 };
 
 }  // namespace
