@@ -1,6 +1,7 @@
 #include "View/Rx/NrRsrpDockWidgetV7.h"
 
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
@@ -50,7 +51,7 @@ void CNrRsrpDockWidgetV7::UseWidgets(const SRsrpWidgets &widgets)
     connect(widgets.band, &QComboBox::currentTextChanged, this, followCarrier);
     connect(this, &CAutoBindingDataModelDockWidget::Signal_InitDone, this, followCarrier);
     connect(this, &CAutoBindingDataModelDockWidget::Signal_InitDone, this,
-            &CNrRsrpDockWidgetV7::GiveResultsTheirRoom);
+            &CNrRsrpDockWidgetV7::ShapeResults);
 }
 
 QWidget *CNrRsrpDockWidgetV7::GetRootWidget()
@@ -251,7 +252,7 @@ void CNrRsrpDockWidgetV7::OnClearDone(const std::string &response)
     StopAwaiting(&CQuorlinViewCtrl::Signal_RsrpClearReportDone);
     m_isClearing = false;
     if (AdoptReports(response))
-        GiveResultsTheirRoom();
+        ShapeResults();
     if (std::exchange(m_clearDisabledInputs, false))
         RestoreInputs();
 }
@@ -269,11 +270,17 @@ bool CNrRsrpDockWidgetV7::AdoptReports(const std::string &response)
     return true;
 }
 
-// An empty table is held to the height of a few rows; the page has more to give.
-void CNrRsrpDockWidgetV7::GiveResultsTheirRoom()
+// An empty table is held to the height of a few rows, and its columns to one width; the page has
+// more to give.
+void CNrRsrpDockWidgetV7::ShapeResults()
 {
-    for (QTableWidget *table : qAsConst(m_widgets.results))
+    for (QTableWidget *table : qAsConst(m_widgets.results)) {
+        QHeaderView *header = table->horizontalHeader();
+        for (int c = 0; c < header->count(); ++c)
+            header->resizeSection(c, qMax(header->sectionSize(c), header->sectionSizeHint(c)));
+        table->setFixedWidth(FitTableSize(table).width());
         table->setMaximumHeight(QWIDGETSIZE_MAX);
+    }
 }
 
 // The table of offsets holds the distance from DL to UL of each band with a pair of them.

@@ -124,7 +124,7 @@ private:
     void ShowIdle();
     void RequestClear(const std::string &document);
     bool AdoptReports(const std::string &response);
-    void GiveResultsTheirRoom();
+    void ShapeResults();
     template <typename... Answers>
     void Await(SRsrpPage::Signal<Answers...> signal, SRsrpPage::Slot<Answers...> slot);
     template <typename... Answers>
