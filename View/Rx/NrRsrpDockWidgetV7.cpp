@@ -189,7 +189,7 @@ void CNrRsrpDockWidgetV7::FetchReport()
     m_isFetching = true;
     m_clearCountAtFetch = m_clearCount;
     Await(m_page.fetchDone, m_page.onFetchDone);
-    (m_viewCtrl.get()->*m_page.fetch)(ModelToText(m_dataModel));
+    (m_viewCtrl.get()->*m_page.fetch)(m_documentText);
 }
 
 // No box, whatever the result: a dialog at each tick would stop the run.
@@ -243,6 +243,7 @@ void CNrRsrpDockWidgetV7::RequestClear(const std::string &document)
 {
     ++m_clearCount;
     m_isClearing = true;
+    m_documentText = document;
     Await(&CQuorlinViewCtrl::Signal_RsrpClearReportDone, m_page.onClearDone);
     m_viewCtrl->RsrpClearReport(document);
 }
@@ -266,6 +267,7 @@ bool CNrRsrpDockWidgetV7::AdoptReports(const std::string &response)
     if (document.isEmpty())
         return false;
     m_dataModel = document;
+    m_documentText = response;
     AppendWidget(m_dataModel);
     return true;
 }

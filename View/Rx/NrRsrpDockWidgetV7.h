@@ -135,6 +135,7 @@ private:
     std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
     QVector<QPair<QWidget *, bool>> m_inputs;  // input groups and buttons, and whether each was on
     QTimer m_reportTimer;
+    std::string m_documentText;  // m_dataModel from Start on; a run of days makes it megabytes long
     bool m_isFetching = false;
     bool m_isClearing = false;
     bool m_isResetting = false;
