@@ -47,6 +47,8 @@ static_assert(PositionsAreIds(), "kPages is indexed by page id");
 constexpr const char *kShownPages[] = {
     "CNrRssiDockWidgetV7",
     "CNrContRxDockWidgetV7",
+    "CNrRsrpForceDockWidgetV7",
+    "CNrRsrpNormalDockWidgetV7",
     "CNrSingleToneTxDockWidgetV7",
     "CNrPuschTxForcedDockWidgetV7",
     "CNrPuschTxNormalDockWidgetV7",
