@@ -266,17 +266,19 @@ VOND_RESULT VOND_MMRf_TestStopV7_r(uint32_t h, uint32_t t, uint32_t kind)
                [&](SDut &dut) { return dut.radio.StopMultiMode(kind); });
 }
 
-VOND_RESULT VOND_MMRf_GetCalBlkInfoV7_r(uint32_t h, uint32_t t, uint32_t, void *)
+VOND_RESULT VOND_MMRf_GetCalBlkInfoV7_r(uint32_t h, uint32_t t, uint32_t, SMMCalBlkInfoCnfV7 *)
 {
     return NotOffered(EFunction::GetCalBlkInfo, h, t);
 }
 
-VOND_RESULT VOND_MMRf_GetCalDataV7_r(uint32_t h, uint32_t t, const void *, void *)
+VOND_RESULT VOND_MMRf_GetCalDataV7_r(uint32_t h, uint32_t t, const SMMGetCalDataReqV7 *,
+                                     SMMGetCalDataCnfV7 *)
 {
     return NotOffered(EFunction::GetCalData, h, t);
 }
 
-VOND_RESULT VOND_MMRf_SetCalDataV7_r(uint32_t h, uint32_t t, const void *, void *)
+VOND_RESULT VOND_MMRf_SetCalDataV7_r(uint32_t h, uint32_t t, const SMMSetCalDataReqV7 *,
+                                     SMMSetCalDataCnfV7 *)
 {
     return NotOffered(EFunction::SetCalData, h, t);
 }
