@@ -46,6 +46,9 @@ static_assert(PositionsAreIds(), "kPages is indexed by page id");
 
 constexpr const char *kShownPages[] = {
     "CNrContRxDockWidgetV7",
+    "CNrSingleToneTxDockWidgetV7",
+    "CNrPuschTxForcedDockWidgetV7",
+    "CNrPuschTxNormalDockWidgetV7",
 };
 
 }  // namespace
