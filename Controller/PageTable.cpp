@@ -45,6 +45,7 @@ constexpr bool PositionsAreIds()
 static_assert(PositionsAreIds(), "kPages is indexed by page id");
 
 constexpr const char *kShownPages[] = {
+    "CNrRssiDockWidgetV7",
     "CNrContRxDockWidgetV7",
     "CNrSingleToneTxDockWidgetV7",
     "CNrPuschTxForcedDockWidgetV7",

@@ -3,12 +3,14 @@
 #include <QMetaType>
 
 #include "View/Rx/NrContRxDockWidgetV7.h"
+#include "View/Rx/NrRssiDockWidgetV7.h"
 #include "View/Tx/NrPuschTxForcedDockWidgetV7.h"
 #include "View/Tx/NrPuschTxNormalDockWidgetV7.h"
 #include "View/Tx/NrSingleToneTxDockWidgetV7.h"
 
 void RegisterPageTypes()
 {
+    qRegisterMetaType<CNrRssiDockWidgetV7 *>("CNrRssiDockWidgetV7*");
     qRegisterMetaType<CNrContRxDockWidgetV7 *>("CNrContRxDockWidgetV7*");
     qRegisterMetaType<CNrSingleToneTxDockWidgetV7 *>("CNrSingleToneTxDockWidgetV7*");
     qRegisterMetaType<CNrPuschTxForcedDockWidgetV7 *>("CNrPuschTxForcedDockWidgetV7*");

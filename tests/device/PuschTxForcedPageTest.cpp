@@ -265,12 +265,14 @@ void PuschTxForcedPageTest::answerThatIsNoDocumentLeavesThePage()
 {
     CPluginSession session("handset", 1, kForced.className);
     QVERIFY(Searching(session));
+    CBoxWatcher boxes;
     QVERIFY(QMetaObject::invokeMethod(session.Page(), "Slot_PuschTxForceDlFreqDone",
                                       Q_ARG(std::string, std::string())));
     QCOMPARE(session.StatusBar(), QString("Finish fetch DL frequence."));
     QCOMPARE(ResultText(session, "dlFrequency"), QString("NA"));
     session.Press("m_btnCalculate");
     QVERIFY(WaitUntil([&] { return ResultText(session, "dlFrequency") == "2140000"; }));
+    QVERIFY(boxes.Seen().isEmpty());
 }
 
 void PuschTxForcedPageTest::secondCalculateDoesNotDoubleTheStatus()

@@ -245,12 +245,14 @@ void PuschTxNormalPageTest::answerThatIsNoDocumentLeavesThePage()
 {
     CPluginSession session("handset", 1, kNormal.className);
     QVERIFY(Searching(session));
+    CBoxWatcher boxes;
     QVERIFY(QMetaObject::invokeMethod(session.Page(), "Slot_PuschTxNormalDlFreqDone",
                                       Q_ARG(std::string, std::string())));
     QCOMPARE(session.StatusBar(), QString("Finish fetch DL frequence."));
     QCOMPARE(ResultText(session, "dlFrequency"), QString("NA"));
     session.Press("m_btnCalculate");
     QVERIFY(WaitUntil([&] { return ResultText(session, "dlFrequency") == "2140000"; }));
+    QVERIFY(boxes.Seen().isEmpty());
 }
 
 // The densest page of the tool.

@@ -236,6 +236,7 @@ void SingleTonePageTest::answerThatIsNoDocumentLeavesThePage()
     QVERIFY(ToneRuns(session));
     session.Press("m_stop");
     QVERIFY(session.WaitForStatus("Single Tone Tx stop."));
+    CBoxWatcher boxes;
     for (const char *text : {"", "{", "[]"}) {
         QVERIFY(QMetaObject::invokeMethod(session.Page(), "Slot_GetSingleToneTxPdValueDone",
                                           Q_ARG(std::string, std::string(text))));
@@ -249,6 +250,7 @@ void SingleTonePageTest::answerThatIsNoDocumentLeavesThePage()
     QCOMPARE(starts[1].request.toHex(), starts[0].request.toHex());
     QVERIFY(Fetch(session));
     QVERIFY(ResultText(session, "pdValue") != "NA");
+    QVERIFY(boxes.Seen().isEmpty());
 }
 
 void SingleTonePageTest::secondFetchDoesNotDoubleTheStatus()

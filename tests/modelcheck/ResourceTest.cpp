@@ -24,7 +24,7 @@ constexpr SPageFiles kPages[] = {
     {"Model/resources/NrPuschTxNormalModeV7.json", "View/Tx/NrPuschTxNormalDockWidgetV7.ui"},
     {"Model/resources/NrRsrpForceModeV7.json", nullptr},
     {"Model/resources/NrRsrpNormalModeV7.json", nullptr},
-    {"Model/resources/NrRssiV7.json", nullptr},
+    {"Model/resources/NrRssiV7.json", "View/Rx/NrRssiDockWidgetV7.ui"},
     {"Model/resources/NrRxPathLossV7.json", nullptr},
     {"Model/resources/NrSingleToneTxV7.json", "View/Tx/NrSingleToneTxDockWidgetV7.ui"},
     {"tests/recipes/NrExampleV7.json", "tests/recipes/NrExampleDockWidgetV7.ui"},
