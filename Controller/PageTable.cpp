@@ -46,8 +46,10 @@ static_assert(PositionsAreIds(), "kPages is indexed by page id");
 
 constexpr const char *kShownPages[] = {
     "CNrRssiDockWidgetV7",
+    "CNrRxPathlossDockWidgetV7",
     "CNrContRxDockWidgetV7",
     "CNrSingleToneTxDockWidgetV7",
+    "CNrAptProfileDockWidgetV7",
     "CNrPuschTxForcedDockWidgetV7",
     "CNrPuschTxNormalDockWidgetV7",
 };

@@ -4,6 +4,8 @@
 
 #include "View/Rx/NrContRxDockWidgetV7.h"
 #include "View/Rx/NrRssiDockWidgetV7.h"
+#include "View/Rx/NrRxPathlossDockWidgetV7.h"
+#include "View/Tx/NrAptProfileDockWidgetV7.h"
 #include "View/Tx/NrPuschTxForcedDockWidgetV7.h"
 #include "View/Tx/NrPuschTxNormalDockWidgetV7.h"
 #include "View/Tx/NrSingleToneTxDockWidgetV7.h"
@@ -11,8 +13,10 @@
 void RegisterPageTypes()
 {
     qRegisterMetaType<CNrRssiDockWidgetV7 *>("CNrRssiDockWidgetV7*");
+    qRegisterMetaType<CNrRxPathlossDockWidgetV7 *>("CNrRxPathlossDockWidgetV7*");
     qRegisterMetaType<CNrContRxDockWidgetV7 *>("CNrContRxDockWidgetV7*");
     qRegisterMetaType<CNrSingleToneTxDockWidgetV7 *>("CNrSingleToneTxDockWidgetV7*");
+    qRegisterMetaType<CNrAptProfileDockWidgetV7 *>("CNrAptProfileDockWidgetV7*");
     qRegisterMetaType<CNrPuschTxForcedDockWidgetV7 *>("CNrPuschTxForcedDockWidgetV7*");
     qRegisterMetaType<CNrPuschTxNormalDockWidgetV7 *>("CNrPuschTxNormalDockWidgetV7*");
 }
