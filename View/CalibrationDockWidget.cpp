@@ -131,13 +131,19 @@ bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &sel
     // Without a snapshot the user has not been to a selector, and no data were shown by one.
     if (!m_lastDocument.empty())
         (m_viewCtrl.get()->*m_page.store)(m_lastDocument);
-    const std::string answer = (m_viewCtrl.get()->*m_page.fetch)(PackageMemberValue());
-    UpdateWidget(QJsonDocument::fromJson(QByteArray::fromStdString(answer)).object());
+    ShowDocument((m_viewCtrl.get()->*m_page.fetch)(PackageMemberValue()));
     if (!self)
         return false;
     SetButtonsEnabled(true);
     emit Signal_PluginIsBusy(false);
     return self;
+}
+
+// A DUT of another generation gives no document; the page then keeps what it has.
+void CCalibrationDockWidget::ShowDocument(const std::string &document)
+{
+    if (!document.empty())
+        UpdateWidget(QJsonDocument::fromJson(QByteArray::fromStdString(document)).object());
 }
 
 template <typename Flow, typename... Arguments>
@@ -249,7 +255,7 @@ bool CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
         return FinishFlow(flow, result);
     const QPointer<CCalibrationDockWidget> self(this);
     EndFlow(flow);
-    UpdateWidget(QJsonDocument::fromJson(QByteArray::fromStdString(document)).object());
+    ShowDocument(document);
     if (!self)
         return false;
     TakeSnapshot();

@@ -158,6 +158,8 @@ private:
     QString AskFile(bool isSave);
     void SetButtonsEnabled(bool isEnabled);
     void TakeSnapshot();
+    // The page may be gone when it returns.
+    void ShowDocument(const std::string &document);
     void ShowProgress(int done, int total);
     static const SFlowWords &Words(ECalibrationFlow flow);
 

@@ -59,7 +59,12 @@ void PinRowCaptions(QScrollArea *area, QTableWidget *table)
 
 void ScrollTogether(const QList<QScrollBar *> &bars)
 {
+    QScrollBar *const lead = bars.first();
     for (QScrollBar *from : bars) {
+        // One on a covered page has no range to follow in; it catches up when it gets one.
+        if (from != lead)
+            QObject::connect(from, &QScrollBar::rangeChanged, lead,
+                             [from, lead] { from->setValue(lead->value()); });
         for (QScrollBar *to : bars) {
             if (from != to)
                 QObject::connect(from, &QScrollBar::valueChanged, to, &QScrollBar::setValue);

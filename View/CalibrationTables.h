@@ -7,7 +7,7 @@
 //
 //   PinRowCaptions(m_ui->m_mainPathArea, m_ui->calDataIf_data_group2_memberProperty_lna0);
 //   AlignColumns({main, diversity});
-//   ScrollTogether({mainBar, diversityBar});
+//   ScrollTogether({frequencyBar, mainBar, diversityBar});
 #pragma once
 
 #include <QList>
@@ -18,6 +18,7 @@ class QTableWidget;
 
 // table: the one inside of area, at its left edge.
 void PinRowCaptions(QScrollArea *area, QTableWidget *table);
+// The first one is always in sight.
 void ScrollTogether(const QList<QScrollBar *> &bars);
 // Gives all tables row captions of the same width, and columns that are wide enough for every value
 // of all of them: their columns align.

@@ -83,9 +83,8 @@ void CNrRxPathlossDockWidgetV7::Slot_InitDone()
                                         main->verticalHeader()->minimumWidth());
     PinRowCaptions(m_ui->m_mainPathArea, main);
     PinRowCaptions(m_ui->m_diversityPathArea, diversity);
-    ScrollTogether({m_ui->m_mainPathArea->horizontalScrollBar(),
-                    m_ui->m_diversityPathArea->horizontalScrollBar(),
-                    frequencies->horizontalScrollBar()});
+    ScrollTogether({frequencies->horizontalScrollBar(), m_ui->m_mainPathArea->horizontalScrollBar(),
+                    m_ui->m_diversityPathArea->horizontalScrollBar()});
 }
 
 void CNrRxPathlossDockWidgetV7::Slot_PathLossUploadFromFlashDone(SEachItemOperationResult result,
