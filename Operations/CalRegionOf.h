@@ -81,7 +81,7 @@ private:
 template <typename TKind>
 int CCalRegionOf<TKind>::BlocksToWrite(const SCalPlace &place) const
 {
-    const Record &record = m_store.At(place);
+    const Record &record = *m_store.Find(place.route, place.region);
     int blocks = static_cast<int>(std::min<uint32_t>(record.blockCount, VOND_CAL_MAX_BLOCKS));
     if (blocks <= TKind::kBlocksOfRound)
         return blocks;
@@ -99,7 +99,7 @@ template <typename TKind>
 void CCalRegionOf<TKind>::Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at,
                               const SCalPlace &place, int blocks) const
 {
-    const Record &record = m_store.At(place);
+    const Record &record = *m_store.Find(place.route, place.region);
     qCDebug(lcCalibration).noquote().nospace()
         << "[" << TKind::kName << "][request] data info: route = " << place.route
         << ", blknum = " << blocks;

@@ -2,8 +2,6 @@
 
 #include <map>
 
-#include "Support/Log.h"
-
 namespace {
 
 template <typename Row>
@@ -17,10 +15,7 @@ std::vector<SCalPlace> WalkRows(const Row *rows, int count)
         place.route = rows[row].route;
         place.ordinal = routesOfBand[place.band]++;
         place.row = row;
-        if (place.route < kCalRoutes)
-            places.push_back(place);
-        else
-            qCCritical(lcCalibration) << "no record for route" << place.route;
+        places.push_back(place);
     }
     return places;
 }

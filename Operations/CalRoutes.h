@@ -1,8 +1,8 @@
 // The walk over a route table that all moves of calibration data share: one place for each record
 // of a kind of route, in the order of the table.
 //
-// Records are kept by route number, 0 to 99. A route with another number has no record: it is left
-// out of the walk and logged. Pure functions, any thread.
+// A route may stand in a table more than once, on several bands: it has several places then, but
+// the one record of its number. Pure functions, any thread.
 //
 //   for (const SCalPlace &place : WalkRoutes(*table, ECalRoute::Tx))
 //       ... place.route, place.region
@@ -13,8 +13,6 @@
 #include <vector>
 
 #include "Vond/VondCapabilityRecords.h"
-
-constexpr int kCalRoutes = 100;  // route numbers that have a record
 
 enum class ECalRoute
 {

@@ -1,7 +1,9 @@
 #include "Operations/CalSections.h"
 
 #include <algorithm>
+#include <map>
 #include <memory>
+#include <tuple>
 
 #include "Operations/CalKeys.h"
 #include "Support/CalIniFile.h"
@@ -52,6 +54,17 @@ void KeepPresent(std::vector<SStop> &stops)
     stops.erase(std::remove_if(stops.begin(), stops.end(), isAbsent), stops.end());
 }
 
+// A route that stands on several bands has one record, which carries the first of them that the
+// file tells of.
+void GiveSharedRecordsOneBand(std::vector<SStop> &stops)
+{
+    std::map<std::tuple<const SCalFilePart *, uint16_t, int>, uint16_t> bands;
+    for (SStop &stop : stops) {
+        const auto key = std::make_tuple(stop.part, stop.place.route, stop.place.region);
+        stop.place.band = bands.try_emplace(key, stop.place.band).first->second;
+    }
+}
+
 bool IsOfChip(const SStop &stop, const std::string &chip)
 {
     for (size_t i = 0; i < stop.sections.size(); ++i) {
@@ -91,6 +104,7 @@ SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
 {
     std::vector<SStop> stops = Walk(parts, context);
     KeepPresent(stops);
+    GiveSharedRecordsOneBand(stops);
     if (stops.empty())
         return {kCalNoData, {}};
     for (const SStop &stop : stops) {

@@ -1,17 +1,16 @@
 // Calibration records of one kind of route in memory: one for each route number, or for each route
 // number and bandwidth region, with a flag that tells whether it holds data.
 //
-// Only what was read from the target or a file is valid. Records are made once and keep their place
-// for the life of the store. One thread at a time.
+// Only what was read from the target or a file is valid. A record is made, all 0, when it is first
+// asked for, and keeps its address for the life of the store. One thread at a time.
 //
 //   CCalStore<SAptRouteBwRecord> store(VOND_MAX_BW_REGIONS);
-//   if (SAptRouteBwRecord *record = store.Find(7, 0))
-//       record->couplerLoss[0] = 16;
+//   const SAptRouteBwRecord *record = store.Find(7, 0);
 #pragma once
 
 #include <algorithm>
 #include <cstdint>
-#include <vector>
+#include <map>
 
 #include "Operations/CalRoutes.h"
 #include "Vond/VondCalBlocks.h"
@@ -20,55 +19,58 @@ template <typename Record>
 class CCalStore
 {
 public:
-    explicit CCalStore(int recordsOfRoute = 1)
-        : m_recordsOfRoute(recordsOfRoute),
-          m_records(static_cast<size_t>(kCalRoutes) * recordsOfRoute), m_valid(m_records.size())
+    explicit CCalStore(int recordsOfRoute = 1) : m_recordsOfRoute(recordsOfRoute) {}
+    CCalStore(const CCalStore &) = delete;
+    CCalStore &operator=(const CCalStore &) = delete;
+
+    // Null for a region that has no record.
+    const Record *Find(uint16_t route, int region = 0) const
     {
+        return Has(region) ? &m_slots[Key(route, region)].record : nullptr;
     }
-
-    // Null for a route or region that has no record.
-    const Record *Find(int route, int region = 0) const
-    {
-        return Has(route, region) ? &m_records[Index(route, region)] : nullptr;
-    }
-    Record *Find(int route, int region = 0)
-    {
-        return Has(route, region) ? &m_records[Index(route, region)] : nullptr;
-    }
-
-    // The record of a place in the walk, which has one.
-    const Record &At(const SCalPlace &place) const { return m_records[Index(place)]; }
-    Record &At(const SCalPlace &place) { return m_records[Index(place)]; }
-
-    bool IsValid(const SCalPlace &place) const { return m_valid[Index(place)] != 0; }
-    void SetValid(const SCalPlace &place) { m_valid[Index(place)] = 1; }
-    bool HasValid() const { return std::find(m_valid.begin(), m_valid.end(), 1) != m_valid.end(); }
-    void Invalidate() { std::fill(m_valid.begin(), m_valid.end(), uint8_t(0)); }
-
-    // Takes a record over as the store can hold it; false for a route or region without one. Does
+    // Takes a record over, with no more than 4 blocks; false for a region that has no record. Does
     // not make it valid.
-    bool Put(int route, int region, const Record &record)
+    bool Put(uint16_t route, int region, const Record &record)
     {
-        if (!Has(route, region))
+        if (!Has(region))
             return false;
-        Record &own = m_records[Index(route, region)];
+        Record &own = m_slots[Key(route, region)].record;
         own = record;
         own.blockCount = std::min<uint32_t>(own.blockCount, VOND_CAL_MAX_BLOCKS);
         return true;
     }
 
+    // The record of a place in the walk over the route table, which has one.
+    Record &At(const SCalPlace &place) { return m_slots[Key(place)].record; }
+
+    bool IsValid(const SCalPlace &place) const
+    {
+        const auto slot = m_slots.find(Key(place));
+        return slot != m_slots.end() && slot->second.valid;
+    }
+    void SetValid(const SCalPlace &place) { m_slots[Key(place)].valid = true; }
+    bool HasValid() const
+    {
+        return std::any_of(m_slots.begin(), m_slots.end(),
+                           [](const auto &slot) { return slot.second.valid; });
+    }
+    void Invalidate()
+    {
+        for (auto &slot : m_slots)
+            slot.second.valid = false;
+    }
+
 private:
-    bool Has(int route, int region) const
+    struct SSlot
     {
-        return route >= 0 && route < kCalRoutes && region >= 0 && region < m_recordsOfRoute;
-    }
-    size_t Index(int route, int region) const
-    {
-        return static_cast<size_t>(route) * m_recordsOfRoute + region;
-    }
-    size_t Index(const SCalPlace &place) const { return Index(place.route, place.region); }
+        Record record = {};
+        bool valid = false;
+    };
+
+    bool Has(int region) const { return region >= 0 && region < m_recordsOfRoute; }
+    int Key(uint16_t route, int region) const { return route * m_recordsOfRoute + region; }
+    int Key(const SCalPlace &place) const { return Key(place.route, place.region); }
 
     int m_recordsOfRoute;
-    std::vector<Record> m_records;
-    std::vector<uint8_t> m_valid;
+    mutable std::map<int, SSlot> m_slots;  // made on demand, also by a look
 };

@@ -1,6 +1,8 @@
 // The transfers of the calibration items between memory and the target's flash.
 #include <algorithm>
 #include <cstring>
+#include <set>
+#include <utility>
 
 #include "Operations/CalItemByL1Operation.h"
 #include "Operations/TargetLink.h"
@@ -86,7 +88,10 @@ uint32_t ICalItemByL1Operation::MoveRounds(const SMMRfRouteTableV7 &table, const
     int rowsBefore = 0;
     for (size_t part = 0; part < m_parts.size(); ++part) {
         const ECalRoute kind = m_parts[part].region->Kind();
+        std::set<std::pair<int, int>> walked;
         for (const SCalPlace &place : WalkRoutes(table, kind)) {
+            if (!walked.insert({place.route, place.region}).second)
+                continue;  // on a second band, and the same record
             routesWalked = rowsBefore + place.row;
             if (uint32_t code = move(rounds, static_cast<int>(part), place))
                 return code;

@@ -23,11 +23,11 @@ public:
     uint32_t LoadFromFile(CCalIniFile *file) override { return Load({file}); }
     uint32_t SaveToFile(CCalIniFile *file) override { return Save({file}); }
 
-    // The record of a route number, 0 to 99, and bandwidth region, 0 to 3; null for others. Stays
-    // at its address, valid or not.
+    // The record of a route number and bandwidth region, 0 to 3; null for another region. Stays at
+    // its address, valid or not; all 0 as long as nothing has filled it.
     const SAptRouteBwRecord *GetAptCalibrationData(uint16_t route, uint16_t bwIdx) const;
     // Takes a record over; more than 4 blocks count as 4. A record that was not valid stays so.
-    // False when there is no such record.
+    // False when there is no such region.
     bool SetAptCalibrationData(uint16_t route, uint16_t bwIdx, const SAptRouteBwRecord &record);
 
 private:

@@ -30,18 +30,18 @@ public:
     uint32_t LoadFromFile(CCalIniFile *type1File, CCalIniFile *type2File);
     uint32_t SaveToFile(CCalIniFile *type1File, CCalIniFile *type2File);
 
-    // The record of a route number, 0 to 99; null for others. Stays at its address, valid or not.
+    // The record of a route number. Stays at its address, valid or not; all 0 as long as nothing
+    // has filled it.
     template <typename Record>
     const Record *GetPathLossCalibrationData(uint16_t route) const
     {
         return Records<Record>(*this).Find(route);
     }
     // Takes a record over; more than 4 blocks count as 4. A record that was not valid stays so.
-    // False when there is no such record.
     template <typename Record>
-    bool SetPathLossCalibrationData(uint16_t route, const Record &record)
+    void SetPathLossCalibrationData(uint16_t route, const Record &record)
     {
-        return Records<Record>(*this).Put(route, 0, record);
+        Records<Record>(*this).Put(route, 0, record);
     }
 
 private:

@@ -56,10 +56,12 @@ void AppendPartialOn(const std::vector<SGain> &modes, int srxPath, EPowerMode mo
 void AppendGainByGain(const SMMRfRxGainInfoV7 &gains, const SGain &gain, int srxPath,
                       EPowerMode mode, std::vector<SGainKey> &keys)
 {
-    const auto &together = gains.t2[gain.bigG];
+    const auto &together = gains.t2[gain.bigG];  // by gain of path 0, gain of path 1
     const bool required = gains.t1[gain.bigG][gain.smallG] == 1;
     for (int subGain = 0; subGain < VOND_SUB_GAINS; ++subGain) {
-        if (!required && together[gain.smallG][subGain] != 1 && together[subGain][gain.smallG] != 1)
+        const bool isSet = srxPath == 0 ? together[gain.smallG][subGain] == 1
+                                        : together[subGain][gain.smallG] == 1;
+        if (!required && !isSet)
             continue;
         keys.push_back(
             {FormText(kGainByGainForm, {Text(srxPath), ModeName(mode), Text(gain.bigG),
