@@ -133,26 +133,9 @@ TEST_F(ProfileTest, ListedFunctionsAloneAreOffered)
               VOND_SUCCESS);
     EXPECT_EQ(ErrorText(VOND_MMRf_TestStopV7_r(HANDLE, TIMEOUT_MS, 1)),
               "Target: function is not offered");
-}
-
-TEST_F(ProfileTest, CalibrationDataIsNotOffered)
-{
-    for (const char *name :
-         {"VOND_MMRf_GetCalBlkInfoV7_r", "VOND_MMRf_GetCalDataV7_r", "VOND_MMRf_SetCalDataV7_r"})
-        EXPECT_NE(VOND_QueryFunctionSupported_r(HANDLE, TIMEOUT_MS, name), VOND_SUCCESS) << name;
     auto info = std::make_unique<SMMCalBlkInfoCnfV7>();
-    auto getRequest = std::make_unique<SMMGetCalDataReqV7>();
-    auto getAnswer = std::make_unique<SMMGetCalDataCnfV7>();
-    auto setRequest = std::make_unique<SMMSetCalDataReqV7>();
-    auto setAnswer = std::make_unique<SMMSetCalDataCnfV7>();
     EXPECT_EQ(ErrorText(VOND_MMRf_GetCalBlkInfoV7_r(HANDLE, TIMEOUT_MS, 1, info.get())),
               "Target: function is not offered");
-    EXPECT_EQ(
-        ErrorText(VOND_MMRf_GetCalDataV7_r(HANDLE, TIMEOUT_MS, getRequest.get(), getAnswer.get())),
-        "Target: function is not offered");
-    EXPECT_EQ(
-        ErrorText(VOND_MMRf_SetCalDataV7_r(HANDLE, TIMEOUT_MS, setRequest.get(), setAnswer.get())),
-        "Target: function is not offered");
 }
 
 TEST_F(ProfileTest, EveryProfilesOwnFaultIsInForceUntilAnotherProfileComes)
