@@ -3,6 +3,8 @@
 #include <QMetaType>
 
 #include "View/Rx/NrContRxDockWidgetV7.h"
+#include "View/Rx/NrRsrpForceDockWidgetV7.h"
+#include "View/Rx/NrRsrpNormalDockWidgetV7.h"
 #include "View/Rx/NrRssiDockWidgetV7.h"
 #include "View/Rx/NrRxPathlossDockWidgetV7.h"
 #include "View/Tx/NrAptProfileDockWidgetV7.h"
@@ -15,6 +17,8 @@ void RegisterPageTypes()
     qRegisterMetaType<CNrRssiDockWidgetV7 *>("CNrRssiDockWidgetV7*");
     qRegisterMetaType<CNrRxPathlossDockWidgetV7 *>("CNrRxPathlossDockWidgetV7*");
     qRegisterMetaType<CNrContRxDockWidgetV7 *>("CNrContRxDockWidgetV7*");
+    qRegisterMetaType<CNrRsrpForceDockWidgetV7 *>("CNrRsrpForceDockWidgetV7*");
+    qRegisterMetaType<CNrRsrpNormalDockWidgetV7 *>("CNrRsrpNormalDockWidgetV7*");
     qRegisterMetaType<CNrSingleToneTxDockWidgetV7 *>("CNrSingleToneTxDockWidgetV7*");
     qRegisterMetaType<CNrAptProfileDockWidgetV7 *>("CNrAptProfileDockWidgetV7*");
     qRegisterMetaType<CNrPuschTxForcedDockWidgetV7 *>("CNrPuschTxForcedDockWidgetV7*");
