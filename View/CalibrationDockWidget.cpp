@@ -156,7 +156,11 @@ void CCalibrationDockWidget::StartFlow(ECalibrationFlow kind, const Flow &flow,
     const std::string document = PackageMemberValue();
     m_focus = isAncestorOf(QApplication::focusWidget()) ? QApplication::focusWidget() : nullptr;
     m_form.contents->setEnabled(false);
-    ShowProgress(0, 0);
+    ShowProgress(kind, 0, 0, 0);
+    connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalProgress, this,
+            [this, kind](int round, int routesDone, int routesInAll) {
+                ShowProgress(kind, round, routesDone, routesInAll);
+            });
     connect(m_viewCtrl.get(), flow.done, this, flow.slot);
     (m_viewCtrl.get()->*flow.request)(document, arguments...);
 }
@@ -213,6 +217,7 @@ void CCalibrationDockWidget::EndFlow(const Flow &flow)
         m_focus->setFocus();
     emit Signal_PluginIsBusy(false);
     disconnect(m_viewCtrl.get(), flow.done, this, nullptr);
+    disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalProgress, this, nullptr);
 }
 
 void CCalibrationDockWidget::EndFlow(ECalibrationFlow flow)
@@ -264,19 +269,25 @@ bool CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
     return self;
 }
 
-// total: 0 while the length of the flow is not known yet.
-void CCalibrationDockWidget::ShowProgress(int done, int total)
+void CCalibrationDockWidget::ShowProgress(ECalibrationFlow kind, int round, int routesDone,
+                                          int routesInAll)
 {
-    auto *window = qobject_cast<QMainWindow *>(parentWidget());
-    if (!window)
-        return;
-    if (!m_progress) {
+    if (auto *window = qobject_cast<QMainWindow *>(parentWidget()); window && !m_progress) {
         m_progress = new QProgressBar;
         m_progress->setTextVisible(false);
         window->statusBar()->addPermanentWidget(m_progress);
     }
-    m_progress->setRange(0, total);
-    m_progress->setValue(done);
+    if (m_progress) {
+        m_progress->setRange(0, routesInAll);
+        m_progress->setValue(routesDone);
+    }
+    if (routesInAll == 0)
+        return;
+    QString text = QLatin1String(Words(kind).running) + QLatin1String(": ");
+    if (round > 0)
+        text += QStringLiteral("round %1, ").arg(round);
+    emit Signal_UpdateStatus(text +
+                             QStringLiteral("%1 of %2 routes").arg(routesDone).arg(routesInAll));
 }
 
 void CCalibrationDockWidget::FitTable(QTableWidget *table)

@@ -85,7 +85,7 @@ struct SCalibrationPage
     SCalibrationFlow<CalibrationRead, QString> load;
     SCalibrationFlow<CalibrationWrite, QString> save;
     // The core's copy under the selection that a document names.
-    void (CQuorlinViewCtrl::*store)(std::string);
+    void (CQuorlinViewCtrl::*store)(const std::string &);
     std::string (CQuorlinViewCtrl::*fetch)(std::string);
 };
 
@@ -160,7 +160,8 @@ private:
     void TakeSnapshot();
     // The page may be gone when it returns.
     void ShowDocument(const std::string &document);
-    void ShowProgress(int done, int total);
+    // round: the transfer under way, 0 for a file; routesInAll: 0 while that is not known yet.
+    void ShowProgress(ECalibrationFlow kind, int round, int routesDone, int routesInAll);
     static const SFlowWords &Words(ECalibrationFlow flow);
 
     const SCalibrationPage m_page;

@@ -1,5 +1,6 @@
 // The APT profile page: levels, selections, what they keep, and what reaches the flash.
 #include <cstddef>
+#include <cstring>
 
 #include "tests/device/CalibrationSession.h"
 

@@ -1,4 +1,5 @@
 // The RX path loss page: selections, what they keep, and what reaches the flash.
+#include <algorithm>
 #include <cstddef>
 
 #include "tests/device/CalibrationSession.h"
