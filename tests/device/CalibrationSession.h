@@ -93,7 +93,7 @@ public:
         if (!file.isEmpty())
             AnswerFileDialog(file);
         Press(flow.button);
-        return WaitForStatus(flow.done) && IsIdle();
+        return WaitUntil([&] { return IsIdle() && StatusBar() == flow.done; });
     }
 
     // All four buttons can be pressed, and nothing covers the page.
