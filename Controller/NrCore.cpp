@@ -1,16 +1,12 @@
 #include "Controller/NrCore.h"
 
-#include <iterator>
-
+#include "Controller/CalItemTable.h"
 #include "Controller/PageTable.h"
 #include "Model/ModelResources.h"
 #include "Operations/TargetLink.h"
 #include "Support/Log.h"
 
 namespace {
-
-// A row's position is its id.
-constexpr const char *kCalItems[] = {"RX PathLoss", "APT Profile"};
 
 const QLatin1String kNoRatInfo("Not Support due to without any this RAT info from SW.");
 const QLatin1String
@@ -24,9 +20,14 @@ CNrCore &GetCore()
     return core;
 }
 
-CNrCore::CNrCore() : m_pageMap(BuildPageMap())
+CNrCore::CNrCore() : m_pageMap(BuildPageMap()), m_calItemMap(BuildCalItemMap())
 {
     InitModelResources();
+    for (const QString &name : m_calItemMap.keys()) {
+        FindCalItem(name)->SetProgress([this, name](int round, int routesDone, int routesInAll) {
+            emit Signal_CalProgress(name, round, routesDone, routesInAll);
+        });
+    }
 }
 
 void CNrCore::SetTargetHandle(uint32_t handle)
@@ -41,13 +42,14 @@ QString CNrCore::GetPageName(int pageId) const
 
 QString CNrCore::GetCalItemName(int itemId) const
 {
-    return QString::fromLatin1(kCalItems[itemId]);
+    return CalItemName(static_cast<ECalItem>(itemId));
 }
 
 void CNrCore::ResetTargetCache()
 {
     CTargetCapability::Reset();
     m_isUpdaterStale.store(true);
+    m_isStop.store(false);
 }
 
 void CNrCore::WaitForTurn()
@@ -106,6 +108,5 @@ void CNrCore::GetAllCalItem(QStringList &out)
     out.clear();
     if (IsC2kModem() || GetSupportStatus().status != eSupported)
         return;
-    for (const char *name : kCalItems)
-        out.append(QString::fromLatin1(name));
+    out = CalItemNames();
 }

@@ -2,7 +2,8 @@
 //
 // A process-wide singleton, created on first use from the GUI thread and reached through GetCore();
 // it lives until the process ends. It decides whether the tool runs on this DUT, supplies each
-// page's document, and turns a page's document into a command, a target call and a result.
+// page's document, turns a page's document into a command, a target call and a result, and moves
+// calibration data between flash, memory, files and documents.
 //
 // Threads. Everything that reaches the target blocks, so it is called on pool threads, with the one
 // exception of GetSupportStatus, which the host asks for before the tool is shown. Each job takes
@@ -25,7 +26,9 @@
 #include "Controller/NrDataModelResponseBuilder.h"
 #include "Controller/PageTable.h"
 #include "Model/OperationResult.h"
+#include "Operations/MultiRatAptProfileV7.h"
 #include "Operations/MultiRatContRxV7.h"
+#include "Operations/MultiRatPathLossV7.h"
 #include "Operations/MultiRatRssiV7.h"
 #include "Operations/MultiRatSingleToneTxV7.h"
 #include "Operations/NrPuschTxV7.h"
@@ -44,6 +47,10 @@ public:
     static void SetTargetHandle(uint32_t handle);
 
     void GetAllCalItem(QStringList &out) override;
+    void UploadFromFlashStart(QStringList items) override;
+    void DownloadToFlashStart(QStringList items) override;
+    void LoadFromFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) override;
+    void SaveToFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) override;
     void ResetTargetCache() override;
     SRfSupportStatus GetSupportStatus() override;
 
@@ -65,6 +72,16 @@ public:
     SEachItemOperationResult ResetMixRxCounter();
     std::string ClearMixRxReport(std::string document);
     std::string RssiGainCalculate(std::string document, SEachItemOperationResult &result);
+
+    // The record of the route that a packaged calibration document selects, between the item's
+    // memory and the document: Get answers with the document filled, Set stores what the page
+    // shows. Storing makes no record valid. On another generation Get answers with an empty text
+    // and Set does nothing. Any thread; they work on what is in memory, once the capability of the
+    // DUT has been read.
+    std::string GetAptCalibrationData(std::string document);
+    void SetAptCalibrationData(const std::string &document);
+    std::string GetPathLossCalibrationData(std::string document);
+    void SetPathLossCalibrationData(const std::string &document);
 
     // Returns when the job that runs has ended. Pool threads only.
     void WaitForTurn();
@@ -92,6 +109,8 @@ protected:
                               const QString &resource);
 
 private:
+    struct SCalFlow;  // one of the four moves
+
     SRfSupportStatus DecideSupportStatus();
     bool IsC2kModem() const;
     // answer: the document with results, of the page that answers with one.
@@ -104,9 +123,17 @@ private:
     template <typename Read>
     std::string FillDocument(const std::string &document, Read read);
 
+    void StartFlow(const SCalFlow &flow, const QStringList &items,
+                   std::shared_ptr<CCalIniFile> file);
+    void RunFlow(const SCalFlow &flow, const QStringList &items, std::shared_ptr<CCalIniFile> file);
+    ICalItemByL1Operation *FindCalItem(const QString &name);
+    // The status of the move; its text is in m_errorMessage then.
+    int RunCalItem(const SCalFlow &flow, const QString &name, CCalIniFile *file);
+
     PortableCriticalSection m_targetLock;
     CTargetCapability m_target;
-    QMap<QString, int> m_pageMap;  // page name to page id
+    QMap<QString, int> m_pageMap;     // page name to page id
+    QMap<QString, int> m_calItemMap;  // calibration item name to item id
     CNrTestStop m_nrTestStop;
     CNrPuschTxV7 m_puschTx;
     CMultiRatSingleToneTxV7 m_singleToneTx;
@@ -114,6 +141,8 @@ private:
     CMultiRatContRxV7 m_contRx;
     CMultiRatTestStopV7 m_testStop;
     CMultiRatRssiV7 m_rssi;
+    CMultiRatAptProfileV7 m_aptProfile{ERadioKind::Nr};
+    CMultiRatPathLossV7 m_pathLoss{ERadioKind::Nr};
     CNrDataModelCapUpdater m_capUpdater;
     std::atomic<bool> m_isUpdaterStale{true};  // its caches are of an earlier connection
     CNrCoreCmdBuilder m_cmdBuilder;

@@ -45,9 +45,9 @@ constexpr bool PositionsAreIds()
 static_assert(PositionsAreIds(), "kPages is indexed by page id");
 
 constexpr const char *kShownPages[] = {
-    "CNrRssiDockWidgetV7",          "CNrContRxDockWidgetV7",       "CNrRsrpForceDockWidgetV7",
-    "CNrRsrpNormalDockWidgetV7",    "CNrSingleToneTxDockWidgetV7", "CNrPuschTxForcedDockWidgetV7",
-    "CNrPuschTxNormalDockWidgetV7",
+    "CNrRssiDockWidgetV7",       "CNrRxPathlossDockWidgetV7",    "CNrContRxDockWidgetV7",
+    "CNrRsrpForceDockWidgetV7",  "CNrRsrpNormalDockWidgetV7",    "CNrSingleToneTxDockWidgetV7",
+    "CNrAptProfileDockWidgetV7", "CNrPuschTxForcedDockWidgetV7", "CNrPuschTxNormalDockWidgetV7",
 };
 
 }  // namespace

@@ -8,10 +8,14 @@
 // it needs and reaches this object only through a guarded call on the GUI thread, so it ends
 // without touching what is gone, and its answer is dropped.
 //
+// A calibration request that stores or asks for a record takes the page's packaged document with
+// it; its file, where it has one, lives as long as its flow, whatever becomes of the page.
+//
 //   connect(ctrl, &CQuorlinViewCtrl::Signal_ContRxTestDone, this, &Page::Slot_ContRxTestDone);
 //   ctrl->ContRxTest(document);
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include <QFuture>
@@ -74,6 +78,25 @@ public:
     void NrTestStop();
     void MultiRatTestStop();
 
+    // Calibration data. Upload and load answer with the document of the selected record; download
+    // and save store the page's record first. A file that can't be read or written is told in the
+    // answer.
+    void AptUploadFromFlash(std::string document);
+    void AptDownloadToFlash(std::string document);
+    void AptSaveToFile(std::string document, QString path);
+    void AptLoadFromFile(std::string document, QString path);
+    void PathLossUploadFromFlash(std::string document);
+    void PathLossDownloadToFlash(std::string document);
+    void PathLossSaveToFile(std::string document, QString path);
+    void PathLossLoadFromFile(std::string document, QString path);
+
+    // The record that a page's document selects, on the calling thread and from memory: for a page
+    // whose selection changes.
+    std::string GetAptCalibrationData(std::string document);
+    void SetAptCalibrationData(const std::string &document);
+    std::string GetPathLossCalibrationData(std::string document);
+    void SetPathLossCalibrationData(const std::string &document);
+
     // Signal_Idle as soon as no job of the core runs.
     void ReportIdle();
 
@@ -106,6 +129,22 @@ signals:
     void Signal_RssiGainCalculatorDone(SEachItemOperationResult result, std::string response);
 
     void Signal_TestStopDone(SEachItemOperationResult result);
+
+    void Signal_AptUploadFromFlashDone(SEachItemOperationResult result,
+                                       std::string resultDataModel);
+    void Signal_AptDownloadToFlashDone(SEachItemOperationResult result);
+    void Signal_AptSaveToFileDone(SEachItemOperationResult result);
+    void Signal_AptLoadFromFileDone(SEachItemOperationResult result, std::string resultDataModel);
+    void Signal_PathLossUploadFromFlashDone(SEachItemOperationResult result,
+                                            std::string resultDataModel);
+    void Signal_PathLossDownloadToFlashDone(SEachItemOperationResult result);
+    void Signal_PathLossSaveToFileDone(SEachItemOperationResult result);
+    void Signal_PathLossLoadFromFileDone(SEachItemOperationResult result,
+                                         std::string resultDataModel);
+    // How far the calibration request is. round: the transfer under way, from 1 on; 0 while a file
+    // is read or written.
+    void Signal_CalProgress(int round, int routesDone, int routesInAll);
+
     void Signal_Idle();
 
 private slots:
@@ -117,6 +156,17 @@ private slots:
     void Slot_ContRxTestDone(SEachItemOperationResult result, std::string response);
     void Slot_RssiTestDone(SEachItemOperationResult result, std::string response);
     void Slot_TestStopDone(SEachItemOperationResult result);
+
+    void Slot_AptUploadFromFlashDone(bool result, QVector<SEachItemOperationResult> itemResult);
+    void Slot_AptDownloadToFlashDone(bool result, QVector<SEachItemOperationResult> itemResult);
+    void Slot_AptSaveToFileDone(bool result, QVector<SEachItemOperationResult> itemResult);
+    void Slot_AptLoadFromFileDone(bool result, QVector<SEachItemOperationResult> itemResult);
+    void Slot_PathLossUploadFromFlashDone(bool result,
+                                          QVector<SEachItemOperationResult> itemResult);
+    void Slot_PathLossDownloadToFlashDone(bool result,
+                                          QVector<SEachItemOperationResult> itemResult);
+    void Slot_PathLossSaveToFileDone(bool result, QVector<SEachItemOperationResult> itemResult);
+    void Slot_PathLossLoadFromFileDone(bool result, QVector<SEachItemOperationResult> itemResult);
 
 private:
     using DocumentSignal = void (CQuorlinViewCtrl::*)(std::string);
@@ -135,6 +185,16 @@ private:
     // Passes a test's answer on to the page, without the document.
     void PassAnswer(EPageId page, const SEachItemOperationResult &result, ResultSignal signal);
 
+    enum class ECalRequest;
+    struct SCalFlow;     // what the requests of both items share
+    struct SCalItem;     // what the requests of one item share
+    struct SCalRequest;  // one of the eight
+    static const SCalRequest &CalRequest(ECalRequest id);
+    void RequestFlow(ECalRequest id, std::string document,
+                     std::shared_ptr<CCalIniFile> file = nullptr);
+    void AwaitFlow(const SCalRequest &request);
+    void PassFlowAnswer(ECalRequest id, const QVector<SEachItemOperationResult> &itemResult);
+
     template <typename... Answers>
     void AwaitAnswer(void (CNrCore::*signal)(Answers...),
                      void (CQuorlinViewCtrl::*done)(Answers...));
@@ -145,4 +205,5 @@ private:
 
     QFuture<void> m_future;  // job last started; kept, never waited on
     int m_epoch = 0;         // changes with a reset
+    std::string m_document;  // of the upload or load that runs, for its done slot
 };

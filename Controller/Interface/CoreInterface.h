@@ -2,8 +2,18 @@
 //
 // Two families of requests: documents and tests of the pages (IRfTest), and the support of the DUT
 // with its calibration items (IRfCoreCalDataOperation). Documents are compact JSON text.
+//
+// Calibration flows. A flow moves the data of some items, one after another, between the target's
+// flash, memory and a file; a failed item does not end it. It starts on any thread, returns at once
+// and answers once, on a pool thread, with a result for each item. An item name that is unknown
+// moves nothing and repeats the status before it, 0 at the start.
+//
+//   connect(&core, &IRfCoreCalDataOperation::Signal_UploadFromFlashDone, page, &Page::Slot_Done);
+//   core.UploadFromFlashStart({core.GetCalItemName(1)});
 #pragma once
 
+#include <atomic>
+#include <memory>
 #include <string>
 
 #include <QFile>
@@ -11,6 +21,11 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QVector>
+
+#include "Model/OperationResult.h"
+
+class CCalIniFile;
 
 enum ESupport
 {
@@ -62,6 +77,13 @@ class IRfCoreCalDataOperation : public QObject
 public:
     // Names of the calibration items that the DUT has. Blocks on the link.
     virtual void GetAllCalItem(QStringList &out) = 0;
+
+    // The four flows. The file belongs to the flow and is let go before the answer.
+    virtual void UploadFromFlashStart(QStringList items) = 0;
+    virtual void DownloadToFlashStart(QStringList items) = 0;
+    virtual void LoadFromFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) = 0;
+    virtual void SaveToFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) = 0;
+
     // Drops all that is cached of the target. Never blocks.
     virtual void ResetTargetCache() = 0;
     // Blocks on the link.
@@ -70,7 +92,29 @@ public:
     // Last text from an operation; cleared when a request starts.
     QString GetErrorMessage() const { return m_errorMessage; }
 
+signals:
+    // Items that are behind: 0 with an empty result when the first begins, then 1 and up.
+    void Signal_FinishItemCount(int itemFinshCount, SEachItemOperationResult itemResult);
+    void Signal_UploadFromFlashDone(bool isAllSuccess,
+                                    QVector<SEachItemOperationResult> itemResult);
+    void Signal_DownloadToFlashDone(bool isAllSuccess,
+                                    QVector<SEachItemOperationResult> itemResult);
+    void Signal_SaveToFileDone(bool isAllSuccess, QVector<SEachItemOperationResult> itemResult);
+    void Signal_LoadFromFileDone(bool isAllSuccess, QVector<SEachItemOperationResult> itemResult);
+    // How far an item's move is. round: the transfer under way, from 1 on; 0 while a file is read
+    // or written. routesDone counts rows of the route tables.
+    void Signal_CalProgress(QString item, int round, int routesDone, int routesInAll);
+
 protected:
+    // Results of the flow that runs, or of the last one.
+    void ResetItemResults();
+    void AddItemResult(const QString &item, int status, const QString &message);
+    SEachItemOperationResult GetItemResult(int index) const;
+
     SRfSupportStatus m_supportStatus;  // last answer of GetSupportStatus
     QString m_errorMessage;
+    QVector<SEachItemOperationResult> m_itemResults;
+    bool m_isAllSuccess = true;
+    // Asks a flow to end before its next item; taken back by a reset. Nothing sets it yet.
+    std::atomic<bool> m_isStop{false};
 };

@@ -1,0 +1,91 @@
+#include "Operations/AptSections.h"
+
+#include "Operations/CalBlockCount.h"
+#include "Operations/CalKeys.h"
+
+namespace {
+
+using Record = SAptRouteBwRecord;
+
+constexpr int kLevels = VOND_APT_LEVELS;
+constexpr int kPaModes = VOND_APT_PA_MODES;
+constexpr int kTemperatures = VOND_CAL_TEMPERATURES;
+constexpr int kSubbands = VOND_CAL_MAX_SUBBANDS;
+constexpr int kLone = 1;
+constexpr int kOnce = 1;
+
+constexpr char kZeros[] = "0";  // a list of zeros, however long
+constexpr char kLowestVolts[] = "0.1V,0.1V,0.1V,0.1V,0.1V,0.1V,0.1V,0.1V,0.1V,0.1V";
+
+// In the order of writing, behind the chip's name. A "%d" is the PA mode.
+constexpr SCalKey<Record> kKeys[] = {
+    {"Route", ECalValue::Number, kLone, kOnce, kZeros,
+     [](Record &r, int, int) { return CCalCell(r.route); }},
+    {"Temperature Index", ECalValue::Number, kLone, kOnce, "3",
+     [](Record &r, int, int) { return CCalCell(r.normalTempIndex); }},
+    {"Pa section number", ECalValue::Number, kLone, kOnce, "8",
+     [](Record &r, int, int) { return CCalCell(r.paControlLevel); }},
+    {"Pa mode number", ECalValue::Number, kLone, kOnce, "3",
+     [](Record &r, int, int) { return CCalCell(r.paModeCount); }},
+    {"Pa mode prf_idx", ECalValue::Number, kPaModes, kOnce, kZeros,
+     [](Record &r, int, int i) { return CCalCell(r.prfIndex[i]); }},
+    {"Tx compensation pa gain frequency(1KHz)", ECalValue::Number, kSubbands, kOnce, kZeros,
+     [](Record &r, int, int i) { return CCalCell(r.freq[i]); }},
+    {"Pa mode map", ECalValue::Number, kLevels, kOnce, kZeros,
+     [](Record &r, int, int i) { return CCalCell(r.level[i].paMode); }},
+    {"Pa control dc2dc level", ECalValue::Volt, kLevels, kOnce, kLowestVolts,
+     [](Record &r, int, int i) { return CCalCell(r.level[i].dc2dcLevel); }},
+    {"Pa control prf", ECalValue::Db, kLevels, kOnce, kZeros,
+     [](Record &r, int, int i) { return CCalCell(r.level[i].prf); }},
+    {"Pa control pa gain", ECalValue::Db, kLevels, kOnce, kZeros,
+     [](Record &r, int, int i) { return CCalCell(r.level[i].paGain); }},
+    {"256QAM usage", ECalValue::Number, kLevels, kOnce, kZeros,
+     [](Record &r, int, int i) { return CCalCell(r.level[i].usage256Qam); }},
+    {"Tx compensation power detector coupler loss %d", ECalValue::Db, kLone, kPaModes, kZeros,
+     [](Record &r, int pa, int) { return CCalCell(r.couplerLoss[pa]); }},
+    {"Temperature Offset pa gain pa %d", ECalValue::Db, kTemperatures, kPaModes, kZeros,
+     [](Record &r, int pa, int i) { return CCalCell(r.paGainTempOffset[pa][i]); }},
+    {"Temperature Offset Power detector pa %d", ECalValue::Db, kTemperatures, kPaModes, kZeros,
+     [](Record &r, int pa, int i) { return CCalCell(r.powerDetectorTempOffset[pa][i]); }},
+    {"Tx compensation pa gain pa %d", ECalValue::Db, kSubbands, kPaModes, kZeros,
+     [](Record &r, int pa, int i) { return CCalCell(r.paGain[pa][i]); }},
+    {"Tx compensation power detector pa %d", ECalValue::Db, kSubbands, kPaModes, kZeros,
+     [](Record &r, int pa, int i) { return CCalCell(r.powerDetector[pa][i]); }},
+};
+
+// By radio kind: 0 LTE side, 1 NR.
+constexpr const char *kFirstOfBand[] = {"LTE BAND%d BW%d TPC", "NR n%d BW%d TPC"};
+constexpr const char *kFurther[] = {"LTE BAND%d CA%d BW%d TPC", "NR n%d CA%d BW%d TPC"};
+
+}  // namespace
+
+std::vector<std::string> CAptSections::SectionsOf(ERadioKind kind, const SCalPlace &place) const
+{
+    const std::string band = std::to_string(place.band);
+    const std::string region = std::to_string(place.region);
+    const int form = static_cast<int>(kind);
+    if (place.ordinal == 0)
+        return {FormText(kFirstOfBand[form], {band, region})};
+    return {FormText(kFurther[form], {band, std::to_string(place.ordinal), region})};
+}
+
+SCalFault CAptSections::Read(CCalIniFile &file, const SCalPlace &place,
+                             const std::vector<std::string> &sections, const std::vector<bool> &)
+{
+    Record record = m_store.At(place);
+    if (const char *failure = ReadKeys(file, sections[0], kKeys, EAbsentKey::Default, record))
+        return {kCalFileProblem, QString::fromLatin1(failure)};
+    // The section belongs to its route by its name; a number in it can't send it elsewhere.
+    record.band = place.band;
+    record.route = place.route;
+    record.blockCount = FileBlockCount(record.freq);
+    m_store.At(place) = record;
+    m_store.SetValid(place);
+    return {};
+}
+
+void CAptSections::Write(CCalIniFile &file, const SCalPlace &place,
+                         const std::vector<std::string> &sections)
+{
+    WriteKeys(file, sections[0], kKeys, m_store.At(place));
+}

@@ -1,0 +1,87 @@
+#include "Operations/CalItemByL1Operation.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "Operations/TargetLink.h"
+#include "Support/Log.h"
+#include "Vond/VondCore.h"
+
+ICalItemByL1Operation::ICalItemByL1Operation(ERadioKind kind, SWords words,
+                                             std::vector<SPart> parts)
+    : m_kind(kind), m_words(words), m_parts(std::move(parts))
+{
+}
+
+bool ICalItemByL1Operation::HasData() const
+{
+    return std::any_of(m_parts.begin(), m_parts.end(),
+                       [](const SPart &part) { return part.region->HasValid(); });
+}
+
+uint32_t ICalItemByL1Operation::Load(const std::vector<CCalIniFile *> &files)
+{
+    return MoveFile(LoadCalSections, files);
+}
+
+uint32_t ICalItemByL1Operation::Save(const std::vector<CCalIniFile *> &files)
+{
+    return MoveFile(SaveCalSections, files);
+}
+
+uint32_t ICalItemByL1Operation::MoveFile(FileMove move, const std::vector<CCalIniFile *> &files)
+{
+    m_errorMessage.clear();
+    if (std::find(files.begin(), files.end(), nullptr) != files.end())
+        return Fail({kCalNoFile, QString::fromLatin1(m_words.noFile)});
+    const std::string chip = ChipName();
+    const SMMRfRouteTableV7 *table = RouteTable();
+    if (!table)
+        return kCalGeneralError;
+
+    std::vector<SCalFilePart> parts;
+    int routesInAll = 0;
+    for (size_t i = 0; i < m_parts.size(); ++i) {
+        parts.push_back({m_parts[i].sections, files[i]});
+        routesInAll += RouteRows(*table, m_parts[i].sections->Kind());
+    }
+    constexpr int kNoRound = 0;
+    const SCalFileContext context{*table, m_target, m_kind, chip, [&](int routesDone) {
+                                      TellProgress(kNoRound, routesDone, routesInAll);
+                                  }};
+    const SCalFault fault = move(parts, context);
+    if (fault)
+        return Fail(fault);
+    TellProgress(kNoRound, routesInAll, routesInAll);
+    return kCalSuccess;
+}
+
+const SMMRfRouteTableV7 *ICalItemByL1Operation::RouteTable()
+{
+    const SMMRfRouteTableV7 *table =
+        m_kind == ERadioKind::Lte ? m_target.GetRouteTableLte() : m_target.GetRouteTableNr();
+    if (!table)
+        m_errorMessage = QString::fromLatin1(kNoRouteInfo);
+    return table;
+}
+
+// As a file can hold it: without blanks at its ends.
+std::string ICalItemByL1Operation::ChipName() const
+{
+    const char *name = m_kind == ERadioKind::Lte ? VOND_ERf_GetChipIdName(m_target.GetRfChipIdLte())
+                                                 : VOND_NRf_GetChipIdName(m_target.GetRfChipIdNr());
+    return QString::fromUtf8(name).trimmed().toStdString();
+}
+
+uint32_t ICalItemByL1Operation::Fail(const SCalFault &fault)
+{
+    m_errorMessage = fault.text;
+    qCDebug(lcCalibration) << "calibration move failed," << fault.code << fault.text;
+    return fault.code;
+}
+
+void ICalItemByL1Operation::TellProgress(int round, int routesDone, int routesInAll) const
+{
+    if (m_progress)
+        m_progress(round, routesDone, routesInAll);
+}

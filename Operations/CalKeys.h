@@ -1,0 +1,80 @@
+// Keys of an INI section as a table: which field of a record a key holds, how, and what it reads as
+// when it is absent. The same table writes and reads.
+//
+//   constexpr SCalKey<SAptRouteBwRecord> kKeys[] = {
+//       {"Temperature Index", ECalValue::Number, 1, 1, "3",
+//        [](SAptRouteBwRecord &r, int, int) { return CCalCell(r.normalTempIndex); }}};
+//   WriteKeys(file, section, kKeys, record);
+#pragma once
+
+#include <initializer_list>
+#include <string>
+
+#include "Operations/CalCells.h"
+#include "Support/CalIniFile.h"
+
+template <typename Record>
+struct SCalKey
+{
+    const char *key;  // with rows > 1, "%d" in it is the row
+    ECalValue kind;
+    int values;  // 1: a lone value; more: a list
+    int rows;    // 1, or the number of keys of this form, which follow each other in the file
+    const char *absent;
+    CCalCell (*cell)(Record &record, int row, int value);
+};
+
+// The "%d" and "%s" of a form replaced by the texts, in their order.
+std::string FormText(std::string_view form, std::initializer_list<std::string> texts);
+
+// What a key that a section lacks reads as.
+enum class EAbsentKey
+{
+    Default,  // the table's text
+    Keep,     // what the record held before
+};
+
+// The value of a key; false when the section lacks it.
+bool ReadKey(CCalIniFile &file, const std::string &section, const std::string &key,
+             std::string &value);
+
+template <typename Record>
+std::string KeyText(const SCalKey<Record> &key, int row)
+{
+    return key.rows > 1 ? FormText(key.key, {std::to_string(row)}) : std::string(key.key);
+}
+
+template <typename Record, size_t keyCount>
+void WriteKeys(CCalIniFile &file, const std::string &section,
+               const SCalKey<Record> (&keys)[keyCount], Record &record)
+{
+    for (const SCalKey<Record> &key : keys) {
+        for (int row = 0; row < key.rows; ++row) {
+            file.WriteString(
+                section, KeyText(key, row),
+                CellsText(key.kind, key.values, [&](int i) { return key.cell(record, row, i); }));
+        }
+    }
+}
+
+// Null, or the words of the failure; the record is half read then.
+template <typename Record, size_t keyCount>
+const char *ReadKeys(CCalIniFile &file, const std::string &section,
+                     const SCalKey<Record> (&keys)[keyCount], EAbsentKey absent, Record &record)
+{
+    std::string text;
+    for (const SCalKey<Record> &key : keys) {
+        for (int row = 0; row < key.rows; ++row) {
+            if (!ReadKey(file, section, KeyText(key, row), text)) {
+                if (absent == EAbsentKey::Keep)
+                    continue;
+                text = key.absent;
+            }
+            const char *failure = ReadCells(key.kind, text, key.values,
+                                            [&](int i) { return key.cell(record, row, i); });
+            if (failure)
+                return failure;
+        }
+    }
+    return nullptr;
+}

@@ -1,0 +1,13 @@
+// Texts of a transfer's verdict, which end with a 0 or fill their room.
+//
+//   QString text = VerdictText(verdict.txText);
+#pragma once
+
+#include <QString>
+
+#include "Vond/VondCalRecords.h"
+
+inline QString VerdictText(const char (&text)[VOND_CAL_TEXT])
+{
+    return QString::fromUtf8(text, static_cast<int>(qstrnlen(text, VOND_CAL_TEXT)));
+}

@@ -1,0 +1,315 @@
+#include "View/CalibrationDockWidget.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDoubleSpinBox>
+#include <QHeaderView>
+#include <QJsonDocument>
+#include <QMainWindow>
+#include <QProgressBar>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QTableWidget>
+
+#include "Model/StatusTable.h"
+#include "Support/FileDialogMan.h"
+#include "Support/Log.h"
+
+// What the user and the log read of a flow.
+struct CCalibrationDockWidget::SFlowWords
+{
+    const char *log;
+    const char *running;  // in front of how far it is
+    const char *done;
+    const char *failed;  // with a point behind it in the status bar
+};
+
+const CCalibrationDockWidget::SFlowWords &CCalibrationDockWidget::Words(ECalibrationFlow flow)
+{
+    static constexpr SFlowWords kWords[] = {
+        {"on_m_btnUploadFromFlash_clicked", "Read data from target",
+         "Read data from target successfully.", "Read data from target failed"},
+        {"on_m_btnDownloadToFlash_clicked", "Write data to target",
+         "Write data to target successfully.", "Write data to target failed"},
+        {"on_m_btnLoadFromFile_clicked", "Import data from file",
+         "Import data from file successfully.", "Import data from file failed"},
+        {"on_m_btnSaveToFile_clicked", "Export data to file", "Export data to file successfully.",
+         "Export data to file failed"},
+    };
+    return kWords[static_cast<int>(flow)];
+}
+
+CCalibrationDockWidget::CCalibrationDockWidget(const SCalibrationPage &page, QWidget *parent)
+    : CAutoBindingDataModelDockWidget(parent), m_page(page),
+      m_viewCtrl(std::make_unique<CQuorlinViewCtrl>())
+{
+}
+
+// The bar stands in the window's status bar and would stay there.
+CCalibrationDockWidget::~CCalibrationDockWidget()
+{
+    delete m_progress;
+}
+
+void CCalibrationDockWidget::SetForm(const SCalibrationForm &form)
+{
+    m_form = form;
+    for (QWidget *selector : form.selectors)
+        selector->installEventFilter(this);
+}
+
+QWidget *CCalibrationDockWidget::GetRootWidget()
+{
+    return this;
+}
+
+int CCalibrationDockWidget::GetModelInterface()
+{
+    return eInterfaceCalDataIf;
+}
+
+void CCalibrationDockWidget::RequestDataModel()
+{
+    connect(this, &CCalibrationDockWidget::Signal_InitDone, this,
+            &CCalibrationDockWidget::Slot_InitDone);
+    connect(m_viewCtrl.get(), m_page.dataModelDone, this,
+            &CCalibrationDockWidget::Slot_GetDataModelDone);
+    (m_viewCtrl.get()->*m_page.getDataModel)();
+}
+
+void CCalibrationDockWidget::Slot_InitDone()
+{
+    disconnect(this, &CCalibrationDockWidget::Signal_InitDone, this,
+               &CCalibrationDockWidget::Slot_InitDone);
+}
+
+void CCalibrationDockWidget::DisableTestControls()
+{
+    SetButtonsEnabled(false);
+}
+
+void CCalibrationDockWidget::EnableTestControls()
+{
+    SetButtonsEnabled(true);
+}
+
+void CCalibrationDockWidget::Slot_TriggerStopTest() {}
+
+void CCalibrationDockWidget::SetButtonsEnabled(bool isEnabled)
+{
+    for (QAbstractButton *button : m_form.buttons)
+        button->setEnabled(isEnabled);
+}
+
+bool CCalibrationDockWidget::eventFilter(QObject *object, QEvent *event)
+{
+    if (!m_modelReady)
+        return true;
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::Wheel) {
+        TakeSnapshot();
+        ShowSelectionDetails();
+    }
+    return QObject::eventFilter(object, event);
+}
+
+void CCalibrationDockWidget::TakeSnapshot()
+{
+    m_lastDocument = PackageMemberValue();
+}
+
+void CCalibrationDockWidget::ShowSelectionDetails() {}
+
+bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &selected)
+{
+    if (!m_modelReady || selected.isEmpty())
+        return false;
+    const QPointer<CCalibrationDockWidget> self(this);
+    SetButtonsEnabled(false);
+    emit Signal_PluginIsBusy(true);
+    qCDebug(lcForm) << log;
+    // Without a snapshot the user has not been to a selector, and no data were shown by one.
+    if (!m_lastDocument.empty())
+        (m_viewCtrl.get()->*m_page.store)(m_lastDocument);
+    ShowDocument((m_viewCtrl.get()->*m_page.fetch)(PackageMemberValue()));
+    if (!self)
+        return false;
+    SetButtonsEnabled(true);
+    emit Signal_PluginIsBusy(false);
+    return self;
+}
+
+// A DUT of another generation gives no document; the page then keeps what it has.
+void CCalibrationDockWidget::ShowDocument(const std::string &document)
+{
+    if (!document.empty())
+        UpdateWidget(QJsonDocument::fromJson(QByteArray::fromStdString(document)).object());
+}
+
+template <typename Flow, typename... Arguments>
+void CCalibrationDockWidget::StartFlow(ECalibrationFlow kind, const Flow &flow,
+                                       const Arguments &...arguments)
+{
+    SetButtonsEnabled(false);
+    emit Signal_PluginIsBusy(true);
+    qCDebug(lcForm) << Words(kind).log;
+    const std::string document = PackageMemberValue();
+    m_focus = isAncestorOf(QApplication::focusWidget()) ? QApplication::focusWidget() : nullptr;
+    m_form.contents->setEnabled(false);
+    ShowProgress(kind, 0, 0, 0);
+    connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalProgress, this,
+            [this, kind](int round, int routesDone, int routesInAll) {
+                ShowProgress(kind, round, routesDone, routesInAll);
+            });
+    connect(m_viewCtrl.get(), flow.done, this, flow.slot);
+    (m_viewCtrl.get()->*flow.request)(document, arguments...);
+}
+
+void CCalibrationDockWidget::on_m_btnUpload_clicked()
+{
+    StartFlow(ECalibrationFlow::Upload, m_page.upload);
+}
+
+void CCalibrationDockWidget::on_m_btnDownload_clicked()
+{
+    StartFlow(ECalibrationFlow::Download, m_page.download);
+}
+
+void CCalibrationDockWidget::on_m_btnLoad_clicked()
+{
+    const QString file = AskFile(false);
+    if (!file.isEmpty())
+        StartFlow(ECalibrationFlow::Load, m_page.load, file);
+}
+
+void CCalibrationDockWidget::on_m_btnSave_clicked()
+{
+    const QString file = AskFile(true);
+    if (!file.isEmpty())
+        StartFlow(ECalibrationFlow::Save, m_page.save, file);
+}
+
+QString CCalibrationDockWidget::AskFile(bool isSave)
+{
+    const QPointer<CCalibrationDockWidget> self(this);
+    QString file;
+    {
+        CFileDialogMan dialogs;
+        file = isSave ? dialogs.GetSaveFileName({}, QStringLiteral("Ini file (*.ini)|*.ini"))
+                      : dialogs.GetOpenFileName({}, {});
+    }
+    if (!self)
+        return {};
+    if (file.isEmpty())
+        m_messageBox.Show(eBoxWarning,
+                          isSave ? QStringLiteral("Save file") : QStringLiteral("Open file"),
+                          QStringLiteral("Please choose the Cal/Ini file..."), {}, {}, -1);
+    return file;
+}
+
+template <typename Flow>
+void CCalibrationDockWidget::EndFlow(const Flow &flow)
+{
+    delete m_progress;
+    m_form.contents->setEnabled(true);
+    SetButtonsEnabled(true);
+    if (m_focus && !QApplication::focusWidget())
+        m_focus->setFocus();
+    emit Signal_PluginIsBusy(false);
+    disconnect(m_viewCtrl.get(), flow.done, this, nullptr);
+    disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalProgress, this, nullptr);
+}
+
+void CCalibrationDockWidget::EndFlow(ECalibrationFlow flow)
+{
+    switch (flow) {
+    case ECalibrationFlow::Upload:
+        EndFlow(m_page.upload);
+        break;
+    case ECalibrationFlow::Download:
+        EndFlow(m_page.download);
+        break;
+    case ECalibrationFlow::Load:
+        EndFlow(m_page.load);
+        break;
+    case ECalibrationFlow::Save:
+        EndFlow(m_page.save);
+        break;
+    }
+}
+
+bool CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
+                                        const SEachItemOperationResult &result)
+{
+    EndFlow(flow);
+    const SFlowWords &words = Words(flow);
+    if (result.status == eStatusSuccess) {
+        emit Signal_UpdateStatus(QLatin1String(words.done));
+        return true;
+    }
+    emit Signal_UpdateStatus(QLatin1String(words.failed) + QLatin1Char('.'));
+    ShowItemResult(QLatin1String(words.failed), result);
+    return false;
+}
+
+bool CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
+                                        const SEachItemOperationResult &result,
+                                        const std::string &document)
+{
+    if (result.status != eStatusSuccess)
+        return FinishFlow(flow, result);
+    const QPointer<CCalibrationDockWidget> self(this);
+    EndFlow(flow);
+    ShowDocument(document);
+    if (!self)
+        return false;
+    TakeSnapshot();
+    ShowSelectionDetails();
+    emit Signal_UpdateStatus(QLatin1String(Words(flow).done));
+    return self;
+}
+
+void CCalibrationDockWidget::ShowProgress(ECalibrationFlow kind, int round, int routesDone,
+                                          int routesInAll)
+{
+    if (auto *window = qobject_cast<QMainWindow *>(parentWidget()); window && !m_progress) {
+        m_progress = new QProgressBar;
+        m_progress->setTextVisible(false);
+        window->statusBar()->addPermanentWidget(m_progress);
+    }
+    if (m_progress) {
+        m_progress->setRange(0, routesInAll);
+        m_progress->setValue(routesDone);
+    }
+    if (routesInAll == 0)
+        return;
+    QString text = QLatin1String(Words(kind).running) + QLatin1String(": ");
+    if (round > 0)
+        text += QStringLiteral("round %1, ").arg(round);
+    emit Signal_UpdateStatus(text +
+                             QStringLiteral("%1 of %2 routes").arg(routesDone).arg(routesInAll));
+}
+
+void CCalibrationDockWidget::FitTable(QTableWidget *table)
+{
+    table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table->doItemsLayout();  // the headers of a table on a covered page have no geometry yet
+    table->setMaximumSize(FitTableSize(table));
+    table->setMinimumSize(table->maximumSize());
+    for (QWidget *parent = table->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(parent))
+            area->setFixedHeight(table->maximumHeight() +
+                                 area->horizontalScrollBar()->sizeHint().height());
+        parent->updateGeometry();  // a covered page tells no one of its new size
+    }
+}
+
+void CCalibrationDockWidget::ZeroCells(QTableWidget *table)
+{
+    for (int r = 0; r < table->rowCount(); ++r) {
+        for (int c = 0; c < table->columnCount(); ++c) {
+            if (auto *cell = qobject_cast<QDoubleSpinBox *>(table->cellWidget(r, c)))
+                cell->setValue(0.0);
+        }
+    }
+}

@@ -1,0 +1,190 @@
+#include "View/Rx/NrRxPathlossDockWidgetV7.h"
+
+#include <QSpinBox>
+
+#include "Model/JsonPath.h"
+#include "View/CalibrationTables.h"
+#include "ui_NrRxPathlossDockWidgetV7.h"
+
+namespace {
+
+using Page = CNrRxPathlossDockWidgetV7;
+using Ctrl = CQuorlinViewCtrl;
+
+constexpr SCalibrationPage kPage = {
+    &Ctrl::GetPathLossDataModel,
+    &Ctrl::Signal_GetPathLossDataModelDone,
+    {&Ctrl::PathLossUploadFromFlash, &Ctrl::Signal_PathLossUploadFromFlashDone,
+     static_cast<CalibrationReadSlot>(&Page::Slot_PathLossUploadFromFlashDone)},
+    {&Ctrl::PathLossDownloadToFlash, &Ctrl::Signal_PathLossDownloadToFlashDone,
+     static_cast<CalibrationWriteSlot>(&Page::Slot_PathLossDownloadToFlashDone)},
+    {&Ctrl::PathLossLoadFromFile, &Ctrl::Signal_PathLossLoadFromFileDone,
+     static_cast<CalibrationReadSlot>(&Page::Slot_PathLossLoadFromFileDone)},
+    {&Ctrl::PathLossSaveToFile, &Ctrl::Signal_PathLossSaveToFileDone,
+     static_cast<CalibrationWriteSlot>(&Page::Slot_PathLossSaveToFileDone)},
+    &Ctrl::SetPathLossCalibrationData,
+    &Ctrl::GetPathLossCalibrationData,
+};
+
+constexpr int kType1Page = 0;
+constexpr int kType2Page = 1;
+constexpr int kPartialOnColumns = 8;
+
+// Gains of the partial-on table, by power mode.
+constexpr char kGainInfo[] = "calDataIf.config.group1.memberProperty.scGainInfo.trait.valuePair.";
+
+bool IsType2(const QString &routeType)
+{
+    return routeType.contains(QLatin1Char('2'));
+}
+
+}  // namespace
+
+CNrRxPathlossDockWidgetV7::CNrRxPathlossDockWidgetV7(QWidget *parent)
+    : CCalibrationDockWidget(kPage, parent), m_ui(std::make_unique<Ui::CNrRxPathlossDockWidgetV7>())
+{
+    m_ui->setupUi(this);
+    SetForm({m_ui->dockWidgetContents,
+             {m_ui->m_btnUpload, m_ui->m_btnDownload, m_ui->m_btnLoad, m_ui->m_btnSave},
+             {m_ui->calDataIf_config_group1_memberProperty_band,
+              m_ui->calDataIf_config_group1_memberProperty_routeType,
+              m_ui->calDataIf_config_group1_memberProperty_route,
+              m_ui->calDataIf_config_group1_memberProperty_powerMode,
+              m_ui->calDataIf_config_group1_memberProperty_freqIdx,
+              m_ui->calDataIf_config_group1_memberProperty_path,
+              m_ui->calDataIf_config_group1_memberProperty_type2GainModeIdx}});
+    m_ui->m_lblFreq->setText(QStringLiteral("0"));
+}
+
+CNrRxPathlossDockWidgetV7::~CNrRxPathlossDockWidgetV7() = default;
+
+void CNrRxPathlossDockWidgetV7::Slot_InitDone()
+{
+    CCalibrationDockWidget::Slot_InitDone();
+    ShowTables(m_ui->calDataIf_config_group1_memberProperty_routeType->currentText());
+    QTableWidget *const main = m_ui->calDataIf_data_group2_memberProperty_lna0;
+    QTableWidget *const diversity = m_ui->calDataIf_data_group3_memberProperty_lna0;
+    QTableWidget *const frequencies = m_ui->calDataIf_data_group4_memberProperty_freq;
+    AlignColumns({main, diversity, frequencies});
+    for (QTableWidget *table : {main, diversity})
+        FitTable(table);
+    // Those of the covered page could not be measured when they were made.
+    for (QTableWidget *table : {m_ui->calDataIf_data_group1_memberProperty_plOffset,
+                                m_ui->calDataIf_data_group5_memberProperty_main,
+                                m_ui->calDataIf_data_group6_memberProperty_gain0,
+                                m_ui->calDataIf_data_group7_memberProperty_gain0}) {
+        AlignColumns({table});
+        FitTable(table);
+    }
+    // The label takes the place of the row's caption, so that the columns stand below those above.
+    frequencies->setMinimumWidth(0);
+    frequencies->setMaximumWidth(QWIDGETSIZE_MAX);
+    m_ui->label_dlFreq->setMinimumWidth(m_ui->label_mainPathLna->sizeHint().width() +
+                                        main->verticalHeader()->minimumWidth());
+    PinRowCaptions(m_ui->m_mainPathArea, main);
+    PinRowCaptions(m_ui->m_diversityPathArea, diversity);
+    ScrollTogether({frequencies->horizontalScrollBar(), m_ui->m_mainPathArea->horizontalScrollBar(),
+                    m_ui->m_diversityPathArea->horizontalScrollBar()});
+}
+
+void CNrRxPathlossDockWidgetV7::Slot_PathLossUploadFromFlashDone(SEachItemOperationResult result,
+                                                                 std::string resultDataModel)
+{
+    FinishFlow(ECalibrationFlow::Upload, result, resultDataModel);
+}
+
+void CNrRxPathlossDockWidgetV7::Slot_PathLossDownloadToFlashDone(SEachItemOperationResult result)
+{
+    FinishFlow(ECalibrationFlow::Download, result);
+}
+
+void CNrRxPathlossDockWidgetV7::Slot_PathLossLoadFromFileDone(SEachItemOperationResult result,
+                                                              std::string resultDataModel)
+{
+    FinishFlow(ECalibrationFlow::Load, result, resultDataModel);
+}
+
+void CNrRxPathlossDockWidgetV7::Slot_PathLossSaveToFileDone(SEachItemOperationResult result)
+{
+    FinishFlow(ECalibrationFlow::Save, result);
+}
+
+void CNrRxPathlossDockWidgetV7::on_calDataIf_config_group1_memberProperty_route_currentIndexChanged(
+    QString arg1)
+{
+    ChangeSelection("==================== route change", arg1);
+}
+
+// The partial-on gains are those of the power mode. They are looked up first: the data of the new
+// mode come as a document that takes the place of this one.
+void CNrRxPathlossDockWidgetV7::
+    on_calDataIf_config_group1_memberProperty_powerMode_currentIndexChanged(QString arg1)
+{
+    const QString mode =
+        arg1.contains(QLatin1Char('H')) ? QStringLiteral("HPM") : QStringLiteral("LPM");
+    QStringList gains;
+    for (const QJsonValue gain : GetJsonValueConst(m_dataModel, kGainInfo + mode).toArray())
+        gains.append(gain.toString());
+    if (ChangeSelection("==================== powerMode change", arg1))
+        m_ui->calDataIf_data_group5_memberProperty_main->setHorizontalHeaderLabels(
+            gains.mid(0, kPartialOnColumns));
+}
+
+void CNrRxPathlossDockWidgetV7::
+    on_calDataIf_config_group1_memberProperty_freqIdx_currentIndexChanged(QString arg1)
+{
+    ChangeSelection("==================== freqIdx change", arg1);
+}
+
+void CNrRxPathlossDockWidgetV7::on_calDataIf_config_group1_memberProperty_path_currentIndexChanged(
+    QString arg1)
+{
+    ChangeSelection("==================== path change", arg1);
+}
+
+void CNrRxPathlossDockWidgetV7::
+    on_calDataIf_config_group1_memberProperty_type2GainModeIdx_currentIndexChanged(QString arg1)
+{
+    ChangeSelection("==================== GainModeIdx change", arg1);
+}
+
+void CNrRxPathlossDockWidgetV7::on_calDataIf_config_group1_memberProperty_freqIdx_activated(
+    int index)
+{
+    ShowFrequency(index);
+}
+
+void CNrRxPathlossDockWidgetV7::
+    on_calDataIf_config_group1_memberProperty_routeType_currentIndexChanged(QString arg1)
+{
+    ShowTables(arg1);
+}
+
+void CNrRxPathlossDockWidgetV7::on_m_btnReset_2_clicked()
+{
+    if (IsType2(m_ui->calDataIf_config_group1_memberProperty_routeType->currentText())) {
+        ZeroCells(m_ui->calDataIf_data_group5_memberProperty_main);
+        ZeroCells(m_ui->calDataIf_data_group6_memberProperty_gain0);
+        ZeroCells(m_ui->calDataIf_data_group7_memberProperty_gain0);
+    } else {
+        ZeroCells(m_ui->calDataIf_data_group2_memberProperty_lna0);
+        ZeroCells(m_ui->calDataIf_data_group3_memberProperty_lna0);
+    }
+}
+
+void CNrRxPathlossDockWidgetV7::ShowSelectionDetails()
+{
+    ShowFrequency(m_ui->calDataIf_config_group1_memberProperty_freqIdx->currentIndex());
+}
+
+void CNrRxPathlossDockWidgetV7::ShowFrequency(int index)
+{
+    const QTableWidget *table = m_ui->calDataIf_data_group4_memberProperty_freq;
+    if (const auto *cell = qobject_cast<QSpinBox *>(table->cellWidget(0, index)))
+        m_ui->m_lblFreq->setText(QString::number(cell->value()));
+}
+
+void CNrRxPathlossDockWidgetV7::ShowTables(const QString &routeType)
+{
+    m_ui->m_stackedWidget->setCurrentIndex(IsType2(routeType) ? kType2Page : kType1Page);
+}

@@ -1,0 +1,100 @@
+#include "View/Tx/NrAptProfileDockWidgetV7.h"
+
+#include "View/CalibrationTables.h"
+#include "ui_NrAptProfileDockWidgetV7.h"
+
+namespace {
+
+using Page = CNrAptProfileDockWidgetV7;
+using Ctrl = CQuorlinViewCtrl;
+
+constexpr SCalibrationPage kPage = {
+    &Ctrl::GetAptDataModel,
+    &Ctrl::Signal_GetAptDataModelDone,
+    {&Ctrl::AptUploadFromFlash, &Ctrl::Signal_AptUploadFromFlashDone,
+     static_cast<CalibrationReadSlot>(&Page::Slot_AptUploadFromFlashDone)},
+    {&Ctrl::AptDownloadToFlash, &Ctrl::Signal_AptDownloadToFlashDone,
+     static_cast<CalibrationWriteSlot>(&Page::Slot_AptDownloadToFlashDone)},
+    {&Ctrl::AptLoadFromFile, &Ctrl::Signal_AptLoadFromFileDone,
+     static_cast<CalibrationReadSlot>(&Page::Slot_AptLoadFromFileDone)},
+    {&Ctrl::AptSaveToFile, &Ctrl::Signal_AptSaveToFileDone,
+     static_cast<CalibrationWriteSlot>(&Page::Slot_AptSaveToFileDone)},
+    &Ctrl::SetAptCalibrationData,
+    &Ctrl::GetAptCalibrationData,
+};
+
+}  // namespace
+
+CNrAptProfileDockWidgetV7::CNrAptProfileDockWidgetV7(QWidget *parent)
+    : CCalibrationDockWidget(kPage, parent), m_ui(std::make_unique<Ui::CNrAptProfileDockWidgetV7>())
+{
+    m_ui->setupUi(this);
+    SetForm({m_ui->dockWidgetContents,
+             {m_ui->m_btnUpload, m_ui->m_btnDownload, m_ui->m_btnLoad, m_ui->m_btnSave},
+             {m_ui->calDataIf_config_group1_memberProperty_band,
+              m_ui->calDataIf_config_group1_memberProperty_txRoute,
+              m_ui->calDataIf_config_group1_memberProperty_aggBwRegion}});
+}
+
+CNrAptProfileDockWidgetV7::~CNrAptProfileDockWidgetV7() = default;
+
+void CNrAptProfileDockWidgetV7::Slot_InitDone()
+{
+    CCalibrationDockWidget::Slot_InitDone();
+    QTableWidget *const frequencies = m_ui->calDataIf_data_group12_memberProperty_ulFreq;
+    QTableWidget *const gains = m_ui->calDataIf_data_group7_memberProperty_paHighPaGain;
+    QTableWidget *const detector = m_ui->calDataIf_data_group9_memberProperty_paHighPd;
+    AlignColumns({frequencies, gains, detector});
+    for (QTableWidget *table : {frequencies, gains, detector})
+        FitTable(table);
+    // Those on covered tabs could not be measured when it was made.
+    for (QTableWidget *table : {m_ui->calDataIf_data_group8_memberProperty_paHighPaGain,
+                                m_ui->calDataIf_data_group10_memberProperty_paHighPd}) {
+        AlignColumns({table});
+        FitTable(table);
+    }
+    PinRowCaptions(m_ui->m_ulFreqArea, frequencies);
+    PinRowCaptions(m_ui->m_paGainArea, gains);
+    PinRowCaptions(m_ui->m_pdArea, detector);
+    ScrollTogether({m_ui->m_ulFreqArea->horizontalScrollBar(),
+                    m_ui->m_paGainArea->horizontalScrollBar(),
+                    m_ui->m_pdArea->horizontalScrollBar()});
+}
+
+void CNrAptProfileDockWidgetV7::Slot_AptUploadFromFlashDone(SEachItemOperationResult result,
+                                                            std::string resultDataModel)
+{
+    FinishFlow(ECalibrationFlow::Upload, result, resultDataModel);
+}
+
+void CNrAptProfileDockWidgetV7::Slot_AptDownloadToFlashDone(SEachItemOperationResult result)
+{
+    FinishFlow(ECalibrationFlow::Download, result);
+}
+
+void CNrAptProfileDockWidgetV7::Slot_AptLoadFromFileDone(SEachItemOperationResult result,
+                                                         std::string resultDataModel)
+{
+    FinishFlow(ECalibrationFlow::Load, result, resultDataModel);
+}
+
+void CNrAptProfileDockWidgetV7::Slot_AptSaveToFileDone(SEachItemOperationResult result)
+{
+    FinishFlow(ECalibrationFlow::Save, result);
+}
+
+void CNrAptProfileDockWidgetV7::
+    on_calDataIf_config_group1_memberProperty_aggBwRegion_currentIndexChanged(QString arg1)
+{
+    ChangeSelection("==================== routePathType change", arg1);
+}
+
+void CNrAptProfileDockWidgetV7::on_m_btnResetPaGain_clicked()
+{
+    ZeroCells(m_ui->calDataIf_data_group7_memberProperty_paHighPaGain);
+}
+
+void CNrAptProfileDockWidgetV7::on_m_btnResetPd_clicked()
+{
+    ZeroCells(m_ui->calDataIf_data_group9_memberProperty_paHighPd);
+}
