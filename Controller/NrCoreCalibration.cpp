@@ -152,7 +152,7 @@ void CNrCore::StartFlow(const SCalFlow &flow, const QStringList &items,
         RunFlow(flow, items, std::move(file));
     });
     if (flow.startLog)
-        qCDebug(lcCore) << (QLatin1String(flow.startLog) + QLatin1String("--"));
+        qCDebug(lcCore).nospace() << flow.startLog << "--";
 }
 
 void CNrCore::RunFlow(const SCalFlow &flow, const QStringList &items,
