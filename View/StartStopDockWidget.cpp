@@ -117,7 +117,8 @@ void CStartStopDockWidget::FinishStop(const char *slot, const SEachItemOperation
 
 void CStartStopDockWidget::StopRunningTest()
 {
-    if (m_stop->isEnabled())
+    // The button's own state: the page is disabled as a whole while another one is in front.
+    if (m_stop->isEnabledTo(this))
         StopTest();
 }
 

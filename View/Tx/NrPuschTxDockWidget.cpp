@@ -49,5 +49,5 @@ void CNrPuschTxDockWidget::SetButtons(QPushButton *start, QPushButton *stop, QPu
 
 void CNrPuschTxDockWidget::FollowCarrierSearch(bool checked)
 {
-    m_calculate->setEnabled(checked);
+    m_calculate->setEnabled(checked && !IsReading());
 }

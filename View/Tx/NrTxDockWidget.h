@@ -40,6 +40,7 @@ protected:
 
     void StartReading();
     void FinishReading(const std::string &resultModel);
+    bool IsReading() const { return m_isReading; }
 
     void ShowStep(ETestStep step) override;
 

@@ -171,6 +171,10 @@ void PuschTxForcedPageTest::resultTurnsCalculateOnWithoutTheCarrierSearch()
     QVERIFY(VondSim_WaitUntilHeld(kForced.read, 20000));
     Click(session, "enableCsr");
     QCOMPARE(Enabled(session, kForced), QString("none"));
+    // Nor does choosing the search anew bring Calculate back while it is under way.
+    Click(session, "enableCsr");
+    QCOMPARE(Enabled(session, kForced), QString("none"));
+    Click(session, "enableCsr");
     VondSim_Release(kForced.read);
     QVERIFY(session.WaitForStatus("Finish fetch DL frequence."));
     QCOMPARE(Enabled(session, kForced), QString("start read"));

@@ -42,6 +42,8 @@ private slots:
     void tabChangeStopsARunningTest();
     void tabChangeLeavesAStartInFlightAlone_data() { AddPages(); }
     void tabChangeLeavesAStartInFlightAlone();
+    void testThatStartedBehindAnotherTabStopsAtTheNextTabChange_data() { AddPages(); }
+    void testThatStartedBehindAnotherTabStopsAtTheNextTabChange();
     void secondStopOfTheHostDoesNothing_data() { AddPages(); }
     void secondStopOfTheHostDoesNothing();
     void hostCanDisableAndEnableThePages_data() { AddPages(); }
@@ -216,6 +218,23 @@ void TxStartStopTest::tabChangeLeavesAStartInFlightAlone()
     QVERIFY(session.WaitForStatus(Status(page, "start...")));
     QCOMPARE(CountCalls(page.stop), 0);
     QVERIFY(session.Find<QPushButton>("m_stop")->isEnabled());
+}
+
+void TxStartStopTest::testThatStartedBehindAnotherTabStopsAtTheNextTabChange()
+{
+    QFETCH(STxPage, page);
+    CPluginSession session("handset", 1, page.className);
+    QVERIFY(session.ShowAndWait());
+    VondSim_Hold(page.start);
+    session.Press("m_start");
+    QVERIFY(VondSim_WaitUntilHeld(page.start, 20000));
+    QVERIFY(session.ClickTab("Continuous RX"));
+    VondSim_Release(page.start);
+    QVERIFY(session.WaitForStatus(Status(page, "start...")));
+    QVERIFY(session.ClickTab("RSSI"));
+    QVERIFY(session.WaitForStatus(Status(page, "stop.")));
+    QCOMPARE(CountCalls(page.stop), 1);
+    QCOMPARE(QString(VondSim_RunningTest()), QString());
 }
 
 void TxStartStopTest::secondStopOfTheHostDoesNothing()
