@@ -1,12 +1,10 @@
-// Calibration of the core: the flows, and the records as pages see them.
+// Calibration flows of the core.
 #include <exception>
 
 #include <QtConcurrent>
 
 #include "Controller/CalItemTable.h"
-#include "Controller/CommandFields.h"
 #include "Controller/NrCore.h"
-#include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/CalIniFile.h"
 #include "Support/Log.h"
@@ -14,41 +12,6 @@
 namespace {
 
 constexpr int kStatusTerminated = 4;  // row of the status table
-
-// The record that a packaged calibration page selects.
-struct STxPlace
-{
-    uint16_t route;
-    uint16_t bwIdx;  // bandwidth region
-};
-
-STxPlace ReadTxPlace(const QJsonObject &document, const char *logName)
-{
-    constexpr int kPrefixLength = 2;  // "BW"
-    const CPackagedGroup config(document, "calDataIf.config.group1");
-    const STxPlace place{DecimalInt<uint16_t>(config.Text("txRoute")),
-                         DecimalInt<uint16_t>(config.Text("aggBwRegion").mid(kPrefixLength))};
-    qCDebug(lcCore) << logName << place.route << " bwIdx-" << place.bwIdx;
-    return place;
-}
-
-struct SRxPlace
-{
-    uint16_t route;
-    bool isType2;
-};
-
-// Logged with the words of storing by both directions, as users' log filters know it.
-SRxPlace ReadRxPlace(const QJsonObject &document)
-{
-    const CPackagedGroup config(document, "calDataIf.config.group1");
-    const QString type = config.Text("routeType");
-    const SRxPlace place{DecimalInt<uint16_t>(config.Text("route")),
-                         type.contains(QLatin1Char('2'))};
-    qCDebug(lcCore) << "SetPathLossCalibrationData: routeType " << type << " rxRoute-"
-                    << place.route;
-    return place;
-}
 
 }  // namespace
 
@@ -152,7 +115,7 @@ void CNrCore::StartFlow(const SCalFlow &flow, const QStringList &items,
         RunFlow(flow, items, std::move(file));
     });
     if (flow.startLog)
-        qCDebug(lcCore) << (QLatin1String(flow.startLog) + QLatin1String("--"));
+        qCDebug(lcCore).nospace() << flow.startLog << "--";
 }
 
 void CNrCore::RunFlow(const SCalFlow &flow, const QStringList &items,
@@ -208,60 +171,4 @@ int CNrCore::RunCalItem(const SCalFlow &flow, const QString &name, CCalIniFile *
     }
     qCCritical(lcCore) << flow.itemLog << "ended by an exception" << name << m_errorMessage;
     return static_cast<int>(flow.thrownStatus);
-}
-
-std::string CNrCore::GetAptCalibrationData(std::string document)
-{
-    const CLockSentry lock(m_targetLock);
-    const QJsonObject object = ModelFromText(document);
-    if (m_target.GetNrGeneration() != 1)
-        return {};
-    const STxPlace place = ReadTxPlace(object, "GetAptCalibrationData: route ");
-    const SAptRouteBwRecord *record = m_aptProfile.GetAptCalibrationData(place.route, place.bwIdx);
-    return record ? m_responseBuilder.GetAptDataModelV7(object, *record) : document;
-}
-
-void CNrCore::SetAptCalibrationData(const std::string &document)
-{
-    const CLockSentry lock(m_targetLock);
-    const QJsonObject object = ModelFromText(document);
-    if (m_target.GetNrGeneration() != 1)
-        return;
-    const STxPlace place = ReadTxPlace(object, "SetAptCalibrationData: route ");
-    const SAptRouteBwRecord *record = m_aptProfile.GetAptCalibrationData(place.route, place.bwIdx);
-    if (record)
-        m_aptProfile.SetAptCalibrationData(place.route, place.bwIdx,
-                                           m_cmdBuilder.GetAptCmdV7(object, *record));
-}
-
-std::string CNrCore::GetPathLossCalibrationData(std::string document)
-{
-    const CLockSentry lock(m_targetLock);
-    const QJsonObject object = ModelFromText(document);
-    if (m_target.GetNrGeneration() != 1)
-        return {};
-    const SRxPlace place = ReadRxPlace(object);
-    if (place.isType2)
-        return m_responseBuilder.GetType2PathLossDataModelV7(
-            object, *m_pathLoss.GetPathLossCalibrationData<SMMType2PathlossByRouteV7>(place.route));
-    return m_responseBuilder.GetType1PathLossDataModelV7(
-        object, *m_pathLoss.GetPathLossCalibrationData<SMMType1PathlossByRouteV7>(place.route));
-}
-
-void CNrCore::SetPathLossCalibrationData(const std::string &document)
-{
-    const CLockSentry lock(m_targetLock);
-    const QJsonObject object = ModelFromText(document);
-    if (m_target.GetNrGeneration() != 1)
-        return;
-    const SRxPlace place = ReadRxPlace(object);
-    const auto store = [&](auto build, const auto *record) {
-        m_pathLoss.SetPathLossCalibrationData(place.route, (m_cmdBuilder.*build)(object, *record));
-    };
-    if (place.isType2)
-        store(&CNrCoreCmdBuilder::GetType2PathLossCmdV7,
-              m_pathLoss.GetPathLossCalibrationData<SMMType2PathlossByRouteV7>(place.route));
-    else
-        store(&CNrCoreCmdBuilder::GetType1PathLossCmdV7,
-              m_pathLoss.GetPathLossCalibrationData<SMMType1PathlossByRouteV7>(place.route));
 }

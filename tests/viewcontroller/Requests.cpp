@@ -3,6 +3,8 @@
 #include <QSignalSpy>
 #include <QThreadPool>
 
+#include "tests/viewcontroller/CalRequests.h"
+
 namespace {
 
 using Ctrl = CQuorlinViewCtrl;
@@ -117,75 +119,79 @@ SRequest Stop(const char *internalName, void (Ctrl::*request)(), bool isNr, cons
 
 const QVector<SRequest> &AllRequests()
 {
-    static const QVector<SRequest> requests = {
-        {"GetInitPageListInternal", "Signal_GetInitPageListDone", nullptr, nullptr,
-         [](Ctrl &ctrl, const std::string &) { ctrl.GetInitPageList(); },
-         [](CNrCore &core, const std::string &) { return WordsOf(core.GetAllSupportPage()); }},
+    static const QVector<SRequest> requests =
+        QVector<SRequest>{
+            {"GetInitPageListInternal", "Signal_GetInitPageListDone", nullptr, nullptr,
+             [](Ctrl &ctrl, const std::string &) { ctrl.GetInitPageList(); },
+             [](CNrCore &core, const std::string &) { return WordsOf(core.GetAllSupportPage()); }},
 
-        DataModel("GetPuschTxForceDataModelInternal", &Ctrl::GetPuschTxForceDataModel, kPuschForce,
-                  "Signal_GetPuschTxForceDataModelDone"),
-        DataModel("GetPuschTxNormalDataModelInternal", &Ctrl::GetPuschTxNormalDataModel,
-                  kPuschNormal, "Signal_GetPuschTxNormalDataModelDone"),
-        DataModel("GetSingleToneTxDataModelInternal", &Ctrl::GetSingleToneTxDataModel, kSingleTone,
-                  "Signal_GetSingleToneTxDataModelDone"),
-        DataModel("GetRsrpForceDataModelInternal", &Ctrl::GetRsrpForceDataModel, kRsrpForce,
-                  "Signal_GetRsrpForceDataModelDone"),
-        DataModel("GetRsrpNormalDataModelInternal", &Ctrl::GetRsrpNormalDataModel, kRsrpNormal,
-                  "Signal_GetRsrpNormalDataModelDone"),
-        DataModel("GetContRxDataModelInternal", &Ctrl::GetContRxDataModel, kContRx,
-                  "Signal_GetContRxDataModelDone"),
-        DataModel("GetRssiDataModelInternal", &Ctrl::GetRssiDataModel, kRssi,
-                  "Signal_GetRssiDataModelDone"),
-        DataModel("GetAptDataModelInternal", &Ctrl::GetAptDataModel, "APT Profile",
-                  "Signal_GetAptDataModelDone"),
-        DataModel("GetPathLossDataModelInternal", &Ctrl::GetPathLossDataModel, "RX PathLoss",
-                  "Signal_GetPathLossDataModelDone"),
+            DataModel("GetPuschTxForceDataModelInternal", &Ctrl::GetPuschTxForceDataModel,
+                      kPuschForce, "Signal_GetPuschTxForceDataModelDone"),
+            DataModel("GetPuschTxNormalDataModelInternal", &Ctrl::GetPuschTxNormalDataModel,
+                      kPuschNormal, "Signal_GetPuschTxNormalDataModelDone"),
+            DataModel("GetSingleToneTxDataModelInternal", &Ctrl::GetSingleToneTxDataModel,
+                      kSingleTone, "Signal_GetSingleToneTxDataModelDone"),
+            DataModel("GetRsrpForceDataModelInternal", &Ctrl::GetRsrpForceDataModel, kRsrpForce,
+                      "Signal_GetRsrpForceDataModelDone"),
+            DataModel("GetRsrpNormalDataModelInternal", &Ctrl::GetRsrpNormalDataModel, kRsrpNormal,
+                      "Signal_GetRsrpNormalDataModelDone"),
+            DataModel("GetContRxDataModelInternal", &Ctrl::GetContRxDataModel, kContRx,
+                      "Signal_GetContRxDataModelDone"),
+            DataModel("GetRssiDataModelInternal", &Ctrl::GetRssiDataModel, kRssi,
+                      "Signal_GetRssiDataModelDone"),
+            DataModel("GetAptDataModelInternal", &Ctrl::GetAptDataModel, "APT Profile",
+                      "Signal_GetAptDataModelDone"),
+            DataModel("GetPathLossDataModelInternal", &Ctrl::GetPathLossDataModel, "RX PathLoss",
+                      "Signal_GetPathLossDataModelDone"),
 
-        Test("PuschTxForceTestInternal", &Ctrl::PuschTxForceTest, kPuschForce,
-             "Signal_PuschTxForceTestDone", "VOND_NRf_PuschTxV7_r"),
-        Test("PuschTxNormalTestInternal", &Ctrl::PuschTxNormalTest, kPuschNormal,
-             "Signal_PuschTxNormalTestDone", "VOND_NRf_PuschTxV7_r"),
-        Test("SingleToneTxTestInternal", &Ctrl::SingleToneTxTest, kSingleTone,
-             "Signal_SingleToneTxTestDone", "VOND_MMRf_SingleToneTxV7_r"),
-        Test("RsrpForceTestInternal", &Ctrl::RsrpForceTest, kRsrpForce, "Signal_RsrpForceTestDone",
-             "VOND_NRf_RsrpV7_r"),
-        Test("RsrpNormalTestInternal", &Ctrl::RsrpNormalTest, kRsrpNormal,
-             "Signal_RsrpNormalTestDone", "VOND_NRf_RsrpV7_r"),
-        Test("ContRxTestInternal", &Ctrl::ContRxTest, kContRx, "Signal_ContRxTestDone",
-             "VOND_MMRf_ContRxV7_r"),
-        Test("RssiTestInternal", &Ctrl::RssiTest, kRssi, "Signal_RssiTestDone",
-             "VOND_MMRf_RssiV7_r"),
+            Test("PuschTxForceTestInternal", &Ctrl::PuschTxForceTest, kPuschForce,
+                 "Signal_PuschTxForceTestDone", "VOND_NRf_PuschTxV7_r"),
+            Test("PuschTxNormalTestInternal", &Ctrl::PuschTxNormalTest, kPuschNormal,
+                 "Signal_PuschTxNormalTestDone", "VOND_NRf_PuschTxV7_r"),
+            Test("SingleToneTxTestInternal", &Ctrl::SingleToneTxTest, kSingleTone,
+                 "Signal_SingleToneTxTestDone", "VOND_MMRf_SingleToneTxV7_r"),
+            Test("RsrpForceTestInternal", &Ctrl::RsrpForceTest, kRsrpForce,
+                 "Signal_RsrpForceTestDone", "VOND_NRf_RsrpV7_r"),
+            Test("RsrpNormalTestInternal", &Ctrl::RsrpNormalTest, kRsrpNormal,
+                 "Signal_RsrpNormalTestDone", "VOND_NRf_RsrpV7_r"),
+            Test("ContRxTestInternal", &Ctrl::ContRxTest, kContRx, "Signal_ContRxTestDone",
+                 "VOND_MMRf_ContRxV7_r"),
+            Test("RssiTestInternal", &Ctrl::RssiTest, kRssi, "Signal_RssiTestDone",
+                 "VOND_MMRf_RssiV7_r"),
 
-        DlFreq(&Ctrl::GetPuschTxForceDlFreq, kPuschForce),
-        DlFreq(&Ctrl::GetPuschTxNormalDlFreq, kPuschNormal),
-        Read("GetSingleToneTxPdValueInternal", &Ctrl::GetSingleToneTxPdValue, kSingleTone,
-             "Signal_GetSingleToneTxPdValueDone", "VOND_MMRf_GetPdValueV7_r",
-             [](CNrCore &core, const std::string &document) {
-                 return WordsOf(core.GetPdValue(document));
-             }),
-        Report("RsrpForceFetchReportInternal", &Ctrl::RsrpForceFetchReport, kRsrpForce,
-               "Signal_RsrpForceFetchReportDone"),
-        Report("RsrpNormalFetchReportInternal", &Ctrl::RsrpNormalFetchReport, kRsrpNormal,
-               "Signal_RsrpNormalFetchReportDone"),
-        {"RsrpResetCounterInternal", "Signal_RsrpResetCounterDone", "VOND_NRf_ResetMixRxReportV7_r",
-         nullptr, [](Ctrl &ctrl, const std::string &) { ctrl.RsrpResetCounter(); },
-         [](CNrCore &core, const std::string &) { return WordsOf(core.ResetMixRxCounter()); }},
-        Read("RsrpClearReportInternal", &Ctrl::RsrpClearReport, kRsrpForce,
-             "Signal_RsrpClearReportDone", "",
-             [](CNrCore &core, const std::string &document) {
-                 return WordsOf(core.ClearMixRxReport(document));
-             }),
-        Read("RssiGainCalculatorInternal", &Ctrl::RssiGainCalculator, kRssi,
-             "Signal_RssiGainCalculatorDone", "VOND_MMRf_GainSearchV7_r",
-             [](CNrCore &core, const std::string &document) {
-                 Result result;
-                 const std::string response = core.RssiGainCalculate(document, result);
-                 return WordsOf(result, response);
-             }),
+            DlFreq(&Ctrl::GetPuschTxForceDlFreq, kPuschForce),
+            DlFreq(&Ctrl::GetPuschTxNormalDlFreq, kPuschNormal),
+            Read("GetSingleToneTxPdValueInternal", &Ctrl::GetSingleToneTxPdValue, kSingleTone,
+                 "Signal_GetSingleToneTxPdValueDone", "VOND_MMRf_GetPdValueV7_r",
+                 [](CNrCore &core, const std::string &document) {
+                     return WordsOf(core.GetPdValue(document));
+                 }),
+            Report("RsrpForceFetchReportInternal", &Ctrl::RsrpForceFetchReport, kRsrpForce,
+                   "Signal_RsrpForceFetchReportDone"),
+            Report("RsrpNormalFetchReportInternal", &Ctrl::RsrpNormalFetchReport, kRsrpNormal,
+                   "Signal_RsrpNormalFetchReportDone"),
+            {"RsrpResetCounterInternal", "Signal_RsrpResetCounterDone",
+             "VOND_NRf_ResetMixRxReportV7_r", nullptr,
+             [](Ctrl &ctrl, const std::string &) { ctrl.RsrpResetCounter(); },
+             [](CNrCore &core, const std::string &) { return WordsOf(core.ResetMixRxCounter()); }},
+            Read("RsrpClearReportInternal", &Ctrl::RsrpClearReport, kRsrpForce,
+                 "Signal_RsrpClearReportDone", "",
+                 [](CNrCore &core, const std::string &document) {
+                     return WordsOf(core.ClearMixRxReport(document));
+                 }),
+            Read("RssiGainCalculatorInternal", &Ctrl::RssiGainCalculator, kRssi,
+                 "Signal_RssiGainCalculatorDone", "VOND_MMRf_GainSearchV7_r",
+                 [](CNrCore &core, const std::string &document) {
+                     Result result;
+                     const std::string response = core.RssiGainCalculate(document, result);
+                     return WordsOf(result, response);
+                 }),
 
-        Stop("NrTestStopInternal", &Ctrl::NrTestStop, true, "VOND_NRf_TestStop_r"),
-        Stop("MultiRatTestStopInternal", &Ctrl::MultiRatTestStop, false, "VOND_MMRf_TestStopV7_r"),
-    };
+            Stop("NrTestStopInternal", &Ctrl::NrTestStop, true, "VOND_NRf_TestStop_r"),
+            Stop("MultiRatTestStopInternal", &Ctrl::MultiRatTestStop, false,
+                 "VOND_MMRf_TestStopV7_r"),
+        } +
+        CalRequests();
     return requests;
 }
 
