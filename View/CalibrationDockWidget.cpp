@@ -134,6 +134,7 @@ bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &sel
     ShowDocument((m_viewCtrl.get()->*m_page.fetch)(PackageMemberValue()));
     if (!self)
         return false;
+    ShowSelectionDetails();
     SetButtonsEnabled(true);
     emit Signal_PluginIsBusy(false);
     return self;

@@ -76,6 +76,11 @@ void CNrRxPathlossDockWidgetV7::Slot_InitDone()
         AlignColumns({table});
         FitTable(table);
     }
+    for (int c = 0; c < frequencies->columnCount(); ++c) {
+        if (const auto *cell = qobject_cast<QSpinBox *>(frequencies->cellWidget(0, c)))
+            connect(cell, QOverload<int>::of(&QSpinBox::valueChanged), this,
+                    [this] { ShowSelectionDetails(); });
+    }
     // The label takes the place of the row's caption, so that the columns stand below those above.
     frequencies->setMinimumWidth(0);
     frequencies->setMaximumWidth(QWIDGETSIZE_MAX);

@@ -38,6 +38,11 @@ class CalibrationFlowTest : public QObject
 private slots:
     void init() { m_folder.reset(new QTemporaryDir); }
 
+    // First: the core of this process has read nothing yet.
+    void writeBeforeAnyReadSendsNothing_data() { AddPageRows(); }
+    void writeBeforeAnyReadSendsNothing();
+    void writeAfterAResetSendsNothing_data() { AddPageRows(); }
+    void writeAfterAResetSendsNothing();
     void readDisablesThePageAndShowsThatItIsBusy_data() { AddPageRows(); }
     void readDisablesThePageAndShowsThatItIsBusy();
     void writeAndFileFlowsShowTheirStatusLines_data() { AddPageRows(); }
@@ -50,8 +55,6 @@ private slots:
     void failedImportLeavesWhatIsShown();
     void failedExportSaysSoInTheStatusLineAndInABox_data() { AddPageRows(); }
     void failedExportSaysSoInTheStatusLineAndInABox();
-    void writeBeforeAnyReadSendsNothing_data() { AddPageRows(); }
-    void writeBeforeAnyReadSendsNothing();
     void cancelledImportShowsABoxAndStartsNothing_data() { AddPageRows(); }
     void cancelledImportShowsABoxAndStartsNothing();
     void cancelledExportShowsABoxAndStartsNothing_data() { AddPageRows(); }
@@ -93,6 +96,10 @@ void CalibrationFlowTest::readDisablesThePageAndShowsThatItIsBusy()
     QVERIFY(VondSim_WaitUntilHeld(kReadCall, 20000));
     auto *bar = session.Window()->statusBar()->findChild<QProgressBar *>();
     QVERIFY(bar && bar->isVisible());
+    QVERIFY(WaitUntil(
+        [&] { return session.StatusBar().startsWith("Read data from target: round 1, "); }));
+    QVERIFY(session.StatusBar().endsWith(" routes"));
+    QVERIFY(bar->maximum() > 0);
     QVERIFY(TurnsWhile([] { return true; }) > 20);
     QVERIFY(!session.IsAnyButtonOn());
     VondSim_Release(kReadCall);
@@ -188,11 +195,8 @@ void CalibrationFlowTest::failedExportSaysSoInTheStatusLineAndInABox()
     QVERIFY(session.ShowAndWait());
     QVERIFY(session.Run(kRead));
     CBoxWatcher boxes;
-    // The dialog takes any name in a folder that is there; the folder goes before the flow starts.
-    AnswerFileDialog(
-        File(), [&](QFileDialog *) { QTimer::singleShot(0, qApp, [&] { m_folder->remove(); }); });
+    AnswerFileDialog(m_folder->filePath("missing/cal.ini"));
     session.Press(kExport.button);
-    m_folder->remove();
     QVERIFY(WaitUntil([&] { return boxes.Seen().size() == 1; }));
     QCOMPARE(session.StatusBar(), QString("Export data to file failed."));
     QCOMPARE(boxes.Seen()[0].title, QString("Export data to file failed"));
@@ -208,6 +212,24 @@ void CalibrationFlowTest::writeBeforeAnyReadSendsNothing()
     session.Press(kWrite.button);
     QVERIFY(WaitUntil([&] { return boxes.Seen().size() == 1; }));
     QCOMPARE(boxes.Seen()[0].title, QString("Write data to target failed"));
+    QCOMPARE(CountCalls(kWriteCall), 0);
+}
+
+// What was read of one DUT is not for the next.
+void CalibrationFlowTest::writeAfterAResetSendsNothing()
+{
+    QFETCH(QString, page);
+    CCalibrationSession session(page);
+    QVERIFY(session.ShowAndWait());
+    QVERIFY(session.Run(kRead));
+    session->ResetPlugin();
+    session->HidePlugin();
+    QVERIFY(session.ShowAndWait());
+    CBoxWatcher boxes;
+    session.busy.clear();
+    session.Press(kWrite.button);
+    QVERIFY(WaitUntil([&] { return session.busy == QVector<bool>{true, false}; }));
+    QEXPECT_FAIL("", "the core keeps the records of the old DUT", Continue);
     QCOMPARE(CountCalls(kWriteCall), 0);
 }
 

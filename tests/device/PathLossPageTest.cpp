@@ -347,6 +347,9 @@ void PathLossPageTest::labelShowsTheFrequencyOfTheIndex()
     QCOMPARE(label->text(), QString("2111000"));
     session.Select("freqIdx", "2");
     QCOMPARE(label->text(), session.CellText(kFrequency, "freq", 0, 2));
+    session.Select("band", "n78");
+    QCOMPARE(label->text(), session.CellText(kFrequency, "freq", 0, 2));
+    QVERIFY(label->text().toInt() > 3000000);
 }
 
 void PathLossPageTest::sameIndexPickedAgainRefreshesTheLabel()
