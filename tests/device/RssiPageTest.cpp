@@ -8,12 +8,6 @@
 #include "tests/common/WaitUntil.h"
 #include "tests/device/RssiSession.h"
 
-namespace {
-
-constexpr int kTurns = 50;  // of the event loop, which a blocked one would not make
-
-}  // namespace
-
 class RssiPageTest : public QObject
 {
     Q_OBJECT
@@ -86,11 +80,7 @@ void RssiPageTest::requestGoesThroughItsStates()
     QVERIFY(VondSim_WaitUntilHeld(function, 20000));
 
     // The window lives while the target is slow.
-    int turns = 0;
-    QTimer timer;
-    connect(&timer, &QTimer::timeout, this, [&turns] { ++turns; });
-    timer.start(0);
-    QVERIFY(WaitUntil([&] { return turns >= kTurns; }));
+    QVERIFY(EventLoopTurns());
     QCOMPARE(session.Enabled(), QString("none"));
     QCOMPARE(CountCalls(function), 0);
 
