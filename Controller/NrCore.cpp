@@ -23,11 +23,6 @@ CNrCore &GetCore()
 CNrCore::CNrCore() : m_pageMap(BuildPageMap()), m_calItemMap(BuildCalItemMap())
 {
     InitModelResources();
-    for (const QString &name : m_calItemMap.keys()) {
-        FindCalItem(name)->SetProgress([this, name](int round, int routesDone, int routesInAll) {
-            emit Signal_CalProgress(name, round, routesDone, routesInAll);
-        });
-    }
 }
 
 void CNrCore::SetTargetHandle(uint32_t handle)
@@ -49,6 +44,7 @@ void CNrCore::ResetTargetCache()
 {
     CTargetCapability::Reset();
     m_isUpdaterStale.store(true);
+    m_areItemsStale.store(true);
     m_isStop.store(false);
 }
 

@@ -126,6 +126,9 @@ private:
     void StartFlow(const SCalFlow &flow, const QStringList &items,
                    std::shared_ptr<CCalIniFile> file);
     void RunFlow(const SCalFlow &flow, const QStringList &items, std::shared_ptr<CCalIniFile> file);
+    // Items without records in place of those of an earlier connection: what was read of one DUT is
+    // not for the next.
+    void RenewCalItems();
     ICalItemByL1Operation *FindCalItem(const QString &name);
     // The status of the move; its text is in m_errorMessage then.
     int RunCalItem(const SCalFlow &flow, const QString &name, CCalIniFile *file);
@@ -141,8 +144,9 @@ private:
     CMultiRatContRxV7 m_contRx;
     CMultiRatTestStopV7 m_testStop;
     CMultiRatRssiV7 m_rssi;
-    CMultiRatAptProfileV7 m_aptProfile{ERadioKind::Nr};
-    CMultiRatPathLossV7 m_pathLoss{ERadioKind::Nr};
+    std::unique_ptr<CMultiRatAptProfileV7> m_aptProfile;
+    std::unique_ptr<CMultiRatPathLossV7> m_pathLoss;
+    std::atomic<bool> m_areItemsStale{true};  // their records are of an earlier connection
     CNrDataModelCapUpdater m_capUpdater;
     std::atomic<bool> m_isUpdaterStale{true};  // its caches are of an earlier connection
     CNrCoreCmdBuilder m_cmdBuilder;

@@ -46,55 +46,60 @@ SRxPlace ReadRxPlace(const QJsonObject &document)
 std::string CNrCore::GetAptCalibrationData(std::string document)
 {
     const CLockSentry lock(m_targetLock);
+    RenewCalItems();
     const QJsonObject object = ModelFromText(document);
     if (m_target.GetNrGeneration() != 1)
         return {};
     const STxPlace place = ReadTxPlace(object, "GetAptCalibrationData: route ");
-    const SAptRouteBwRecord *record = m_aptProfile.GetAptCalibrationData(place.route, place.bwIdx);
+    const SAptRouteBwRecord *record = m_aptProfile->GetAptCalibrationData(place.route, place.bwIdx);
     return record ? m_responseBuilder.GetAptDataModelV7(object, *record) : document;
 }
 
 void CNrCore::SetAptCalibrationData(const std::string &document)
 {
     const CLockSentry lock(m_targetLock);
+    RenewCalItems();
     const QJsonObject object = ModelFromText(document);
     if (m_target.GetNrGeneration() != 1)
         return;
     const STxPlace place = ReadTxPlace(object, "SetAptCalibrationData: route ");
-    const SAptRouteBwRecord *record = m_aptProfile.GetAptCalibrationData(place.route, place.bwIdx);
+    const SAptRouteBwRecord *record = m_aptProfile->GetAptCalibrationData(place.route, place.bwIdx);
     if (record)
-        m_aptProfile.SetAptCalibrationData(place.route, place.bwIdx,
-                                           m_cmdBuilder.GetAptCmdV7(object, *record));
+        m_aptProfile->SetAptCalibrationData(place.route, place.bwIdx,
+                                            m_cmdBuilder.GetAptCmdV7(object, *record));
 }
 
 std::string CNrCore::GetPathLossCalibrationData(std::string document)
 {
     const CLockSentry lock(m_targetLock);
+    RenewCalItems();
     const QJsonObject object = ModelFromText(document);
     if (m_target.GetNrGeneration() != 1)
         return {};
     const SRxPlace place = ReadRxPlace(object);
     if (place.isType2)
         return m_responseBuilder.GetType2PathLossDataModelV7(
-            object, *m_pathLoss.GetPathLossCalibrationData<SMMType2PathlossByRouteV7>(place.route));
+            object,
+            *m_pathLoss->GetPathLossCalibrationData<SMMType2PathlossByRouteV7>(place.route));
     return m_responseBuilder.GetType1PathLossDataModelV7(
-        object, *m_pathLoss.GetPathLossCalibrationData<SMMType1PathlossByRouteV7>(place.route));
+        object, *m_pathLoss->GetPathLossCalibrationData<SMMType1PathlossByRouteV7>(place.route));
 }
 
 void CNrCore::SetPathLossCalibrationData(const std::string &document)
 {
     const CLockSentry lock(m_targetLock);
+    RenewCalItems();
     const QJsonObject object = ModelFromText(document);
     if (m_target.GetNrGeneration() != 1)
         return;
     const SRxPlace place = ReadRxPlace(object);
     const auto store = [&](auto build, const auto *record) {
-        m_pathLoss.SetPathLossCalibrationData(place.route, (m_cmdBuilder.*build)(object, *record));
+        m_pathLoss->SetPathLossCalibrationData(place.route, (m_cmdBuilder.*build)(object, *record));
     };
     if (place.isType2)
         store(&CNrCoreCmdBuilder::GetType2PathLossCmdV7,
-              m_pathLoss.GetPathLossCalibrationData<SMMType2PathlossByRouteV7>(place.route));
+              m_pathLoss->GetPathLossCalibrationData<SMMType2PathlossByRouteV7>(place.route));
     else
         store(&CNrCoreCmdBuilder::GetType1PathLossCmdV7,
-              m_pathLoss.GetPathLossCalibrationData<SMMType1PathlossByRouteV7>(place.route));
+              m_pathLoss->GetPathLossCalibrationData<SMMType1PathlossByRouteV7>(place.route));
 }

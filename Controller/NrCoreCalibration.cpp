@@ -122,6 +122,7 @@ void CNrCore::RunFlow(const SCalFlow &flow, const QStringList &items,
                       std::shared_ptr<CCalIniFile> file)
 {
     const CLockSentry lock(m_targetLock);
+    RenewCalItems();
     qCDebug(lcCore) << flow.countLog << items.size();
     ResetItemResults();
     int status = eStatusSuccess;
@@ -147,14 +148,28 @@ void CNrCore::RunFlow(const SCalFlow &flow, const QStringList &items,
     qCDebug(lcCore) << flow.endLog;
 }
 
+void CNrCore::RenewCalItems()
+{
+    if (!m_areItemsStale.exchange(false))
+        return;
+    m_aptProfile = std::make_unique<CMultiRatAptProfileV7>(ERadioKind::Nr);
+    m_pathLoss = std::make_unique<CMultiRatPathLossV7>(ERadioKind::Nr);
+    const QStringList names = m_calItemMap.keys();
+    for (const QString &name : names) {
+        FindCalItem(name)->SetProgress([this, name](int round, int routesDone, int routesInAll) {
+            emit Signal_CalProgress(name, round, routesDone, routesInAll);
+        });
+    }
+}
+
 ICalItemByL1Operation *CNrCore::FindCalItem(const QString &name)
 {
     const auto id = m_calItemMap.find(name);
     if (id == m_calItemMap.end())
         return nullptr;
     if (static_cast<ECalItem>(*id) == ECalItem::PathLoss)
-        return &m_pathLoss;
-    return &m_aptProfile;
+        return m_pathLoss.get();
+    return m_aptProfile.get();
 }
 
 int CNrCore::RunCalItem(const SCalFlow &flow, const QString &name, CCalIniFile *file)
