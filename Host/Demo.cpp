@@ -14,7 +14,6 @@ namespace {
 constexpr char kPage[] = "Continuous RX";
 constexpr char kStartButton[] = "m_start";
 constexpr char kStopButton[] = "m_stop";
-constexpr char kRouteTypeList[] = "cmdIf_request_group1_memberProperty_routeType";
 constexpr int kTargetOperations = 2;  // a start and a stop
 
 QString PlainText(const QString &text)
@@ -86,10 +85,6 @@ void CDemo::PressStart()
 {
     if (!m_tool.RaisePage(kPage))
         return End(QString("The tool has no page \"%1\".").arg(kPage));
-    // Until the page is told the DUT's own routes, it opens without a frequency: choosing the route
-    // type anew makes the route announce itself, and the frequency follows it.
-    if (m_tool.BrowseList(kPage, kRouteTypeList))
-        emit Signal_Said("Choosing the route type, so that the frequency follows the route.");
     PressWhenOn(kStartButton);
 }
 

@@ -2,7 +2,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QComboBox>
 #include <QDockWidget>
 #include <QImageWriter>
 #include <QPixmap>
@@ -61,17 +60,6 @@ bool CToolWindow::RaisePage(const QString &pageTitle) const
     if (page)
         page->raise();
     return page != nullptr;
-}
-
-bool CToolWindow::BrowseList(const QString &pageTitle, const QString &listName) const
-{
-    const QDockWidget *page = FindPage(pageTitle);
-    auto *list = page ? page->findChild<QComboBox *>(listName) : nullptr;
-    if (!list)
-        return false;
-    for (int i = list->count() - 1; i >= 0; --i)
-        list->setCurrentIndex(i);
-    return true;
 }
 
 bool CToolWindow::SaveScreenshot(const QString &file, QString &error) const

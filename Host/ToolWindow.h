@@ -29,10 +29,6 @@ public:
     // Brings the page to the front, as a click on its tab does. False if there is no such page.
     bool RaisePage(const QString &pageTitle) const;
 
-    // Goes through the choices of a list on the page and back to its first, as a user who looks
-    // what there is. False if the page has no such list.
-    bool BrowseList(const QString &pageTitle, const QString &listName) const;
-
     // Saves a picture of the window as PNG. On failure, error says why.
     bool SaveScreenshot(const QString &file, QString &error) const;
 

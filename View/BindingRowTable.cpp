@@ -107,7 +107,8 @@ public:
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                               const QModelIndex &) const override
     {
-        editor->setGeometry(option.rect);
+        if (editor->geometry() != option.rect)
+            editor->setGeometry(option.rect);
     }
 };
 

@@ -30,7 +30,7 @@ struct SNrPuschCcV7
     uint8_t txCloseLoopDisble;  // 1: no closed loop power control
     uint8_t amprEnbl;           // 1: additional maximum power reduction
     uint16_t txRoute;           // forced mode only
-    uint8_t enableCsr;          // 1: carrier switching
+    uint8_t enableCsr;          // 1: carrier search, for the DL frequency
     uint8_t enableMimo;         // 1: UL MIMO, normal mode only
     uint8_t reserved42[2];
 };

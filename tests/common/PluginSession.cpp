@@ -2,18 +2,30 @@
 
 #include <QApplication>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTest>
 #include <QThreadPool>
 
 #include "Simulator/VondSim.h"
 #include "tests/common/WaitUntil.h"
 
+namespace {
+
+// A page behind another one is hidden or covered, and disabled.
+bool IsInFront(const QDockWidget *page)
+{
+    return page->isEnabled() && !page->visibleRegion().isEmpty();
+}
+
+}  // namespace
+
 QString PluginFile()
 {
     return QCoreApplication::applicationDirPath() + "/../plugins/libQuorlinRf.so";
 }
 
-CPluginSession::CPluginSession(const QString &profile, uint32_t handle)
+CPluginSession::CPluginSession(const QString &profile, uint32_t handle, const QString &page)
+    : m_page(page)
 {
     VondSim_Reset();
     const QByteArray text = profile.toUtf8();
@@ -67,10 +79,21 @@ QString CPluginSession::StatusBar() const
     return window ? window->findChild<QStatusBar *>()->currentMessage() : QString();
 }
 
+QDockWidget *CPluginSession::Page() const
+{
+    return Window() ? Window()->findChild<QDockWidget *>(m_page) : nullptr;
+}
+
 bool CPluginSession::ShowAndWait()
 {
     m_tool->ShowPlugin();
-    return WaitForStatus("Init done.");
+    // The line may be an old one; the window is disabled until its pages are there.
+    if (!WaitUntil([&] { return StatusBar() == "Init done." && Window()->isEnabled(); }))
+        return false;
+    QDockWidget *page = Page();
+    if (page)
+        page->raise();
+    return !page || WaitUntil([page] { return IsInFront(page); });
 }
 
 bool CPluginSession::WaitForStatus(const QString &text) const
@@ -81,6 +104,23 @@ bool CPluginSession::WaitForStatus(const QString &text) const
 void CPluginSession::Press(const QString &button) const
 {
     QTest::mouseClick(Find(button), Qt::LeftButton);
+}
+
+bool CPluginSession::ClickTab(const QString &title) const
+{
+    QDockWidget *page = nullptr;
+    for (QDockWidget *dock : Window()->findChildren<QDockWidget *>()) {
+        if (dock->windowTitle() == title)
+            page = dock;
+    }
+    auto *bar = Window()->findChild<QTabBar *>(QString(), Qt::FindDirectChildrenOnly);
+    if (!page || !bar)
+        return false;
+    for (int tab = 0; tab < bar->count(); ++tab) {
+        if (bar->tabText(tab) == title)
+            QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(tab).center());
+    }
+    return WaitUntil([page] { return IsInFront(page); });
 }
 
 void CPluginSession::OnActivated(QString name, bool isActivated)

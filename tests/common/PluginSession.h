@@ -1,6 +1,8 @@
 // The plug-in in the hands of a host: loaded through QPluginLoader, spoken to through its
 // interface, its window found among the application's windows and worked by object names.
 //
+// A session is about one page, which stands in front: widgets of the same name stand on others too.
+//
 // Each session starts the simulated DUT anew with a profile and, at its end, destroys the plug-in
 // object; the next session gets a new one. GUI thread.
 //
@@ -12,6 +14,7 @@
 
 #include <memory>
 
+#include <QDockWidget>
 #include <QMainWindow>
 #include <QPluginLoader>
 #include <QVector>
@@ -25,8 +28,10 @@ class CPluginSession : public QObject
     Q_OBJECT
 
 public:
-    // profile: name or file of a profile, or the JSON text of one.
-    explicit CPluginSession(const QString &profile = "handset", uint32_t handle = 1);
+    // profile: name or file of a profile, or the JSON text of one. page: class of the session's
+    // page.
+    explicit CPluginSession(const QString &profile = "handset", uint32_t handle = 1,
+                            const QString &page = "CNrContRxDockWidgetV7");
     ~CPluginSession() override;
 
     VondPluginInterface *operator->() const { return m_tool; }
@@ -36,16 +41,20 @@ public:
 
     QMainWindow *Window() const;
     QString StatusBar() const;
-    // Shows the tool and waits for the end of its init flow.
+    QDockWidget *Page() const;
+    // Shows the tool, waits for the end of its init flow, and turns to the page.
     bool ShowAndWait();
-    // A widget of the window by object name.
+    // A widget of the page, or else of the window, by object name.
     template <typename Widget = QWidget>
     Widget *Find(const QString &name) const
     {
-        return Window() ? Window()->findChild<Widget *>(name) : nullptr;
+        Widget *widget = Page() ? Page()->findChild<Widget *>(name) : nullptr;
+        return widget || !Window() ? widget : Window()->findChild<Widget *>(name);
     }
-    // Presses a button of the window, as the left mouse button does.
+    // Presses a button of the page, as the left mouse button does.
     void Press(const QString &button) const;
+    // Clicks the tab of a page, by its title, and waits until that page is in front.
+    bool ClickTab(const QString &title) const;
     bool WaitForStatus(const QString &text) const;
 
     QVector<bool> activations;  // what Signal_PluginIsActivated carried
@@ -57,6 +66,7 @@ private slots:
     void OnBusy(QString name, bool isBusy);
 
 private:
+    const QString m_page;
     QPluginLoader m_loader;
     QObject *m_object = nullptr;
     VondPluginInterface *m_tool = nullptr;

@@ -59,7 +59,7 @@ void ContRxCommandTest::startSendsTheseBytes()
 
     CPluginSession session(profile, 0xABCD);
     QVERIFY(session.ShowAndWait());
-    ChooseRoute(session, routeType);
+    Choose(session, "routeType", routeType);
     Choose(session, "calType", calType);
     Choose(session, "powerMode", powerMode);
     session.Press("m_start");
@@ -80,7 +80,6 @@ void ContRxCommandTest::stopIsOfKindOne()
 {
     CPluginSession session(Type1Profile(), 5);
     QVERIFY(session.ShowAndWait());
-    ChooseRoute(session, "Type1");
     session.Press("m_start");
     QVERIFY(session.WaitForStatus("Cont Rx start..."));
     session.Press("m_stop");
@@ -97,7 +96,6 @@ void ContRxCommandTest::editedValuesReachTheCommand()
 {
     CPluginSession session(Type1Profile());
     QVERIFY(session.ShowAndWait());
-    ChooseRoute(session, "Type1");
     session.Find<QSpinBox>(MemberName("dlFrequency"))->setValue(1920000);
     session.Find<QDoubleSpinBox>(MemberName("path0MainRfGain"))->setValue(0.04);
     session.Find<QDoubleSpinBox>(MemberName("path0DivRfGain"))->setValue(70);

@@ -2,7 +2,6 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QPushButton>
-#include <QTabBar>
 #include <QtTest>
 
 #include "tests/common/BoxWatcher.h"
@@ -23,42 +22,18 @@ QString Enabled(const CPluginSession &session)
     return start && stop ? "both" : start ? "start" : stop ? "stop" : "none";
 }
 
-bool Ready(CPluginSession &session)
-{
-    if (!session.ShowAndWait())
-        return false;
-    ChooseRoute(session, "Type1");
-    return true;
-}
-
 bool Running(CPluginSession &session)
 {
-    if (!Ready(session))
+    if (!session.ShowAndWait())
         return false;
     session.Press("m_start");
     return session.WaitForStatus("Cont Rx start...");
 }
 
 // Brings another tab to the front, and the page back, at the tab bar.
-void ChangeTabs(CPluginSession &session)
+bool ChangeTabs(const CPluginSession &session)
 {
-    auto *page = session.Find<QDockWidget>("CNrContRxDockWidgetV7");
-    if (!session.Find<QDockWidget>("other")) {
-        auto *other = new QDockWidget("Other", session.Window());
-        other->setObjectName("other");
-        session.Window()->addDockWidget(Qt::TopDockWidgetArea, other);
-        session.Window()->tabifyDockWidget(page, other);
-        QCoreApplication::processEvents();
-    }
-    auto *bar = session.Window()->findChild<QTabBar *>(QString(), Qt::FindDirectChildrenOnly);
-    QVERIFY(bar);
-    QCOMPARE(bar->count(), 2);
-    const int pageTab = bar->tabText(0) == page->windowTitle() ? 0 : 1;
-    for (int tab : {1 - pageTab, pageTab}) {
-        QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(tab).center());
-        QCoreApplication::processEvents();
-        QCOMPARE(bar->currentIndex(), tab);
-    }
+    return session.ClickTab("RSSI") && session.ClickTab("Continuous RX");
 }
 
 }  // namespace
@@ -71,6 +46,7 @@ private slots:
     void stopIsDisabledWhenThePageAppears();
     void pageShowsItsDocument();
     void startAndStopGoThroughTheirStates();
+    void windowStaysAliveWhileTheTargetIsSlow();
     void failedStartLeavesStopDisabledAndShowsTheTargetsText();
     void failedStopLeavesStartDisabledAndStopEnabled();
     void stopOfAGoneDutFailsAndCanBeTriedAgain();
@@ -106,14 +82,13 @@ void ContRxPageTest::pageShowsItsDocument()
              QString("DL Freq.(1kHz)"));
     QCOMPARE(session.Find<QPushButton>("m_start")->text(), QString("&Start"));
     QCOMPARE(session.Find<QPushButton>("m_stop")->toolTip(), QString("Stop"));
-    ChooseRoute(session, "Type1");
     QCOMPARE(session.Find<QSpinBox>(MemberName("dlFrequency"))->value(), 1950000);
 }
 
 void ContRxPageTest::startAndStopGoThroughTheirStates()
 {
     CPluginSession session(Type1Profile());
-    QVERIFY(Ready(session));
+    QVERIFY(session.ShowAndWait());
     VondSim_Hold(kStart);
     session.Press("m_start");
     QCOMPARE(Enabled(session), QString("none"));
@@ -134,10 +109,28 @@ void ContRxPageTest::startAndStopGoThroughTheirStates()
     QCOMPARE(QString(VondSim_RunningTest()), QString());
 }
 
+void ContRxPageTest::windowStaysAliveWhileTheTargetIsSlow()
+{
+    CPluginSession session("handset");
+    QVERIFY(session.ShowAndWait());
+    VondSim_Hold(kStart);
+    session.Press("m_start");
+    QVERIFY(VondSim_WaitUntilHeld(kStart, 20000));
+    QVERIFY(EventLoopTurns());
+    VondSim_Release(kStart);
+    QVERIFY(session.WaitForStatus("Cont Rx start..."));
+    VondSim_Hold(kStop);
+    session.Press("m_stop");
+    QVERIFY(VondSim_WaitUntilHeld(kStop, 20000));
+    QVERIFY(EventLoopTurns());
+    VondSim_Release(kStop);
+    QVERIFY(session.WaitForStatus("Cont Rx stop."));
+}
+
 void ContRxPageTest::failedStartLeavesStopDisabledAndShowsTheTargetsText()
 {
     CPluginSession session(Type1Profile());
-    QVERIFY(Ready(session));
+    QVERIFY(session.ShowAndWait());
     VondSim_AddFault(R"({"function": "VOND_MMRf_ContRxV7_r", "kind": "fail", "result": 7})");
     CBoxWatcher boxes;
     session.Press("m_start");
@@ -189,7 +182,7 @@ void ContRxPageTest::stopOfAGoneDutFailsAndCanBeTriedAgain()
 void ContRxPageTest::failureWithoutATextShowsTheAdvice()
 {
     CPluginSession session(Type1Profile());
-    QVERIFY(Ready(session));
+    QVERIFY(session.ShowAndWait());
     VondSim_AddFault(R"({"function": "VOND_MMRf_ContRxV7_r", "kind": "fail", "result": 7})");
     VondSim_AddFault(R"({"function": "VOND_GetErrorString", "kind": "nullText"})");
     CBoxWatcher boxes;
@@ -218,12 +211,12 @@ void ContRxPageTest::tabChangeStopsARunningTest()
 {
     CPluginSession session(Type1Profile());
     QVERIFY(Running(session));
-    ChangeTabs(session);
+    QVERIFY(ChangeTabs(session));
     QVERIFY(session.WaitForStatus("Cont Rx stop."));
     QCOMPARE(CountCalls(kStop), 1);
     QCOMPARE(Enabled(session), QString("start"));
     // An idle page is left alone.
-    ChangeTabs(session);
+    QVERIFY(ChangeTabs(session));
     QCOMPARE(session.busy, (QVector<bool>{true, false, true, false}));
     QCOMPARE(CountCalls(kStop), 1);
 }
@@ -231,11 +224,11 @@ void ContRxPageTest::tabChangeStopsARunningTest()
 void ContRxPageTest::tabChangeLeavesAStartInFlightAlone()
 {
     CPluginSession session(Type1Profile());
-    QVERIFY(Ready(session));
+    QVERIFY(session.ShowAndWait());
     VondSim_Hold(kStart);
     session.Press("m_start");
     QVERIFY(VondSim_WaitUntilHeld(kStart, 20000));
-    ChangeTabs(session);
+    QVERIFY(ChangeTabs(session));
     VondSim_Release(kStart);
     QVERIFY(session.WaitForStatus("Cont Rx start..."));
     QCOMPARE(CountCalls(kStop), 0);
@@ -245,7 +238,7 @@ void ContRxPageTest::tabChangeLeavesAStartInFlightAlone()
 void ContRxPageTest::startOnAnotherGenerationSaysThatNothingRan()
 {
     CPluginSession session(Type1Profile());
-    QVERIFY(Ready(session));
+    QVERIFY(session.ShowAndWait());
     VondSim_SetProfile("gen0");
     // The caches forget, the page stays: the host resets, and shows nothing yet.
     const QPointer<QDockWidget> page = session.Find<QDockWidget>("CNrContRxDockWidgetV7");

@@ -1,5 +1,5 @@
-// DUTs whose route 1 on n1 is what the Continuous RX page's own document offers: a type 1 route, or
-// a type 2 route with the gain mode flag, open at the document's frequencies.
+// DUTs whose first route on n1, route 1, takes the frequency that the Continuous RX page's document
+// starts with: a type 1 route, or a type 2 route with the gain mode flag.
 #pragma once
 
 #include <QComboBox>
@@ -33,13 +33,4 @@ inline void Choose(const CPluginSession &session, const QString &member, const Q
     QVERIFY(box);
     QVERIFY2(box->findText(text) >= 0, qPrintable(member + " has no " + text));
     box->setCurrentText(text);
-}
-
-// The document opens with a route that its frequency table lacks; choosing the route type anew
-// makes the route publish, and the frequency follow.
-inline void ChooseRoute(const CPluginSession &session, const QString &routeType)
-{
-    Choose(session, "routeType", "Type2");
-    Choose(session, "routeType", "Type1");
-    Choose(session, "routeType", routeType);
 }

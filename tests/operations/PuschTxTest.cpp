@@ -1,33 +1,15 @@
 // PUSCH TX and the DL frequency of a carrier, as the target sees them.
 #include "Operations/NrPuschTxV7.h"
 #include "Operations/TestStop.h"
+#include "tests/common/GoodCommands.h"
 #include "tests/operations/TargetFixture.h"
 
 namespace {
 
 SNrPuschTxCmdV7 ForcedCommand()
 {
-    SNrPuschTxCmdV7 command = {};
-    command.forced = 1;
-    SNrPuschCcV7 &carrier = command.forcedMode.carrier;
-    carrier.band = 3;
-    carrier.ulFrequency = 1747500;
-    carrier.cellId = 1;
-    carrier.ulBandwidth = 20000;
-    carrier.vrbLength = 106;
-    carrier.mcsMode = 2;
-    carrier.txPowerValue = -2688;  // -10.5 dBm
-    carrier.txRoute = 3;
-    return command;
-}
-
-SNrDlFreqCmdV7 DlFreqCommand()
-{
-    SNrDlFreqCmdV7 command = {};
-    command.band = 1;
-    command.ulFrequency = 1950000;
-    command.forced = 1;
-    command.txRoute = 1;
+    SNrPuschTxCmdV7 command = PuschForcedCommand();
+    command.forcedMode.carrier.txPowerValue = -2688;  // -10.5 dBm
     return command;
 }
 

@@ -1,36 +1,15 @@
 // The RSRP test, its reports and their reset, as the target sees them.
 #include "Operations/NrRsrpV7.h"
 #include "Operations/TestStop.h"
+#include "tests/common/GoodCommands.h"
 #include "tests/operations/TargetFixture.h"
 
 namespace {
 
-SNrRsrpCommonV7 Carrier(uint16_t band, uint32_t dlFrequency, uint8_t measCnt)
-{
-    SNrRsrpCommonV7 carrier = {};
-    carrier.measCnt = measCnt;
-    carrier.dlFrequency = dlFrequency;
-    carrier.band = band;
-    carrier.dlBandwidth = 10000;
-    return carrier;
-}
-
 SNrRsrpCmdV7 ForcedCommand(uint8_t measCnt = 5)
 {
-    SNrRsrpCmdV7 command = {};
-    command.forced = 1;
-    command.forcedMode.carrier.common = Carrier(1, 2140000, measCnt);
-    command.forcedMode.carrier.rxRoute = 1;
-    command.forcedMode.carrier.lpmHpmConf = 3;
-    return command;
-}
-
-SNrRsrpCmdV7 NormalCommand()
-{
-    SNrRsrpCmdV7 command = {};
-    command.normalMode.carrierCount = 1;
-    command.normalMode.carrier[0].common = Carrier(78, 3549990, 10);
-    command.normalMode.carrier[0].mimo4x4 = 1;
+    SNrRsrpCmdV7 command = RsrpForcedCommand();
+    command.forcedMode.carrier.common.measCnt = measCnt;
     return command;
 }
 
@@ -56,7 +35,7 @@ TEST_F(RsrpTest, ForcedStartSendsItsCommandOnce)
 
 TEST_F(RsrpTest, NormalStartSendsItsCommandOnce)
 {
-    const SNrRsrpCmdV7 command = NormalCommand();
+    const SNrRsrpCmdV7 command = RsrpNormalCommand();
     EXPECT_EQ(m_rsrp.RunRsrp(&command), 0u);
     ExpectOneCall(kRsrp, QByteArray::fromHex("00000000 01000000 0a000000 262b3600 00000000 4e00"
                                              "00 00 10270000 00 00 0000 0000 0000 00000000"

@@ -1,32 +1,22 @@
 // The gain search and the RSSI measurement, as the target sees them.
 #include "Operations/MultiRatRssiV7.h"
+#include "tests/common/GoodCommands.h"
 #include "tests/operations/TargetFixture.h"
 
 namespace {
 
 SMMGainSearchCmdV7 SearchCommand()
 {
-    SMMGainSearchCmdV7 command = {};
-    command.radioKind = 1;
+    SMMGainSearchCmdV7 command = GainSearchCommand();
     command.simultaneous = 1;
-    command.elnaModeMain = 1;
-    command.elnaModeDiv = 1;
-    command.search[0] = 1;
+    command.search[1] = 0;
     command.search[3] = 2;
     return command;
 }
 
-SMMRssiCmdV7 RssiCommand()
+SMMRssiCmdV7 DigitalGainCommand()
 {
-    SMMRssiCmdV7 command = {};
-    command.routeKind = 3;
-    command.dlFrequency[0] = 3350000;
-    command.dlFrequency[1] = 3360001;
-    command.band = 78;
-    command.rxRoute = 105;
-    command.singlePath = 1;
-    command.numFreq = 2;
-    command.path = 1;
+    SMMRssiCmdV7 command = RssiCommand();
     command.gain.single.mainRfGain = 1584;
     command.gain.single.divRfGain = 1664;
     command.gain.single.mainDigitalGain = -32;
@@ -65,7 +55,7 @@ TEST_F(RssiTest, RefusedGainSearchKeepsTheLibrarysWords)
 TEST_F(RssiTest, MeasurementSendsItsCommandOnceAndBringsTheAnswer)
 {
     SMMRssiCnfV7 answer = {};
-    EXPECT_EQ(m_rssi.RunRssi(RssiCommand(), &answer), 0u);
+    EXPECT_EQ(m_rssi.RunRssi(DigitalGainCommand(), &answer), 0u);
     ExpectOneCall(kRssi, QByteArray::fromHex("03000000 00000000 f01d3300 01453300 00000000"
                                              "00000000 00000000 4e00 6900 01 02 0000 01000000"
                                              "3006 8006 e0ff 0000") +
@@ -78,7 +68,7 @@ TEST_F(RssiTest, MeasurementSendsItsCommandOnceAndBringsTheAnswer)
 
 TEST_F(RssiTest, RefusedMeasurementKeepsTheLibrarysWords)
 {
-    SMMRssiCmdV7 command = RssiCommand();
+    SMMRssiCmdV7 command = DigitalGainCommand();
     command.numFreq = 0;
     SMMRssiCnfV7 answer = {};
     EXPECT_EQ(m_rssi.RunRssi(command, &answer), 3u);
@@ -91,7 +81,7 @@ TEST_F(RssiTest, NullErrorTextLeavesAnEmptyMessageAndStillThree)
     NoErrorTexts();
     Fault(kRssi);
     SMMRssiCnfV7 answer = {};
-    EXPECT_EQ(m_rssi.RunRssi(RssiCommand(), &answer), 3u);
+    EXPECT_EQ(m_rssi.RunRssi(DigitalGainCommand(), &answer), 3u);
     EXPECT_TRUE(m_rssi.GetErrorMessage().isEmpty());
 }
 
@@ -99,7 +89,7 @@ TEST_F(RssiTest, AdvisedGainsAreGoodForTheMeasurementAsTheyCame)
 {
     SMMGainSearchCnfV7 gains = {};
     ASSERT_EQ(m_rssi.RunGainSearch(SearchCommand(), &gains), 0u);
-    SMMRssiCmdV7 command = RssiCommand();
+    SMMRssiCmdV7 command = DigitalGainCommand();
     command.singlePath = 0;
     command.path = 3;
     command.gain = gains.gain;

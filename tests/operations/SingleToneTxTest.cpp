@@ -1,22 +1,15 @@
 // Single tone TX and the power detector, as the target sees them.
 #include "Operations/MultiRatSingleToneTxV7.h"
 #include "Operations/TestStop.h"
+#include "tests/common/GoodCommands.h"
 #include "tests/operations/TargetFixture.h"
 
 namespace {
 
 SMMSingleToneCmdV7 Command()
 {
-    SMMSingleToneCmdV7 command = {};
-    command.radioKind = 1;
-    command.band = 41;
-    command.txRoute = 9;
-    command.afcdac = 4096;
+    SMMSingleToneCmdV7 command = SingleToneCommand();
     command.txPowerValue = -2688;  // -10.5 dBm
-    command.ulFrequency = 2593000;
-    command.aggBwKhzRange = 40000;
-    command.ulFreqOffset = -540;
-    command.afcDataType = 1;
     return command;
 }
 

@@ -6,6 +6,7 @@
 #include "View/QuorlinForm.h"
 #include "Vond/VondCore.h"
 #include "tests/common/BoxWatcher.h"
+#include "tests/common/GoodCommands.h"
 #include "tests/common/SimJournal.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/recipes/ExamplePageTypes.h"
@@ -64,16 +65,8 @@ private:
 // A tone on the DUT, for the detector to read.
 bool Transmit()
 {
-    SMMSingleToneCmdV7 command = {};
-    command.radioKind = 1;
-    command.band = 41;
-    command.txRoute = 9;
-    command.afcdac = 4096;
+    SMMSingleToneCmdV7 command = SingleToneCommand();
     command.txPowerValue = kTxPower;
-    command.ulFrequency = 2593000;
-    command.aggBwKhzRange = 40000;
-    command.ulFreqOffset = -540;
-    command.afcDataType = 1;
     return VOND_MMRf_SingleToneTxV7_r(kHandle, kTargetTimeoutMs, &command) == VOND_SUCCESS;
 }
 

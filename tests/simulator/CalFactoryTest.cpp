@@ -31,6 +31,7 @@ TEST_F(CalFactoryTest, FrequenciesRiseAcrossTheLimitsOnTheRaster)
         {FrequenciesOf(Type2(105)), 3300000, 3800000, 48},
         {FrequenciesOf(Tx(3, 20000)), 1710000, 1785000, 15},
         {FrequenciesOf(Tx(16, 100000)), 4400000, 5000000, 64},
+        {FrequenciesOf(Tx(15, 20000)), 3400000, 3600000, 40},  // limits of the route
     };
     for (const auto &row : rows) {
         const auto &kHz = row.frequencies;
@@ -96,6 +97,8 @@ TEST_F(CalFactoryTest, LossesAreThoseOfTheGainModesThatTheRouteHas)
     EXPECT_NE(gainByGain(1, 1, 2).hpm, 0);
     EXPECT_EQ(gainByGain(1, 1, 2).lpm, 0);
     EXPECT_NE(gainByGain(1, 1, 1).lpm, 0);
+    EXPECT_NE(gainByGain(2, 1, 2).hpm, 0);
+    EXPECT_EQ(gainByGain(3, 1, 2).hpm, 0);
     EXPECT_EQ(gainByGain(5, 0, 0).hpm, 0);
 }
 

@@ -174,6 +174,26 @@ TEST_F(CalFlashFileTest, FlashOfAnotherDutStaysAsItIs)
     EXPECT_EQ(ReadAfterRestart(words), 77);
 }
 
+// The records of one stand at the front of the other.
+TEST_F(CalFlashFileTest, FlashOfMoreOrFewerRoutesIsAnotherDuts)
+{
+    const auto dut = [](const char *txRoutes) {
+        return std::string(R"({"name": "few", "base": "largest", "generate": {"rxType1Routes": 5,
+            "rxType2Routes": 0, "freqLimits": 0, "pairedTxRoutes": 0, "txRoutes": )") +
+               txRoutes + "}}";
+    };
+    for (const auto &[writer, reader] : {std::pair("3", "2"), std::pair("2", "3")}) {
+        fs::remove(m_path);
+        ASSERT_EQ(VondSim_SetProfileText(dut(writer).c_str()), 0);
+        ASSERT_EQ(Write(77), 1);
+        ::testing::internal::CaptureStderr();
+        ASSERT_EQ(VondSim_SetProfileText(dut(reader).c_str()), 0);
+        EXPECT_NE(Read(), 77);
+        const std::string words = ::testing::internal::GetCapturedStderr();
+        EXPECT_EQ(words.find('\n'), words.size() - 1) << words;
+    }
+}
+
 TEST_F(CalFlashFileTest, FlashOutsideTheProfilesLimitsIsAnotherDuts)
 {
     ASSERT_EQ(Write(77), 1);

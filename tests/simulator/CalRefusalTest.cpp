@@ -174,6 +174,18 @@ TEST_F(CalRefusalTest, BlocksOfSeveralBandsMakeNoRecord)
                   "route 12: blocks of several bands");
 }
 
+TEST_F(CalRefusalTest, LimitsOfARouteCountBeforeThoseOfItsBand)
+{
+    std::vector<SAptBlock> tx = Tx(15, 20000);  // n78, 3400 to 3600 MHz
+    tx[0].freq[0] = 3399990;
+    ExpectRefusal(CCalDownload().Tx(15, 20000, tx).Send(), TX,
+                  "route 15: 3399990 kHz is out of limits");
+    std::vector<SType2Block> type2 = Type2(106);  // the same
+    type2[0].freq[0] = 3600015;
+    ExpectRefusal(CCalDownload().Type2(106, type2).Send(), TYPE2,
+                  "route 106: 3600015 kHz is out of limits");
+}
+
 TEST_F(CalRefusalTest, LongestTextEndsWithinItsRoom)
 {
     const std::string text =

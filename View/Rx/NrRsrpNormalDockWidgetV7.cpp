@@ -1,0 +1,114 @@
+#include "View/Rx/NrRsrpNormalDockWidgetV7.h"
+
+#include "ui_NrRsrpNormalDockWidgetV7.h"
+
+using Page = CNrRsrpNormalDockWidgetV7;
+using Ctrl = CQuorlinViewCtrl;
+
+constexpr SRsrpPage CNrRsrpNormalDockWidgetV7::kPage = {
+    &Ctrl::GetRsrpNormalDataModel,
+    &Ctrl::Signal_GetRsrpNormalDataModelDone,
+    &Ctrl::RsrpNormalTest,
+    &Ctrl::Signal_RsrpNormalTestDone,
+    static_cast<SRsrpPage::Slot<SEachItemOperationResult>>(&Page::Slot_RsrpNormalTestDone),
+    "Slot_RsrpNormalTestDone",
+    &Ctrl::RsrpNormalFetchReport,
+    &Ctrl::Signal_RsrpNormalFetchReportDone,
+    static_cast<SRsrpPage::Slot<SEachItemOperationResult, std::string>>(
+        &Page::Slot_RsrpNormalFetchReportDone),
+    "CNrRsrpNormalDockWidgetV7::Slot_RsrpNormalFetchReportDone()",
+    static_cast<SRsrpPage::Slot<>>(&Page::Slot_RsrpRxTimerTimeout),
+    "CNrRsrpNormalDockWidgetV7::Slot_RsrpRxTimerTimeout()",
+    static_cast<SRsrpPage::Slot<SEachItemOperationResult>>(&Page::Slot_RsrpNormalTestStopDone),
+    "Slot_RsrpNormalTestStopDone",
+    static_cast<SRsrpPage::Slot<SEachItemOperationResult>>(&Page::Slot_RsrpResetCounterDone),
+    static_cast<SRsrpPage::Slot<std::string>>(&Page::Slot_RsrpClearReportDone),
+};
+
+CNrRsrpNormalDockWidgetV7::CNrRsrpNormalDockWidgetV7(QWidget *parent)
+    : CNrRsrpDockWidgetV7(kPage, parent), m_ui(std::make_unique<Ui::CNrRsrpNormalDockWidgetV7>())
+{
+    m_ui->setupUi(this);
+    UseWidgets({
+        {m_ui->groupBox_rx, m_ui->groupBox_tx},
+        m_ui->m_start,
+        m_ui->m_stop,
+        m_ui->resetPushButton,
+        m_ui->clearPushButton,
+        m_ui->cmdIf_request_group1_memberProperty_band,
+        m_ui->cmdIf_request_group1_memberProperty_dlFrequency,
+        m_ui->cmdIf_request_group2_memberProperty_ulFrequency,
+        {m_ui->cmdIf_response_group1_memberProperty_RSRP0,
+         m_ui->cmdIf_response_group2_memberProperty_RSRP0},
+    });
+}
+
+CNrRsrpNormalDockWidgetV7::~CNrRsrpNormalDockWidgetV7() = default;
+
+void CNrRsrpNormalDockWidgetV7::Slot_RsrpNormalTestStopDone(SEachItemOperationResult result)
+{
+    OnStopDone(result);
+}
+
+void CNrRsrpNormalDockWidgetV7::Slot_RsrpNormalTestDone(SEachItemOperationResult result)
+{
+    OnTestDone(result);
+}
+
+void CNrRsrpNormalDockWidgetV7::Slot_TriggerStopTest()
+{
+    TriggerStop();
+}
+
+void CNrRsrpNormalDockWidgetV7::on_m_start_clicked()
+{
+    StartTest();
+}
+
+void CNrRsrpNormalDockWidgetV7::on_m_stop_clicked()
+{
+    StopTest();
+}
+
+void CNrRsrpNormalDockWidgetV7::on_cmdIf_request_group1_memberProperty_dlFrequency_valueChanged(
+    int arg1)
+{
+    ShowUlFrequency(arg1);
+}
+
+void CNrRsrpNormalDockWidgetV7::Slot_RsrpRxTimerTimeout()
+{
+    FetchReport();
+}
+
+void CNrRsrpNormalDockWidgetV7::Slot_RsrpNormalFetchReportDone(SEachItemOperationResult result,
+                                                               std::string response)
+{
+    OnFetchDone(result, response);
+}
+
+void CNrRsrpNormalDockWidgetV7::on_resetPushButton_clicked()
+{
+    ResetCounter();
+}
+
+void CNrRsrpNormalDockWidgetV7::Slot_RsrpResetCounterDone(SEachItemOperationResult result)
+{
+    OnResetDone(result);
+}
+
+void CNrRsrpNormalDockWidgetV7::on_clearPushButton_clicked()
+{
+    ClearReport();
+}
+
+// The tables stand in the order of the list.
+void CNrRsrpNormalDockWidgetV7::on_cmdIf_request_group1_memberProperty_mimoType_activated(int index)
+{
+    m_ui->resultStack->setCurrentIndex(index);
+}
+
+void CNrRsrpNormalDockWidgetV7::Slot_RsrpClearReportDone(std::string result)
+{
+    OnClearDone(result);
+}
