@@ -136,6 +136,7 @@ SCalFault SaveCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
         return fault;
 
     std::vector<std::unique_ptr<CCalIniFile::CBatch>> batches;
+    batches.reserve(parts.size());
     for (const SCalFilePart &part : parts)
         batches.push_back(std::make_unique<CCalIniFile::CBatch>(*part.file));
     for (const SStop &stop : stops) {

@@ -1,6 +1,7 @@
 // Calibration files that can't be read or written, or hold anything but calibration data.
 #include <csignal>
 
+#include <sys/inotify.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -33,6 +34,20 @@ QByteArray Noise(int size)
     for (char &byte : bytes)
         byte = static_cast<char>(random());
     return bytes;
+}
+
+// How often the events of a watch put a file of that name in place.
+int CountSaves(int watch, const std::string &name)
+{
+    int count = 0;
+    alignas(inotify_event) char buffer[65536];
+    const ssize_t size = read(watch, buffer, sizeof buffer);
+    for (ssize_t at = 0; at < size;) {
+        const auto *event = reinterpret_cast<const inotify_event *>(buffer + at);
+        count += (event->mask & (IN_MOVED_TO | IN_CREATE)) && event->len > 0 && name == event->name;
+        at += static_cast<ssize_t>(sizeof(inotify_event)) + event->len;
+    }
+    return count;
 }
 
 // Runs the body in a child process that can't make a file longer than the limit, as on a full disk.
@@ -107,6 +122,24 @@ TEST_F(CalFileBrokenTest, ExportKeepsWhatElseTheFileHolds)
         ASSERT_EQ(SaveFile(item), kDone);
         EXPECT_EQ(Sections(m_folder.Bytes()).first(), QString("Of somebody else"));
         EXPECT_EQ(IniValue(m_folder.Bytes(), "Of somebody else", "k"), QString("1"));
+    });
+}
+
+TEST_F(CalFileBrokenTest, ExportIsOneSave)
+{
+    ForEachItem([&](ICalItemByL1Operation &item, const QByteArray &bare, const std::string &) {
+        ASSERT_EQ(LoadText(item, bare), kDone);
+        const int watch = inotify_init1(IN_NONBLOCK);
+        // With what comes between two saves, or else the kernel would merge them into one event.
+        ASSERT_GE(
+            inotify_add_watch(
+                watch,
+                QFileInfo(QString::fromStdString(m_folder.Path())).path().toUtf8().constData(),
+                IN_MOVED_TO | IN_CREATE | IN_MOVED_FROM | IN_DELETE),
+            0);
+        ASSERT_EQ(SaveFile(item), kDone);
+        EXPECT_EQ(CountSaves(watch, "cal.ini"), 1);
+        close(watch);
     });
 }
 

@@ -71,6 +71,15 @@ QByteArray BarePathLoss(CCalStore<Record> &store, const std::vector<SCalPlace> &
     return bytes;
 }
 
+template <typename Block>
+const Block *AddBlocks(FlashImage &image, const std::string &key, const Block *block, int count)
+{
+    std::vector<QByteArray> &blocks = image[key];
+    for (int i = 0; i < count; ++i)
+        blocks.push_back(BytesOf(*block++));
+    return block;
+}
+
 }  // namespace
 
 std::ostream &operator<<(std::ostream &stream, const SOutcome &outcome)
@@ -101,6 +110,57 @@ QByteArray CCalTest::SaveBytes(ICalItemByL1Operation &item)
     QFile::remove(QString::fromStdString(m_folder.Path("saved.ini")));
     EXPECT_EQ(SaveFile(item, "saved.ini"), kDone);
     return m_folder.Bytes("saved.ini");
+}
+
+void PlugLargest()
+{
+    const char *const profile = R"({"name": "largest with slots", "base": "largest", "gain": {
+        "hpm": {"t1": ["110", "010", "010", "010", "001", "001", "001"],
+                "t2": ["110 110 000", "111 111 110", "110 111 011", "110 110 000", "000 011 011",
+                       "000 010 000", "000 000 001"]},
+        "lpm": {"t1": ["100", "110", "110", "100", "010", "000", "001"],
+                "t2": ["100 000 000", "110 110 000", "100 110 000", "100 000 000", "000 010 000",
+                       "000 000 000", "000 000 001"]}}})";
+    ASSERT_EQ(VondSim_SetProfileText(profile), 0);
+    CTargetCapability::Reset();
+    VondSim_ClearJournal();
+}
+
+FlashImage ReadFlash()
+{
+    VondSim_ClearJournal();
+    EXPECT_EQ(CMultiRatAptProfileV7(ERadioKind::Nr).UploadFromFlash(), 0u);
+    EXPECT_EQ(CMultiRatPathLossV7(ERadioKind::Nr).UploadFromFlash(), 0u);
+    FlashImage image;
+    for (const SJournalCall &call : JournalOf(kGetCalData)) {
+        const auto answer = RecordOf<SMMGetCalDataCnfV7>(call.answer);
+        const SMMType1PathlossBlockV7 *type1 = answer.type1Block;
+        for (int i = 0; i < answer.type1Count; ++i)
+            type1 = AddBlocks(image, "T1 " + std::to_string(answer.type1[i].route), type1,
+                              answer.type1[i].blockCount);
+        const SMMType2PathlossBlockV7 *type2 = answer.type2Block;
+        for (int i = 0; i < answer.type2Count; ++i)
+            type2 = AddBlocks(image, "T2 " + std::to_string(answer.type2Route[i]), type2,
+                              answer.type2BlockCount[i]);
+        const SAptBlock *tx = answer.txBlock;
+        for (int i = 0; i < answer.txCount; ++i)
+            tx = AddBlocks(image,
+                           "TX " + std::to_string(answer.tx[i].route) + " " +
+                               std::to_string(answer.tx[i].bandwidth),
+                           tx, answer.tx[i].blockCount);
+    }
+    VondSim_ClearJournal();
+    return image;
+}
+
+FlashImage WithoutEmptyBlocks(FlashImage image)
+{
+    for (auto &[key, blocks] : image) {
+        const int at = key[1] == 'X' ? 92 : 4;
+        while (!blocks.empty() && blocks.back().mid(at, 64) == QByteArray(64, '\0'))
+            blocks.pop_back();
+    }
+    return image;
 }
 
 QStringList Sections(const QByteArray &bytes)

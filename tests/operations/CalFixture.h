@@ -9,8 +9,11 @@
 //   }
 #pragma once
 
+#include <map>
 #include <memory>
 #include <random>
+#include <string>
+#include <vector>
 
 #include <QStringList>
 
@@ -56,6 +59,15 @@ QStringList Sections(const QByteArray &bytes);
 QStringList SectionLines(const QByteArray &bytes, const QString &section);
 // Value of a key; a null text when it is absent.
 QString IniValue(const QByteArray &bytes, const QString &section, const QString &key);
+
+// The largest DUT with the handset's gain modes, of which a path loss record has room for all.
+void PlugLargest();
+
+// The blocks that the flash holds, by record, as an upload of both items brings them.
+using FlashImage = std::map<std::string, std::vector<QByteArray>>;
+FlashImage ReadFlash();
+// Without the trailing blocks that have no frequency, of which a file may add one.
+FlashImage WithoutEmptyBlocks(FlashImage image);
 
 // A file with every section of a kind of route in the DUT's table and all keys that a load needs,
 // without a value.
