@@ -33,6 +33,15 @@ bool EventLoopTurns()
     return WaitUntil([&] { return turns >= 20; }, 1000);
 }
 
+// The show after a reset builds the pages anew.
+bool ShowAnew(CRsrpSession &session)
+{
+    session->HidePlugin();
+    session->ShowPlugin();
+    return WaitUntil([&] { return session.Page() && session.StatusBar() == "Init done."; }) &&
+           session.Ready();
+}
+
 }  // namespace
 
 class RsrpLifetimeTest : public QObject
@@ -191,7 +200,7 @@ void RsrpLifetimeTest::resetDropsTheAnswer()
     QCOMPARE(CountCalls(function), 1);
     QCOMPARE(session.StatusBar(), status);
     // The page that comes next knows nothing of it.
-    QVERIFY(session.Ready());
+    QVERIFY(ShowAnew(session));
     QCOMPARE(session.Enabled(), QString("start reset clear rx tx"));
     QCOMPARE(session.Rows(), 0);
 }
@@ -209,7 +218,9 @@ void RsrpLifetimeTest::resetWhileTheFailureBoxIsOpen()
     QVERIFY(WaitUntil([&] { return !session.Page(); }));
     boxes.onBox = {};
     VondSim_ClearFaults();
-    QVERIFY(session.Running());
+    QVERIFY(ShowAnew(session));
+    session.Press("m_start");
+    QVERIFY(session.WaitForStatus("Rsrp start..."));
 }
 
 void RsrpLifetimeTest::unloadWhileAFetchIsInFlight()
