@@ -50,9 +50,10 @@ bool CNrDataModelCapUpdater::GetRxRoutesByBand(QStringList &routes, int routeTyp
         if (!m_target.GetRxCommonPathV7(table, false))
             return false;
         for (const SRxRouteInfoV7 &row : table) {
-            TRoutesByBand &ofType =
-                row.routeType == 1 ? m_rxType1RoutesByBand : m_rxType2RoutesByBand;
-            ofType[row.band].append(QString::number(row.route));
+            if (row.routeType == 1)
+                m_rxType1RoutesByBand[row.band].append(QString::number(row.route));
+            else if (row.routeType == 2)
+                m_rxType2RoutesByBand[row.band].append(QString::number(row.route));
         }
     }
     routes.clear();

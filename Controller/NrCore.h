@@ -96,10 +96,13 @@ private:
     bool IsC2kModem() const;
     // answer: the document with results, of the page that answers with one.
     int RunTestStep(int pageId, QJsonObject document, std::string &answer);
-    template <typename Operation, typename Command>
-    int RunCommand(Operation &operation, uint32_t (Operation::*run)(const Command *),
-                   const Command &command);
+    template <auto Build, auto Operation, auto Run>
+    int RunCommand(QJsonObject &document, std::string &answer);
     int RunRssiTest(QJsonObject &document, std::string &answer);
+    // The document with what read has put into it, in its turn at the target; on another generation
+    // read is not called.
+    template <typename Read>
+    std::string FillDocument(const std::string &document, Read read);
 
     PortableCriticalSection m_targetLock;
     CTargetCapability m_target;

@@ -27,13 +27,14 @@ constexpr SReadRow kDlFrequency{
     "cmdIf.response.group1.memberProperty.dlFrequency.trait.defaultValue", "ERROR",
     "Get DL freq result from target failed\n ", "Update DL freq result failed"};
 
-// error: the operation's text of a failed read, null for a good one.
-void ShowRead(QJsonObject &document, const SReadRow &row, const QString &value,
-              const QString *error)
+// A status other than 0 shows the row's words in place of the value and reports the operation's.
+void ShowRead(QJsonObject &document, const SReadRow &row, uint32_t status, const QString &value,
+              const IGeneralOperation &operation)
 {
-    if (error)
-        AddModelUpdateResult(document, false, QLatin1String(row.readFailed) + *error);
-    const QString text = error ? QString::fromLatin1(row.failedText) : value;
+    if (status != 0)
+        AddModelUpdateResult(document, false,
+                             QLatin1String(row.readFailed) + operation.GetErrorMessage());
+    const QString text = status == 0 ? value : QString::fromLatin1(row.failedText);
     if (ModifyJsonValue(document, QString::fromLatin1(row.path), text, 0))
         return;
     qCCritical(lcCore).noquote() << GetJsonValueConst(document, "modelName").toString()
@@ -41,93 +42,92 @@ void ShowRead(QJsonObject &document, const SReadRow &row, const QString &value,
     AddModelUpdateResult(document, false, QString::fromLatin1(row.updateFailed));
 }
 
+SEachItemOperationResult NothingRan()
+{
+    return {QString(), eStatusNotExecuted, QString()};
+}
+
 }  // namespace
 
-std::string CNrCore::GetPdValue(std::string document)
+template <typename Read>
+std::string CNrCore::FillDocument(const std::string &document, Read read)
 {
     const CLockSentry lock(m_targetLock);
     QJsonObject object = ModelFromText(document);
-    if (m_target.GetNrGeneration() == 1) {
-        int16_t value = 0;
-        const bool done = m_singleToneTx.GetPdValue(kPdNr, &value) == 0;
-        const QString error = m_singleToneTx.GetErrorMessage();
-        ShowRead(object, kPdValue, QString::number(value * kDbmPerPdUnit, 'g', 6),
-                 done ? nullptr : &error);
-    }
+    if (m_target.GetNrGeneration() == 1)
+        read(object);
     return ModelToText(object);
+}
+
+std::string CNrCore::GetPdValue(std::string document)
+{
+    return FillDocument(document, [this](QJsonObject &object) {
+        int16_t value = 0;
+        const uint32_t status = m_singleToneTx.GetPdValue(kPdNr, &value);
+        ShowRead(object, kPdValue, status, QString::number(value * kDbmPerPdUnit, 'g', 6),
+                 m_singleToneTx);
+    });
 }
 
 std::string CNrCore::GetDlFreqForPuschTx(QString pageName, std::string document)
 {
-    const CLockSentry lock(m_targetLock);
-    QJsonObject object = ModelFromText(document);
-    if (m_target.GetNrGeneration() == 1) {
+    return FillDocument(document, [this, &pageName](QJsonObject &object) {
         const bool isNormal = m_pageMap[pageName] == static_cast<int>(EPageId::PuschTxNormal);
         const SNrDlFreqCmdV7 command = m_cmdBuilder.GetPuschDlFreqCmd(object, isNormal);
-        SNrDlFreqCnfV7 result = {};
-        const bool done = m_puschTx.GetDlFreq(&command, &result) == 0;
-        const QString error = m_puschTx.GetErrorMessage();
-        ShowRead(object, kDlFrequency, QString::number(result.dlFrequency),
-                 done ? nullptr : &error);
-    }
-    return ModelToText(object);
+        SNrDlFreqCnfV7 downlink = {};
+        const uint32_t status = m_puschTx.GetDlFreq(&command, &downlink);
+        ShowRead(object, kDlFrequency, status, QString::number(downlink.dlFrequency), m_puschTx);
+    });
 }
 
 std::string CNrCore::FetchMixRxReport(QString pageName, std::string document,
                                       SEachItemOperationResult &result)
 {
-    const CLockSentry lock(m_targetLock);
-    QJsonObject object = ModelFromText(document);
-    result = {QString(), eStatusNotExecuted, QString()};
-    if (m_target.GetNrGeneration() != 1)
-        return ModelToText(object);
-
-    NRfTestResult_GetMixRxReportV7 report = {};
-    const uint32_t status = m_rsrp.GetMixRxReport(&report);
-    const int page = m_pageMap[pageName];
-    if (page == static_cast<int>(EPageId::RsrpForce))
-        m_responseBuilder.UpdateMixRxResultV7(object, report, status == 0);
-    else if (page == static_cast<int>(EPageId::RsrpNormal))
-        m_responseBuilder.UpdateMixRxNormalResultV7(object, report, status == 0);
-    else
-        AddModelUpdateResult(object, false,
-                             QLatin1String("No support such page for fetch MixRX report --> ") +
-                                 pageName);
-    result = {pageName, static_cast<int>(status), m_rsrp.GetErrorMessage()};
-    return ModelToText(object);
+    result = NothingRan();
+    return FillDocument(document, [&](QJsonObject &object) {
+        NRfTestResult_GetMixRxReportV7 report = {};
+        const uint32_t status = m_rsrp.GetMixRxReport(&report);
+        switch (static_cast<EPageId>(m_pageMap[pageName])) {
+        case EPageId::RsrpForce:
+            m_responseBuilder.UpdateMixRxResultV7(object, report, status == 0);
+            break;
+        case EPageId::RsrpNormal:
+            m_responseBuilder.UpdateMixRxNormalResultV7(object, report, status == 0);
+            break;
+        default:
+            AddModelUpdateResult(object, false,
+                                 QLatin1String("No support such page for fetch MixRX report --> ") +
+                                     pageName);
+        }
+        result = {pageName, static_cast<int>(status), m_rsrp.GetErrorMessage()};
+    });
 }
 
 SEachItemOperationResult CNrCore::ResetMixRxCounter()
 {
     const CLockSentry lock(m_targetLock);
     if (m_target.GetNrGeneration() != 1)
-        return {QString(), eStatusNotExecuted, QString()};
+        return NothingRan();
     const uint32_t status = m_rsrp.ResetMixRxReport();
     return {QString(), static_cast<int>(status), m_rsrp.GetErrorMessage()};
 }
 
 std::string CNrCore::ClearMixRxReport(std::string document)
 {
-    const CLockSentry lock(m_targetLock);
-    QJsonObject object = ModelFromText(document);
-    if (m_target.GetNrGeneration() == 1)
-        m_responseBuilder.CleanMixRxReportV7(object);
-    return ModelToText(object);
+    return FillDocument(
+        document, [this](QJsonObject &object) { m_responseBuilder.CleanMixRxReportV7(object); });
 }
 
 std::string CNrCore::RssiGainCalculate(std::string document, SEachItemOperationResult &result)
 {
-    const CLockSentry lock(m_targetLock);
-    QJsonObject object = ModelFromText(document);
-    result = {QString(), eStatusNotExecuted, QString()};
-    if (m_target.GetNrGeneration() != 1)
-        return ModelToText(object);
-
-    SMMGainSearchCnfV7 gains = {};
-    const uint32_t status = m_rssi.RunGainSearch(m_cmdBuilder.GetGainSearchCmdV7(object), &gains);
-    result.status = static_cast<int>(status);
-    if (status != 0)
-        result.message = m_rssi.GetErrorMessage();
-    m_responseBuilder.UpdateRssiGainResultV7(object, gains, status == 0);
-    return ModelToText(object);
+    result = NothingRan();
+    return FillDocument(document, [&](QJsonObject &object) {
+        SMMGainSearchCnfV7 gains = {};
+        const uint32_t status =
+            m_rssi.RunGainSearch(m_cmdBuilder.GetGainSearchCmdV7(object), &gains);
+        result.status = static_cast<int>(status);
+        if (status != 0)
+            result.message = m_rssi.GetErrorMessage();
+        m_responseBuilder.UpdateRssiGainResultV7(object, gains, status == 0);
+    });
 }

@@ -35,59 +35,45 @@ void CNrCore::TestInternal(const QString &pageName, const std::string &document)
     emit Signal_TestDone({pageName, status, m_errorMessage}, answer);
 }
 
-template <typename Operation, typename Command>
-int CNrCore::RunCommand(Operation &operation, uint32_t (Operation::*run)(const Command *),
-                        const Command &command)
+// Builds the page's command and runs the page's operation with it.
+template <auto Build, auto Operation, auto Run>
+int CNrCore::RunCommand(QJsonObject &document, std::string &)
 {
-    const uint32_t status = (operation.*run)(&command);
-    m_errorMessage = operation.GetErrorMessage();
+    const auto command = (m_cmdBuilder.*Build)(document);
+    const uint32_t status = ((this->*Operation).*Run)(&command);
+    m_errorMessage = (this->*Operation).GetErrorMessage();
     return static_cast<int>(status);
 }
 
 int CNrCore::RunTestStep(int pageId, QJsonObject document, std::string &answer)
 {
+    using Builder = CNrCoreCmdBuilder;
     struct SStep
     {
         EPageId page;
-        int (*run)(CNrCore &core, QJsonObject &document, std::string &answer);
+        int (CNrCore::*run)(QJsonObject &document, std::string &answer);
     };
     static constexpr SStep kSteps[] = {
-        {EPageId::Rssi, [](CNrCore &core, QJsonObject &document,
-                           std::string &answer) { return core.RunRssiTest(document, answer); }},
-        {EPageId::ContRx,
-         [](CNrCore &core, QJsonObject &document, std::string &) {
-             return core.RunCommand(core.m_contRx, &CMultiRatContRxV7::RunContRx,
-                                    core.m_cmdBuilder.GetContRxCmdV7(document));
-         }},
-        {EPageId::SingleToneTx,
-         [](CNrCore &core, QJsonObject &document, std::string &) {
-             return core.RunCommand(core.m_singleToneTx, &CMultiRatSingleToneTxV7::RunSingleTone,
-                                    core.m_cmdBuilder.GetSingleToneTxCmdV7(document));
-         }},
-        {EPageId::PuschTxForce,
-         [](CNrCore &core, QJsonObject &document, std::string &) {
-             return core.RunCommand(core.m_puschTx, &CNrPuschTxV7::RunPuschTx,
-                                    core.m_cmdBuilder.GetPuschTxForceCmdV7(document));
-         }},
-        {EPageId::PuschTxNormal,
-         [](CNrCore &core, QJsonObject &document, std::string &) {
-             return core.RunCommand(core.m_puschTx, &CNrPuschTxV7::RunPuschTx,
-                                    core.m_cmdBuilder.GetPuschTxNormalCmdV7(document));
-         }},
+        {EPageId::Rssi, &CNrCore::RunRssiTest},
+        {EPageId::ContRx, &CNrCore::RunCommand<&Builder::GetContRxCmdV7, &CNrCore::m_contRx,
+                                               &CMultiRatContRxV7::RunContRx>},
         {EPageId::RsrpForce,
-         [](CNrCore &core, QJsonObject &document, std::string &) {
-             return core.RunCommand(core.m_rsrp, &CNrRsrpV7::RunRsrp,
-                                    core.m_cmdBuilder.GetRsrpForceCmdV7(document));
-         }},
+         &CNrCore::RunCommand<&Builder::GetRsrpForceCmdV7, &CNrCore::m_rsrp, &CNrRsrpV7::RunRsrp>},
         {EPageId::RsrpNormal,
-         [](CNrCore &core, QJsonObject &document, std::string &) {
-             return core.RunCommand(core.m_rsrp, &CNrRsrpV7::RunRsrp,
-                                    core.m_cmdBuilder.GetRsrpNormalCmdV7(document));
-         }},
+         &CNrCore::RunCommand<&Builder::GetRsrpNormalCmdV7, &CNrCore::m_rsrp, &CNrRsrpV7::RunRsrp>},
+        {EPageId::SingleToneTx,
+         &CNrCore::RunCommand<&Builder::GetSingleToneTxCmdV7, &CNrCore::m_singleToneTx,
+                              &CMultiRatSingleToneTxV7::RunSingleTone>},
+        {EPageId::PuschTxForce,
+         &CNrCore::RunCommand<&Builder::GetPuschTxForceCmdV7, &CNrCore::m_puschTx,
+                              &CNrPuschTxV7::RunPuschTx>},
+        {EPageId::PuschTxNormal,
+         &CNrCore::RunCommand<&Builder::GetPuschTxNormalCmdV7, &CNrCore::m_puschTx,
+                              &CNrPuschTxV7::RunPuschTx>},
     };
     for (const SStep &step : kSteps) {
         if (static_cast<int>(step.page) == pageId)
-            return m_target.GetNrGeneration() == 1 ? step.run(*this, document, answer)
+            return m_target.GetNrGeneration() == 1 ? (this->*step.run)(document, answer)
                                                    : eStatusNotExecuted;
     }
     return eStatusNotExecuted;

@@ -45,9 +45,9 @@ constexpr bool PositionsAreIds()
 static_assert(PositionsAreIds(), "kPages is indexed by page id");
 
 constexpr const char *kShownPages[] = {
-    "CNrContRxDockWidgetV7",
-    "CNrRsrpForceDockWidgetV7",
-    "CNrRsrpNormalDockWidgetV7",
+    "CNrRssiDockWidgetV7",          "CNrContRxDockWidgetV7",       "CNrRsrpForceDockWidgetV7",
+    "CNrRsrpNormalDockWidgetV7",    "CNrSingleToneTxDockWidgetV7", "CNrPuschTxForcedDockWidgetV7",
+    "CNrPuschTxNormalDockWidgetV7",
 };
 
 }  // namespace

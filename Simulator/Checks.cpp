@@ -52,7 +52,7 @@ SVerdict CheckUplink(const SProfile &profile, const SCarrierPlace &place)
         if (FindRoute(profile.txRoutes, place.route, place.band) == nullptr)
             return EResult::RouteNotOnBand;
     }
-    return CheckFrequency(profile, place, LimitsOf(profile.txLimits, place, band->uplink));
+    return CheckFrequency(profile, place, UplinkLimits(profile, place));
 }
 
 SVerdict CheckDownlink(const SProfile &profile, const SCarrierPlace &place)
@@ -70,6 +70,11 @@ SVerdict CheckDownlink(const SProfile &profile, const SCarrierPlace &place)
             return EResult::RouteNotOnBand;
     }
     return CheckFrequency(profile, place, DownlinkLimits(profile, place));
+}
+
+SFreqLimits UplinkLimits(const SProfile &profile, const SCarrierPlace &place)
+{
+    return LimitsOf(profile.txLimits, place, FindBand(profile, place.band)->uplink);
 }
 
 SFreqLimits DownlinkLimits(const SProfile &profile, const SCarrierPlace &place)

@@ -28,7 +28,9 @@ struct SCarrierPlace
 
 SVerdict CheckUplink(const SProfile &profile, const SCarrierPlace &place);
 SVerdict CheckDownlink(const SProfile &profile, const SCarrierPlace &place);
-// What the receiver of the place takes: the route's own limits, otherwise those of the listed band.
+// What the transmitter or receiver of the place takes: the route's own limits, otherwise those of
+// the listed band.
+SFreqLimits UplinkLimits(const SProfile &profile, const SCarrierPlace &place);
 SFreqLimits DownlinkLimits(const SProfile &profile, const SCarrierPlace &place);
 
 // Finds the RX route that a multi-mode command means; routeKind 3 is right for a type 2 route with

@@ -33,9 +33,9 @@ constexpr std::array<SFunction, FUNCTION_COUNT> FUNCTIONS = {{
     {F::ResetMixRxReport, "VOND_NRf_ResetMixRxReportV7_r", K::Target, false},
     {F::NrTestStop, "VOND_NRf_TestStop_r", K::Target, false},
     {F::MultiModeTestStop, "VOND_MMRf_TestStopV7_r", K::Target, false},
-    {F::GetCalBlkInfo, "VOND_MMRf_GetCalBlkInfoV7_r", K::NotBuilt, false},
-    {F::GetCalData, "VOND_MMRf_GetCalDataV7_r", K::NotBuilt, false},
-    {F::SetCalData, "VOND_MMRf_SetCalDataV7_r", K::NotBuilt, false},
+    {F::GetCalBlkInfo, "VOND_MMRf_GetCalBlkInfoV7_r", K::Target, false},
+    {F::GetCalData, "VOND_MMRf_GetCalDataV7_r", K::Target, false},
+    {F::SetCalData, "VOND_MMRf_SetCalDataV7_r", K::Target, false},
     {F::ModemActiveIndex, "VondConn_GetMdActiveIdx", K::Connection, false},
     {F::ModemService, "VondConn_GetMdSrv", K::Connection, false},
 }};

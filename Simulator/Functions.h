@@ -44,8 +44,7 @@ enum class EFunctionKind
 {
     Library,     // answered by the library itself: no target, no timeout; returns a text
     Connection,  // answered from the connection's state: no timeout
-    Target,      // reaches the target
-    NotBuilt     // reaches the target, which does not offer it
+    Target       // reaches the target
 };
 
 struct SFunction

@@ -11,6 +11,7 @@
 #include "Vond/VondCapabilityRecords.h"
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -101,6 +102,23 @@ private:
     }
 };
 
+// Subbands of the calibration records of one kind; by the width of the limits, where no number is
+// given.
+struct SProfileSubbands
+{
+    std::optional<int> fallback;
+    std::map<uint16_t, int> byBand;
+};
+
+// What the flash holds when no file brings it.
+struct SProfileCalibration
+{
+    uint32_t seed = 1;
+    SProfileSubbands tx;
+    SProfileSubbands rxType1;
+    SProfileSubbands rxType2;
+};
+
 struct SProfile
 {
     std::string name;
@@ -123,6 +141,7 @@ struct SProfile
     std::vector<SProfileRouteLimits> rxLimits;
     SMMRfRxGainInfoV7 gain[VOND_RX_POWER_MODES] = {};
     SProfileRadio radio;
+    SProfileCalibration calibration;
     std::vector<std::string> faults;  // JSON objects, see Faults.h
 };
 

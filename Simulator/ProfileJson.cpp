@@ -1,6 +1,7 @@
 #include "Simulator/ProfileJson.h"
 
 #include "Simulator/BuiltinProfiles.h"
+#include "Simulator/ProfileCalibration.h"
 #include "Simulator/ProfileRadio.h"
 #include "Simulator/ProfileTables.h"
 
@@ -129,6 +130,7 @@ SProfile ReadProfile(const json &whole)
     ReadRoutes(reader, profile);
     ReadGainTables(reader, profile);
     ReadRadio(reader, profile);
+    ReadCalibration(reader, profile);
     ReadFaults(reader, profile);
     reader.Done();
     CheckTables(profile);

@@ -54,7 +54,7 @@ uint64_t NanosecondsSince(Clock::time_point start)
 
 bool HasTimeout(const SFunction &function)
 {
-    return function.kind == EFunctionKind::Target || function.kind == EFunctionKind::NotBuilt;
+    return function.kind == EFunctionKind::Target;
 }
 
 // Waits as long as the fault says, but no longer than the call may take. False: it timed out.
@@ -71,8 +71,6 @@ bool Delay(const SCall &call, const SFunction &function, uint64_t delayMs)
 
 bool Offers(const SProfile &profile, const SFunction &function)
 {
-    if (function.kind == EFunctionKind::NotBuilt)
-        return false;
     if (function.kind != EFunctionKind::Target || profile.allFunctions ||
         function.id == EFunction::QueryFunctionSupported)
         return true;
@@ -259,6 +257,7 @@ void CSimulator::PutInPlace(SProfile profile, std::string text)
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_dut.profile = std::move(profile);
     m_dut.radio = CRadio(m_dut.profile.radio.seed);
+    m_dut.flash = CFlash(Environment("VOND_SIM_FLASH"));
     m_faults.SetProfileFaults(faults);
     m_profileText = std::move(text);
 }

@@ -1,5 +1,5 @@
-// The simulated DUT as a whole: the profile in force, its radio, faults, gates and journal, and the
-// one way that every call takes through them: gate, fault, delay, body, journal.
+// The simulated DUT as a whole: the profile in force, its radio and flash, faults, gates and
+// journal, and the one way that every call takes through them: gate, fault, delay, body, journal.
 //
 // All functions may be called from any thread. The state has one lock; it is held while a body
 // runs, never while a call waits at a gate or for a delay. The object is made at the first call and
@@ -11,6 +11,7 @@
 #pragma once
 
 #include "Simulator/Faults.h"
+#include "Simulator/Flash.h"
 #include "Simulator/Gates.h"
 #include "Simulator/Journal.h"
 #include "Simulator/Profile.h"
@@ -25,6 +26,7 @@ struct SDut
 {
     SProfile profile;
     CRadio radio;
+    CFlash flash;
 };
 
 // Bytes that a caller handed over; null with a size is a null pointer where a record must be.

@@ -1,5 +1,6 @@
 // The C interface of VondCore, one short function each: what the call carries, and who answers it.
 
+#include "Simulator/CalTransfers.h"
 #include "Simulator/CapabilityAnswers.h"
 #include "Simulator/Simulator.h"
 #include "Vond/VondCore.h"
@@ -77,11 +78,6 @@ const char *NameOfChip(EFunction function, uint32_t chipId, SProfileChip SProfil
     return CSimulator::Instance().RunText({function, 0, 0, RequestOf(&chipId)}, [&](SDut &dut) {
         return Kept(ChipName(dut.profile.*chip, chipId));
     });
-}
-
-int32_t NotOffered(EFunction function, uint32_t h, uint32_t t)
-{
-    return Run({function, h, t}, [](SDut &) { return EResult::NotOffered; });
 }
 
 }  // namespace
@@ -266,19 +262,30 @@ VOND_RESULT VOND_MMRf_TestStopV7_r(uint32_t h, uint32_t t, uint32_t kind)
                [&](SDut &dut) { return dut.radio.StopMultiMode(kind); });
 }
 
-VOND_RESULT VOND_MMRf_GetCalBlkInfoV7_r(uint32_t h, uint32_t t, uint32_t, void *)
+VOND_RESULT VOND_MMRf_GetCalBlkInfoV7_r(uint32_t h, uint32_t t, uint32_t radioKind,
+                                        SMMCalBlkInfoCnfV7 *result)
 {
-    return NotOffered(EFunction::GetCalBlkInfo, h, t);
+    return Run(
+        {EFunction::GetCalBlkInfo, h, t, RequestOf(&radioKind), AnswerOf(result)},
+        [&](SDut &dut) { return AnswerCalBlkInfo(dut.profile, dut.flash, radioKind, *result); });
 }
 
-VOND_RESULT VOND_MMRf_GetCalDataV7_r(uint32_t h, uint32_t t, const void *, void *)
+VOND_RESULT VOND_MMRf_GetCalDataV7_r(uint32_t h, uint32_t t, const SMMGetCalDataReqV7 *request,
+                                     SMMGetCalDataCnfV7 *result)
 {
-    return NotOffered(EFunction::GetCalData, h, t);
+    return Run({EFunction::GetCalData, h, t, RequestOf(request), AnswerOf(result)}, [&](SDut &dut) {
+        AnswerCalData(dut.profile, dut.flash, *request, *result);
+        return SVerdict();
+    });
 }
 
-VOND_RESULT VOND_MMRf_SetCalDataV7_r(uint32_t h, uint32_t t, const void *, void *)
+VOND_RESULT VOND_MMRf_SetCalDataV7_r(uint32_t h, uint32_t t, const SMMSetCalDataReqV7 *request,
+                                     SMMSetCalDataCnfV7 *result)
 {
-    return NotOffered(EFunction::SetCalData, h, t);
+    return Run({EFunction::SetCalData, h, t, RequestOf(request), AnswerOf(result)}, [&](SDut &dut) {
+        StoreCalData(dut.profile, dut.flash, *request, *result);
+        return SVerdict();
+    });
 }
 
 }  // extern "C"

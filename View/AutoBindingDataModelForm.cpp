@@ -8,6 +8,33 @@
 #include "Support/Log.h"
 #include "View/AutoBindingDataModelDockWidget.h"
 
+namespace {
+
+// Holds a window at its size. A new page stands beside the earlier ones until it is ready, and the
+// window would grow to the width of both.
+class CSizeHold
+{
+public:
+    explicit CSizeHold(QWidget *window) : m_window(window) { window->setFixedSize(window->size()); }
+    ~CSizeHold() { Release(); }
+    CSizeHold(const CSizeHold &) = delete;
+    CSizeHold &operator=(const CSizeHold &) = delete;
+
+    void Release()
+    {
+        if (!m_window)
+            return;
+        m_window->setMinimumSize(0, 0);
+        m_window->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        m_window.clear();
+    }
+
+private:
+    QPointer<QWidget> m_window;
+};
+
+}  // namespace
+
 CAutoBindingDataModelForm::CAutoBindingDataModelForm(QWidget *parent) : QMainWindow(parent)
 {
     m_messageBox.SetOwner(this);
@@ -119,6 +146,7 @@ void CAutoBindingDataModelForm::InitPage(const QStringList &pageList)
 
     QStringList failedPages;
     QPointer<CAutoBindingDataModelDockWidget> firstPage;
+    CSizeHold size(this);
     for (const QString &name : pageList) {
         CAutoBindingDataModelDockWidget *page = CreatePage(name, failedPages);
         if (!page)
@@ -133,6 +161,7 @@ void CAutoBindingDataModelForm::InitPage(const QStringList &pageList)
         else
             firstPage = page;
     }
+    size.Release();
     FinishInit(menu, firstPage, failedPages);
 }
 

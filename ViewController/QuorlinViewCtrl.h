@@ -21,6 +21,7 @@
 #include "Controller/Interface/CoreInterface.h"
 #include "Model/OperationResult.h"
 
+class CNrCore;
 enum class EPageId;
 
 class CQuorlinViewCtrl : public QObject
@@ -31,9 +32,8 @@ public:
     // The host's target handle, for all calls to the target from now on.
     static void SetTargetHandle(uint32_t handle);
 
-    // On the calling thread: the support check blocks on the link, the reset never does. Documents
-    // and page lists that were asked for before a reset are of the old target: none arrives after
-    // it.
+    // On the calling thread: the support check blocks on the link, the reset never does. What was
+    // asked for before a reset is of the old target: no answer arrives after it.
     SRfSupportStatus GetSupportStatus();
     void ResetTargetCache();
 
@@ -119,12 +119,12 @@ private slots:
     void Slot_TestStopDone(SEachItemOperationResult result);
 
 private:
-    using DataModelSignal = void (CQuorlinViewCtrl::*)(std::string);
+    using DocumentSignal = void (CQuorlinViewCtrl::*)(std::string);
     using ResultSignal = void (CQuorlinViewCtrl::*)(SEachItemOperationResult);
     using ResponseSignal = void (CQuorlinViewCtrl::*)(SEachItemOperationResult, std::string);
     using TestDoneSlot = void (CQuorlinViewCtrl::*)(SEachItemOperationResult, std::string);
 
-    void RequestDataModel(const char *internalName, EPageId page, DataModelSignal answer);
+    void RequestDataModel(const char *internalName, EPageId page, DocumentSignal answer);
     void RequestTest(const char *internalName, EPageId page, std::string document,
                      TestDoneSlot done);
     void RequestStop(const char *internalName, bool isNr);
@@ -135,9 +135,13 @@ private:
     // Passes a test's answer on to the page, without the document.
     void PassAnswer(EPageId page, const SEachItemOperationResult &result, ResultSignal signal);
 
+    template <typename... Answers>
+    void AwaitAnswer(void (CNrCore::*signal)(Answers...),
+                     void (CQuorlinViewCtrl::*done)(Answers...));
+
     // Job: CNrCore & -> std::tuple<Answers...>.
     template <typename Job, typename... Answers>
-    void RunOnPool(const char *internalName, Job job, void (CQuorlinViewCtrl::*signal)(Answers...));
+    void RunOnPool(const char *internalName, void (CQuorlinViewCtrl::*signal)(Answers...), Job job);
 
     QFuture<void> m_future;  // job last started; kept, never waited on
     int m_epoch = 0;         // changes with a reset

@@ -11,6 +11,7 @@
 //   if (VOND_MMRf_GetRouteConfigV7_r(handle, 10000, &kind, &config) != VOND_SUCCESS) ...
 #pragma once
 
+#include "Vond/VondCalRecords.h"
 #include "Vond/VondCapabilityRecords.h"
 #include "Vond/VondCommandRecords.h"
 #include "Vond/VondResultRecords.h"
@@ -76,9 +77,13 @@ VOND_RESULT VOND_NRf_ResetMixRxReportV7_r(uint32_t h, uint32_t t);
 VOND_RESULT VOND_NRf_TestStop_r(uint32_t h, uint32_t t);
 VOND_RESULT VOND_MMRf_TestStopV7_r(uint32_t h, uint32_t t, uint32_t kind);
 
-// Calibration data in flash.
-VOND_RESULT VOND_MMRf_GetCalBlkInfoV7_r(uint32_t h, uint32_t t, uint32_t radioKind, void *result);
-VOND_RESULT VOND_MMRf_GetCalDataV7_r(uint32_t h, uint32_t t, const void *request, void *result);
-VOND_RESULT VOND_MMRf_SetCalDataV7_r(uint32_t h, uint32_t t, const void *request, void *result);
+// Calibration data in flash. radioKind: 0 LTE side, 1 NR. In both transfers the verdict of the
+// answer comes before the result: see SMMCalVerdictV7.
+VOND_RESULT VOND_MMRf_GetCalBlkInfoV7_r(uint32_t h, uint32_t t, uint32_t radioKind,
+                                        SMMCalBlkInfoCnfV7 *result);
+VOND_RESULT VOND_MMRf_GetCalDataV7_r(uint32_t h, uint32_t t, const SMMGetCalDataReqV7 *request,
+                                     SMMGetCalDataCnfV7 *result);
+VOND_RESULT VOND_MMRf_SetCalDataV7_r(uint32_t h, uint32_t t, const SMMSetCalDataReqV7 *request,
+                                     SMMSetCalDataCnfV7 *result);
 
 }  // extern "C"

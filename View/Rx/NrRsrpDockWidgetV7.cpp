@@ -1,5 +1,7 @@
 #include "View/Rx/NrRsrpDockWidgetV7.h"
 
+#include <algorithm>
+
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -29,6 +31,7 @@ CNrRsrpDockWidgetV7::CNrRsrpDockWidgetV7(const SRsrpPage &page, QWidget *parent)
     : CAutoBindingDataModelDockWidget(parent), m_page(page),
       m_viewCtrl(std::make_unique<CQuorlinViewCtrl>())
 {
+    m_reportTimer.setObjectName(QStringLiteral("reportTimer"));
     connect(&m_reportTimer, &QTimer::timeout, this, m_page.onTick);
 }
 
@@ -112,6 +115,13 @@ void CNrRsrpDockWidgetV7::RestoreInputs()
         input.first->setEnabled(input.second);
 }
 
+bool CNrRsrpDockWidgetV7::WasOn(const QWidget *widget) const
+{
+    return std::any_of(m_inputs.begin(), m_inputs.end(), [widget](const auto &input) {
+        return input.first == widget && input.second;
+    });
+}
+
 void CNrRsrpDockWidgetV7::ShowIdle()
 {
     for (const auto &input : qAsConst(m_inputs))
@@ -177,7 +187,7 @@ void CNrRsrpDockWidgetV7::TriggerStop()
 {
     if (IsOn(m_widgets.stop))
         StopTest();
-    else if (m_isResetting && m_reportTimer.isActive())
+    else if (m_isResetting && WasOn(m_widgets.stop))
         m_stopAfterReset = true;
 }
 
@@ -288,6 +298,8 @@ void CNrRsrpDockWidgetV7::ShapeResults()
 // The table of offsets holds the distance from DL to UL of each band with a pair of them.
 void CNrRsrpDockWidgetV7::ShowUlFrequency(int dlFrequency)
 {
+    if (!m_modelReady)
+        return;
     const QString offsets = PathFromObjectName(m_widgets.ulFrequency->objectName()) +
                             QLatin1String(".trait.valuePair.");
     const QJsonValue offset =

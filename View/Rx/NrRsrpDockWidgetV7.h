@@ -121,6 +121,8 @@ private:
     // Remembers which inputs and buttons are on, and turns them off; turns on what was.
     void DisableInputs();
     void RestoreInputs();
+    // What RestoreInputs would give the widget back.
+    bool WasOn(const QWidget *widget) const;
     void ShowIdle();
     void RequestClear(const std::string &document);
     bool AdoptReports(const std::string &response);
@@ -134,7 +136,7 @@ private:
     SRsrpWidgets m_widgets = {};
     std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
     QVector<QPair<QWidget *, bool>> m_inputs;  // input groups and buttons, and whether each was on
-    QTimer m_reportTimer;
+    QTimer m_reportTimer{this};
     std::string m_documentText;  // m_dataModel from Start on; a run of days makes it megabytes long
     bool m_isFetching = false;
     bool m_isClearing = false;

@@ -2,46 +2,9 @@
 //
 // The expected documents are derived from the DUT's and 3GPP's tables apart from the updater
 // (expected/make_expected.py). A difference is told by its path.
-#include <QFile>
-#include <QJsonDocument>
-
-#include "Controller/NrDataModelCapUpdater.h"
-#include "Controller/PageTable.h"
-#include "Model/ModelResources.h"
-#include "tests/operations/TargetFixture.h"
+#include "tests/capability/UpdaterFixture.h"
 
 namespace {
-
-QJsonObject ReadObject(const QString &path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    QJsonParseError error;
-    const QJsonObject object = QJsonDocument::fromJson(file.readAll(), &error).object();
-    EXPECT_EQ(error.error, QJsonParseError::NoError) << qPrintable(error.errorString());
-    return object;
-}
-
-QString Text(const QJsonValue &value)
-{
-    return QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact));
-}
-
-void Compare(const QJsonValue &actual, const QJsonValue &expected, const QString &path,
-             QStringList &differences)
-{
-    if (actual == expected)
-        return;
-    if (!actual.isObject() || !expected.isObject()) {
-        differences.append(path + ": " + Text(actual) + " instead of " + Text(expected));
-        return;
-    }
-    QStringList keys = actual.toObject().keys() + expected.toObject().keys();
-    keys.removeDuplicates();
-    for (const QString &key : qAsConst(keys))
-        Compare(actual.toObject().value(key), expected.toObject().value(key), path + "/" + key,
-                differences);
-}
 
 struct SCase
 {
@@ -55,42 +18,27 @@ const SCase kDuts[] = {
     {"odd", CAPABILITY_TESTS "/profiles/odd.json", CAPABILITY_TESTS "/expected/odd/"},
 };
 
-class ExpectedDocument : public CTargetTest,
+class ExpectedDocument : public CUpdaterTest,
                          public ::testing::WithParamInterface<std::tuple<SCase, EPageId>>
 {
 };
 
 TEST_P(ExpectedDocument, IsWhatTheDriverMakesOfTheResource)
 {
-    InitModelResources();
     const auto &[dut, id] = GetParam();
-    const SPageRow &page = FindPage(id);
     Plug(dut.profile);
-    CNrDataModelCapUpdater updater;
-    updater.ResetCapabilityCache();
-    QJsonObject document = ReadObject(page.resource);
-    const bool done = (updater.*page.driver)(document);
-
-    const QString name = QString(page.resource).mid(2);
-    const QJsonObject expected = ReadObject(dut.folder + name);
-    QStringList differences;
-    Compare(document, expected, QString(), differences);
-    EXPECT_TRUE(differences.isEmpty()) << differences.size() << "\n"
-                                       << qPrintable(differences.mid(0, 20).join('\n'));
-    EXPECT_EQ(done, !expected.contains("modelIntegrity"));
+    const QJsonObject document = Patched(id);
+    const QJsonObject expected = ReadObject(dut.folder + QString(FindPage(id).resource).mid(2));
+    EXPECT_EQ(Differences(document, expected), "");
+    EXPECT_EQ(m_isDone, !expected.contains("modelIntegrity"));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Pages, ExpectedDocument,
-    ::testing::Combine(::testing::ValuesIn(kDuts),
-                       ::testing::Values(EPageId::Rssi, EPageId::ContRx, EPageId::RxPathLoss,
-                                         EPageId::RsrpForce, EPageId::RsrpNormal,
-                                         EPageId::SingleToneTx, EPageId::PuschTxForce,
-                                         EPageId::PuschTxNormal, EPageId::AptProfile)),
-    [](const auto &info) {
-        const QString name = PageName(std::get<1>(info.param));
-        return std::string(std::get<0>(info.param).name) + "_" +
-               QString(name).remove(' ').toStdString();
-    });
+INSTANTIATE_TEST_SUITE_P(Pages, ExpectedDocument,
+                         ::testing::Combine(::testing::ValuesIn(kDuts),
+                                            ::testing::ValuesIn(kPatchedPages)),
+                         [](const auto &info) {
+                             return std::string(std::get<0>(info.param).name) + "_" +
+                                    PageLabel(std::get<1>(info.param));
+                         });
 
 }  // namespace

@@ -87,7 +87,8 @@ QDockWidget *CPluginSession::Page() const
 bool CPluginSession::ShowAndWait()
 {
     m_tool->ShowPlugin();
-    if (!WaitForStatus("Init done."))
+    // The line may be an old one; the window is disabled until its pages are there.
+    if (!WaitUntil([&] { return StatusBar() == "Init done." && Window()->isEnabled(); }))
         return false;
     QDockWidget *page = Page();
     if (page)

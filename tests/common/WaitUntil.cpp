@@ -20,3 +20,12 @@ bool WaitUntil(const std::function<bool()> &condition, int deadlineMs)
     }
     return true;
 }
+
+bool EventLoopTurns()
+{
+    int turns = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&turns] { ++turns; });
+    timer.start(10);
+    return WaitUntil([&turns] { return turns >= 20; }, 1000);
+}

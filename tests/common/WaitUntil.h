@@ -7,3 +7,7 @@
 #include <functional>
 
 bool WaitUntil(const std::function<bool()> &condition, int deadlineMs = 20000);
+
+// The event loop turns while something else works: twenty times within the second that one turn
+// each 50 ms would take.
+bool EventLoopTurns();

@@ -31,14 +31,37 @@ QJsonObject PackagedGroup(const QJsonObject &group)
     return packaged;
 }
 
+std::string TextOf(const QJsonValue &value)
+{
+    if (value.isUndefined())
+        return {};
+    const std::string text = ModelToText({{"v", value}});
+    return text.substr(5, text.size() - 6);  // {"v":...}
+}
+
+void AddChanges(const std::string &path, const QJsonValue &before, const QJsonValue &after,
+                Changes &changes)
+{
+    if (before == after)
+        return;
+    // Key by key: an object that was there, or a new one with something in it.
+    const bool isTree = after.isObject() && (before.isObject() || before.isUndefined()) &&
+                        !(before.isUndefined() && after.toObject().isEmpty());
+    if (!isTree) {
+        changes[path] = TextOf(after);
+        return;
+    }
+    const QJsonObject was = before.toObject();
+    const QJsonObject is = after.toObject();
+    for (const QString &key : was.keys() + is.keys())
+        AddChanges(path + (path.empty() ? "" : ".") + key.toStdString(), was.value(key),
+                   is.value(key), changes);
+}
+
 }  // namespace
 
-QJsonObject PackagedPage(const char *name)
+QJsonObject PackagedDocument(QJsonObject document)
 {
-    InitModelResources();
-    QFile file(QStringLiteral(":/%1.json").arg(name));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
-    QJsonObject document = QJsonDocument::fromJson(file.readAll()).object();
     QJsonObject sections = document["cmdIf"].toObject();
     for (const QString &section : sections.keys()) {
         QJsonObject groups = sections[section].toObject();
@@ -52,6 +75,14 @@ QJsonObject PackagedPage(const char *name)
     }
     document["cmdIf"] = sections;
     return document;
+}
+
+QJsonObject PackagedPage(const char *name)
+{
+    InitModelResources();
+    QFile file(QStringLiteral(":/%1.json").arg(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+    return PackagedDocument(QJsonDocument::fromJson(file.readAll()).object());
 }
 
 void Put(QJsonObject &document, const QString &group, const TextMap &values)
@@ -70,9 +101,20 @@ void PutRow(QJsonObject &document, const QString &group, const QString &member,
 
 std::string TextAt(const QJsonObject &document, const QString &path)
 {
-    const std::string text = ModelToText({{"at", GetJsonValueConst(document, path)}});
-    const std::string frame = R"({"at":)";
-    EXPECT_EQ(text.compare(0, frame.size(), frame), 0) << "nothing at " << qPrintable(path);
-    return text.size() > frame.size() ? text.substr(frame.size(), text.size() - frame.size() - 1)
-                                      : std::string();
+    const QJsonValue value = GetJsonValueConst(document, path);
+    EXPECT_FALSE(value.isUndefined()) << "nothing at " << qPrintable(path);
+    return TextOf(value);
+}
+
+Changes ChangesBetween(const QJsonObject &before, const QJsonObject &after)
+{
+    Changes changes;
+    AddChanges({}, before, after, changes);
+    return changes;
+}
+
+Changes ReportsOf(const QStringList &messages)
+{
+    return {{"modelIntegrity.integrity", "false"},
+            {"modelIntegrity.messageList", TextOf(QJsonArray::fromStringList(messages))}};
 }

@@ -46,6 +46,7 @@ private slots:
     void stopIsDisabledWhenThePageAppears();
     void pageShowsItsDocument();
     void startAndStopGoThroughTheirStates();
+    void windowStaysAliveWhileTheTargetIsSlow();
     void failedStartLeavesStopDisabledAndShowsTheTargetsText();
     void failedStopLeavesStartDisabledAndStopEnabled();
     void stopOfAGoneDutFailsAndCanBeTriedAgain();
@@ -106,6 +107,24 @@ void ContRxPageTest::startAndStopGoThroughTheirStates()
     QCOMPARE(Enabled(session), QString("start"));
     QCOMPARE(session.busy, (QVector<bool>{true, false, true, false}));
     QCOMPARE(QString(VondSim_RunningTest()), QString());
+}
+
+void ContRxPageTest::windowStaysAliveWhileTheTargetIsSlow()
+{
+    CPluginSession session("handset");
+    QVERIFY(session.ShowAndWait());
+    VondSim_Hold(kStart);
+    session.Press("m_start");
+    QVERIFY(VondSim_WaitUntilHeld(kStart, 20000));
+    QVERIFY(EventLoopTurns());
+    VondSim_Release(kStart);
+    QVERIFY(session.WaitForStatus("Cont Rx start..."));
+    VondSim_Hold(kStop);
+    session.Press("m_stop");
+    QVERIFY(VondSim_WaitUntilHeld(kStop, 20000));
+    QVERIFY(EventLoopTurns());
+    VondSim_Release(kStop);
+    QVERIFY(session.WaitForStatus("Cont Rx stop."));
 }
 
 void ContRxPageTest::failedStartLeavesStopDisabledAndShowsTheTargetsText()

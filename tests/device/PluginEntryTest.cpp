@@ -29,6 +29,7 @@ private slots:
     void launchQueryTakesTheHostsHandle();
     void handleIsZeroUntilTheHostSetsIt();
     void showHideShowActivatesAndInitsOnce();
+    void windowKeepsItsSizeWhileThePagesComeIn();
     void secondShowChangesNothingButTheActivation();
     void resetThenShowRunsTheInitFlowAgain();
     void resetAsksTheTargetAnew();
@@ -182,6 +183,14 @@ void PluginEntryTest::showHideShowActivatesAndInitsOnce()
     QVERIFY(session.Window()->isEnabled());
     QCOMPARE(session.Window()->findChildren<QDockWidget *>(), pages);
     QCOMPARE(session.StatusBar(), QString("Init done."));
+}
+
+void PluginEntryTest::windowKeepsItsSizeWhileThePagesComeIn()
+{
+    CPluginSession session;
+    QVERIFY(session.ShowAndWait());
+    QCoreApplication::processEvents();
+    QCOMPARE(session.Window()->size(), QSize(1004, 769));
 }
 
 void PluginEntryTest::secondShowChangesNothingButTheActivation()

@@ -22,15 +22,13 @@ void Finish(const char *function)
     QCoreApplication::processEvents();
 }
 
-// The event loop turns while the target works: 20 times within the second that one turn each 50 ms
-// would take.
-bool EventLoopTurns()
+// The show after a reset builds the pages anew.
+bool ShowAnew(CRsrpSession &session)
 {
-    int turns = 0;
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&] { ++turns; });
-    timer.start(10);
-    return WaitUntil([&] { return turns >= 20; }, 1000);
+    session->HidePlugin();
+    session->ShowPlugin();
+    return WaitUntil([&] { return session.Page() && session.StatusBar() == "Init done."; }) &&
+           session.Ready();
 }
 
 // The show after a reset builds the pages anew.

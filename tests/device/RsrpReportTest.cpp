@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QSpinBox>
+#include <QTimer>
 #include <QtTest>
 
 #include "Model/OperationResult.h"
@@ -18,6 +19,13 @@ constexpr char kReportFails[] =
     R"({"function": "VOND_NRf_GetMixRxReportV7_r", "kind": "fail", "result": 7})";
 constexpr char kNoReports[] =
     R"({"function": "VOND_NRf_GetMixRxReportV7_r", "kind": "bytes", "hex": "00"})";
+
+// Period of the page's running report timer, ms; 0 when it does not run.
+int RunningPeriod(const CRsrpSession &session)
+{
+    const auto *timer = session.Page()->findChild<QTimer *>("reportTimer");
+    return timer && timer->isActive() ? timer->interval() : 0;
+}
 
 }  // namespace
 
@@ -95,6 +103,7 @@ void RsrpReportTest::shortestPeriodFetchesThreeTimesASecond()
     session.Input<QSpinBox>("group1", "reportPeriod")->setValue(300);
     session.Press("m_start");
     QVERIFY(session.WaitForStatus("Rsrp start..."));
+    QCOMPARE(RunningPeriod(session), 300);
     QElapsedTimer timer;
     timer.start();
     QVERIFY(WaitUntil([] { return CountCalls(kRsrpReport) >= 4; }));
@@ -110,6 +119,7 @@ void RsrpReportTest::longestPeriodFetchesNothingInTheFirstSecond()
     QFETCH(QString, mode);
     CRsrpSession session(mode);
     QVERIFY(session.Running());
+    QCOMPARE(RunningPeriod(session), 10000);
     QVERIFY(!WaitUntil([] { return CountCalls(kRsrpReport) > 0; }, 1000));
     QCOMPARE(session.Rows(), 0);
 }

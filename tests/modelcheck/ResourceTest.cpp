@@ -20,13 +20,13 @@ struct SPageFiles
 constexpr SPageFiles kPages[] = {
     {"Model/resources/NrAptProfileV7.json", nullptr},
     {"Model/resources/NrContRxV7.json", "View/Rx/NrContRxDockWidgetV7.ui"},
-    {"Model/resources/NrPuschTxForceModeV7.json", nullptr},
-    {"Model/resources/NrPuschTxNormalModeV7.json", nullptr},
+    {"Model/resources/NrPuschTxForceModeV7.json", "View/Tx/NrPuschTxForcedDockWidgetV7.ui"},
+    {"Model/resources/NrPuschTxNormalModeV7.json", "View/Tx/NrPuschTxNormalDockWidgetV7.ui"},
     {"Model/resources/NrRsrpForceModeV7.json", "View/Rx/NrRsrpForceDockWidgetV7.ui"},
     {"Model/resources/NrRsrpNormalModeV7.json", "View/Rx/NrRsrpNormalDockWidgetV7.ui"},
-    {"Model/resources/NrRssiV7.json", nullptr},
+    {"Model/resources/NrRssiV7.json", "View/Rx/NrRssiDockWidgetV7.ui"},
     {"Model/resources/NrRxPathLossV7.json", nullptr},
-    {"Model/resources/NrSingleToneTxV7.json", nullptr},
+    {"Model/resources/NrSingleToneTxV7.json", "View/Tx/NrSingleToneTxDockWidgetV7.ui"},
     {"tests/recipes/NrExampleV7.json", "tests/recipes/NrExampleDockWidgetV7.ui"},
 };
 

@@ -133,19 +133,8 @@ TEST_F(ProfileTest, ListedFunctionsAloneAreOffered)
               VOND_SUCCESS);
     EXPECT_EQ(ErrorText(VOND_MMRf_TestStopV7_r(HANDLE, TIMEOUT_MS, 1)),
               "Target: function is not offered");
-}
-
-TEST_F(ProfileTest, CalibrationDataIsNotOffered)
-{
-    for (const char *name :
-         {"VOND_MMRf_GetCalBlkInfoV7_r", "VOND_MMRf_GetCalDataV7_r", "VOND_MMRf_SetCalDataV7_r"})
-        EXPECT_NE(VOND_QueryFunctionSupported_r(HANDLE, TIMEOUT_MS, name), VOND_SUCCESS) << name;
-    uint8_t bytes[64] = {};
-    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalBlkInfoV7_r(HANDLE, TIMEOUT_MS, 1, bytes)),
-              "Target: function is not offered");
-    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalDataV7_r(HANDLE, TIMEOUT_MS, bytes, bytes)),
-              "Target: function is not offered");
-    EXPECT_EQ(ErrorText(VOND_MMRf_SetCalDataV7_r(HANDLE, TIMEOUT_MS, bytes, bytes)),
+    auto info = std::make_unique<SMMCalBlkInfoCnfV7>();
+    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalBlkInfoV7_r(HANDLE, TIMEOUT_MS, 1, info.get())),
               "Target: function is not offered");
 }
 

@@ -1,27 +1,16 @@
-// The view controller: who gets an answer, how often, and who never does.
+// The view controller among others of its kind, and beside a core that is busy.
 #include <memory>
+#include <vector>
 
-#include <QSignalSpy>
-#include <QThreadPool>
 #include <QtTest>
 
-#include "Controller/NrCore.h"
-#include "ViewController/QuorlinViewCtrl.h"
 #include "tests/common/SimJournal.h"
+#include "tests/viewcontroller/BusyCore.h"
+#include "tests/viewcontroller/SignalSpies.h"
 
 namespace {
 
 constexpr char kStart[] = "VOND_MMRf_ContRxV7_r";
-constexpr char kCapability[] = "VOND_NRf_GetRfCapability_r";
-
-// Lets all jobs end and their answers arrive.
-void Settle()
-{
-    QThreadPool::globalInstance()->waitForDone();
-    QCoreApplication::processEvents();
-    QThreadPool::globalInstance()->waitForDone();
-    QCoreApplication::processEvents();
-}
 
 }  // namespace
 
@@ -32,15 +21,11 @@ class ViewCtrlTest : public QObject
 private slots:
     void initTestCase();
     void init();
-    void doneSignalFiresOncePerRequest();
-    void anotherInstanceIsNotReached();
+    void eachPageGetsItsOwnAnswerWhenAllAskAtOnce();
     void answerOfAnotherPagesTestIsNotTaken();
-    void requestsReturnAtOnce();
-    void destroyedControllerGetsNoAnswer();
-    void documentFromBeforeAResetDoesNotArrive();
-    void documentArrivesOnTheGuiThread();
+    void resetReturnsWhileTheTargetIsAtWork();
     void idleIsReportedOnlyWhenTheTargetIsIdle();
-    void nrStopAndMultiRatStopReachTheirFunctions();
+    void idleOfADestroyedControllerIsNotReported();
 };
 
 void ViewCtrlTest::initTestCase()
@@ -56,137 +41,94 @@ void ViewCtrlTest::init()
     VondSim_ClearJournal();
 }
 
-void ViewCtrlTest::doneSignalFiresOncePerRequest()
+// The core has one signal for the tests of all pages.
+void ViewCtrlTest::eachPageGetsItsOwnAnswerWhenAllAskAtOnce()
 {
-    CQuorlinViewCtrl ctrl;
-    QSignalSpy done(&ctrl, &CQuorlinViewCtrl::Signal_ContRxTestDone);
-    ctrl.ContRxTest("{}");
+    struct SAsker
+    {
+        const SRequest *request;
+        std::unique_ptr<CQuorlinViewCtrl> ctrl;
+        std::unique_ptr<CSignalSpies> spies;
+    };
+    std::vector<SAsker> askers;
+    for (const SRequest &request : AllRequests()) {
+        if (!QString(request.internalName).endsWith("TestInternal"))
+            continue;
+        auto ctrl = std::make_unique<CQuorlinViewCtrl>();
+        auto spies = std::make_unique<CSignalSpies>(*ctrl);
+        askers.push_back({&request, std::move(ctrl), std::move(spies)});
+    }
+    QCOMPARE(askers.size(), std::size_t(7));
+    {
+        const CBusyCore busy;
+        for (const SAsker &asker : askers)
+            asker.request->make(*asker.ctrl, "{}");
+    }
     Settle();
-    QCOMPARE(done.size(), 1);
-    ctrl.ContRxTest("{}");
-    Settle();
-    QCOMPARE(done.size(), 2);
-    QCOMPARE(CountCalls(kStart), 2);
-}
-
-void ViewCtrlTest::anotherInstanceIsNotReached()
-{
-    CQuorlinViewCtrl asking, idle;
-    QSignalSpy asked(&asking, &CQuorlinViewCtrl::Signal_ContRxTestDone);
-    QSignalSpy notAsked(&idle, &CQuorlinViewCtrl::Signal_ContRxTestDone);
-    QSignalSpy notStopped(&idle, &CQuorlinViewCtrl::Signal_TestStopDone);
-    asking.ContRxTest("{}");
-    Settle();
-    asking.MultiRatTestStop();
-    Settle();
-    QCOMPARE(asked.size(), 1);
-    QCOMPARE(notAsked.size(), 0);
-    QCOMPARE(notStopped.size(), 0);
+    for (const SAsker &asker : askers) {
+        const QVector<SFired> fired = asker.spies->Fired();
+        QCOMPARE(fired.size(), 1);
+        QCOMPARE(fired[0].signal, QString(asker.request->signal));
+        QCOMPARE(fired[0].arguments.value(0).section('|', 0, 0), QString(asker.request->page));
+    }
 }
 
 void ViewCtrlTest::answerOfAnotherPagesTestIsNotTaken()
 {
     CQuorlinViewCtrl ctrl;
-    QSignalSpy done(&ctrl, &CQuorlinViewCtrl::Signal_ContRxTestDone);
+    const CSignalSpies spies(ctrl);
     VondSim_Hold(kStart);
     ctrl.ContRxTest("{}");
     QVERIFY(VondSim_WaitUntilHeld(kStart, 20000));
     emit GetCore().Signal_TestDone({"RSSI", 0, "of another page"}, "");
     QCoreApplication::processEvents();
-    QCOMPARE(done.size(), 0);
+    QCOMPARE(spies.Fired().size(), 0);
     VondSim_Release(kStart);
     Settle();
-    QCOMPARE(done.size(), 1);
-    QCOMPARE(done[0][0].value<SEachItemOperationResult>().itemName, QString("Continuous RX"));
+    QCOMPARE(spies.Fired().size(), 1);
+    QVERIFY(spies.Fired()[0].arguments[0].startsWith("Continuous RX|"));
 }
 
-void ViewCtrlTest::requestsReturnAtOnce()
+void ViewCtrlTest::resetReturnsWhileTheTargetIsAtWork()
 {
     CQuorlinViewCtrl ctrl;
     VondSim_Hold(kStart);
     ctrl.ContRxTest("{}");
     QVERIFY(VondSim_WaitUntilHeld(kStart, 20000));
-    // The target is at work, and none of these waits for it.
-    ctrl.MultiRatTestStop();
-    ctrl.GetContRxDataModel();
-    ctrl.GetInitPageList();
     ctrl.ResetTargetCache();
-    QCOMPARE(CountCalls(kStart), 0);
-    VondSim_Release(kStart);
-    Settle();
-}
-
-void ViewCtrlTest::destroyedControllerGetsNoAnswer()
-{
-    auto ctrl = std::make_unique<CQuorlinViewCtrl>();
-    VondSim_Hold(kStart);
-    ctrl->ContRxTest("{}");
-    QVERIFY(VondSim_WaitUntilHeld(kStart, 20000));
-    ctrl->GetContRxDataModel();
-    ctrl.reset();
+    QCOMPARE(CountCalls(kStart), 0);  // still at work
     VondSim_Release(kStart);
     Settle();
     QCOMPARE(CountCalls(kStart), 1);
 }
 
-void ViewCtrlTest::documentFromBeforeAResetDoesNotArrive()
-{
-    CQuorlinViewCtrl ctrl;
-    QSignalSpy arrived(&ctrl, &CQuorlinViewCtrl::Signal_GetContRxDataModelDone);
-    VondSim_Hold(kCapability);
-    ctrl.GetContRxDataModel();
-    QVERIFY(VondSim_WaitUntilHeld(kCapability, 20000));
-    ctrl.ResetTargetCache();
-    VondSim_Release(kCapability);
-    Settle();
-    QCOMPARE(arrived.size(), 0);
-    ctrl.GetContRxDataModel();
-    Settle();
-    QCOMPARE(arrived.size(), 1);
-}
-
-void ViewCtrlTest::documentArrivesOnTheGuiThread()
-{
-    CQuorlinViewCtrl ctrl;
-    QThread *thread = nullptr;
-    std::string document;
-    connect(&ctrl, &CQuorlinViewCtrl::Signal_GetContRxDataModelDone, &ctrl,
-            [&](const std::string &text) {
-                thread = QThread::currentThread();
-                document = text;
-            });
-    ctrl.GetContRxDataModel();
-    Settle();
-    QCOMPARE(thread, QThread::currentThread());
-    QVERIFY(document.find("\"modelName\":\"Cont RX\"") != std::string::npos);
-}
-
 void ViewCtrlTest::idleIsReportedOnlyWhenTheTargetIsIdle()
 {
     CQuorlinViewCtrl ctrl;
-    QSignalSpy idle(&ctrl, &CQuorlinViewCtrl::Signal_Idle);
-    VondSim_Hold(kStart);
-    ctrl.ContRxTest("{}");
-    QVERIFY(VondSim_WaitUntilHeld(kStart, 20000));
-    ctrl.ReportIdle();
-    QCoreApplication::processEvents();
-    QCOMPARE(idle.size(), 0);
-    VondSim_Release(kStart);
+    const CSignalSpies spies(ctrl);
+    {
+        const CBusyCore busy;
+        ctrl.ReportIdle();
+        QCoreApplication::processEvents();
+        QCOMPARE(spies.Fired().size(), 0);
+    }
     Settle();
-    QCOMPARE(idle.size(), 1);
+    QCOMPARE(spies.Fired().size(), 1);
+    QCOMPARE(spies.Fired()[0].signal, QString("Signal_Idle"));
 }
 
-void ViewCtrlTest::nrStopAndMultiRatStopReachTheirFunctions()
+void ViewCtrlTest::idleOfADestroyedControllerIsNotReported()
 {
-    CQuorlinViewCtrl ctrl;
-    QSignalSpy stopped(&ctrl, &CQuorlinViewCtrl::Signal_TestStopDone);
-    ctrl.NrTestStop();
+    CQuorlinViewCtrl heir;
+    const CSignalSpies spies(heir);
+    auto ctrl = std::make_unique<CQuorlinViewCtrl>();
+    {
+        const CBusyCore busy;
+        ctrl->ReportIdle();
+        ctrl.reset();
+    }
     Settle();
-    ctrl.MultiRatTestStop();
-    Settle();
-    QCOMPARE(stopped.size(), 2);
-    QCOMPARE(CountCalls("VOND_NRf_TestStop_r"), 1);
-    QCOMPARE(CountCalls("VOND_MMRf_TestStopV7_r"), 1);
+    QCOMPARE(spies.Fired().size(), 0);
 }
 
 QTEST_GUILESS_MAIN(ViewCtrlTest)

@@ -1,0 +1,89 @@
+// Calibration data of a route as it is held in memory: the whole route in one record, where the
+// target's flash has blocks of 16 subbands.
+//
+// Gains, losses, offsets and power detector values are dB in 1/32 dB; frequencies are kHz, 0 in the
+// unused tail. blockCount is the number of 16-entry frequency groups in use, 0 to 4. The layout is
+// fixed, since a record is compared and kept as bytes.
+//
+//   SMMType1PathlossByRouteV7 record = {};
+//   record.loss[subband][VondType1LossPair(EVondRxPath::Main, slot)].lpm = 48;   // 1.5 dB
+#pragma once
+
+#include "Vond/VondCalBlocks.h"
+
+// A TX route in one bandwidth region.
+struct SAptRouteBwRecord
+{
+    uint16_t band;  // NR band number
+    uint16_t route;
+    uint8_t normalTempIndex;
+    uint8_t paControlLevel;  // levels in use, at most 10
+    uint8_t paModeCount;     // PA modes in use, at most 3
+    uint8_t reserved7;
+    SAptLevel level[VOND_APT_LEVELS];
+    int16_t paGainTempOffset[VOND_APT_PA_MODES][VOND_CAL_TEMPERATURES];         // 1/32 dB
+    int16_t powerDetectorTempOffset[VOND_APT_PA_MODES][VOND_CAL_TEMPERATURES];  // 1/32 dB
+    uint8_t prfIndex[VOND_APT_PA_MODES];
+    uint8_t reserved187;
+    int16_t couplerLoss[VOND_APT_PA_MODES];  // 1/32 dB
+    uint8_t reserved194[2];
+    uint32_t blockCount;
+    uint32_t freq[VOND_CAL_MAX_SUBBANDS];                             // UL, kHz
+    int16_t paGain[VOND_APT_PA_MODES][VOND_CAL_MAX_SUBBANDS];         // 1/32 dB
+    int16_t powerDetector[VOND_APT_PA_MODES][VOND_CAL_MAX_SUBBANDS];  // 1/32 dB
+};
+VOND_SIZE(SAptRouteBwRecord, 1224);
+VOND_OFFSET(SAptRouteBwRecord, band, 0);
+VOND_OFFSET(SAptRouteBwRecord, route, 2);
+VOND_OFFSET(SAptRouteBwRecord, normalTempIndex, 4);
+VOND_OFFSET(SAptRouteBwRecord, paControlLevel, 5);
+VOND_OFFSET(SAptRouteBwRecord, paModeCount, 6);
+VOND_OFFSET(SAptRouteBwRecord, reserved7, 7);
+VOND_OFFSET(SAptRouteBwRecord, level, 8);
+VOND_OFFSET(SAptRouteBwRecord, paGainTempOffset, 88);
+VOND_OFFSET(SAptRouteBwRecord, powerDetectorTempOffset, 136);
+VOND_OFFSET(SAptRouteBwRecord, prfIndex, 184);
+VOND_OFFSET(SAptRouteBwRecord, reserved187, 187);
+VOND_OFFSET(SAptRouteBwRecord, couplerLoss, 188);
+VOND_OFFSET(SAptRouteBwRecord, reserved194, 194);
+VOND_OFFSET(SAptRouteBwRecord, blockCount, 196);
+VOND_OFFSET(SAptRouteBwRecord, freq, 200);
+VOND_OFFSET(SAptRouteBwRecord, paGain, 456);
+VOND_OFFSET(SAptRouteBwRecord, powerDetector, 840);
+
+// A type 1 RX route.
+struct SMMType1PathlossByRouteV7
+{
+    uint16_t band;  // NR band number
+    uint16_t route;
+    uint32_t blockCount;
+    uint32_t freq[VOND_CAL_MAX_SUBBANDS];                            // DL, kHz
+    SMMLossPair loss[VOND_CAL_MAX_SUBBANDS][VOND_TYPE1_LOSS_PAIRS];  // index of VondType1LossPair
+    int16_t plOffset[VOND_CAL_TEMPERATURES];                         // 1/32 dB
+};
+VOND_SIZE(SMMType1PathlossByRouteV7, 4376);
+VOND_OFFSET(SMMType1PathlossByRouteV7, band, 0);
+VOND_OFFSET(SMMType1PathlossByRouteV7, route, 2);
+VOND_OFFSET(SMMType1PathlossByRouteV7, blockCount, 4);
+VOND_OFFSET(SMMType1PathlossByRouteV7, freq, 8);
+VOND_OFFSET(SMMType1PathlossByRouteV7, loss, 264);
+VOND_OFFSET(SMMType1PathlossByRouteV7, plOffset, 4360);
+
+// A type 2 RX route.
+struct SMMType2PathlossByRouteV7
+{
+    uint16_t band;  // NR band number
+    uint16_t route;
+    uint32_t blockCount;
+    uint32_t freq[VOND_CAL_MAX_SUBBANDS];  // DL, kHz
+    // Index of VondPartialOnPair and VondGainByGainPair.
+    SMMLossPair loss[VOND_CAL_MAX_SUBBANDS][VOND_TYPE2_LOSS_PAIRS];
+    int16_t plOffset[VOND_CAL_TEMPERATURES];  // 1/32 dB
+};
+VOND_SIZE(SMMType2PathlossByRouteV7, 72984);
+VOND_OFFSET(SMMType2PathlossByRouteV7, band, 0);
+VOND_OFFSET(SMMType2PathlossByRouteV7, route, 2);
+VOND_OFFSET(SMMType2PathlossByRouteV7, blockCount, 4);
+VOND_OFFSET(SMMType2PathlossByRouteV7, freq, 8);
+VOND_OFFSET(SMMType2PathlossByRouteV7, loss, 264);
+VOND_OFFSET(SMMType2PathlossByRouteV7, plOffset, 72968);

@@ -1,0 +1,29 @@
+#include "Simulator/ProfileCalibration.h"
+
+#include "Simulator/CalKinds.h"
+#include "Simulator/NumberTable.h"
+
+namespace {
+
+template <class Block>
+void ReadSubbands(CJsonReader &reader, const char *key, SProfileCalibration &calibration)
+{
+    constexpr int MOST = SCalKind<Block>::BLOCKS_OF_RECORD * VOND_CAL_BLOCK_SUBBANDS;
+    SProfileSubbands &rule = calibration.*SCalKind<Block>::RULE;
+    ReadNumberTable(reader, {key, "n", 0.0, MOST}, rule.fallback, rule.byBand);
+}
+
+}  // namespace
+
+void ReadCalibration(CJsonReader &reader, SProfile &profile)
+{
+    if (!reader.Has("calibration"))
+        return;
+    SProfileCalibration &calibration = profile.calibration;
+    CJsonReader part(reader.Take("calibration"), "calibration");
+    calibration.seed = part.Integer<uint32_t>("seed", 0, UINT32_MAX, calibration.seed);
+    ReadSubbands<SAptBlock>(part, "txSubbands", calibration);
+    ReadSubbands<SMMType1PathlossBlockV7>(part, "rxType1Subbands", calibration);
+    ReadSubbands<SMMType2PathlossBlockV7>(part, "rxType2Subbands", calibration);
+    part.Done();
+}

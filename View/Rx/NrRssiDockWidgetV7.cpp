@@ -1,0 +1,153 @@
+#include "View/Rx/NrRssiDockWidgetV7.h"
+
+#include <QHeaderView>
+#include <QPointer>
+
+#include "Model/ModelText.h"
+#include "Model/StatusTable.h"
+#include "Support/Log.h"
+#include "ui_NrRssiDockWidgetV7.h"
+
+namespace {
+
+const QLatin1String kWidestCell("-1024.00000");  // longer than any reading or frequency
+constexpr int kCellMargin = 12;                  // pixels of frame and indent around a cell's text
+
+// Cells in the font of their page, columns as wide as the widest result: no later answer is cut
+// off.
+void FitCells(QTableWidget *table)
+{
+    const int width = table->fontMetrics().horizontalAdvance(kWidestCell) + kCellMargin;
+    for (int c = 0; c < table->columnCount(); ++c) {
+        table->setColumnWidth(c, width);
+        for (int r = 0; r < table->rowCount(); ++r) {
+            if (QWidget *cell = table->cellWidget(r, c))
+                cell->setFont(table->font());
+        }
+    }
+}
+
+}  // namespace
+
+const CNrRssiDockWidgetV7::SWords CNrRssiDockWidgetV7::kTestWords = {
+    "Fetch RSSI done", "Fetch RSSI failed.", "Fetch RSSI failed."};
+const CNrRssiDockWidgetV7::SWords CNrRssiDockWidgetV7::kCalculatorWords = {
+    "Fetch Gain info done", "Fetch Gain info failed", "Fetch Gain info failed."};
+
+CNrRssiDockWidgetV7::CNrRssiDockWidgetV7(QWidget *parent)
+    : CAutoBindingDataModelDockWidget(parent), m_ui(std::make_unique<Ui::CNrRssiDockWidgetV7>()),
+      m_viewCtrl(std::make_unique<CQuorlinViewCtrl>())
+{
+    m_ui->setupUi(this);
+    connect(this, &CAutoBindingDataModelDockWidget::Signal_InitDone, this,
+            &CNrRssiDockWidgetV7::FixLayout);
+}
+
+CNrRssiDockWidgetV7::~CNrRssiDockWidgetV7() = default;
+
+QWidget *CNrRssiDockWidgetV7::GetRootWidget()
+{
+    return this;
+}
+
+int CNrRssiDockWidgetV7::GetModelInterface()
+{
+    return eInterfaceCmdIf;
+}
+
+void CNrRssiDockWidgetV7::RequestDataModel()
+{
+    connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_GetRssiDataModelDone, this,
+            &CNrRssiDockWidgetV7::Slot_GetDataModelDone);
+    m_viewCtrl->GetRssiDataModel();
+}
+
+void CNrRssiDockWidgetV7::DisableTestControls()
+{
+    m_ui->m_start->setEnabled(false);
+    m_ui->m_btnRssiSeqSrhCalculator->setEnabled(false);
+}
+
+void CNrRssiDockWidgetV7::EnableTestControls()
+{
+    m_ui->m_start->setEnabled(true);
+    m_ui->m_btnRssiSeqSrhCalculator->setEnabled(true);
+}
+
+void CNrRssiDockWidgetV7::Slot_TriggerStopTest() {}
+
+// The channels of the three tables stand below each other.
+void CNrRssiDockWidgetV7::FixLayout()
+{
+    m_ui->m_resultStack->setCurrentIndex(0);
+    for (QTableWidget *table : {m_ui->cmdIf_request_group2_memberProperty_dlFrequency,
+                                m_ui->cmdIf_response_group2_memberProperty_dlFrequency,
+                                m_ui->cmdIf_response_group3_memberProperty_dlFrequency}) {
+        FitCells(table);
+        table->setMaximumSize(FitTableSize(table));
+        table->setMinimumSize(table->maximumSize());
+        table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    }
+}
+
+void CNrRssiDockWidgetV7::on_m_start_clicked()
+{
+    qCDebug(lcForm) << "on_m_start_clicked";
+    const std::string document = BeginRequest();
+    connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiTestDone, this,
+            &CNrRssiDockWidgetV7::Slot_RssiTestDone);
+    m_viewCtrl->RssiTest(document);
+}
+
+void CNrRssiDockWidgetV7::on_m_btnRssiSeqSrhCalculator_clicked()
+{
+    qCDebug(lcForm) << "on_m_btnRssiSeqSrhCalculator_clicked";
+    const std::string document = BeginRequest();
+    connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiGainCalculatorDone, this,
+            &CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone);
+    m_viewCtrl->RssiGainCalculator(document);
+}
+
+void CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone(SEachItemOperationResult result,
+                                                      std::string responseStr)
+{
+    qCDebug(lcForm) << "Slot_RssiGainCalculatorDone";
+    disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiGainCalculatorDone, this, nullptr);
+    EndRequest(kCalculatorWords, result, responseStr);
+}
+
+void CNrRssiDockWidgetV7::Slot_RssiTestDone(SEachItemOperationResult result,
+                                            std::string responseStr)
+{
+    qCDebug(lcForm) << "Slot_RssiTestDone";
+    disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiTestDone, this, nullptr);
+    EndRequest(kTestWords, result, responseStr);
+}
+
+// Gives the document to send.
+std::string CNrRssiDockWidgetV7::BeginRequest()
+{
+    DisableTestControls();
+    emit Signal_PluginIsBusy(true);
+    return PackageMemberValue();
+}
+
+void CNrRssiDockWidgetV7::EndRequest(const SWords &words, const SEachItemOperationResult &result,
+                                     const std::string &responseStr)
+{
+    const QPointer<CNrRssiDockWidgetV7> self(this);
+    // A test that did not run answers no document; adopting that would cost the page its own.
+    const QJsonObject response = ModelFromText(responseStr);
+    if (!response.isEmpty())
+        UpdateWidget(response);
+    if (!self)
+        return;
+    EnableTestControls();
+    emit Signal_PluginIsBusy(false);
+    if (result.status == eStatusSuccess) {
+        emit Signal_UpdateStatus(QLatin1String(words.done));
+        return;
+    }
+    emit Signal_UpdateStatus(QLatin1String(words.failed));
+    ShowItemResult(QLatin1String(words.failedTitle), result);
+}

@@ -1,0 +1,74 @@
+// The RSSI page: measures received signal strength at up to five frequencies, and has a calculator
+// that asks the target which gains suit the gain modes chosen.
+//
+// Each click is one request and one answer, so nothing runs between two clicks and there is no
+// Stop. The page is in one of
+//     idle  both buttons on
+//     busy  both off             -> idle with the answer, good or bad
+// An answer is a document: results, or "ERROR" in the cells of the paths that were asked for. One
+// that is empty, since nothing ran, leaves the page as it was. A failure is told in the status line
+// and a box; the page may be gone when the box closes.
+//
+// The binding carries all inputs and results (NrRssiV7.json). The gains that the calculator finds
+// are inputs of the measurement; the user may edit them. Gains and RSSI are dB and dBm in steps of
+// 1/32, which the five decimals of their editors hold without loss; frequencies are kHz.
+//
+//   CNrRssiDockWidgetV7 *page = ...;   // made by the form, by class name
+//   page->show();                      // reads its document, then emits Signal_InitDone()
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "View/AutoBindingDataModelDockWidget.h"
+#include "ViewController/QuorlinViewCtrl.h"
+
+namespace Ui {
+class CNrRssiDockWidgetV7;
+}
+
+class CNrRssiDockWidgetV7 : public CAutoBindingDataModelDockWidget
+{
+    Q_OBJECT
+
+public:
+    Q_INVOKABLE explicit CNrRssiDockWidgetV7(QWidget *parent);
+    ~CNrRssiDockWidgetV7() override;
+
+    QWidget *GetRootWidget() override;
+    int GetModelInterface() override;
+    void RequestDataModel() override;
+    void DisableTestControls() override;
+    void EnableTestControls() override;
+
+public slots:
+    void Slot_TriggerStopTest() override;
+
+private slots:
+    void on_m_start_clicked();
+    void on_m_btnRssiSeqSrhCalculator_clicked();
+
+public slots:
+    void Slot_RssiGainCalculatorDone(SEachItemOperationResult result, std::string responseStr);
+    void Slot_RssiTestDone(SEachItemOperationResult result, std::string responseStr);
+
+private:
+    // How a request's answer is told.
+    struct SWords
+    {
+        const char *done;         // status line
+        const char *failed;       // status line
+        const char *failedTitle;  // of the box
+    };
+
+    static const SWords kTestWords;
+    static const SWords kCalculatorWords;
+
+    void FixLayout();
+    std::string BeginRequest();
+    void EndRequest(const SWords &words, const SEachItemOperationResult &result,
+                    const std::string &responseStr);
+
+    std::unique_ptr<Ui::CNrRssiDockWidgetV7> m_ui;
+    std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
+};

@@ -1,0 +1,75 @@
+#include "View/Tx/NrSingleToneTxDockWidgetV7.h"
+
+#include "ui_NrSingleToneTxDockWidgetV7.h"
+
+namespace {
+
+constexpr SStartStopPage kPage = {
+    "Single Tone Tx",
+    &CQuorlinViewCtrl::GetSingleToneTxDataModel,
+    &CQuorlinViewCtrl::Signal_GetSingleToneTxDataModelDone,
+    &CQuorlinViewCtrl::SingleToneTxTest,
+    &CQuorlinViewCtrl::Signal_SingleToneTxTestDone,
+    static_cast<ResultSlot>(&CNrSingleToneTxDockWidgetV7::Slot_SingleToneTxTestDone),
+    &CQuorlinViewCtrl::MultiRatTestStop,
+    static_cast<ResultSlot>(&CNrSingleToneTxDockWidgetV7::Slot_SingleToneTxTestStopDone),
+};
+
+constexpr STxReading kPdValue = {
+    "Start fetch PD value...",
+    "Finish fetch PD value.",
+    &CQuorlinViewCtrl::GetSingleToneTxPdValue,
+    &CQuorlinViewCtrl::Signal_GetSingleToneTxPdValueDone,
+    static_cast<TextSlot>(&CNrSingleToneTxDockWidgetV7::Slot_GetSingleToneTxPdValueDone),
+    false,
+    false,
+    false,
+};
+
+}  // namespace
+
+CNrSingleToneTxDockWidgetV7::CNrSingleToneTxDockWidgetV7(QWidget *parent)
+    : CNrTxDockWidget(kPage, kPdValue, parent),
+      m_ui(std::make_unique<Ui::CNrSingleToneTxDockWidgetV7>())
+{
+    m_ui->setupUi(this);
+    SetTestButtons(m_ui->m_start, m_ui->m_stop);
+    SetReadingButton(m_ui->m_btnFetchPd);
+}
+
+CNrSingleToneTxDockWidgetV7::~CNrSingleToneTxDockWidgetV7() = default;
+
+void CNrSingleToneTxDockWidgetV7::Slot_SingleToneTxTestDone(SEachItemOperationResult result)
+{
+    FinishStart("Slot_SingleToneTxTestDone", result);
+}
+
+void CNrSingleToneTxDockWidgetV7::Slot_SingleToneTxTestStopDone(SEachItemOperationResult result)
+{
+    FinishStop("Slot_SingleToneTxTestStopDone", result);
+}
+
+void CNrSingleToneTxDockWidgetV7::Slot_TriggerStopTest()
+{
+    StopRunningTest();
+}
+
+void CNrSingleToneTxDockWidgetV7::on_m_start_clicked()
+{
+    StartTest();
+}
+
+void CNrSingleToneTxDockWidgetV7::on_m_stop_clicked()
+{
+    StopTest();
+}
+
+void CNrSingleToneTxDockWidgetV7::on_m_btnFetchPd_clicked()
+{
+    StartReading();
+}
+
+void CNrSingleToneTxDockWidgetV7::Slot_GetSingleToneTxPdValueDone(std::string resultModel)
+{
+    FinishReading(resultModel);
+}

@@ -1,0 +1,51 @@
+// TX pages: start, stop, and beside them one reading of the DUT, shown in the document's response.
+//
+// The reading has a button of its own. Its answer is the page's document with the value in it, or
+// with an error text and the reason in modelIntegrity, which the user then sees in a box. An answer
+// that is no document leaves the page as it is. The page is busy until the answer is there.
+//
+// GUI thread; the box of a failed reading may outlive the page.
+//
+//   constexpr STxReading kPdValue = {"Start fetch PD value...", "Finish fetch PD value.", ...};
+//   void CNrSingleToneTxDockWidgetV7::on_m_btnFetchPd_clicked() { StartReading(); }
+#pragma once
+
+#include "View/StartStopDockWidget.h"
+
+struct STxReading
+{
+    const char *startStatus;
+    const char *doneStatus;
+    DocumentRequest request;
+    TextSignal done;
+    TextSlot slot;
+    bool takesTestButtons;  // Start and Stop go off with it; the answer turns Start on
+    bool restsDuringTest;   // its button is off from Start until that failed, or Stop succeeded
+    bool staysConnected;    // no answer takes its connection down: the n-th one comes n times
+};
+
+class CNrTxDockWidget : public CStartStopDockWidget
+{
+    Q_OBJECT
+
+public:
+    // As with the base's buttons, the reading's goes off and on.
+    void DisableTestControls() override;
+    void EnableTestControls() override;
+
+protected:
+    CNrTxDockWidget(const SStartStopPage &page, const STxReading &reading, QWidget *parent);
+
+    void SetReadingButton(QPushButton *button);
+
+    void StartReading();
+    void FinishReading(const std::string &resultModel);
+    bool IsReading() const { return m_isReading; }
+
+    void ShowStep(ETestStep step) override;
+
+private:
+    const STxReading m_reading;
+    QPushButton *m_button = nullptr;
+    bool m_isReading = false;  // from the request to its first answer
+};

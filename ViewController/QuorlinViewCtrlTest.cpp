@@ -1,0 +1,152 @@
+// Tests and stops of the view controller: the core answers them through signals of its own.
+#include <QtConcurrent>
+
+#include "Controller/NrCore.h"
+#include "Controller/PageTable.h"
+#include "Support/Log.h"
+#include "ViewController/QuorlinViewCtrl.h"
+
+// The connection to the core lives for one request: made here, taken down in the done slot. What
+// was asked for before a reset is not answered after it.
+template <typename... Answers>
+void CQuorlinViewCtrl::AwaitAnswer(void (CNrCore::*signal)(Answers...),
+                                   void (CQuorlinViewCtrl::*done)(Answers...))
+{
+    CNrCore &core = GetCore();
+    disconnect(&core, signal, this, nullptr);
+    connect(&core, signal, this, [this, done, epoch = m_epoch](const Answers &...answers) {
+        if (m_epoch == epoch)
+            (this->*done)(answers...);
+    });
+}
+
+void CQuorlinViewCtrl::RequestTest(const char *internalName, EPageId page, std::string document,
+                                   TestDoneSlot done)
+{
+    AwaitAnswer(&CNrCore::Signal_TestDone, done);
+    m_future =
+        QtConcurrent::run([internalName, &core = GetCore(), page, document = std::move(document)] {
+            qCDebug(lcCore) << internalName;
+            core.Test(PageName(page), document);
+        });
+}
+
+void CQuorlinViewCtrl::RequestStop(const char *internalName, bool isNr)
+{
+    AwaitAnswer(&CNrCore::Signal_TestStopDone, &CQuorlinViewCtrl::Slot_TestStopDone);
+    m_future = QtConcurrent::run([internalName, &core = GetCore(), isNr] {
+        qCDebug(lcCore) << internalName;
+        core.TestStopStart(isNr);
+    });
+}
+
+void CQuorlinViewCtrl::PuschTxForceTest(std::string document)
+{
+    RequestTest("PuschTxForceTestInternal", EPageId::PuschTxForce, std::move(document),
+                &CQuorlinViewCtrl::Slot_PuschTxForceTestDone);
+}
+
+void CQuorlinViewCtrl::PuschTxNormalTest(std::string document)
+{
+    RequestTest("PuschTxNormalTestInternal", EPageId::PuschTxNormal, std::move(document),
+                &CQuorlinViewCtrl::Slot_PuschTxNormalTestDone);
+}
+
+void CQuorlinViewCtrl::SingleToneTxTest(std::string document)
+{
+    RequestTest("SingleToneTxTestInternal", EPageId::SingleToneTx, std::move(document),
+                &CQuorlinViewCtrl::Slot_SingleToneTxTestDone);
+}
+
+void CQuorlinViewCtrl::RsrpForceTest(std::string document)
+{
+    RequestTest("RsrpForceTestInternal", EPageId::RsrpForce, std::move(document),
+                &CQuorlinViewCtrl::Slot_RsrpForceTestDone);
+}
+
+void CQuorlinViewCtrl::RsrpNormalTest(std::string document)
+{
+    RequestTest("RsrpNormalTestInternal", EPageId::RsrpNormal, std::move(document),
+                &CQuorlinViewCtrl::Slot_RsrpNormalTestDone);
+}
+
+void CQuorlinViewCtrl::ContRxTest(std::string document)
+{
+    RequestTest("ContRxTestInternal", EPageId::ContRx, std::move(document),
+                &CQuorlinViewCtrl::Slot_ContRxTestDone);
+}
+
+void CQuorlinViewCtrl::RssiTest(std::string document)
+{
+    RequestTest("RssiTestInternal", EPageId::Rssi, std::move(document),
+                &CQuorlinViewCtrl::Slot_RssiTestDone);
+}
+
+void CQuorlinViewCtrl::NrTestStop()
+{
+    RequestStop("NrTestStopInternal", true);
+}
+
+void CQuorlinViewCtrl::MultiRatTestStop()
+{
+    RequestStop("MultiRatTestStopInternal", false);
+}
+
+// The core has one signal for the tests of all pages. An answer of another page's test, which was
+// under way when ours began, is not ours.
+bool CQuorlinViewCtrl::TakeAnswer(EPageId page, const SEachItemOperationResult &result)
+{
+    if (result.itemName != PageName(page))
+        return false;
+    disconnect(&GetCore(), &CNrCore::Signal_TestDone, this, nullptr);
+    return true;
+}
+
+void CQuorlinViewCtrl::PassAnswer(EPageId page, const SEachItemOperationResult &result,
+                                  ResultSignal signal)
+{
+    if (TakeAnswer(page, result))
+        emit(this->*signal)(result);
+}
+
+void CQuorlinViewCtrl::Slot_PuschTxForceTestDone(SEachItemOperationResult result, std::string)
+{
+    PassAnswer(EPageId::PuschTxForce, result, &CQuorlinViewCtrl::Signal_PuschTxForceTestDone);
+}
+
+void CQuorlinViewCtrl::Slot_PuschTxNormalTestDone(SEachItemOperationResult result, std::string)
+{
+    PassAnswer(EPageId::PuschTxNormal, result, &CQuorlinViewCtrl::Signal_PuschTxNormalTestDone);
+}
+
+void CQuorlinViewCtrl::Slot_SingleToneTxTestDone(SEachItemOperationResult result, std::string)
+{
+    PassAnswer(EPageId::SingleToneTx, result, &CQuorlinViewCtrl::Signal_SingleToneTxTestDone);
+}
+
+void CQuorlinViewCtrl::Slot_RsrpForceTestDone(SEachItemOperationResult result, std::string)
+{
+    PassAnswer(EPageId::RsrpForce, result, &CQuorlinViewCtrl::Signal_RsrpForceTestDone);
+}
+
+void CQuorlinViewCtrl::Slot_RsrpNormalTestDone(SEachItemOperationResult result, std::string)
+{
+    PassAnswer(EPageId::RsrpNormal, result, &CQuorlinViewCtrl::Signal_RsrpNormalTestDone);
+}
+
+void CQuorlinViewCtrl::Slot_ContRxTestDone(SEachItemOperationResult result, std::string)
+{
+    PassAnswer(EPageId::ContRx, result, &CQuorlinViewCtrl::Signal_ContRxTestDone);
+}
+
+void CQuorlinViewCtrl::Slot_RssiTestDone(SEachItemOperationResult result, std::string response)
+{
+    if (TakeAnswer(EPageId::Rssi, result))
+        emit Signal_RssiTestDone(result, response);
+}
+
+void CQuorlinViewCtrl::Slot_TestStopDone(SEachItemOperationResult result)
+{
+    disconnect(&GetCore(), &CNrCore::Signal_TestStopDone, this, nullptr);
+    emit Signal_TestStopDone(result);
+}

@@ -1,0 +1,168 @@
+// Calibration blocks: what the target keeps in flash for a route, in pieces of 16 subbands.
+//
+// All blocks are little-endian and naturally aligned; reserved bytes are 0 on the wire. Gains,
+// losses, offsets and power detector values are dB in 1/32 dB; frequencies are kHz, 0 in the unused
+// tail of a list. Block k of a route holds its subbands 16k to 16k + 15, and each block repeats
+// what belongs to the whole route. A route has at most 64 subbands, so 4 blocks.
+//
+//   block.loss[subband][VondType1LossPair(EVondRxPath::Div, slot)].hpm = -976;   // -30.5 dB
+#pragma once
+
+#include "Vond/VondLayout.h"
+
+constexpr int VOND_CAL_BLOCK_SUBBANDS = 16;  // subbands of one block
+constexpr int VOND_CAL_MAX_SUBBANDS = 64;    // subbands of one route
+constexpr int VOND_CAL_MAX_BLOCKS = VOND_CAL_MAX_SUBBANDS / VOND_CAL_BLOCK_SUBBANDS;
+constexpr int VOND_CAL_TEMPERATURES = 8;  // steps of every temperature table
+
+constexpr int VOND_APT_LEVELS = 10;   // PA control levels
+constexpr int VOND_APT_PA_MODES = 3;  // 0 high, 1 middle, 2 low
+
+// One PA control level.
+struct SAptLevel
+{
+    uint8_t paMode;       // 0 high, 1 middle, 2 low
+    uint8_t dc2dcLevel;   // supply voltage, tenths of a volt
+    uint8_t usage256Qam;  // 1: the level is used for 256QAM
+    uint8_t reserved3;
+    int16_t prf;     // dB, 1/32 dB
+    int16_t paGain;  // dB, 1/32 dB
+};
+VOND_SIZE(SAptLevel, 8);
+VOND_OFFSET(SAptLevel, paMode, 0);
+VOND_OFFSET(SAptLevel, dc2dcLevel, 1);
+VOND_OFFSET(SAptLevel, usage256Qam, 2);
+VOND_OFFSET(SAptLevel, reserved3, 3);
+VOND_OFFSET(SAptLevel, prf, 4);
+VOND_OFFSET(SAptLevel, paGain, 6);
+
+// The part of an APT block that belongs to one PA mode.
+struct SAptPaPart
+{
+    uint8_t prfIndex;
+    uint8_t reserved1;
+    int16_t paGain[VOND_CAL_BLOCK_SUBBANDS];                 // by subband, 1/32 dB
+    int16_t paGainTempOffset[VOND_CAL_TEMPERATURES];         // by temperature, 1/32 dB
+    int16_t powerDetector[VOND_CAL_BLOCK_SUBBANDS];          // by subband, 1/32 dB
+    int16_t powerDetectorTempOffset[VOND_CAL_TEMPERATURES];  // by temperature, 1/32 dB
+};
+VOND_SIZE(SAptPaPart, 98);
+VOND_OFFSET(SAptPaPart, prfIndex, 0);
+VOND_OFFSET(SAptPaPart, reserved1, 1);
+VOND_OFFSET(SAptPaPart, paGain, 2);
+VOND_OFFSET(SAptPaPart, paGainTempOffset, 34);
+VOND_OFFSET(SAptPaPart, powerDetector, 50);
+VOND_OFFSET(SAptPaPart, powerDetectorTempOffset, 82);
+
+// One block of a TX route's bandwidth region.
+struct SAptBlock
+{
+    uint16_t band;  // NR band number
+    uint8_t normalTempIndex;
+    uint8_t paControlLevel;  // levels in use, at most 10
+    uint8_t paModeCount;     // PA modes in use, at most 3
+    uint8_t reserved5;
+    SAptLevel level[VOND_APT_LEVELS];
+    int16_t couplerLoss[VOND_APT_PA_MODES];  // 1/32 dB
+    uint32_t freq[VOND_CAL_BLOCK_SUBBANDS];  // UL, kHz
+    SAptPaPart pa[VOND_APT_PA_MODES];
+    uint8_t reserved450[2];
+};
+VOND_SIZE(SAptBlock, 452);
+VOND_OFFSET(SAptBlock, band, 0);
+VOND_OFFSET(SAptBlock, normalTempIndex, 2);
+VOND_OFFSET(SAptBlock, paControlLevel, 3);
+VOND_OFFSET(SAptBlock, paModeCount, 4);
+VOND_OFFSET(SAptBlock, reserved5, 5);
+VOND_OFFSET(SAptBlock, level, 6);
+VOND_OFFSET(SAptBlock, couplerLoss, 86);
+VOND_OFFSET(SAptBlock, freq, 92);
+VOND_OFFSET(SAptBlock, pa[0], 156);
+VOND_OFFSET(SAptBlock, pa[1], 254);
+VOND_OFFSET(SAptBlock, pa[2], 352);
+VOND_OFFSET(SAptBlock, reserved450, 450);
+
+enum class EVondRxPath
+{
+    Main = 0,
+    Div = 1,
+};
+
+// The loss of one gain on one path.
+struct SMMLossPair
+{
+    int16_t lpm;  // low power mode, 1/32 dB
+    int16_t hpm;  // high power mode, 1/32 dB
+};
+VOND_SIZE(SMMLossPair, 4);
+VOND_OFFSET(SMMLossPair, lpm, 0);
+VOND_OFFSET(SMMLossPair, hpm, 2);
+
+constexpr int VOND_LOSS_GAIN_SLOTS = 8;  // gain modes that a loss table has room for
+constexpr int VOND_SRX_PATHS = 2;        // paths of a type 2 route
+constexpr int VOND_GAIN_ROWS = 7;        // G0 to G6
+constexpr int VOND_GAIN_COLUMNS = 3;     // g0 to g2
+constexpr int VOND_SUB_GAINS = 3;        // sub-gains of a gain-by-gain row
+
+constexpr int VOND_TYPE1_LOSS_PAIRS = 2 * VOND_LOSS_GAIN_SLOTS;
+constexpr int VOND_PARTIAL_ON_PAIRS = VOND_SRX_PATHS * VOND_LOSS_GAIN_SLOTS;
+constexpr int VOND_GAIN_BY_GAIN_PAIRS =
+    VOND_SRX_PATHS * VOND_GAIN_ROWS * VOND_GAIN_COLUMNS * VOND_SUB_GAINS;
+constexpr int VOND_TYPE2_PATH_PAIRS = VOND_PARTIAL_ON_PAIRS + VOND_GAIN_BY_GAIN_PAIRS;
+constexpr int VOND_TYPE2_LOSS_PAIRS = 2 * VOND_TYPE2_PATH_PAIRS;
+static_assert(VOND_TYPE1_LOSS_PAIRS == 16 && VOND_TYPE2_LOSS_PAIRS == 284,
+              "the loss of one subband is 16 pairs, of type 2 284 pairs");
+
+// Pair index of a gain slot, 0 to 7, of a type 1 route.
+constexpr int VondType1LossPair(EVondRxPath path, int slot)
+{
+    return static_cast<int>(path) * VOND_LOSS_GAIN_SLOTS + slot;
+}
+
+// Pair index of a gain slot on an SRX path, 0 or 1, while that path runs alone.
+constexpr int VondPartialOnPair(EVondRxPath path, int srxPath, int slot)
+{
+    return static_cast<int>(path) * VOND_TYPE2_PATH_PAIRS + srxPath * VOND_LOSS_GAIN_SLOTS + slot;
+}
+
+// Pair index of a sub-gain, 0 to 2, of gain G (0 to 6), g (0 to 2) on an SRX path.
+constexpr int VondGainByGainPair(EVondRxPath path, int srxPath, int bigG, int smallG, int subGain)
+{
+    const int row = (srxPath * VOND_GAIN_ROWS + bigG) * VOND_GAIN_COLUMNS + smallG;
+    return static_cast<int>(path) * VOND_TYPE2_PATH_PAIRS + VOND_PARTIAL_ON_PAIRS +
+           row * VOND_SUB_GAINS + subGain;
+}
+static_assert(VondGainByGainPair(EVondRxPath::Div, 1, 6, 2, 2) == VOND_TYPE2_LOSS_PAIRS - 1,
+              "the last gain-by-gain pair is the last pair of a subband");
+
+// One block of a type 1 RX route.
+struct SMMType1PathlossBlockV7
+{
+    uint16_t band;  // NR band number
+    uint8_t reserved2[2];
+    uint32_t freq[VOND_CAL_BLOCK_SUBBANDS];  // DL, kHz
+    SMMLossPair loss[VOND_CAL_BLOCK_SUBBANDS][VOND_TYPE1_LOSS_PAIRS];
+    int16_t plOffset[VOND_CAL_TEMPERATURES];  // by temperature, 1/32 dB
+};
+VOND_SIZE(SMMType1PathlossBlockV7, 1108);
+VOND_OFFSET(SMMType1PathlossBlockV7, band, 0);
+VOND_OFFSET(SMMType1PathlossBlockV7, reserved2, 2);
+VOND_OFFSET(SMMType1PathlossBlockV7, freq, 4);
+VOND_OFFSET(SMMType1PathlossBlockV7, loss, 68);
+VOND_OFFSET(SMMType1PathlossBlockV7, plOffset, 1092);
+
+// One block of a type 2 RX route.
+struct SMMType2PathlossBlockV7
+{
+    uint16_t band;  // NR band number
+    uint8_t reserved2[2];
+    uint32_t freq[VOND_CAL_BLOCK_SUBBANDS];  // DL, kHz
+    SMMLossPair loss[VOND_CAL_BLOCK_SUBBANDS][VOND_TYPE2_LOSS_PAIRS];
+    int16_t plOffset[VOND_CAL_TEMPERATURES];  // by temperature, 1/32 dB
+};
+VOND_SIZE(SMMType2PathlossBlockV7, 18260);
+VOND_OFFSET(SMMType2PathlossBlockV7, band, 0);
+VOND_OFFSET(SMMType2PathlossBlockV7, reserved2, 2);
+VOND_OFFSET(SMMType2PathlossBlockV7, freq, 4);
+VOND_OFFSET(SMMType2PathlossBlockV7, loss, 68);
+VOND_OFFSET(SMMType2PathlossBlockV7, plOffset, 18244);

@@ -1,0 +1,219 @@
+// Calibration transfer records: one round between the tool and the target's flash.
+//
+// All records are little-endian and naturally aligned; the tool zeroes a record for each round. A
+// round lists its routes in tables of entries, one for each kind of route, and carries the blocks
+// of a kind one after another in the order of its entries: an entry with a block count of 2 owns
+// the next two. One round holds at most 55 type 1, 3 type 2 and 135 TX blocks, and a route's blocks
+// are not spread over two rounds.
+//
+// The first byte of both answers is the target's verdict: 1 is success; on 0 the text of the part
+// that failed tells why.
+//
+//   auto request = std::make_unique<SMMSetCalDataReqV7>();   // 178096 bytes, all 0
+//   request->radioKind = 1;
+//   request->version = 1;
+//   request->txCount = 1;
+//   request->tx[0] = {100000, 1, 7};   // one block for route 7, region up to 100 MHz
+//   request->txBlock[0] = block;
+#pragma once
+
+#include "Vond/VondCalBlocks.h"
+#include "Vond/VondCapabilityRecords.h"
+
+constexpr int VOND_CAL_TYPE1_BLOCKS = 55;  // of one round
+constexpr int VOND_CAL_TYPE2_BLOCKS = 3;
+constexpr int VOND_CAL_TX_BLOCKS = 135;
+constexpr int VOND_CAL_TEXT = 64;        // bytes of a verdict text
+constexpr uint8_t VOND_CAL_SUCCESS = 1;  // status of both answers
+constexpr uint8_t VOND_CAL_VERSION = 1;  // of a download request
+
+// An RX route in the answer of the block information.
+struct SMMCalRxRowV7
+{
+    uint16_t route;
+    uint16_t blockTotal;
+};
+VOND_SIZE(SMMCalRxRowV7, 4);
+VOND_OFFSET(SMMCalRxRowV7, route, 0);
+VOND_OFFSET(SMMCalRxRowV7, blockTotal, 2);
+
+// A TX route in the answer of the block information.
+struct SMMCalTxRowV7
+{
+    uint16_t route;
+    uint16_t blockTotal;                       // sum of the regions
+    uint16_t blockCount[VOND_MAX_BW_REGIONS];  // by bandwidth region, as in the route table
+    uint8_t reserved12[4];
+};
+VOND_SIZE(SMMCalTxRowV7, 16);
+VOND_OFFSET(SMMCalTxRowV7, route, 0);
+VOND_OFFSET(SMMCalTxRowV7, blockTotal, 2);
+VOND_OFFSET(SMMCalTxRowV7, blockCount, 4);
+VOND_OFFSET(SMMCalTxRowV7, reserved12, 12);
+
+// Answer of VOND_MMRf_GetCalBlkInfoV7_r: what the flash holds.
+struct SMMCalBlkInfoCnfV7
+{
+    uint16_t type1Count;  // rows in use
+    uint16_t type2Count;
+    uint16_t txCount;
+    SMMCalRxRowV7 type1[VOND_MAX_RX_ROUTES];
+    SMMCalRxRowV7 type2[VOND_MAX_RX_ROUTES];
+    SMMCalTxRowV7 tx[VOND_MAX_TX_ROUTES];
+};
+VOND_SIZE(SMMCalBlkInfoCnfV7, 2406);
+VOND_OFFSET(SMMCalBlkInfoCnfV7, type1Count, 0);
+VOND_OFFSET(SMMCalBlkInfoCnfV7, type2Count, 2);
+VOND_OFFSET(SMMCalBlkInfoCnfV7, txCount, 4);
+VOND_OFFSET(SMMCalBlkInfoCnfV7, type1, 6);
+VOND_OFFSET(SMMCalBlkInfoCnfV7, type2, 406);
+VOND_OFFSET(SMMCalBlkInfoCnfV7, tx, 806);
+
+// An RX route of a round.
+struct SMMCalRxEntryV7
+{
+    uint16_t blockCount;
+    uint16_t route;
+};
+VOND_SIZE(SMMCalRxEntryV7, 4);
+VOND_OFFSET(SMMCalRxEntryV7, blockCount, 0);
+VOND_OFFSET(SMMCalRxEntryV7, route, 2);
+
+// A bandwidth region of a TX route, asked for.
+struct SMMCalTxRequestEntryV7
+{
+    uint16_t blockCount;
+    uint16_t route;
+    uint32_t bandwidth;  // upper bound of the region, kHz
+    uint8_t reserved8[4];
+    uint16_t routeAgain;  // the route a second time
+    uint8_t reserved14[2];
+};
+VOND_SIZE(SMMCalTxRequestEntryV7, 16);
+VOND_OFFSET(SMMCalTxRequestEntryV7, blockCount, 0);
+VOND_OFFSET(SMMCalTxRequestEntryV7, route, 2);
+VOND_OFFSET(SMMCalTxRequestEntryV7, bandwidth, 4);
+VOND_OFFSET(SMMCalTxRequestEntryV7, reserved8, 8);
+VOND_OFFSET(SMMCalTxRequestEntryV7, routeAgain, 12);
+VOND_OFFSET(SMMCalTxRequestEntryV7, reserved14, 14);
+
+// A bandwidth region of a TX route whose blocks the record carries.
+struct SMMCalTxEntryV7
+{
+    uint32_t bandwidth;  // upper bound of the region, kHz
+    uint16_t blockCount;
+    uint16_t route;
+};
+VOND_SIZE(SMMCalTxEntryV7, 8);
+VOND_OFFSET(SMMCalTxEntryV7, bandwidth, 0);
+VOND_OFFSET(SMMCalTxEntryV7, blockCount, 4);
+VOND_OFFSET(SMMCalTxEntryV7, route, 6);
+
+// Request of VOND_MMRf_GetCalDataV7_r: one round of an upload.
+struct SMMGetCalDataReqV7
+{
+    uint32_t radioKind;   // 0 LTE side, 1 NR
+    uint16_t type1Count;  // entries in use
+    uint16_t type2Count;
+    uint16_t txCount;
+    uint8_t reserved10[2];
+    SMMCalRxEntryV7 type1[VOND_CAL_TYPE1_BLOCKS];
+    SMMCalRxEntryV7 type2[VOND_CAL_TYPE2_BLOCKS];
+    SMMCalTxRequestEntryV7 tx[VOND_CAL_TX_BLOCKS];
+};
+VOND_SIZE(SMMGetCalDataReqV7, 2404);
+VOND_OFFSET(SMMGetCalDataReqV7, radioKind, 0);
+VOND_OFFSET(SMMGetCalDataReqV7, type1Count, 4);
+VOND_OFFSET(SMMGetCalDataReqV7, type2Count, 6);
+VOND_OFFSET(SMMGetCalDataReqV7, txCount, 8);
+VOND_OFFSET(SMMGetCalDataReqV7, reserved10, 10);
+VOND_OFFSET(SMMGetCalDataReqV7, type1, 12);
+VOND_OFFSET(SMMGetCalDataReqV7, type2, 232);
+VOND_OFFSET(SMMGetCalDataReqV7, tx, 244);
+
+// Verdict of the target, the head of both answers. The texts end with a 0 or fill their room.
+struct SMMCalVerdictV7
+{
+    uint8_t status;  // 1: success
+    char type1Text[VOND_CAL_TEXT];
+    char type2Text[VOND_CAL_TEXT];
+    char txText[VOND_CAL_TEXT];
+};
+VOND_SIZE(SMMCalVerdictV7, 193);
+VOND_OFFSET(SMMCalVerdictV7, status, 0);
+VOND_OFFSET(SMMCalVerdictV7, type1Text, 1);
+VOND_OFFSET(SMMCalVerdictV7, type2Text, 65);
+VOND_OFFSET(SMMCalVerdictV7, txText, 129);
+
+// Answer of VOND_MMRf_GetCalDataV7_r. The three type 2 entries stand as two columns.
+struct SMMGetCalDataCnfV7
+{
+    SMMCalVerdictV7 verdict;
+    uint8_t reserved193;
+    uint16_t type1Count;  // entries in use
+    uint16_t type2Count;
+    uint16_t txCount;
+    SMMCalRxEntryV7 type1[VOND_CAL_TYPE1_BLOCKS];
+    uint16_t type2BlockCount[VOND_CAL_TYPE2_BLOCKS];
+    uint8_t reserved426[6];
+    uint16_t type2Route[VOND_CAL_TYPE2_BLOCKS];
+    uint8_t reserved438[18];
+    SMMCalTxEntryV7 tx[VOND_CAL_TX_BLOCKS];
+    SMMType1PathlossBlockV7 type1Block[VOND_CAL_TYPE1_BLOCKS];
+    SMMType2PathlossBlockV7 type2Block[VOND_CAL_TYPE2_BLOCKS];
+    SAptBlock txBlock[VOND_CAL_TX_BLOCKS];
+};
+VOND_SIZE(SMMGetCalDataCnfV7, 178276);
+VOND_OFFSET(SMMGetCalDataCnfV7, verdict, 0);
+VOND_OFFSET(SMMGetCalDataCnfV7, reserved193, 193);
+VOND_OFFSET(SMMGetCalDataCnfV7, type1Count, 194);
+VOND_OFFSET(SMMGetCalDataCnfV7, type2Count, 196);
+VOND_OFFSET(SMMGetCalDataCnfV7, txCount, 198);
+VOND_OFFSET(SMMGetCalDataCnfV7, type1, 200);
+VOND_OFFSET(SMMGetCalDataCnfV7, type2BlockCount, 420);
+VOND_OFFSET(SMMGetCalDataCnfV7, reserved426, 426);
+VOND_OFFSET(SMMGetCalDataCnfV7, type2Route, 432);
+VOND_OFFSET(SMMGetCalDataCnfV7, reserved438, 438);
+VOND_OFFSET(SMMGetCalDataCnfV7, tx, 456);
+VOND_OFFSET(SMMGetCalDataCnfV7, type1Block, 1536);
+VOND_OFFSET(SMMGetCalDataCnfV7, type2Block, 62476);
+VOND_OFFSET(SMMGetCalDataCnfV7, txBlock, 117256);
+
+// Request of VOND_MMRf_SetCalDataV7_r: one round of a download.
+struct SMMSetCalDataReqV7
+{
+    uint32_t radioKind;  // 0 LTE side, 1 NR
+    uint8_t version;     // VOND_CAL_VERSION
+    uint8_t reserved5;
+    uint16_t type1Count;  // entries in use
+    uint16_t type2Count;
+    uint16_t txCount;
+    SMMCalRxEntryV7 type1[VOND_CAL_TYPE1_BLOCKS];
+    uint16_t type2BlockCount[VOND_CAL_TYPE2_BLOCKS];
+    uint8_t reserved238[6];
+    uint16_t type2Route[VOND_CAL_TYPE2_BLOCKS];
+    uint8_t reserved250[26];
+    SMMCalTxEntryV7 tx[VOND_CAL_TX_BLOCKS];
+    SMMType1PathlossBlockV7 type1Block[VOND_CAL_TYPE1_BLOCKS];
+    SMMType2PathlossBlockV7 type2Block[VOND_CAL_TYPE2_BLOCKS];
+    SAptBlock txBlock[VOND_CAL_TX_BLOCKS];
+};
+VOND_SIZE(SMMSetCalDataReqV7, 178096);
+VOND_OFFSET(SMMSetCalDataReqV7, radioKind, 0);
+VOND_OFFSET(SMMSetCalDataReqV7, version, 4);
+VOND_OFFSET(SMMSetCalDataReqV7, reserved5, 5);
+VOND_OFFSET(SMMSetCalDataReqV7, type1Count, 6);
+VOND_OFFSET(SMMSetCalDataReqV7, type2Count, 8);
+VOND_OFFSET(SMMSetCalDataReqV7, txCount, 10);
+VOND_OFFSET(SMMSetCalDataReqV7, type1, 12);
+VOND_OFFSET(SMMSetCalDataReqV7, type2BlockCount, 232);
+VOND_OFFSET(SMMSetCalDataReqV7, reserved238, 238);
+VOND_OFFSET(SMMSetCalDataReqV7, type2Route, 244);
+VOND_OFFSET(SMMSetCalDataReqV7, reserved250, 250);
+VOND_OFFSET(SMMSetCalDataReqV7, tx, 276);
+VOND_OFFSET(SMMSetCalDataReqV7, type1Block, 1356);
+VOND_OFFSET(SMMSetCalDataReqV7, type2Block, 62296);
+VOND_OFFSET(SMMSetCalDataReqV7, txBlock, 117076);
+
+// Answer of VOND_MMRf_SetCalDataV7_r.
+using SMMSetCalDataCnfV7 = SMMCalVerdictV7;
