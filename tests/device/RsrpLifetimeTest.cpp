@@ -31,15 +31,6 @@ bool ShowAnew(CRsrpSession &session)
            session.Ready();
 }
 
-// The show after a reset builds the pages anew.
-bool ShowAnew(CRsrpSession &session)
-{
-    session->HidePlugin();
-    session->ShowPlugin();
-    return WaitUntil([&] { return session.Page() && session.StatusBar() == "Init done."; }) &&
-           session.Ready();
-}
-
 }  // namespace
 
 class RsrpLifetimeTest : public QObject
