@@ -2,7 +2,9 @@
 // Counter.
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QPushButton>
 #include <QSpinBox>
+#include <QThreadPool>
 #include <QTimer>
 #include <QtTest>
 
@@ -58,6 +60,8 @@ private slots:
     void clearEmptiesTheTableAndLeavesTheTarget();
     void clearTakesTheRowsOfAFetchInFlight_data() { BothRsrpPages(); }
     void clearTakesTheRowsOfAFetchInFlight();
+    void ticksAreSkippedWhileTheTableIsBeingCleared_data() { BothRsrpPages(); }
+    void ticksAreSkippedWhileTheTableIsBeingCleared();
     void resetCountsFromZeroAndLeavesTheTable_data() { BothRsrpPages(); }
     void resetCountsFromZeroAndLeavesTheTable();
     void failedResetShowsABoxAndTheRunGoesOn_data() { BothRsrpPages(); }
@@ -244,7 +248,7 @@ void RsrpReportTest::startAfterAStopBeginsAtRowOne()
     QCOMPARE(JournalOf(kRsrpStart)[1].request.at(mode == "Force" ? 4 : 8), char(3));
 }
 
-// The fetch has the old rows in its document: they must not come back.
+// The fetch has the old rows in its document: they must not come back, not even for a moment.
 void RsrpReportTest::startWithAFetchInFlightBeginsAtRowOne()
 {
     QFETCH(QString, mode);
@@ -253,10 +257,12 @@ void RsrpReportTest::startWithAFetchInFlightBeginsAtRowOne()
     QVERIFY(session.Fetch());
     QVERIFY(session.Stop());
     QVERIFY(session.HoldFetch());
+    const QSignalSpy added(session.Table()->model(), &QAbstractItemModel::rowsInserted);
     session.Press("m_start");
     VondSim_Release(kRsrpReport);
     QVERIFY(session.WaitForStatus("Rsrp start..."));
     QVERIFY(WaitUntil([&] { return session.Rows() == 0; }));
+    QCOMPARE(added.size(), 0);
     QVERIFY(session.Fetch());
     QCOMPARE(session.Rows(), 5);
     QCOMPARE(CountCalls(kRsrpReport), 3);
@@ -292,16 +298,32 @@ void RsrpReportTest::clearTakesTheRowsOfAFetchInFlight()
     QVERIFY(session.Fetch());
     QVERIFY(session.Stop());
     QVERIFY(session.HoldFetch());
+    const QSignalSpy added(session.Table()->model(), &QAbstractItemModel::rowsInserted);
     session.Press("clearPushButton");
-    session.Tick();  // no report while the table is being cleared
     VondSim_Release(kRsrpReport);
     QVERIFY(WaitUntil([&] { return session.Enabled() == "start reset clear rx tx"; }));
     QVERIFY(WaitUntil([] { return CountCalls(kRsrpReport) == 2; }));
     QCOMPARE(session.Rows(), 0);
+    QCOMPARE(added.size(), 0);
     session.Press("m_start");
     QVERIFY(session.WaitForStatus("Rsrp start..."));
     QVERIFY(session.Fetch());
     QCOMPARE(session.Rows(), 5);
+}
+
+// A report that is asked for now would carry the rows that are on their way out.
+void RsrpReportTest::ticksAreSkippedWhileTheTableIsBeingCleared()
+{
+    QFETCH(QString, mode);
+    CRsrpSession session(mode);
+    QVERIFY(session.Running());
+    QVERIFY(session.Fetch());
+    QVERIFY(session.Stop());
+    session.Find<QPushButton>("clearPushButton")->click();
+    session.Tick();
+    QVERIFY(WaitUntil([&] { return session.Rows() == 0; }));
+    QThreadPool::globalInstance()->waitForDone();
+    QCOMPARE(CountCalls(kRsrpReport), 1);
 }
 
 void RsrpReportTest::resetCountsFromZeroAndLeavesTheTable()
