@@ -64,6 +64,7 @@ bool CNrDataModelCapUpdater::UpdateRxHwSettingAndTxRouteV7(QJsonObject &doc,
     if (!m_target.GetRxCommonPathV7(table, true))
         return writer.Fail("Get HW setting from L1 capbiliy failed ");
 
+    const THwLabels noLabels = SameHwLabels("");
     CHwLabelTable path0;
     CHwLabelTable path1;
     CObjectTable txRouteTable;
@@ -81,7 +82,7 @@ bool CNrDataModelCapUpdater::UpdateRxHwSettingAndTxRouteV7(QJsonObject &doc,
             if (!path0.HasDefaults())
                 defaultTxRoute = row->txRoutes.value(0);
             path0.Put(key, HwLabels(row->hw, 1, 0));
-            path1.Put(key, SameHwLabels(""));
+            path1.Put(key, noLabels);
             if (!txRouteValuePairPath.IsEmpty())
                 txRouteTable.Put(route, QJsonArray::fromStringList(row->txRoutes));
         }
@@ -97,7 +98,8 @@ bool CNrDataModelCapUpdater::UpdateRxHwSettingAndTxRouteV7(QJsonObject &doc,
         }
     }
 
-    return WriteHwLabels(writer, path, path0) && WritePath1HwLabels(writer, path, path1) &&
+    return WriteHwLabels(writer, path.valuePairs, path.defaults, path0) &&
+           WriteHwLabels(writer, path.path1ValuePairs, {}, path1) &&
            writer.Write({
                {txRouteValuePairPath, txRouteTable.ToObject(),
                 "Update tx list route by rx route value faile"},

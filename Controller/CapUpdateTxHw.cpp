@@ -81,7 +81,7 @@ bool CNrDataModelCapUpdater::UpdateTxHwSettingByScsRBv7(QJsonObject &doc, const 
             }
         }
     }
-    return WriteHwLabels(writer, path, labels);
+    return WriteHwLabels(writer, path.valuePairs, path.defaults, labels);
 }
 
 bool CNrDataModelCapUpdater::UpdateTxHwSettingByBwRegion(QJsonObject &doc, const SHwSettingV7 path)
@@ -103,5 +103,5 @@ bool CNrDataModelCapUpdater::UpdateTxHwSettingByBwRegion(QJsonObject &doc, const
                            HwLabels(row->bwRegion[i]));
         }
     }
-    return WriteHwLabels(writer, path, labels);
+    return WriteHwLabels(writer, path.valuePairs, path.defaults, labels);
 }

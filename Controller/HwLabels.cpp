@@ -82,25 +82,15 @@ void CHwLabelTable::Put(const QString &key, const THwLabels &labels)
     m_hasDefaults = true;
 }
 
-bool WriteHwLabels(CDocumentWriter &writer, const SHwSettingPaths &path, CHwLabelTable &labels)
+bool WriteHwLabels(CDocumentWriter &writer, const SHwLabelPaths &valuePairs,
+                   const SHwLabelPaths &defaults, CHwLabelTable &labels)
 {
     for (std::size_t i = 0; i < kHwLabels; ++i) {
         const SLabelRow &row = kRows[i];
-        const SPaths &valuePairs = path.valuePairs.*row.paths;
-        const QJsonObject object = valuePairs.IsEmpty() ? QJsonObject() : labels.ToObject(i);
-        if (!writer.Write({{valuePairs, object, row.valueMessage},
-                           {path.defaults.*row.paths, labels.Defaults()[i], row.defaultMessage}}))
-            return false;
-    }
-    return true;
-}
-
-bool WritePath1HwLabels(CDocumentWriter &writer, const SHwSettingPaths &path, CHwLabelTable &labels)
-{
-    for (std::size_t i = 0; i < kHwLabels; ++i) {
-        const SPaths &valuePairs = path.path1ValuePairs.*kRows[i].paths;
-        if (!valuePairs.IsEmpty() &&
-            !writer.Write(valuePairs, labels.ToObject(i), kRows[i].valueMessage))
+        const SPaths &paths = valuePairs.*row.paths;
+        const QJsonObject object = paths.IsEmpty() ? QJsonObject() : labels.ToObject(i);
+        if (!writer.Write({{paths, object, row.valueMessage},
+                           {defaults.*row.paths, labels.Defaults()[i], row.defaultMessage}}))
             return false;
     }
     return true;

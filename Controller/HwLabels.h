@@ -5,7 +5,7 @@
 //
 //   CHwLabelTable table;
 //   table.Put("1,BW0", HwLabels(row.bwRegion[0]));
-//   WriteHwLabels(writer, path, table);
+//   WriteHwLabels(writer, path.valuePairs, path.defaults, table);
 #pragma once
 
 #include <array>
@@ -14,7 +14,7 @@
 #include "Operations/CapabilityInfo.h"
 
 class CDocumentWriter;
-struct SHwSettingPaths;
+struct SHwLabelPaths;
 
 constexpr std::size_t kHwLabels = 5;
 using THwLabels = std::array<QJsonValue, kHwLabels>;
@@ -41,9 +41,7 @@ private:
     bool m_hasDefaults = false;
 };
 
-// Writes the objects of path 0 with their defaults, in the order of the labels. A label that the
-// page does not show has no paths.
-bool WriteHwLabels(CDocumentWriter &writer, const SHwSettingPaths &path, CHwLabelTable &labels);
-// Writes the objects of path 1.
-bool WritePath1HwLabels(CDocumentWriter &writer, const SHwSettingPaths &path,
-                        CHwLabelTable &labels);
+// Writes the objects and their defaults, in the order of the labels. A label that the page does not
+// show, and a default that it does not take, has no paths.
+bool WriteHwLabels(CDocumentWriter &writer, const SHwLabelPaths &valuePairs,
+                   const SHwLabelPaths &defaults, CHwLabelTable &labels);

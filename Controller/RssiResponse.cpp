@@ -8,7 +8,6 @@
 namespace {
 
 constexpr double kGainUnit = 0.03125;  // 1/32 dB
-constexpr int kMaxGainIndex = 17;      // last entry of the type 2 gain table
 
 const QLatin1String kError("ERROR");
 
@@ -92,7 +91,7 @@ QString DbText(int16_t value)
 
 QString IndexText(uint8_t index)
 {
-    return QString::number(qMin<int>(index, kMaxGainIndex));
+    return QString::number(qMin<int>(index, VOND_HIGHEST_GAIN_IDX));
 }
 
 void Show(QJsonObject &document, const char *group, const char *member, const QJsonValue &value)

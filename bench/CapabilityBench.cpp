@@ -54,7 +54,7 @@ void PatchedText(benchmark::State &state)
 // As many labels as a step has, in the order of the DUT's tables, into a document.
 void StepEntries(benchmark::State &state)
 {
-    constexpr SHwSettingPaths kPaths{{SPath{"group", "fe", ""}, {}, {}, {}, {}}, {}, false, {}};
+    constexpr SHwLabelPaths kPaths{SPath{"group", "fe", ""}, {}, {}, {}, {}};
     QStringList keys;
     for (int i = 0; i < state.range(0) / static_cast<int>(kHwLabels); ++i)
         keys.append(QStringLiteral("%1,%2kHz,%3 RB").arg(i * 7919 % 65536).arg(i % 3).arg(i % 271));
@@ -66,7 +66,7 @@ void StepEntries(benchmark::State &state)
         for (const QString &key : qAsConst(keys))
             table.Put(key, HwLabels(hw));
         CDocumentWriter writer(document);
-        if (!WriteHwLabels(writer, kPaths, table))
+        if (!WriteHwLabels(writer, kPaths, {}, table))
             state.SkipWithError("not written");
     }
 }
