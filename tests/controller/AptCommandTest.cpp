@@ -232,4 +232,22 @@ TEST(AptCommandTest, EditOfAValueThatWasShownShortTakesTheNewValue)
     EXPECT_EQ(after.level[2].paMode, 0);
 }
 
+// A route on two bands has the data of one and the limits of the other.
+TEST(AptCommandTest, FrequencyBeyondTheLimitsOfTheRouteMayStandAtTheirEndOrInTheirMiddle)
+{
+    const QJsonObject limits = {{"12", QJsonObject{{"min", 0}, {"max", 3800000}}}};
+    QJsonObject page = Page();
+    ASSERT_TRUE(ModifyJsonValue(page, Group("group12") + ".memberProperty.ulFreq.trait.valuePair",
+                                limits, 0));
+    Put(page, "calDataIf.config.group1", {{"txRoute", "12"}});
+    Apt record = {};
+    record.freq[0] = 3900000;
+    for (const char *shown : {"3800000", "1900000"}) {
+        PutRow(page, kFreqGroup, "ulFreq", {shown});
+        EXPECT_EQ(Built(page, record).freq[0], 3900000u) << shown;
+    }
+    PutRow(page, kFreqGroup, "ulFreq", {"3799999"});
+    EXPECT_EQ(Built(page, record).freq[0], 3799999u);
+}
+
 }  // namespace
