@@ -65,10 +65,6 @@ private slots:
     void unchangedWriteLeavesTheFlashAsItWas();
     void secondReadDoesNotDoubleTheAnswers_data() { AddPageRows(); }
     void secondReadDoesNotDoubleTheAnswers();
-    void tabChangeLeavesAFlowGoing_data() { AddPageRows(); }
-    void tabChangeLeavesAFlowGoing();
-    void resetDuringAFlowDropsItsAnswer_data() { AddPageRows(); }
-    void resetDuringAFlowDropsItsAnswer();
     void resetWhileTheFileDialogIsOpen_data() { AddPageRows(); }
     void resetWhileTheFileDialogIsOpen();
     void resetWhileTheFailureBoxIsOpen_data() { AddPageRows(); }
@@ -310,44 +306,6 @@ void CalibrationFlowTest::secondReadDoesNotDoubleTheAnswers()
     QVERIFY(WaitUntil([&] { return session.busy.size() == 4; }));
     QCoreApplication::processEvents();
     QCOMPARE(session.busy, (QVector<bool>{true, false, true, false}));
-}
-
-void CalibrationFlowTest::tabChangeLeavesAFlowGoing()
-{
-    QFETCH(QString, page);
-    CCalibrationSession session(page);
-    QVERIFY(session.ShowAndWait());
-    const QString title = session.Page()->windowTitle();
-    VondSim_Hold(kReadCall);
-    session.Press(kRead.button);
-    QVERIFY(VondSim_WaitUntilHeld(kReadCall, 20000));
-    QVERIFY(session.ClickTab("Continuous RX"));
-    QVERIFY(session.ClickTab(title));
-    QVERIFY(!session.Selector("band")->isEnabled());
-    QVERIFY(!session.IsAnyButtonOn());
-    VondSim_Release(kReadCall);
-    QVERIFY(session.WaitForStatus(kRead.done));
-    QVERIFY(session.IsIdle());
-    QCOMPARE(session.busy, (QVector<bool>{true, false}));
-}
-
-void CalibrationFlowTest::resetDuringAFlowDropsItsAnswer()
-{
-    QFETCH(QString, page);
-    CCalibrationSession session(page);
-    QVERIFY(session.ShowAndWait());
-    VondSim_Hold(kReadCall);
-    session.Press(kRead.button);
-    QVERIFY(VondSim_WaitUntilHeld(kReadCall, 20000));
-    session->ResetPlugin();
-    QVERIFY(!session.Page());
-    QVERIFY(!session.Window()->statusBar()->findChild<QProgressBar *>());
-    VondSim_Release(kReadCall);
-    QVERIFY(WaitUntil([&] { return session.busy == QVector<bool>{true, false}; }));
-    QVERIFY(session.StatusBar() != kRead.done);
-    session->HidePlugin();
-    QVERIFY(session.ShowAndWait());
-    QVERIFY(session.Run(kRead));
 }
 
 void CalibrationFlowTest::resetWhileTheFileDialogIsOpen()
