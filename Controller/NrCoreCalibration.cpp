@@ -152,6 +152,8 @@ void CNrCore::RenewCalItems()
 {
     if (!m_areItemsStale.exchange(false))
         return;
+    const CLockSentry pathLoss(RecordLock(ECalItem::PathLoss));
+    const CLockSentry apt(RecordLock(ECalItem::Apt));
     m_aptProfile = std::make_unique<CMultiRatAptProfileV7>(ERadioKind::Nr);
     m_pathLoss = std::make_unique<CMultiRatPathLossV7>(ERadioKind::Nr);
     const QStringList names = m_calItemMap.keys();
@@ -174,6 +176,7 @@ ICalItemByL1Operation *CNrCore::FindCalItem(const QString &name)
 
 int CNrCore::RunCalItem(const SCalFlow &flow, const QString &name, CCalIniFile *file)
 {
+    const CLockSentry lock(RecordLock(static_cast<ECalItem>(m_calItemMap.value(name))));
     ICalItemByL1Operation &item = *FindCalItem(name);
     try {
         const uint32_t status = flow.move(item, file);

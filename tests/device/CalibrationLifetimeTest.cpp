@@ -81,6 +81,8 @@ private slots:
     void flowGoesOnWhileTheWindowIsHidden();
     void flowGoesOnBehindAnotherTab_data() { AddFlowRows(); }
     void flowGoesOnBehindAnotherTab();
+    void selectionChangesWhileTheOtherPagesFlowRuns_data() { AddPageRows(); }
+    void selectionChangesWhileTheOtherPagesFlowRuns();
     void hostCanNotEnableThePageOfARunningFlow_data() { AddFlowRows(); }
     void hostCanNotEnableThePageOfARunningFlow();
     void hostCanDisableAndEnableAnIdlePage_data() { AddPageRows(); }
@@ -99,6 +101,9 @@ private:
         if (!session.ShowAndWait() || !session.Run(kRead) || !session.Run(kExport, File()))
             return false;
         m_exported = Content(File());
+        // The status line must not say already what it is to say in the end.
+        if (held.call != kReadCall && !session.Run(kRead))
+            return false;
         session.busy.clear();
         m_callsBefore = CountCalls(held.call);
         VondSim_Hold(held.call);
@@ -168,6 +173,38 @@ void CalibrationLifetimeTest::flowGoesOnBehindAnotherTab()
     QVERIFY(!Bar(session));
     QVERIFY(session.ClickTab(title));
     QVERIFY(IsOver(session));
+}
+
+// The target may take long for one page; the window stays alive for the others.
+void CalibrationLifetimeTest::selectionChangesWhileTheOtherPagesFlowRuns()
+{
+    QFETCH(QString, page);
+    const bool isApt = page == kAptPage;
+    CCalibrationSession session(page);
+    QVERIFY(session.ShowAndWait());
+    QVERIFY(session.Run(kRead));
+    CCalibrationSession::Type(session.Cell(isApt ? 7 : 2, isApt ? "paHighPaGain" : "lna0", 0, 0),
+                              "12.5");
+    const QString title = session.Page()->windowTitle();
+    const auto *other =
+        session.Window()->findChild<QDockWidget *>(isApt ? kPathLossPage : kAptPage);
+    QVERIFY(session.ClickTab(other->windowTitle()));
+    VondSim_Hold(kReadCall);
+    QTest::mouseClick(other->findChild<QPushButton *>(kRead.button), Qt::LeftButton);
+    QVERIFY(VondSim_WaitUntilHeld(kReadCall, 20000));
+    QVERIFY(session.ClickTab(title));
+    const QString selector = isApt ? "aggBwRegion" : "powerMode";
+    const QString shown = session.Selector(selector)->currentText();
+    session.Select(selector, isApt ? "BW1" : "LPM");
+    QVERIFY(session.CellText(isApt ? 7 : 2, isApt ? "paHighPaGain" : "lna0", 0, 0) != "12.50000");
+    session.Select(selector, shown);
+    QCOMPARE(session.CellText(isApt ? 7 : 2, isApt ? "paHighPaGain" : "lna0", 0, 0),
+             QString("12.50000"));
+    QVERIFY(session.IsIdle());
+    QVERIFY(Bar(session));
+    VondSim_Release(kReadCall);
+    QVERIFY(WaitUntil([&] { return !Bar(session); }));
+    QCOMPARE(session.StatusBar(), QString(kRead.done));
 }
 
 void CalibrationLifetimeTest::hostCanNotEnableThePageOfARunningFlow()
