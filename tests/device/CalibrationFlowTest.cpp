@@ -84,6 +84,8 @@ void CalibrationFlowTest::readDisablesThePageAndShowsThatItIsBusy()
     CCalibrationSession session(page);
     QVERIFY(session.ShowAndWait());
     QVERIFY(session.IsIdle());
+    const QSize window = session.Window()->size();
+    const QPoint button = session.Find(kRead.button)->mapTo(session.Window(), QPoint(0, 0));
     VondSim_Hold(kReadCall);
     session.Press(kRead.button);
     QVERIFY(!session.IsAnyButtonOn());
@@ -98,6 +100,9 @@ void CalibrationFlowTest::readDisablesThePageAndShowsThatItIsBusy()
     QVERIFY(bar->maximum() > 0);
     QVERIFY(TurnsWhile([] { return true; }) > 20);
     QVERIFY(!session.IsAnyButtonOn());
+    // Nothing moves for the bar.
+    QCOMPARE(session.Window()->size(), window);
+    QCOMPARE(session.Find(kRead.button)->mapTo(session.Window(), QPoint(0, 0)), button);
     VondSim_Release(kReadCall);
     QVERIFY(session.WaitForStatus(kRead.done));
     QVERIFY(session.IsIdle());
@@ -208,6 +213,7 @@ void CalibrationFlowTest::writeBeforeAnyReadSendsNothing()
     session.Press(kWrite.button);
     QVERIFY(WaitUntil([&] { return boxes.Seen().size() == 1; }));
     QCOMPARE(boxes.Seen()[0].title, QString("Write data to target failed"));
+    QVERIFY(boxes.Seen()[0].text.contains("Operation does not execute yet."));
     QCOMPARE(CountCalls(kWriteCall), 0);
 }
 
