@@ -293,6 +293,29 @@ TEST_F(CalDownloadTest, BlockCountOfAStoredRecordIsHeldToItsRoom)
     EXPECT_EQ(m_apt.GetAptCalibrationData(1, 4), nullptr);
 }
 
+TEST_F(CalDownloadTest, RouteNumbersAbove100HaveRecordsOfTheirOwn)
+{
+    AnswerBytes(kRouteConfig, 458, "ffff");   // the first TX route
+    AnswerBytes(kRouteConfig, 2858, "6500");  // the first type 1 route: 101, as of type 2
+    CTargetCapability::Reset();
+    ASSERT_EQ(LoadText(m_apt, "[NR n1 BW0 TPC]\nTemperature Index = 5\n"), kDone);
+    ASSERT_EQ(LoadText(m_pathLoss, BareFile(ECalRoute::Type1) + BareFile(ECalRoute::Type2)), kDone);
+    EXPECT_EQ(m_apt.GetAptCalibrationData(65535, 0)->normalTempIndex, 5);
+    SType1 type1 = *m_pathLoss.GetPathLossCalibrationData<SType1>(101);
+    EXPECT_EQ(type1.route, 101);
+    type1.plOffset[0] = 7;
+    m_pathLoss.SetPathLossCalibrationData(101, type1);
+    EXPECT_EQ(m_pathLoss.GetPathLossCalibrationData<SType2>(101)->plOffset[0], 0);
+    m_apt.DownloadToFlash();  // the DUT knows no such routes: what it is sent is what counts
+    m_pathLoss.DownloadToFlash();
+    const auto requests = Requests();
+    ASSERT_EQ(requests.size(), 2u);
+    EXPECT_EQ(requests[0].tx[0].route, 65535);
+    EXPECT_EQ(requests[0].txBlock[0].normalTempIndex, 5);
+    EXPECT_EQ(requests[1].type1[0].route, 101);
+    EXPECT_EQ(requests[1].type1Block[0].plOffset[0], 7);
+}
+
 TEST_F(CalDownloadTest, MissingRouteTableEndsTheDownload)
 {
     ASSERT_EQ(m_apt.UploadFromFlash(), 0u);
