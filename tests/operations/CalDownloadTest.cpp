@@ -126,6 +126,41 @@ TEST_F(CalDownloadTest, HundredThirtySixBlocksGoInTwoRoundsSplitAtARoute)
     EXPECT_EQ(first, 132);
 }
 
+TEST_F(CalDownloadTest, HundredThirtyFiveBlocksGoInOneRound)
+{
+    // 39 records of 3 blocks, 18 of them with one more.
+    PlugHandsetWith(R"("calibration": {"txSubbands": {"default": 48, "n41": 64, "n79": 64,
+                                                      "n5": 64, "n28": 64}})");
+    ASSERT_EQ(m_apt.UploadFromFlash(), 0u);
+    ASSERT_EQ(m_apt.DownloadToFlash(), 0u);
+    const auto requests = Requests();
+    ASSERT_EQ(requests.size(), 1u);
+    ASSERT_EQ(requests[0].txCount, 39);
+    int blocks = 0;
+    for (int i = 0; i < 39; ++i)
+        blocks += requests[0].tx[i].blockCount;
+    EXPECT_EQ(blocks, 135);
+    EXPECT_NE(requests[0].txBlock[134].band, 0);
+}
+
+TEST_F(CalDownloadTest, FiftyFiveType1BlocksGoInOneRound)
+{
+    // 17 routes of 3 blocks, 4 of them with one more.
+    PlugHandsetWith(R"("calibration": {"rxType1Subbands": {"default": 48, "n1": 64, "n3": 64},
+                                       "rxType2Subbands": {"default": 0}})");
+    ASSERT_EQ(m_pathLoss.UploadFromFlash(), 0u);
+    ASSERT_EQ(m_pathLoss.DownloadToFlash(), 0u);
+    EXPECT_EQ(CountCalls(kGetCalData), 1);
+    const auto requests = Requests();
+    ASSERT_EQ(requests.size(), 1u);
+    ASSERT_EQ(requests[0].type1Count, 17);
+    int blocks = 0;
+    for (int i = 0; i < 17; ++i)
+        blocks += requests[0].type1[i].blockCount;
+    EXPECT_EQ(blocks, 55);
+    EXPECT_NE(requests[0].type1Block[54].band, 0);
+}
+
 TEST_F(CalDownloadTest, FourType2BlocksOverTwoRoutesGoInTwoRounds)
 {
     PlugHandsetWith(R"("calibration": {"rxType1Subbands": {"default": 0},

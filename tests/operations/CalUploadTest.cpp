@@ -282,10 +282,15 @@ TEST_F(CalUploadTest, RecordWithMoreBlocksThanItHoldsStaysInvalid)
 TEST_F(CalUploadTest, AnswerThatNamesAnotherRouteFillsNoRecord)
 {
     const LogCapture log(lcCalibration());
+    CMultiRatAptProfileV7 whole(ERadioKind::Nr);
+    ASSERT_EQ(whole.UploadFromFlash(), 0u);
     AnswerBytes(kGetCalData, 462, "ff7f");  // route of the first TX entry
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_TRUE(log.Holds(QtDebugMsg, "Can not get the bwIdx for route 32767"));
     EXPECT_FALSE(ValidSections(m_apt).contains("NR n1 BW0 TPC"));
+    EXPECT_EQ(BytesOf(*m_apt.GetAptCalibrationData(1, 1)),
+              BytesOf(*whole.GetAptCalibrationData(1, 1)))
+        << "the next record has blocks that are not its own";
 }
 
 TEST_F(CalUploadTest, AnswerWithFewerBlocksThanAskedForLeavesTheRecordInvalid)
