@@ -52,6 +52,7 @@ public:
     static void SetTargetHandle(uint32_t handle);
 
     void GetAllCalItem(QStringList &out) override;
+    void GetCalItemInFile(QStringList &out, CCalIniFile *file) override;
     void UploadFromFlashStart(QStringList items) override;
     void DownloadToFlashStart(QStringList items) override;
     void LoadFromFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) override;

@@ -23,20 +23,21 @@ struct SStop
     int routesDone = 0;         // behind this record
 };
 
-std::vector<SStop> Walk(const std::vector<SCalFilePart> &parts, const SCalFileContext &context)
+std::vector<SStop> Walk(const std::vector<SCalFilePart> &parts, const SMMRfRouteTableV7 &table,
+                        ERadioKind kind)
 {
     std::vector<SStop> stops;
     int rowsBefore = 0;
     for (const SCalFilePart &part : parts) {
         const ECalRoute route = part.sections->Kind();
-        for (const SCalPlace &place : WalkRoutes(context.table, route)) {
+        for (const SCalPlace &place : WalkRoutes(table, route)) {
             stops.push_back({&part,
                              place,
-                             part.sections->SectionsOf(context.kind, place),
+                             part.sections->SectionsOf(kind, place),
                              {},
                              rowsBefore + place.row + 1});
         }
-        rowsBefore += RouteRows(context.table, route);
+        rowsBefore += RouteRows(table, route);
     }
     return stops;
 }
@@ -100,9 +101,17 @@ void LogStop(const char *verb, const SStop &stop)
 
 }  // namespace
 
+bool HasCalSections(const std::vector<SCalFilePart> &parts, const SMMRfRouteTableV7 &table,
+                    ERadioKind kind)
+{
+    std::vector<SStop> stops = Walk(parts, table, kind);
+    KeepPresent(stops);
+    return !stops.empty();
+}
+
 SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFileContext &context)
 {
-    std::vector<SStop> stops = Walk(parts, context);
+    std::vector<SStop> stops = Walk(parts, context.table, context.kind);
     KeepPresent(stops);
     GiveSharedRecordsOneBand(stops);
     if (stops.empty())
@@ -126,7 +135,7 @@ SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
 
 SCalFault SaveCalSections(const std::vector<SCalFilePart> &parts, const SCalFileContext &context)
 {
-    std::vector<SStop> stops = Walk(parts, context);
+    std::vector<SStop> stops = Walk(parts, context.table, context.kind);
     const auto isInvalid = [](const SStop &stop) {
         return !stop.part->sections->IsValid(stop.place);
     };

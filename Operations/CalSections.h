@@ -75,5 +75,8 @@ struct SCalFileContext
     std::function<void(int routesDone)> onDone;  // told behind each record; never empty
 };
 
+// Does a file hold a section of a record, of whatever RF chip?
+bool HasCalSections(const std::vector<SCalFilePart> &parts, const SMMRfRouteTableV7 &table,
+                    ERadioKind kind);
 SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFileContext &context);
 SCalFault SaveCalSections(const std::vector<SCalFilePart> &parts, const SCalFileContext &context);

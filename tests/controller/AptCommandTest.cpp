@@ -37,6 +37,8 @@ const SScalar kScalars[] = {
     {"group3", "pRf4", "1023", 32736, [](const Apt &r) { return int(r.level[3].prf); }},
     {"group4", "paGain2", "28.03125", 897, [](const Apt &r) { return int(r.level[1].paGain); }},
     {"group4", "paGain10", "0.06", 1, [](const Apt &r) { return int(r.level[9].paGain); }},
+    {"group4", "paGain3", "1024", 32767, [](const Apt &r) { return int(r.level[2].paGain); }},
+    {"group4", "paGain9", "2047.00000", 32767, [](const Apt &r) { return int(r.level[8].paGain); }},
     {"group5", "dc2dcLevel1", "0.1V", 1, [](const Apt &r) { return int(r.level[0].dc2dcLevel); }},
     {"group5", "dc2dcLevel10", "3.4V", 34, [](const Apt &r) { return int(r.level[9].dc2dcLevel); }},
     {"group5", "dc2dcLevel6", "5.5V", 55, [](const Apt &r) { return int(r.level[5].dc2dcLevel); }},
