@@ -19,7 +19,7 @@ endfunction()
 
 # Compile settings that all code of the project shares.
 add_library(quorlin_options INTERFACE)
-target_compile_options(quorlin_options INTERFACE -Wall -Wextra
+target_compile_options(quorlin_options INTERFACE -Wall -Wextra -Wconversion
                        $<$<BOOL:${QUORLIN_WERROR}>:-Werror>)
 target_compile_definitions(quorlin_options INTERFACE QT_NO_FOREACH QT_DEPRECATED_WARNINGS
                            QT_MESSAGELOGCONTEXT)
