@@ -105,7 +105,7 @@ void CCampaign::RunRequest(const SRequest &request)
         if (!m_options.hasFaults)
             continue;
         const SFunction *function = FindFunction(row.key().toStdString());
-        for (const SDoorFault &fault : FaultsOf(*function, row.value()))
+        for (const SDoorFault &fault : FaultsOf(*function, row.value(), m_options.noises))
             RunFault(request, fault);
     }
 }

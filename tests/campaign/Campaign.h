@@ -6,7 +6,7 @@
 // before. The GUI's event loop must turn while an answer is late.
 //
 //   CTally tally;
-//   CCampaign campaign(tally, {EDelay::Gate, true});
+//   CCampaign campaign(tally, {EDelay::Gate, 3});
 //   campaign.RunPage(kPages[0]);
 #pragma once
 
@@ -22,6 +22,7 @@
 struct SCampaignOptions
 {
     EDelay delay = EDelay::Gate;
+    int noises = 1;         // how many kinds of noise each answer is tried with
     bool hasFaults = true;  // false: good runs alone, for what reaches what
 };
 

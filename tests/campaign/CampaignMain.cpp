@@ -1,13 +1,14 @@
 // The fault campaign: each request of the tool, with each call to the DUT that it makes gone wrong.
 //
-//   FaultCampaign [--real-delays] [PART...]
+//   FaultCampaign [--real-delays] [--noises=N] [PART...]
 //   FaultCampaign reach
 //
 // Parts: launch, documents, rx, tx, cal; without one, all of them. `reach` makes good runs alone
 // and checks that together they reach the whole of the DUT's interface. --real-delays lets a late
-// answer come after a second of the clock instead of when the test opens a gate. Prints a table of
-// the cases that ran and held; 0 if all did. Needs QT_QPA_PLATFORM=offscreen or a display, and its
-// own folder bin beside plugins.
+// answer come after a second of the clock instead of when the test opens a gate; --noises tries
+// each answer with N kinds of noise instead of one. Prints a table of the cases that ran and held;
+// 0 if all did. Needs QT_QPA_PLATFORM=offscreen or a display, and its own folder bin beside
+// plugins.
 #include <cstdio>
 
 #include <QApplication>
@@ -19,6 +20,7 @@ namespace {
 
 constexpr const char *kParts[] = {"launch", "documents", "rx", "tx", "cal"};
 constexpr char kReach[] = "reach";
+constexpr char kNoises[] = "--noises=";
 
 // Of the interface, what no request of the nine pages calls: the side of the LTE chip, and the
 // words of a result, which only a failure asks for.
@@ -62,14 +64,17 @@ int main(int argc, char **argv)
     for (const QString &argument : application.arguments().mid(1)) {
         if (argument == "--real-delays") {
             options.delay = EDelay::Clock;
+        } else if (argument.startsWith(kNoises)) {
+            options.noises = argument.mid(static_cast<int>(qstrlen(kNoises))).toInt();
         } else if (argument == kReach) {
             options.hasFaults = false;
         } else if (std::find(std::begin(kParts), std::end(kParts), argument) != std::end(kParts)) {
             parts.append(argument);
         } else {
-            std::fprintf(stderr,
-                         "usage: %s [--real-delays] [reach] [launch|documents|rx|tx|cal]...\n",
-                         argv[0]);
+            std::fprintf(
+                stderr,
+                "usage: %s [--real-delays] [--noises=N] [reach] [launch|documents|rx|tx|cal]...\n",
+                argv[0]);
             return 2;
         }
     }

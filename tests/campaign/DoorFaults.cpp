@@ -83,6 +83,8 @@ QString SDoorFault::Name() const
         name += QString(" %1").arg(result);
     if (kind == EFault::Status)
         name += QString(" %1").arg(status);
+    if (kind == EFault::Noise)
+        name += QString(" %1").arg(seed);
     if (isVerdictGood)
         name += ", accepted";
     if (isLastCallOnly)
@@ -95,14 +97,15 @@ bool IsTransfer(const SFunction &function)
     return function.id == EFunction::GetCalData || function.id == EFunction::SetCalData;
 }
 
-std::vector<SDoorFault> FaultsOf(const SFunction &function, int calls)
+std::vector<SDoorFault> FaultsOf(const SFunction &function, int calls, int noises)
 {
     std::vector<SDoorFault> faults;
     if (function.kind == EFunctionKind::Library) {
         faults.push_back({&function, EFault::NoText});
     } else {
         faults.push_back({&function, EFault::Fail, kFailure});
-        faults.push_back({&function, EFault::Noise});
+        for (int seed = 1; seed <= noises; ++seed)
+            faults.push_back({&function, EFault::Noise, 0, 0, static_cast<uint32_t>(seed)});
     }
     if (function.hasStatus) {
         for (uint32_t status = 1; status <= kLastStatus; ++status)
@@ -110,7 +113,7 @@ std::vector<SDoorFault> FaultsOf(const SFunction &function, int calls)
     }
     if (IsTransfer(function)) {
         faults.push_back({&function, EFault::Fail, kAcceptedFailure});
-        faults.push_back({&function, EFault::Fail, kFailure, 0, true});
+        faults.push_back({&function, EFault::Fail, kFailure, 0, 1, true});
         for (const uint32_t status : {0u, 2u, 255u})
             faults.push_back({&function, EFault::Status, 0, status});
     }
@@ -157,7 +160,7 @@ void Lay(const SDoorFault &fault, EDelay delay)
                 : R"("kind": "status", "status": )" + QByteArray::number(fault.status));
         return;
     case EFault::Noise:
-        Add(function, fault, R"("kind": "noise", "seed": 3)");
+        Add(function, fault, R"("kind": "noise", "seed": )" + QByteArray::number(fault.seed));
         return;
     case EFault::Fail:
     case EFault::Count:

@@ -1,10 +1,10 @@
 // What can go wrong in one call through the DUT's C interface, and how the simulated DUT is told.
 //
-// FaultsOf lists the faults of a function for a request that calls it `calls` times: where there
-// are several calls, each fault stands twice, once for all of them and once for the last alone. Lay
-// puts one in place, Clear takes all away. Any thread.
+// FaultsOf lists the faults of a function for a request that calls it `calls` times, with so many
+// kinds of noise: where there are several calls, each fault stands twice, once for all of them and
+// once for the last alone. Lay puts one in place, Clear takes all away. Any thread.
 //
-//   for (const SDoorFault &fault : FaultsOf(FunctionOf(EFunction::PuschTx), 1)) {
+//   for (const SDoorFault &fault : FaultsOf(FunctionOf(EFunction::PuschTx), 1, 3)) {
 //       Lay(fault);
 //       ... press Start, look ...
 //       ClearDoor();
@@ -41,18 +41,19 @@ struct SDoorFault
     EFault kind;
     int32_t result = 0;           // of Fail, NoText, LateText
     uint32_t status = 0;          // of Status
+    uint32_t seed = 1;            // of Noise
     bool isVerdictGood = false;   // of Fail: a transfer that was accepted, and failed all the same
     bool isLastCallOnly = false;  // of several calls
     int calls = 1;                // of a good run
 
-    // "status 2", "fail 4, last call".
+    // "status 2", "fail 4, last call", "noise 3".
     QString Name() const;
 };
 
 // Calibration transfers answer with a verdict and its texts.
 bool IsTransfer(const SFunction &function);
 
-std::vector<SDoorFault> FaultsOf(const SFunction &function, int calls);
+std::vector<SDoorFault> FaultsOf(const SFunction &function, int calls, int noises);
 // A failure whose text was asked for, once more with that text null and once more with it late.
 std::vector<SDoorFault> TextFaultsOf(const SDoorFault &failure);
 

@@ -111,7 +111,7 @@ void RunLaunchCampaign(CTally &tally, const SCampaignOptions &options)
         if (!options.hasFaults)
             continue;
         const SFunction *function = FindFunction(row.key().toStdString());
-        for (const SDoorFault &fault : FaultsOf(*function, row.value())) {
+        for (const SDoorFault &fault : FaultsOf(*function, row.value(), options.noises)) {
             tally.Book({kName, row.key(), fault.kind, fault.Name()},
                        Holds(session, fault, options));
         }

@@ -68,7 +68,7 @@ private:
 
     const SPage &m_page;
     CPluginSession m_session;
-    CBoxWatcher m_boxes;
+    CBoxWatcher m_boxes{1};
     QTemporaryDir m_folder;
     QString m_goodFile;
     EState m_state = EState::Idle;
