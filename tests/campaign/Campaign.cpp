@@ -1,17 +1,12 @@
 #include "tests/campaign/Campaign.h"
 
-#include <QElapsedTimer>
-#include <QTimer>
-
 #include "Simulator/VondSim.h"
+#include "tests/campaign/LateAnswer.h"
 #include "tests/common/SimJournal.h"
 #include "tests/common/WaitUntil.h"
 
 namespace {
 
-constexpr int kTurns = 20;
-constexpr int kTurnEveryMs = 1;
-constexpr int kSecondMs = 1000;
 constexpr int kPatienceMs = 5000;
 // Between two turns of a loop that turns every millisecond, on a busy machine.
 constexpr int kLongestStandMs = 500;
@@ -24,35 +19,6 @@ QMap<QString, int> CalledFunctions()
     for (const SJournalCall &entry : Journal())
         ++calls[entry.call.function];
     return calls;
-}
-
-QString TurnsWhileLate(const SDoorFault &fault, EDelay delay, const std::function<bool()> &isOver)
-{
-    const QByteArray function = WaitingFunction(fault);
-    if (delay == EDelay::Gate &&
-        !WaitUntil([&] { return VondSim_WaitUntilHeld(function.constData(), 0) != 0; }))
-        return "no caller came to the gate";
-    int turns = 0;
-    qint64 longest = 0;
-    QElapsedTimer sinceStart;
-    QElapsedTimer sinceTurn;
-    sinceStart.start();
-    sinceTurn.start();
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&] {
-        ++turns;
-        longest = qMax(longest, sinceTurn.restart());
-    });
-    timer.start(kTurnEveryMs);
-    if (delay == EDelay::Gate) {
-        WaitUntil([&] { return turns >= kTurns || isOver(); });
-        return turns < kTurns ? "the event loop does not turn, or the answer came early" : "";
-    }
-    WaitUntil(isOver);
-    if (sinceStart.elapsed() < kSecondMs - 100)
-        return QString("over after %1 ms").arg(sinceStart.elapsed());
-    return longest < kLongestStandMs ? QString()
-                                     : QString("the event loop stood for %1 ms").arg(longest);
 }
 
 CCampaign::CCampaign(CTally &tally, const SCampaignOptions &options)
@@ -138,12 +104,13 @@ QString CCampaign::HoldsUnder(const SRequest &request, const SDoorFault &fault,
 {
     VondSim_ClearJournal();
     Lay(fault, m_options.delay);
+    std::unique_ptr<CLateAnswer> late;
+    if (fault.kind == EFault::Late || fault.kind == EFault::LateText)
+        late.reset(new CLateAnswer(fault, m_options.delay, [&] {
+            const bool isTold = request.way == EWay::Tick || m_driver->IsBusy();
+            return isTold ? QString() : QString("the host is not told that the tool is busy");
+        }));
     m_driver->Act(request);
-    if (fault.kind == EFault::Late || fault.kind == EFault::LateText) {
-        const QString problem = WaitWhileLate(request, fault);
-        if (!problem.isEmpty())
-            return problem;
-    }
     // What noise says is known when all the calls have been made.
     if (fault.kind == EFault::Noise && request.way != EWay::Tick)
         WaitUntil([&] { return m_driver->IsAnswered() && m_driver->IsTold(); }, kPatienceMs);
@@ -152,22 +119,7 @@ QString CCampaign::HoldsUnder(const SRequest &request, const SDoorFault &fault,
         words = AnyFailureWords(request);
     const QString problem = m_driver->Await(request, words);
     isTextAskedFor = CountCalls("VOND_GetErrorString") > 0;
-    return problem;
-}
-
-QString CCampaign::WaitWhileLate(const SRequest &request, const SDoorFault &fault)
-{
-    // A file dialog, if any, has been answered when the caller stands at the gate.
-    const bool isBusyTold = request.way != EWay::Tick;
-    const QString problem = TurnsWhileLate(fault, m_options.delay, [&] {
-        return isBusyTold ? m_driver->IsAnswered() : !m_driver->Session().StatusBar().isEmpty();
-    });
-    if (!problem.isEmpty() || m_options.delay == EDelay::Clock)
-        return problem;
-    if (isBusyTold && !m_driver->IsBusy())
-        return "the host is not told that the tool is busy";
-    VondSim_Release(WaitingFunction(fault).constData());
-    return {};
+    return problem.isEmpty() && late ? late->Problem() : problem;
 }
 
 QString CCampaign::HoldsBehind(const SRequest &request)

@@ -10,7 +10,6 @@
 //   campaign.RunPage(kPages[0]);
 #pragma once
 
-#include <functional>
 #include <memory>
 
 #include <QMap>
@@ -28,9 +27,6 @@ struct SCampaignOptions
 
 // Functions of the DUT in the journal, and how often each was called.
 QMap<QString, int> CalledFunctions();
-// The event loop's turns until the caller that Lay made late stands at the gate, and some more;
-// empty, or what was wrong. By the clock: until a second has passed.
-QString TurnsWhileLate(const SDoorFault &fault, EDelay delay, const std::function<bool()> &isOver);
 
 class CCampaign
 {
@@ -44,7 +40,6 @@ private:
     void RunFault(const SRequest &request, const SDoorFault &fault);
     QString HoldsUnder(const SRequest &request, const SDoorFault &fault, bool &isTextAskedFor);
     QString HoldsBehind(const SRequest &request);
-    QString WaitWhileLate(const SRequest &request, const SDoorFault &fault);
     bool Restart();
     QString Name(const SRequest &request) const;
 

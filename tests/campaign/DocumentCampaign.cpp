@@ -2,6 +2,7 @@
 #include <QtTest>
 
 #include "Simulator/VondSim.h"
+#include "tests/campaign/LateAnswer.h"
 #include "tests/campaign/LaunchCampaign.h"
 #include "tests/common/SimJournal.h"
 #include "tests/common/WaitUntil.h"
@@ -12,7 +13,7 @@ constexpr char kListName[] = "page list";
 constexpr char kEmptyList[] = "Without any RF page init flow.";
 constexpr char kPageErrors[] = "There are some error in this page:  ";
 // Only a case that does not hold waits so long.
-constexpr int kPatienceMs = 5000;
+constexpr int kPatienceMs = 20000;
 constexpr char kNoBands[] = "Get band info failed";
 
 // How the first show ends.
@@ -105,19 +106,16 @@ QString CShow::Wait(const SDoorFault &fault)
     m_boxesBefore = m_boxes.Seen().size();
     VondSim_ClearJournal();
     Lay(fault, m_options.delay);
+    std::unique_ptr<CLateAnswer> late;
+    if (fault.kind == EFault::Late)
+        late.reset(new CLateAnswer(fault, m_options.delay, [&] {
+            return QString(m_session.Window()->isEnabled() ? "the window is enabled too early"
+                                                           : "");
+        }));
     m_session->ShowPlugin();
-    if (fault.kind == EFault::Late) {
-        const QString problem = TurnsWhileLate(fault, m_options.delay, [&] { return HasEnded(); });
-        if (!problem.isEmpty())
-            return problem;
-        if (m_options.delay == EDelay::Gate) {
-            if (m_session.Window()->isEnabled())
-                return "the window is enabled before its pages are there";
-            ClearDoor();
-        }
-    }
-    return WaitUntil([&] { return HasEnded(); }, kPatienceMs) ? QString()
-                                                              : QString("the show does not end");
+    if (!WaitUntil([&] { return HasEnded(); }, kPatienceMs))
+        return "the show does not end";
+    return late ? late->Problem() : QString();
 }
 
 // Faultless, with nothing in its way.
