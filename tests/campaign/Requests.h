@@ -65,7 +65,7 @@ struct SPage
     bool hasTest;
 };
 
-// Behind the word of a page that answers each request so often as it was asked before.
+// The page whose n-th Calculate is answered n times, box and all.
 constexpr char kRepeating[] = "PUSCH TX normal";
 
 extern const SPage kPages[];
