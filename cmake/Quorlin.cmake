@@ -73,8 +73,9 @@ endfunction()
 #   LABELS  unit (no widgets, no plug-in), gui (widgets, offscreen), device (the whole plug-in on the
 #           simulated DUT); the label sets the timeout
 #   QT      uses QtTest; without it the test is a GoogleTest program
+#   CASES   arguments; with them, one run of the program for each, named after both
 function(quorlin_test)
-  cmake_parse_arguments(T "QT" "NAME;LABELS" "SOURCES;DEPENDS" ${ARGN})
+  cmake_parse_arguments(T "QT" "NAME;LABELS" "SOURCES;DEPENDS;CASES" ${ARGN})
   set(timeout_unit 120)
   set(timeout_gui 120)
   set(timeout_device 300)
@@ -91,8 +92,17 @@ function(quorlin_test)
     set_target_properties(${T_NAME} PROPERTIES AUTOUIC OFF)
     target_link_libraries(${T_NAME} PRIVATE quorlin_options GTest::gtest_main)
   endif()
-  add_test(NAME ${T_NAME} COMMAND ${T_NAME} WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
-  set_tests_properties(${T_NAME} PROPERTIES LABELS ${T_LABELS} TIMEOUT ${timeout_${T_LABELS}}
+  set(runs)
+  foreach(case IN LISTS T_CASES)
+    list(APPEND runs ${T_NAME}.${case})
+    add_test(NAME ${T_NAME}.${case} COMMAND ${T_NAME} ${case}
+      WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  endforeach()
+  if(NOT runs)
+    set(runs ${T_NAME})
+    add_test(NAME ${T_NAME} COMMAND ${T_NAME} WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  endif()
+  set_tests_properties(${runs} PROPERTIES LABELS ${T_LABELS} TIMEOUT ${timeout_${T_LABELS}}
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=quorlin.*.debug=false;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
 endfunction()
 
