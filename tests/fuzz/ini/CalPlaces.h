@@ -39,7 +39,5 @@ struct SByteRange
 {
     int first = 0;
     int end = 0;
-
-    bool Holds(int at) const { return at >= first && at < end; }
 };
 SByteRange KeptBytes(const SRecordPlace &place);

@@ -18,9 +18,16 @@ const QString kSavedAgain = QStringLiteral("again.ini");
 bool IsMerged(const QByteArray &full, const QByteArray &fresh, const QByteArray &before,
               const SByteRange &kept)
 {
-    for (int i = 0; i < full.size(); ++i) {
-        const bool isKept = kept.Holds(i) && fresh[i] == '\0' && full[i] == before[i];
-        if (full[i] != fresh[i] && !isKept)
+    const char *const now = full.constData();
+    const char *const anew = fresh.constData();
+    const char *const then = before.constData();
+    const auto isEqual = [&](int first, int end) {
+        return std::equal(now + first, now + end, anew + first);
+    };
+    if (!isEqual(0, kept.first) || !isEqual(kept.end, full.size()))
+        return false;
+    for (int i = kept.first; i < kept.end; ++i) {
+        if (now[i] != anew[i] && (anew[i] != 0 || now[i] != then[i]))
             return false;
     }
     return true;
