@@ -6,7 +6,7 @@
 //   one that is does not hang on what was there before.
 // - Without a section (51), with that of another chip (200), or unreadable, nothing changes.
 // - What was loaded can be saved, into a new file and over the one that was loaded; either loads to
-//   the same records, and a second save has the same bytes.
+//   the same records.
 // A rule that is broken ends the process (Require). One thread.
 //
 //   CLoadRules<CMultiRatAptProfileV7> rules(folder, {0, 51, 53, 200});
@@ -54,7 +54,7 @@ private:
     Image ImageOf(const Item &item) const;
     void CheckAnswer(const Item &fresh, const SOutcome &outcome) const;
     void CheckRecords(const Image &fresh, const std::vector<bool> &valid, const Image &full) const;
-    void CheckReload(const QString &name, const Image &image, const QByteArray &saved) const;
+    void CheckReload(const QString &name, const Image &image) const;
 
     const CIniTestFolder &m_folder;
     std::set<uint32_t> m_codes;
