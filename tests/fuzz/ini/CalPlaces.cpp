@@ -39,8 +39,40 @@ void Append(std::vector<SRecordPlace> &places, const CCalSections &sections)
     }
 }
 
+void Mark(QByteArray &bytes, size_t first, size_t count)
+{
+    std::fill_n(bytes.begin() + static_cast<int>(first), count, '\1');
+}
+
 template <typename Record>
-constexpr SByteRange kLoss{offsetof(Record, loss), offsetof(Record, loss) + sizeof(Record::loss)};
+QByteArray KeptOfPathLoss()
+{
+    QByteArray kept(sizeof(Record), '\0');
+    Mark(kept, offsetof(Record, loss), sizeof(Record::loss));
+    return kept;
+}
+
+QByteArray KeptOfApt()
+{
+    using Record = SAptRouteBwRecord;
+    QByteArray kept(sizeof(Record), '\0');
+    Mark(kept, offsetof(Record, reserved7), sizeof(Record::reserved7));
+    for (size_t level = 0; level < VOND_APT_LEVELS; ++level)
+        Mark(kept,
+             offsetof(Record, level) + level * sizeof(SAptLevel) + offsetof(SAptLevel, reserved3),
+             sizeof(SAptLevel::reserved3));
+    Mark(kept, offsetof(Record, reserved187), sizeof(Record::reserved187));
+    Mark(kept, offsetof(Record, reserved194), sizeof(Record::reserved194));
+    return kept;
+}
+
+// Band and route stand at the head of every record.
+template <typename Record>
+bool IsHeadOf(int at)
+{
+    const int count = offsetof(Record, blockCount);
+    return at < 4 || (at >= count && at < count + 4);
+}
 
 }  // namespace
 
@@ -91,15 +123,21 @@ void PutRecord(CMultiRatPathLossV7 &item, const SRecordPlace &place, const QByte
         item.SetPathLossCalibrationData(route, *RecordOf<SMMType2PathlossByRouteV7>(bytes));
 }
 
-SByteRange KeptBytes(const SRecordPlace &place)
+QByteArray KeptBytes(const SRecordPlace &place)
 {
     switch (place.kind) {
     case ECalRoute::Type1:
-        return kLoss<SMMType1PathlossByRouteV7>;
+        return KeptOfPathLoss<SMMType1PathlossByRouteV7>();
     case ECalRoute::Type2:
-        return kLoss<SMMType2PathlossByRouteV7>;
+        return KeptOfPathLoss<SMMType2PathlossByRouteV7>();
     case ECalRoute::Tx:
         break;
     }
-    return {};
+    return KeptOfApt();
+}
+
+bool IsHead(const SRecordPlace &place, int at)
+{
+    return place.kind == ECalRoute::Tx ? IsHeadOf<SAptRouteBwRecord>(at)
+                                       : IsHeadOf<SMMType1PathlossByRouteV7>(at);
 }

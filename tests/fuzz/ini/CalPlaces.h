@@ -33,11 +33,9 @@ QByteArray RecordBytes(const CMultiRatPathLossV7 &item, const SRecordPlace &plac
 void PutRecord(CMultiRatAptProfileV7 &item, const SRecordPlace &place, const QByteArray &bytes);
 void PutRecord(CMultiRatPathLossV7 &item, const SRecordPlace &place, const QByteArray &bytes);
 
-// The part of a record in which a load may leave what was there: losses that the file has no key
-// for. Empty in APT records, of which a load sets every field.
-struct SByteRange
-{
-    int first = 0;
-    int end = 0;
-};
-SByteRange KeptBytes(const SRecordPlace &place);
+// The bytes of a record that a load may leave as they were, 1 for each: losses that the file has no
+// key for, and bytes without a meaning.
+QByteArray KeptBytes(const SRecordPlace &place);
+// The bytes at which a record's identity and size stand, which no load takes from a file as they
+// are.
+bool IsHead(const SRecordPlace &place, int at);

@@ -1,6 +1,5 @@
 #include "tests/fuzz/ini/LoadRules.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 #include "Support/CalIniFile.h"
@@ -8,25 +7,22 @@
 
 namespace {
 
-constexpr char kFiller = 0x5A;  // where a load may leave what was there
+constexpr char kFiller = 0x5A;  // shows what a load leaves as it was
 constexpr int kBandBytes = 2;   // at the head of every record
 
 const QString kSaved = QStringLiteral("saved.ini");
 
-// Of a record that was loaded anew: all of it, but for what a load may leave.
+// A record that was loaded over another is the one that was loaded anew, but for what a load may
+// leave.
 bool IsMerged(const QByteArray &full, const QByteArray &fresh, const QByteArray &before,
-              const SByteRange &kept)
+              const QByteArray &kept)
 {
     const char *const now = full.constData();
     const char *const anew = fresh.constData();
     const char *const then = before.constData();
-    const auto isEqual = [&](int first, int end) {
-        return std::equal(now + first, now + end, anew + first);
-    };
-    if (!isEqual(0, kept.first) || !isEqual(kept.end, full.size()))
-        return false;
-    for (int i = kept.first; i < kept.end; ++i) {
-        if (now[i] != anew[i] && (anew[i] != 0 || now[i] != then[i]))
+    const char *const mayKeep = kept.constData();
+    for (int i = 0; i < full.size(); ++i) {
+        if (now[i] != anew[i] && (mayKeep[i] == 0 || anew[i] != 0 || now[i] != then[i]))
             return false;
     }
     return true;
@@ -41,8 +37,11 @@ CLoadRules<Item>::CLoadRules(const CIniTestFolder &folder, std::set<uint32_t> co
     Require(m_full.UploadFromFlash() == kCalSuccess, "the flash of the target can be read");
     for (const SRecordPlace &place : m_places) {
         QByteArray bytes = RecordBytes(m_full, place);
-        const SByteRange kept = KeptBytes(place);
-        std::replace(bytes.begin() + kept.first, bytes.begin() + kept.end, '\0', kFiller);
+        for (int i = 0; i < bytes.size(); ++i) {
+            if (bytes.at(i) == 0 && !IsHead(place, i))
+                bytes[i] = kFiller;
+        }
+        m_kept.push_back(KeptBytes(place));
         PutRecord(m_full, place, bytes);
     }
     m_before = ImageOf(m_full);
@@ -140,7 +139,7 @@ void CLoadRules<Item>::CheckRecords(const Image &fresh, const std::vector<bool> 
 {
     for (size_t i = 0; i < m_places.size(); ++i) {
         if (valid[i])
-            Require(IsMerged(full[i], fresh[i], m_before[i], KeptBytes(m_places[i])),
+            Require(IsMerged(full[i], fresh[i], m_before[i], m_kept[i]),
                     "a loaded record does not hang on what was there");
         else
             Require(full[i] == m_before[i], "a record that is not loaded stays as it was");

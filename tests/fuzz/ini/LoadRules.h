@@ -61,6 +61,7 @@ private:
     Item m_full{ERadioKind::Nr};  // every record is valid; its records are those of m_before
     std::vector<SRecordPlace> m_places;
     Image m_before;
+    Image m_kept;  // see KeptBytes
 };
 
 extern template class CLoadRules<CMultiRatAptProfileV7>;
