@@ -74,10 +74,19 @@ void ReadAsTheTool()
     target.GetType2RouteGainFlag(rx.empty() ? uint16_t(0) : rx.back().route);
 }
 
-// A fault may stand in the bytes in many ways, escaped too; some words of it can't be left out.
-bool MayHaveFaults(const std::string &text)
+// Words of JSON can be escaped; whatever is, may be any of them.
+bool MayName(const std::string &text, const char *word)
 {
-    return text.find("faults") != std::string::npos || text.find('\\') != std::string::npos;
+    return text.find(word) != std::string::npos || text.find('\\') != std::string::npos;
+}
+
+// Delays are left out of it: those of calls without a timeout would be slept through.
+bool PutInPlace(const std::string &text)
+{
+    const bool isTaken = VondSim_SetProfileText(text.c_str()) == 0;
+    if (MayName(text, "delay"))
+        VondSim_ClearFaults();
+    return isTaken;
 }
 
 }  // namespace
@@ -95,27 +104,20 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const std::string text(reinterpret_cast<const char *>(data), size);
     const std::string given = text.c_str();  // a C text ends with its first zero byte
-    const bool isTaken = VondSim_SetProfileText(given.c_str()) == 0;
-    // Delays of calls without a timeout would be slept through.
-    const bool hasFaults = MayHaveFaults(given);
-    if (hasFaults && given.find("delay") != std::string::npos)
-        VondSim_ClearFaults();
-
+    const bool isTaken = PutInPlace(given);
     const SAnswers answers = CallAll();
     if (!isTaken) {
         Require(IsUnplugged(answers), "a refused profile leaves no DUT");
     } else {
         Require(VondSim_ProfileText() == given, "a profile reads as it was given");
-        if (!hasFaults) {
+        if (!MayName(given, "faults")) {
             Require(Fits(answers.config), "the counts of a DUT fit its records");
             Require(AreOrdered(answers.config.freqRange.tx) &&
                         AreOrdered(answers.config.freqRange.rx),
                     "limits of a route are ordered");
         }
         ReadAsTheTool();
-        VondSim_SetProfileText(given.c_str());
-        if (hasFaults && given.find("delay") != std::string::npos)
-            VondSim_ClearFaults();
+        PutInPlace(given);
         Require(CallAll() == answers, "a DUT answers alike each time");
     }
     VondSim_ClearJournal();
