@@ -50,7 +50,7 @@ check_scripts() {
         echo "Skipped: shellcheck is not installed."
         return 0
     fi
-    shellcheck -x run.sh test.sh .ci/run scripts/*.sh
+    shellcheck -x run.sh test.sh .ci/run scripts/*.sh tools/*.sh
 }
 
 # The arrows between the folders: what each may include beside itself. The closed libraries' functions
