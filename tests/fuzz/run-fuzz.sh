@@ -48,8 +48,8 @@ hunt() {
     exec env ASAN_OPTIONS=$sanitizer nice -n 10 "$build/bin/EngineFuzz" \
         -fork="$jobs" -ignore_crashes=1 -ignore_timeouts=1 -ignore_ooms=1 -detect_leaks=0 \
         -max_total_time="$seconds" -max_len=4096 -timeout=10 -rss_limit_mb=1500 \
-        -dict=tests/fuzz/engine.dict -artifact_prefix="$found/" \
-        "$corpus" tests/fuzz/corpus tests/fuzz/regressions >"$log" 2>&1
+        -dict=tests/fuzz/engine/engine.dict -artifact_prefix="$found/" \
+        "$corpus" tests/fuzz/engine/corpus tests/fuzz/engine/regressions >"$log" 2>&1
 }
 
 # libFuzzer's last line of state, such as "#2478: cov: 6672 ft: 6951 corp: 163 exec/s 35 ...".

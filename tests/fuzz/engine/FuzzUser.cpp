@@ -1,4 +1,4 @@
-#include "tests/fuzz/FuzzUser.h"
+#include "tests/fuzz/engine/FuzzUser.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -10,7 +10,7 @@
 #include <QTableWidget>
 #include <QWheelEvent>
 
-#include "tests/fuzz/FuzzVariant.h"
+#include "tests/fuzz/engine/FuzzVariant.h"
 
 namespace {
 

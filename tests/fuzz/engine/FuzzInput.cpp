@@ -1,15 +1,7 @@
-#include "tests/fuzz/FuzzInput.h"
+#include "tests/fuzz/engine/FuzzInput.h"
 
 #include "View/AutoBindingDataModelDockWidget.h"
-
-// GCC names the sanitizer in a macro, clang as a feature; Qt makes the latter harmless elsewhere.
-#if defined(__SANITIZE_ADDRESS__) || __has_feature(address_sanitizer)
-extern "C" void __lsan_disable();
-extern "C" void __lsan_enable();
-#else
-static void __lsan_disable() {}
-static void __lsan_enable() {}
-#endif
+#include "tests/fuzz/common/JsonMutator.h"
 
 namespace {
 
@@ -33,16 +25,6 @@ QList<QByteArray> CutInput(const QByteArray &whole)
 QByteArray JoinInput(const QList<QByteArray> &parts)
 {
     return parts.join(kParting);
-}
-
-// Qt's parser loses the memory of doubled keys, and what it had of a text that proves to be no JSON
-// only behind its first members.
-QJsonDocument ReadJson(const QByteArray &text)
-{
-    __lsan_disable();
-    const QJsonDocument document = QJsonDocument::fromJson(text);
-    __lsan_enable();
-    return document;
 }
 
 namespace {

@@ -1,14 +1,14 @@
-#include "tests/fuzz/Mutator.h"
+#include "tests/fuzz/common/Mutator.h"
 
 #include <QFile>
 
-#include "tests/fuzz/JsonMutator.h"
+#include "tests/fuzz/common/FuzzTarget.h"
+#include "tests/fuzz/common/JsonMutator.h"
 
 namespace {
 
-constexpr int kMaxLength = 4096;  // bytes of an input
-constexpr int kMaxChanges = 6;    // of one input
-constexpr int kMaxPart = 200;     // bytes that a change moves
+constexpr int kMaxChanges = 6;  // of one input
+constexpr int kMaxPart = 200;   // bytes that a change moves
 
 }  // namespace
 
@@ -29,15 +29,15 @@ QVector<QByteArray> ReadDictionary(const QString &file)
     return words;
 }
 
-CMutator::CMutator(QVector<QByteArray> corpus, QVector<QByteArray> words, unsigned seed)
-    : m_corpus(std::move(corpus)), m_words(std::move(words)), m_random(seed)
+CMutator::CMutator(QVector<QByteArray> corpus, QVector<QByteArray> words, int maxLength,
+                   unsigned seed)
+    : m_corpus(std::move(corpus)), m_words(std::move(words)), m_maxLength(maxLength), m_random(seed)
 {
 }
 
-// The standard distributions differ between libraries; a remainder does not.
 int CMutator::Below(int limit)
 {
-    return limit > 0 ? static_cast<int>(m_random() % static_cast<unsigned>(limit)) : 0;
+    return FuzzBelow(m_random, limit);
 }
 
 void CMutator::Change(QByteArray &input)
@@ -87,7 +87,7 @@ QByteArray CMutator::Next()
         if (Below(5) == 0)
             Change(input);
         else
-            input = MutateInput(input, m_random);
+            input = MutateFuzzInput(input, m_random);
     }
-    return input.left(kMaxLength);
+    return input.left(m_maxLength);
 }

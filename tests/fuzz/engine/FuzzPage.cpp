@@ -1,4 +1,4 @@
-#include "tests/fuzz/FuzzPage.h"
+#include "tests/fuzz/engine/FuzzPage.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,4 +1,4 @@
-#include "tests/fuzz/FuzzVariant.h"
+#include "tests/fuzz/engine/FuzzVariant.h"
 
 #include <iterator>
 

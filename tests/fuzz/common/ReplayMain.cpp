@@ -1,12 +1,14 @@
-// Runs the fuzz target without libFuzzer, on known inputs or on new ones.
+// Runs a fuzz target without libFuzzer, on known inputs or on new ones.
 //
 //   EngineFuzzReplay [FILE or FOLDER]...           runs each input once
 //   EngineFuzzReplay --hunt SECONDS [--seed N] ... then makes new ones from them for so long
 //
 // Without a path, the folders of the environment's QUORLIN_FUZZ_INPUTS are taken, with ":" between
-// them; the dictionary is QUORLIN_FUZZ_WORDS. The name of each input goes to the standard output
-// before it runs, so the last one is that of a crash; a hunt keeps the input under way in
-// engine-fuzz-input of the working directory. Fails when an input takes longer than ten seconds.
+// them; the dictionary is QUORLIN_FUZZ_WORDS, the greatest length of a new input, in bytes,
+// QUORLIN_FUZZ_MAX_LENGTH. The name of each input goes to the standard output before it runs, so
+// the last one is that of a crash; a hunt keeps the input under way in a file of the working
+// directory, the program's name with "-input" behind it. Fails when an input takes longer than ten
+// seconds.
 #include <cstdio>
 #include <cstdlib>
 #include <vector>
@@ -17,26 +19,27 @@
 #include <QFileInfo>
 #include <QStringList>
 
-#include "tests/fuzz/Mutator.h"
-
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv);
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
+#include "tests/fuzz/common/FuzzTarget.h"
+#include "tests/fuzz/common/Mutator.h"
 
 namespace {
 
 constexpr qint64 kMaxMilliseconds = 10000;  // of one input, with sanitizers on a busy machine
-const char kHuntedFile[] = "engine-fuzz-input";
+constexpr int kMaxLength = 4096;            // bytes of a new input, unless told
 
 struct SOptions
 {
     QStringList paths;
     int huntSeconds = 0;
     unsigned seed = 1;
+    QString huntedFile;  // keeps the input under way
 };
 
 SOptions ReadOptions(int argc, char *argv[])
 {
     SOptions options;
+    options.huntedFile =
+        QFileInfo(QString::fromLocal8Bit(argv[0])).fileName() + QLatin1String("-input");
     for (int i = 1; i < argc; ++i) {
         const QString word = QString::fromLocal8Bit(argv[i]);
         const char *next = i + 1 < argc ? argv[i + 1] : "";
@@ -89,20 +92,22 @@ bool Hunt(const SOptions &options, const QVector<QByteArray> &corpus)
 {
     const QVector<QByteArray> words =
         ReadDictionary(QString::fromLocal8Bit(qgetenv("QUORLIN_FUZZ_WORDS")));
-    CMutator mutator(corpus, words.isEmpty() ? QVector<QByteArray>{"{}"} : words, options.seed);
+    const int maxLength = qEnvironmentVariableIntValue("QUORLIN_FUZZ_MAX_LENGTH");
+    CMutator mutator(corpus, words.isEmpty() ? QVector<QByteArray>{"{}"} : words,
+                     maxLength > 0 ? maxLength : kMaxLength, options.seed);
     QElapsedTimer clock;
     clock.start();
     long runs = 0;
     for (; clock.elapsed() < options.huntSeconds * 1000LL; ++runs) {
         const QByteArray input = mutator.Next();
-        QFile kept(QString::fromLatin1(kHuntedFile));
+        QFile kept(options.huntedFile);
         if (kept.open(QIODevice::WriteOnly))
             kept.write(input);
         kept.close();
         if (!Run(input))
             return false;
     }
-    QFile::remove(QString::fromLatin1(kHuntedFile));
+    QFile::remove(options.huntedFile);
     std::printf("%ld new inputs, seed %u\n", runs, options.seed);
     return true;
 }

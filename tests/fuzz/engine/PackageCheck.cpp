@@ -1,8 +1,6 @@
-#include "tests/fuzz/PackageCheck.h"
+#include "tests/fuzz/engine/PackageCheck.h"
 
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>
@@ -15,7 +13,8 @@
 #include "View/DataTypes.h"
 #include "View/TableGroup.h"
 #include "View/WidgetIndex.h"
-#include "tests/fuzz/FuzzPage.h"
+#include "tests/fuzz/common/FuzzTarget.h"
+#include "tests/fuzz/engine/FuzzPage.h"
 
 namespace {
 
@@ -99,14 +98,6 @@ bool Publishes(const QJsonObject &groups)
 }
 
 }  // namespace
-
-void Require(bool holds, const char *rule)
-{
-    if (holds)
-        return;
-    std::fprintf(stderr, "Broken rule: %s\n", rule);
-    std::abort();
-}
 
 QJsonObject CheckedPackage(CFuzzPage &page)
 {

@@ -17,7 +17,6 @@
 #include <string>
 
 #include <QByteArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QList>
 
@@ -41,10 +40,6 @@ private:
 // The parts of an input as they stand, at least one; and the input of such parts.
 QList<QByteArray> CutInput(const QByteArray &whole);
 QByteArray JoinInput(const QList<QByteArray> &parts);
-
-// A JSON text; null when it is none. Qt's own parser loses memory on some texts, which this keeps
-// from the leak sanitizer, so that it speaks up for the engine's leaks alone.
-QJsonDocument ReadJson(const QByteArray &text);
 
 // Cells that the tables of a document ask for, all groups together. A short document may ask for
 // millions of editors by naming a member again and again: that is slow by right, and no finding.

@@ -1,4 +1,4 @@
-#include "tests/fuzz/BoxCloser.h"
+#include "tests/fuzz/engine/BoxCloser.h"
 
 #include <utility>
 

@@ -13,12 +13,13 @@
 #include <QToolTip>
 
 #include "Model/ModelText.h"
-#include "tests/fuzz/BoxCloser.h"
-#include "tests/fuzz/FuzzInput.h"
-#include "tests/fuzz/FuzzPage.h"
-#include "tests/fuzz/FuzzUser.h"
-#include "tests/fuzz/FuzzVariant.h"
-#include "tests/fuzz/PackageCheck.h"
+#include "tests/fuzz/common/FuzzTarget.h"
+#include "tests/fuzz/engine/BoxCloser.h"
+#include "tests/fuzz/engine/FuzzInput.h"
+#include "tests/fuzz/engine/FuzzPage.h"
+#include "tests/fuzz/engine/FuzzUser.h"
+#include "tests/fuzz/engine/FuzzVariant.h"
+#include "tests/fuzz/engine/PackageCheck.h"
 
 namespace {
 

@@ -10,9 +10,6 @@
 
 class CFuzzPage;
 
-// Ends the process if the rule is broken.
-void Require(bool holds, const char *rule);
-
 // Packages the page twice. The text is that of a JSON object, both times the same, and it holds
 // what every bound editor shows, in the form that the command builders read.
 QJsonObject CheckedPackage(CFuzzPage &page);
