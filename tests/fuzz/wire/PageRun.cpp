@@ -1,0 +1,240 @@
+#include "tests/fuzz/wire/PageRun.h"
+
+#include <QJsonArray>
+#include <QThreadPool>
+
+#include "Controller/NrCore.h"
+#include "Model/JsonPath.h"
+#include "Model/ModelText.h"
+#include "Model/StatusTable.h"
+#include "tests/capability/WrittenPaths.h"
+#include "tests/fuzz/common/FuzzTarget.h"
+#include "tests/fuzz/wire/FuzzPages.h"
+
+namespace {
+
+constexpr int kMaxRows = 11;  // of a fetch: ten measurements and a marker
+
+bool IsOperationStatus(int status)
+{
+    return status == eStatusSuccess || status == eStatusNotExecuted ||
+           status == eStatusVondFailed || status == eStatusTargetFailed;
+}
+
+// A text that a request has answered with.
+QJsonObject Answered(const std::string &text)
+{
+    const QJsonObject document = ModelFromText(text);
+    Require(!document.isEmpty(), "an answer is a document");
+    Require(ModelToText(document) == text, "a document travels as text");
+    return document;
+}
+
+QJsonArray Messages(const QJsonObject &document)
+{
+    return document["modelIntegrity"]["messageList"].toArray();
+}
+
+// Only what the page's driver writes differs from what the library carries.
+void CheckPatched(EPageId id, const QJsonObject &document)
+{
+    QJsonObject page = TemplatePage(id);
+    for (const SWrittenPath &row : WrittenPaths(id))
+        ModifyJsonValue(page, row.path, GetJsonValueConst(document, row.path), 0);
+    QJsonObject outside = document;
+    outside.remove("modelIntegrity");
+    Require(outside == page, "a driver writes its own paths alone");
+    Require(Messages(document).size() <= 1, "a driver ends with its first failure");
+}
+
+// Everything but the section that a response goes to.
+QJsonObject Without(QJsonObject document, const QString &root, const char *section)
+{
+    QJsonObject sections = document[root].toObject();
+    sections.remove(section);
+    document[root] = sections;
+    document.remove("modelIntegrity");
+    return document;
+}
+
+struct SFlowAnswer
+{
+    bool isDone = false;
+    int status = -1;
+};
+
+// Runs a flow with the one item, to its end.
+template <typename Signal, typename Start>
+int RunFlow(Signal signal, const Start &start)
+{
+    SFlowAnswer answer;
+    const auto connection = QObject::connect(
+        &GetCore(), signal, &GetCore(),
+        [&answer](bool isAllSuccess, const QVector<SEachItemOperationResult> &results) {
+            Require(results.size() == 1, "an item has one result");
+            Require(isAllSuccess == (results[0].status == 0), "a flow fails with its item");
+            answer = {true, results[0].status};
+        },
+        Qt::DirectConnection);
+    start();
+    QThreadPool::globalInstance()->waitForDone();
+    QObject::disconnect(connection);
+    Require(answer.isDone, "a flow answers");
+    return answer.status;
+}
+
+}  // namespace
+
+CPageRun::CPageRun(EPageId page) : m_page(page), m_name(PageName(page)) {}
+
+void CPageRun::Launch()
+{
+    GetCore().ResetTargetCache();
+    const SRfSupportStatus support = GetCore().GetSupportStatus();
+    Require(support.status >= eSupported && support.status <= eSupportUnknown &&
+                !support.message.isEmpty(),
+            "the launch query is decided, with words");
+    const QStringList pages = GetCore().GetAllSupportPage();
+    Require(pages.isEmpty() || pages == ShownPageClasses(), "there are all pages or none");
+    m_isGeneration1 = !pages.isEmpty();
+
+    const std::string text = GetCore().GetDataModel(m_name);
+    Require(text.empty() != m_isGeneration1, "generation 1 alone has documents");
+    const QJsonObject document = text.empty() ? TemplatePage(m_page) : Answered(text);
+    if (m_isGeneration1)
+        CheckPatched(m_page, document);
+    m_document = Packaged(document);
+}
+
+void CPageRun::Use()
+{
+    struct SUse
+    {
+        EPageId page;
+        void (CPageRun::*use)();
+    };
+    static constexpr SUse kUses[] = {
+        {EPageId::Rssi, &CPageRun::ReadRssi},
+        {EPageId::RsrpForce, &CPageRun::ReadReports},
+        {EPageId::RsrpNormal, &CPageRun::ReadReports},
+        {EPageId::SingleToneTx, &CPageRun::ReadValue},
+        {EPageId::PuschTxForce, &CPageRun::ReadValue},
+        {EPageId::PuschTxNormal, &CPageRun::ReadValue},
+        {EPageId::AptProfile, &CPageRun::Calibrate},
+        {EPageId::RxPathLoss, &CPageRun::Calibrate},
+    };
+    Test();
+    for (const SUse &row : kUses) {
+        if (row.page == m_page)
+            (this->*row.use)();
+    }
+}
+
+void CPageRun::Test()
+{
+    bool isDone = false;
+    const auto done = QObject::connect(
+        &GetCore(), &CNrCore::Signal_TestDone, &GetCore(),
+        [&](const SEachItemOperationResult &result, const std::string &answer) {
+            isDone = true;
+            Require(result.itemName == m_name, "a result names its page");
+            Require(IsOperationStatus(result.status), "a test has a status of the table");
+            Require(m_isGeneration1 || result.status == eStatusNotExecuted,
+                    "without generation 1 nothing runs");
+            if (m_page != EPageId::Rssi || !m_isGeneration1)
+                Require(answer.empty(), "one test alone answers with a document");
+            else
+                Require(Without(Answered(answer), "cmdIf", "response") ==
+                            Without(m_document, "cmdIf", "response"),
+                        "a response is written to its section alone");
+        },
+        Qt::DirectConnection);
+    GetCore().Test(m_name, ModelToText(m_document));
+    GetCore().TestStopStart(true);
+    GetCore().TestStopStart(false);
+    QThreadPool::globalInstance()->waitForDone();
+    QObject::disconnect(done);
+    Require(isDone, "a test answers");
+}
+
+void CPageRun::ReadRssi()
+{
+    SEachItemOperationResult result;
+    const QJsonObject document =
+        Answered(GetCore().RssiGainCalculate(ModelToText(m_document), result));
+    Require(IsOperationStatus(result.status), "a search has a status of the table");
+    Require(Without(document, "cmdIf", "response") == Without(m_document, "cmdIf", "response"),
+            "a response is written to its section alone");
+}
+
+void CPageRun::ReadReports()
+{
+    constexpr int kFetches = 2;
+    std::string text = ModelToText(m_document);
+    for (int i = 1; i <= kFetches; ++i) {
+        SEachItemOperationResult result;
+        text = GetCore().FetchMixRxReport(m_name, text, result);
+        Require(IsOperationStatus(result.status), "a fetch has a status of the table");
+        const QJsonObject document = Answered(text);
+        for (const char *group : {"group1", "group2"}) {
+            const QJsonValue table = document["cmdIf"]["response"][group];
+            Require(table["instanceList"].toArray().size() <= i * kMaxRows,
+                    "a fetch adds at most 11 rows");
+        }
+    }
+    const QJsonObject clean = Answered(GetCore().ClearMixRxReport(text));
+    Require(!m_isGeneration1 ||
+                clean["cmdIf"]["response"]["group1"]["instanceList"].toArray().isEmpty(),
+            "a cleaned table has no rows");
+    Require(Without(clean, "cmdIf", "response") == Without(m_document, "cmdIf", "response"),
+            "a response is written to its section alone");
+    GetCore().ResetMixRxCounter();
+}
+
+void CPageRun::ReadValue()
+{
+    const std::string text = ModelToText(m_document);
+    const bool isTone = m_page == EPageId::SingleToneTx;
+    const QJsonObject document =
+        Answered(isTone ? GetCore().GetPdValue(text) : GetCore().GetDlFreqForPuschTx(m_name, text));
+    Require(Without(document, "cmdIf", "response") == Without(m_document, "cmdIf", "response"),
+            "a response is written to its section alone");
+}
+
+void CPageRun::Calibrate()
+{
+    const QStringList items{m_name};
+    RunFlow(&CNrCore::Signal_UploadFromFlashDone, [&] { GetCore().UploadFromFlashStart(items); });
+    const bool isApt = m_page == EPageId::AptProfile;
+    const QString group = QStringLiteral("calDataIf.config.group1.memberValue.");
+    // As the page opens, then other selections: other regions and types, and what no record has.
+    for (int i = 0; i < 3; ++i) {
+        ShowAndStore();
+        const QString region = QStringLiteral("BW%1").arg(i == 0 ? 1 : 7);
+        const QString type = QStringLiteral("Type%1").arg(i == 0 ? 2 : 1);
+        ModifyJsonValue(m_document, group + (isApt ? "aggBwRegion" : "routeType"),
+                        isApt ? region : type, 0);
+        ModifyJsonValue(m_document, group + "powerMode", QStringLiteral("LPM"), 0);
+    }
+    RunFlow(&CNrCore::Signal_DownloadToFlashDone, [&] { GetCore().DownloadToFlashStart(items); });
+}
+
+// The record that the document selects is shown, given back and shown again: it stays.
+void CPageRun::ShowAndStore()
+{
+    const bool isApt = m_page == EPageId::AptProfile;
+    const auto get = isApt ? &CNrCore::GetAptCalibrationData : &CNrCore::GetPathLossCalibrationData;
+    const auto set = isApt ? &CNrCore::SetAptCalibrationData : &CNrCore::SetPathLossCalibrationData;
+    const std::string text = (GetCore().*get)(ModelToText(m_document));
+    Require(text.empty() != m_isGeneration1, "generation 1 alone has calibration data");
+    if (text.empty())
+        return;
+    const QJsonObject shown = Answered(text);
+    Require(Without(shown, "calDataIf", "data") == Without(m_document, "calDataIf", "data"),
+            "a record is shown in its section alone");
+    const QJsonObject packaged = Packaged(shown);
+    (GetCore().*set)(ModelToText(packaged));
+    const QJsonObject again = Answered((GetCore().*get)(ModelToText(packaged)));
+    if (Messages(shown).isEmpty())
+        Require(Packaged(again) == packaged, "a record that was only shown stays as it was");
+}
