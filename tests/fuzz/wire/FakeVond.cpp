@@ -8,6 +8,7 @@
 #include "Vond/VondApp.h"
 #include "Vond/VondCore.h"
 #include "tests/fuzz/common/FuzzTarget.h"
+#include "tests/fuzz/wire/BlockJournal.h"
 #include "tests/fuzz/wire/CalRequestRules.h"
 #include "tests/fuzz/wire/FuzzAnswers.h"
 
@@ -40,14 +41,29 @@ int32_t AnswerCapability(const char *function, uint32_t timeout, uint32_t reques
     return Answer(function, timeout, static_cast<Record *>(result));
 }
 
-// Frequencies and bands for blocks that the input does not fill.
+// Blocks that the input does not fill, no two alike.
+void FillLosses(SMMType1PathlossBlockV7 &block, int16_t number)
+{
+    block.loss[3][5] = {number, static_cast<int16_t>(-number)};
+}
+void FillLosses(SMMType2PathlossBlockV7 &block, int16_t number)
+{
+    block.loss[15][283] = {number, static_cast<int16_t>(-number)};
+}
+void FillLosses(SAptBlock &block, int16_t number)
+{
+    block.pa[2].powerDetector[15] = number;
+}
+
 template <typename Block>
 void FillBlocks(Block *block, int count)
 {
+    int number = BlockJournal::Count();
     for (int i = 0; i < count; ++i) {
         block[i].band = 78;
         for (int k = 0; k < VOND_CAL_BLOCK_SUBBANDS; ++k)
             block[i].freq[k] = static_cast<uint32_t>(3300000 + 1000 * k);
+        FillLosses(block[i], static_cast<int16_t>(++number));
     }
 }
 
@@ -221,13 +237,16 @@ VOND_RESULT VOND_MMRf_GetCalDataV7_r(uint32_t, uint32_t t, const SMMGetCalDataRe
     CheckCall(t);
     CheckRequest(*request);
     FillAnswer(*request, *result);
-    return FuzzAnswers::GiveOverlay(__func__, result, sizeof *result);
+    const int32_t code = FuzzAnswers::GiveOverlay(__func__, result, sizeof *result);
+    BlockJournal::Keep(*result);
+    return code;
 }
 
 VOND_RESULT VOND_MMRf_SetCalDataV7_r(uint32_t, uint32_t t, const SMMSetCalDataReqV7 *request,
                                      SMMSetCalDataCnfV7 *result)
 {
     CheckRequest(*request);
+    BlockJournal::Check(*request);
     result->status = VOND_CAL_SUCCESS;
     return Answer(__func__, t, result);
 }

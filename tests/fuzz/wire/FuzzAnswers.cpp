@@ -11,6 +11,7 @@
 #include "Simulator/VondSim.h"
 #include "Vond/VondCore.h"
 #include "tests/fuzz/common/FuzzTarget.h"
+#include "tests/fuzz/wire/BlockJournal.h"
 
 namespace {
 
@@ -158,6 +159,7 @@ void FuzzAnswers::Plug(const QByteArray &dut)
     s_plugged = found == s_answers.end() ? &s_answers[kDuts[0]] : &found->second;
     s_overlays.clear();
     s_results.clear();
+    BlockJournal::Clear();
     CTargetCapability::Reset();
 }
 

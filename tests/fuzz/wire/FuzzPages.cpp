@@ -15,19 +15,40 @@ namespace {
 constexpr int kScalars = 1;
 constexpr int kColumnTable = 3;
 
-// A column table repeats its last text.
-QJsonValue PackagedMember(const QJsonValue &given, bool isTable, int columns)
+constexpr int kDecimals = 5;
+
+QString EditorText(const QJsonObject &trait, const QString &text)
 {
+    const QString type = trait["dataType"].toString();
+    const QJsonValue entry = trait["value"];
+    if (type == QLatin1String("list"))
+        return entry.toArray().contains(text) ? text : QString();
+    const QJsonObject limits = entry.toObject();
+    if (limits.isEmpty())
+        return text;
+    const double held =
+        std::clamp(text.toDouble(), limits["min"].toDouble(), limits["max"].toDouble());
+    return QString::number(held, 'f', type == QLatin1String("range") ? 0 : kDecimals);
+}
+
+// A column table repeats its last text.
+QJsonValue PackagedMember(const QJsonObject &trait, bool isTable, int columns, EEditors editors)
+{
+    const auto packaged = [&](const QJsonValue &given) {
+        const QString text = given.toString(QStringLiteral("0"));
+        return editors == EEditors::None ? text : EditorText(trait, text);
+    };
+    const QJsonValue given = trait["defaultValue"];
     if (!isTable)
-        return given.isString() ? given : QJsonValue(QStringLiteral("0"));
+        return packaged(given);
     const QJsonArray texts = given.isArray() ? given.toArray() : QJsonArray{given};
     QJsonArray row;
     for (int i = 0; i < columns; ++i)
-        row.append(texts.at(std::min(i, texts.size() - 1)).toString(QStringLiteral("0")));
+        row.append(packaged(texts.at(std::min(i, texts.size() - 1))));
     return row;
 }
 
-QJsonObject PackagedGroup(QJsonObject group, bool isSelection)
+QJsonObject PackagedGroup(QJsonObject group, bool isSelection, EEditors editors)
 {
     const QJsonObject members = group["memberProperty"].toObject();
     const bool isTable = group["groupType"].toInt() == kColumnTable;
@@ -37,8 +58,7 @@ QJsonObject PackagedGroup(QJsonObject group, bool isSelection)
         if (isSelection && values.contains(member))
             continue;
         const QJsonObject trait = members[member].toObject()["trait"].toObject();
-        values[member] =
-            PackagedMember(trait["defaultValue"], isTable, members["dimentionCount"].toInt());
+        values[member] = PackagedMember(trait, isTable, members["dimentionCount"].toInt(), editors);
     }
     group["memberValue"] = values;
     return group;
@@ -76,7 +96,7 @@ QJsonObject PatchedPage(EPageId id)
     return document;
 }
 
-QJsonObject Packaged(QJsonObject document)
+QJsonObject Packaged(QJsonObject document, EEditors editors)
 {
     for (const QString &root : {QStringLiteral("cmdIf"), QStringLiteral("calDataIf")}) {
         QJsonObject sections = document[root].toObject();
@@ -86,7 +106,7 @@ QJsonObject Packaged(QJsonObject document)
                 const QJsonObject group = groups[key].toObject();
                 const int type = group["groupType"].toInt();
                 if (type == kScalars || type == kColumnTable)
-                    groups[key] = PackagedGroup(group, section == QLatin1String("config"));
+                    groups[key] = PackagedGroup(group, section == QLatin1String("config"), editors);
             }
             sections[section] = groups;
         }

@@ -25,9 +25,15 @@ QString RootOf(EPageId id);
 QJsonObject TemplatePage(EPageId id);
 QJsonObject PatchedPage(EPageId id);
 
+enum class EEditors
+{
+    None,      // each text comes back as it was given
+    OfThePage  // a spin box stops at its limits, a combo box is empty for what it lacks
+};
+
 // With a memberValue in every group of scalars or columns: each member's default, in a column table
 // one text a column. The selection of a calibration page stays as it is once it is made.
-QJsonObject Packaged(QJsonObject document);
+QJsonObject Packaged(QJsonObject document, EEditors editors = EEditors::None);
 
 // The patch laid over the value (RFC 7386): objects key by key, null removes, all else replaces.
 QJsonValue Merged(const QJsonValue &value, const QJsonValue &patch);

@@ -1,6 +1,9 @@
 #include "tests/fuzz/wire/PageRun.h"
 
+#include <algorithm>
+
 #include <QJsonArray>
+#include <QMap>
 #include <QThreadPool>
 
 #include "Controller/NrCore.h"
@@ -103,7 +106,9 @@ void CPageRun::Launch()
     const QJsonObject document = text.empty() ? TemplatePage(m_page) : Answered(text);
     if (m_isGeneration1)
         CheckPatched(m_page, document);
-    m_document = Packaged(document);
+    // A test's document is large by the DUT's tables, which no answer to a test looks at.
+    const bool isCalibration = RootOf(m_page) == QLatin1String("calDataIf");
+    m_document = Packaged(isCalibration ? document : TemplatePage(m_page));
 }
 
 void CPageRun::Use()
@@ -205,18 +210,35 @@ void CPageRun::Calibrate()
 {
     const QStringList items{m_name};
     RunFlow(&CNrCore::Signal_UploadFromFlashDone, [&] { GetCore().UploadFromFlashStart(items); });
-    const bool isApt = m_page == EPageId::AptProfile;
-    const QString group = QStringLiteral("calDataIf.config.group1.memberValue.");
-    // As the page opens, then other selections: other regions and types, and what no record has.
-    for (int i = 0; i < 3; ++i) {
-        ShowAndStore();
-        const QString region = QStringLiteral("BW%1").arg(i == 0 ? 1 : 7);
-        const QString type = QStringLiteral("Type%1").arg(i == 0 ? 2 : 1);
-        ModifyJsonValue(m_document, group + (isApt ? "aggBwRegion" : "routeType"),
-                        isApt ? region : type, 0);
-        ModifyJsonValue(m_document, group + "powerMode", QStringLiteral("LPM"), 0);
-    }
+    ShowAndStore();
+    SelectAnother();
+    ShowAndStore();
     RunFlow(&CNrCore::Signal_DownloadToFlashDone, [&] { GetCore().DownloadToFlashStart(items); });
+}
+
+// The last route of its table, as it comes: a TX route's last region, and a type 2 route in the
+// other power mode, the last subband, path and gain mode.
+void CPageRun::SelectAnother()
+{
+    const SMMRfRouteTableV7 *table = CTargetCapability().GetRouteTableNr();
+    const SMMRfRouteTableV7 none = {};
+    if (!table)
+        table = &none;
+    const SMMRfTxRouteV7 &tx = table->txRoute[std::max<int>(table->txRouteCount, 1) - 1];
+    const SMMRfRxType2RouteV7 &rx =
+        table->rxType2Route[std::max<int>(table->rxType2RouteCount, 1) - 1];
+    const QMap<QString, QString> apt = {
+        {"txRoute", QString::number(tx.route)},
+        {"aggBwRegion", QStringLiteral("BW%1").arg(tx.bwRegionCount - 1)},
+    };
+    const QMap<QString, QString> pathLoss = {
+        {"routeType", "Type2"}, {"route", QString::number(rx.route)}, {"powerMode", "LPM"},
+        {"path", "1"},          {"type2GainModeIdx", "G6"},           {"freqIdx", "63"},
+    };
+    const QMap<QString, QString> &selection = m_page == EPageId::AptProfile ? apt : pathLoss;
+    for (auto text = selection.begin(); text != selection.end(); ++text)
+        ModifyJsonValue(m_document, "calDataIf.config.group1.memberValue." + text.key(),
+                        text.value(), 0);
 }
 
 // The record that the document selects is shown, given back and shown again: it stays.

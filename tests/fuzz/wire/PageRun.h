@@ -31,6 +31,7 @@ private:
     void ReadReports();
     void ReadValue();
     void Calibrate();
+    void SelectAnother();
     void ShowAndStore();
 
     EPageId m_page;

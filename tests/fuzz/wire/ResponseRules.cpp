@@ -122,10 +122,12 @@ void CheckShow(const CCommandInput &input, EPageId page, const Show &show, const
             "a record shown again changes nothing");
     if (!IsDataOfBase(input, page))
         return;
-    const auto back = std::make_unique<Record>(fill(Packaged(document), *record));
-    back->blockCount = record->blockCount;  // a page counts them anew
-    Require(std::memcmp(back.get(), record.get(), sizeof(Record)) == 0,
-            "what a page shows and gives back stays as it was");
+    for (EEditors editors : {EEditors::None, EEditors::OfThePage}) {
+        const auto back = std::make_unique<Record>(fill(Packaged(document, editors), *record));
+        back->blockCount = record->blockCount;  // a page counts them anew
+        Require(std::memcmp(back.get(), record.get(), sizeof(Record)) == 0,
+                "what a page shows and gives back stays as it was");
+    }
 }
 
 }  // namespace
