@@ -1,15 +1,19 @@
 #include "tests/fuzz/wire/PageRun.h"
 
 #include <algorithm>
+#include <memory>
 
+#include <QFile>
 #include <QJsonArray>
 #include <QMap>
+#include <QTemporaryDir>
 #include <QThreadPool>
 
 #include "Controller/NrCore.h"
 #include "Model/JsonPath.h"
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
+#include "Support/CalIniFile.h"
 #include "tests/capability/WrittenPaths.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 #include "tests/fuzz/wire/FuzzPages.h"
@@ -17,6 +21,10 @@
 namespace {
 
 constexpr int kMaxRows = 11;  // of a fetch: ten measurements and a marker
+// Routes whose files an input may make: a type 2 route alone is 200 lines of 64 numbers.
+constexpr int kMaxFiledTx = 10;
+constexpr int kMaxFiledType1 = 4;
+constexpr int kMaxFiledType2 = 1;
 
 bool IsOperationStatus(int status)
 {
@@ -58,6 +66,16 @@ QJsonObject Without(QJsonObject document, const QString &root, const char *secti
     document[root] = sections;
     document.remove("modelIntegrity");
     return document;
+}
+
+bool IsFileSmall(EPageId page)
+{
+    const SMMRfRouteTableV7 *table = CTargetCapability().GetRouteTableNr();
+    if (!table)
+        return true;
+    return page == EPageId::AptProfile ? table->txRouteCount <= kMaxFiledTx
+                                       : table->rxType1RouteCount <= kMaxFiledType1 &&
+                                             table->rxType2RouteCount <= kMaxFiledType2;
 }
 
 struct SFlowAnswer
@@ -239,6 +257,35 @@ void CPageRun::SelectAnother()
     for (auto text = selection.begin(); text != selection.end(); ++text)
         ModifyJsonValue(m_document, "calDataIf.config.group1.memberValue." + text.key(),
                         text.value(), 0);
+}
+
+void CPageRun::UseFile()
+{
+    if (RootOf(m_page) != QLatin1String("calDataIf") || !IsFileSmall(m_page))
+        return;
+    const QTemporaryDir folder;
+    const QStringList items{m_name};
+    const auto fileOf = [&](const char *name) {
+        return std::make_shared<CCalIniFile>(folder.filePath(name).toStdWString().c_str());
+    };
+    const auto save = [&](const char *name) {
+        return RunFlow(&CNrCore::Signal_SaveToFileDone,
+                       [&] { GetCore().SaveToFileStart(fileOf(name), items); });
+    };
+    const auto bytesOf = [&](const char *name) {
+        QFile file(folder.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const int saved = save("first.ini");
+    const QByteArray first = bytesOf("first.ini");
+    Require(saved == eStatusSuccess || first.isEmpty(), "a save that fails leaves no file");
+    if (first.isEmpty())
+        return;  // no record is valid
+    const int loaded = RunFlow(&CNrCore::Signal_LoadFromFileDone,
+                               [&] { GetCore().LoadFromFileStart(fileOf("first.ini"), items); });
+    Require(loaded == eStatusSuccess, "what was saved loads again");
+    Require(save("second.ini") == eStatusSuccess && bytesOf("second.ini") == first,
+            "what was loaded makes the same file");
 }
 
 // The record that the document selects is shown, given back and shown again: it stays.

@@ -24,6 +24,8 @@ public:
     void Launch();
     // The page's requests: test, reads and stop; of a calibration page the moves and documents.
     void Use();
+    // Of a calibration page: what a save has written loads again and makes the same file.
+    void UseFile();
 
 private:
     void Test();

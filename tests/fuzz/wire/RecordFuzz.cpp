@@ -37,5 +37,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     CPageRun run(input.page);
     run.Launch();
     run.Use();
+    if (input.isFiled)
+        run.UseFile();
     return 0;
 }

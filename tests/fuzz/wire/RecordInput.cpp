@@ -6,6 +6,7 @@
 
 namespace {
 
+constexpr char kFileLine[] = "file";
 constexpr uint32_t kMaxTimes = 100000;  // bytes of the largest record are fewer
 
 bool ReadChange(const QByteArray &line, SRecordChange &change)
@@ -38,6 +39,7 @@ SRecordInput ReadRecordInput(const QByteArray &text)
     input.page = PageOf(QString::fromLatin1(blank < 0 ? QByteArray() : head.mid(blank + 1)));
     for (const QByteArray &line : qAsConst(lines)) {
         SRecordChange change;
+        input.isFiled = input.isFiled || line == kFileLine;
         if (ReadChange(line, change))
             input.changes.push_back(change);
     }
@@ -47,6 +49,8 @@ SRecordInput ReadRecordInput(const QByteArray &text)
 QByteArray RecordText(const SRecordInput &input)
 {
     QByteArray text = input.dut + ' ' + PageName(input.page).toLatin1() + '\n';
+    if (input.isFiled)
+        text += QByteArray(kFileLine) + '\n';
     for (const SRecordChange &change : input.changes) {
         text += change.function + ' ';
         if (change.isResult) {

@@ -5,6 +5,8 @@
 //     VOND_MMRf_GetCalDataV7_r 194 0100 x50       fifty times one behind another
 //     VOND_NRf_GetBandRxInfo_r = 4                the result of the call
 //
+//     file                                        calibration data goes through a file, too
+//
 // A line that is none of these is passed over.
 #pragma once
 
@@ -28,6 +30,7 @@ struct SRecordInput
 {
     QByteArray dut;
     EPageId page = EPageId::Rssi;
+    bool isFiled = false;
     std::vector<SRecordChange> changes;
 };
 

@@ -114,6 +114,19 @@ SRecordChange NewChange(std::mt19937 &random)
     return change;
 }
 
+// Few enough for a file, of all three kinds.
+SRecordChange FewRoutes(std::mt19937 &random)
+{
+    SRecordChange change;
+    change.function = "VOND_MMRf_GetRouteConfigV7_r";
+    change.offset = offsetof(SMMRfRouteConfigV7, routes.txRouteCount);
+    for (int most : {4, 3, 1}) {
+        change.bytes.append(static_cast<char>(1 + FuzzBelow(random, most)));
+        change.bytes.append('\0');
+    }
+    return change;
+}
+
 void AlterBytes(QByteArray &bytes, std::mt19937 &random)
 {
     const int at = FuzzBelow(random, bytes.size());
@@ -158,6 +171,9 @@ QByteArray MutateFuzzInput(const QByteArray &text, std::mt19937 &random)
     switch (FuzzBelow(random, 10)) {
     case 0:
         input.page = One(random, kFuzzPages);
+        input.isFiled = FuzzBelow(random, 3) == 0;
+        if (input.isFiled)
+            input.changes.push_back(FewRoutes(random));
         break;
     case 1:
         if (FuzzBelow(random, 3) == 0)
