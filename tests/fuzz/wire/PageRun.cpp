@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QMap>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QThreadPool>
 
@@ -66,6 +67,26 @@ QJsonObject Without(QJsonObject document, const QString &root, const char *secti
     document[root] = sections;
     document.remove("modelIntegrity");
     return document;
+}
+
+// Gain indexes and gain modes of a response point into their tables, whatever the DUT has answered.
+void CheckGains(const QJsonObject &document)
+{
+    static const QRegularExpression modes(QStringLiteral("G(\\d+)\\+g(\\d+)"));
+    const QJsonObject members =
+        document["cmdIf"]["response"]["group1"]["memberProperty"].toObject();
+    for (auto member = members.begin(); member != members.end(); ++member) {
+        const QString text = (*member)["trait"]["defaultValue"].toString();
+        if (member.key().endsWith(QLatin1String("GainIdx")))
+            Require(text.toInt() <= VOND_HIGHEST_GAIN_IDX, "a gain index is in its table");
+        auto match = modes.globalMatch(text);
+        while (match.hasNext()) {
+            const QRegularExpressionMatch mode = match.next();
+            Require(mode.captured(1).toInt() <= VOND_HIGHEST_ELNA_MODE &&
+                        mode.captured(2).toInt() <= VOND_HIGHEST_GAIN_MODE,
+                    "a gain mode is one of its table");
+        }
+    }
 }
 
 bool IsFileSmall(EPageId page)
@@ -164,12 +185,14 @@ void CPageRun::Test()
             Require(IsOperationStatus(result.status), "a test has a status of the table");
             Require(m_isGeneration1 || result.status == eStatusNotExecuted,
                     "without generation 1 nothing runs");
-            if (m_page != EPageId::Rssi || !m_isGeneration1)
+            if (m_page != EPageId::Rssi || !m_isGeneration1) {
                 Require(answer.empty(), "one test alone answers with a document");
-            else
+            } else {
+                CheckGains(Answered(answer));
                 Require(Without(Answered(answer), "cmdIf", "response") ==
                             Without(m_document, "cmdIf", "response"),
                         "a response is written to its section alone");
+            }
         },
         Qt::DirectConnection);
     GetCore().Test(m_name, ModelToText(m_document));
@@ -186,6 +209,7 @@ void CPageRun::ReadRssi()
     const QJsonObject document =
         Answered(GetCore().RssiGainCalculate(ModelToText(m_document), result));
     Require(IsOperationStatus(result.status), "a search has a status of the table");
+    CheckGains(document);
     Require(Without(document, "cmdIf", "response") == Without(m_document, "cmdIf", "response"),
             "a response is written to its section alone");
 }
