@@ -23,7 +23,7 @@ void TakeBaseDocuments()
     for (const char *dut : FuzzAnswers::kDuts) {
         FuzzAnswers::Plug(dut);
         for (EPageId id : kFuzzPages)
-            s_bases[{dut, id}] = Packaged(PatchedPage(id));
+            s_bases[{dut, id}] = PackagedPage(id, PatchedPage(id));
     }
 }
 

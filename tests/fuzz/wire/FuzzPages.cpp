@@ -3,68 +3,12 @@
 #include <algorithm>
 
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonDocument>
 
 #include "Controller/NrDataModelCapUpdater.h"
 #include "Model/ModelResources.h"
+#include "tests/controller/CalPages.h"
 #include "tests/fuzz/common/FuzzTarget.h"
-
-namespace {
-
-constexpr int kScalars = 1;
-constexpr int kColumnTable = 3;
-
-constexpr int kDecimals = 5;
-
-QString EditorText(const QJsonObject &trait, const QString &text)
-{
-    const QString type = trait["dataType"].toString();
-    const QJsonValue entry = trait["value"];
-    if (type == QLatin1String("list"))
-        return entry.toArray().contains(text) ? text : QString();
-    const QJsonObject limits = entry.toObject();
-    if (limits.isEmpty())
-        return text;
-    const double held =
-        std::clamp(text.toDouble(), limits["min"].toDouble(), limits["max"].toDouble());
-    return QString::number(held, 'f', type == QLatin1String("range") ? 0 : kDecimals);
-}
-
-// A column table repeats its last text.
-QJsonValue PackagedMember(const QJsonObject &trait, bool isTable, int columns, EEditors editors)
-{
-    const auto packaged = [&](const QJsonValue &given) {
-        const QString text = given.toString(QStringLiteral("0"));
-        return editors == EEditors::None ? text : EditorText(trait, text);
-    };
-    const QJsonValue given = trait["defaultValue"];
-    if (!isTable)
-        return packaged(given);
-    const QJsonArray texts = given.isArray() ? given.toArray() : QJsonArray{given};
-    QJsonArray row;
-    for (int i = 0; i < columns; ++i)
-        row.append(packaged(texts.at(std::min(i, texts.size() - 1))));
-    return row;
-}
-
-QJsonObject PackagedGroup(QJsonObject group, bool isSelection, EEditors editors)
-{
-    const QJsonObject members = group["memberProperty"].toObject();
-    const bool isTable = group["groupType"].toInt() == kColumnTable;
-    QJsonObject values = group["memberValue"].toObject();
-    for (const QJsonValue &name : group["memberList"].toArray()) {
-        const QString member = name.toString();
-        if (isSelection && values.contains(member))
-            continue;
-        const QJsonObject trait = members[member].toObject()["trait"].toObject();
-        values[member] = PackagedMember(trait, isTable, members["dimentionCount"].toInt(), editors);
-    }
-    group["memberValue"] = values;
-    return group;
-}
-
-}  // namespace
 
 EPageId PageOf(const QString &name)
 {
@@ -73,10 +17,9 @@ EPageId PageOf(const QString &name)
     return page == std::end(kFuzzPages) ? kFuzzPages[0] : *page;
 }
 
-QString RootOf(EPageId id)
+bool IsCalibration(EPageId id)
 {
-    return id == EPageId::RxPathLoss || id == EPageId::AptProfile ? QStringLiteral("calDataIf")
-                                                                  : QStringLiteral("cmdIf");
+    return id == EPageId::RxPathLoss || id == EPageId::AptProfile;
 }
 
 QJsonObject TemplatePage(EPageId id)
@@ -96,24 +39,9 @@ QJsonObject PatchedPage(EPageId id)
     return document;
 }
 
-QJsonObject Packaged(QJsonObject document, EEditors editors)
+QJsonObject PackagedPage(EPageId id, const QJsonObject &document)
 {
-    for (const QString &root : {QStringLiteral("cmdIf"), QStringLiteral("calDataIf")}) {
-        QJsonObject sections = document[root].toObject();
-        for (const QString &section : sections.keys()) {
-            QJsonObject groups = sections[section].toObject();
-            for (const QString &key : groups.keys()) {
-                const QJsonObject group = groups[key].toObject();
-                const int type = group["groupType"].toInt();
-                if (type == kScalars || type == kColumnTable)
-                    groups[key] = PackagedGroup(group, section == QLatin1String("config"), editors);
-            }
-            sections[section] = groups;
-        }
-        if (document.contains(root))
-            document[root] = sections;
-    }
-    return document;
+    return IsCalibration(id) ? Packaged(document, EEditors::None) : PackagedDocument(document);
 }
 
 QJsonValue Merged(const QJsonValue &value, const QJsonValue &patch)

@@ -146,8 +146,7 @@ void CPageRun::Launch()
     if (m_isGeneration1)
         CheckPatched(m_page, document);
     // A test's document is large by the DUT's tables, which no answer to a test looks at.
-    const bool isCalibration = RootOf(m_page) == QLatin1String("calDataIf");
-    m_document = Packaged(isCalibration ? document : TemplatePage(m_page));
+    m_document = PackagedPage(m_page, IsCalibration(m_page) ? document : TemplatePage(m_page));
 }
 
 void CPageRun::Use()
@@ -285,7 +284,7 @@ void CPageRun::SelectAnother()
 
 void CPageRun::UseFile()
 {
-    if (RootOf(m_page) != QLatin1String("calDataIf") || !IsFileSmall(m_page))
+    if (!IsCalibration(m_page) || !IsFileSmall(m_page))
         return;
     const QTemporaryDir folder;
     const QStringList items{m_name};
@@ -325,9 +324,10 @@ void CPageRun::ShowAndStore()
     const QJsonObject shown = Answered(text);
     Require(Without(shown, "calDataIf", "data") == Without(m_document, "calDataIf", "data"),
             "a record is shown in its section alone");
-    const QJsonObject packaged = Packaged(shown);
+    const QJsonObject packaged = PackagedPage(m_page, shown);
     (GetCore().*set)(ModelToText(packaged));
     const QJsonObject again = Answered((GetCore().*get)(ModelToText(packaged)));
     if (Messages(shown).isEmpty())
-        Require(Packaged(again) == packaged, "a record that was only shown stays as it was");
+        Require(PackagedPage(m_page, again) == packaged,
+                "a record that was only shown stays as it was");
 }

@@ -9,8 +9,8 @@
 #include "Controller/NrDataModelResponseBuilder.h"
 #include "Model/ModelText.h"
 #include "Operations/AnswerRoom.h"
+#include "tests/controller/CalPages.h"
 #include "tests/fuzz/common/FuzzTarget.h"
-#include "tests/fuzz/wire/FuzzPages.h"
 
 namespace {
 
