@@ -23,8 +23,7 @@ public:
     SCalFault Read(CCalIniFile &file, const SCalPlace &place,
                    const std::vector<std::string> &sections,
                    const std::vector<bool> &present) override;
-    void Write(CCalIniFile &file, const SCalPlace &place,
-               const std::vector<std::string> &sections) override;
+    void Write(CIniSection &section, const SCalPlace &place, int index) override;
 
 private:
     CCalStore<SAptRouteBwRecord> &m_store;

@@ -2,9 +2,9 @@
 // when it is absent. The same table writes and reads.
 //
 //   constexpr SCalKey<SAptRouteBwRecord> kKeys[] = {
-//       {"Temperature Index", ECalValue::Number, 1, 1, "3",
-//        [](SAptRouteBwRecord &r, int, int) { return CCalCell(r.normalTempIndex); }}};
-//   WriteKeys(file, section, kKeys, record);
+//       {"Temperature Index", ECalValue::Number, 1, "3",
+//        [](SAptRouteBwRecord &r, int) { return CCalCells(r.normalTempIndex); }}};
+//   WriteKeys(section, kKeys, record);
 #pragma once
 
 #include <initializer_list>
@@ -12,16 +12,16 @@
 
 #include "Operations/CalCells.h"
 #include "Support/CalIniFile.h"
+#include "Support/IniSection.h"
 
 template <typename Record>
 struct SCalKey
 {
     const char *key;  // with rows > 1, "%d" in it is the row
     ECalValue kind;
-    int values;  // 1: a lone value; more: a list
-    int rows;    // 1, or the number of keys of this form, which follow each other in the file
+    int rows;  // 1, or the number of keys of this form, which follow each other in the file
     const char *absent;
-    CCalCell (*cell)(Record &record, int row, int value);
+    CCalCells (*cells)(Record &record, int row);
 };
 
 // The "%d" and "%s" of a form replaced by the texts, in their order.
@@ -45,15 +45,11 @@ std::string KeyText(const SCalKey<Record> &key, int row)
 }
 
 template <typename Record, size_t keyCount>
-void WriteKeys(CCalIniFile &file, const std::string &section,
-               const SCalKey<Record> (&keys)[keyCount], Record &record)
+void WriteKeys(CIniSection &section, const SCalKey<Record> (&keys)[keyCount], Record &record)
 {
     for (const SCalKey<Record> &key : keys) {
-        for (int row = 0; row < key.rows; ++row) {
-            file.WriteString(
-                section, KeyText(key, row),
-                CellsText(key.kind, key.values, [&](int i) { return key.cell(record, row, i); }));
-        }
+        for (int row = 0; row < key.rows; ++row)
+            key.cells(record, row).AppendTo(section.Key(KeyText(key, row)), key.kind);
     }
 }
 
@@ -70,9 +66,7 @@ const char *ReadKeys(CCalIniFile &file, const std::string &section,
                     continue;
                 text = key.absent;
             }
-            const char *failure = ReadCells(key.kind, text, key.values,
-                                            [&](int i) { return key.cell(record, row, i); });
-            if (failure)
+            if (const char *failure = key.cells(record, row).Read(text, key.kind))
                 return failure;
         }
     }

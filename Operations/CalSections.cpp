@@ -7,6 +7,7 @@
 
 #include "Operations/CalKeys.h"
 #include "Support/CalIniFile.h"
+#include "Support/IniSection.h"
 #include "Support/Log.h"
 
 namespace {
@@ -141,9 +142,12 @@ SCalFault SaveCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
         batches.push_back(std::make_unique<CCalIniFile::CBatch>(*part.file));
     for (const SStop &stop : stops) {
         LogStop("Write ", stop);
-        for (const std::string &section : stop.sections)
-            stop.part->file->WriteString(section, kChipKey, context.chip);
-        stop.part->sections->Write(*stop.part->file, stop.place, stop.sections);
+        for (size_t i = 0; i < stop.sections.size(); ++i) {
+            CIniSection section(stop.sections[i]);
+            section.Key(kChipKey) += context.chip;
+            stop.part->sections->Write(section, stop.place, static_cast<int>(i));
+            stop.part->file->WriteSection(section);
+        }
         context.onDone(stop.routesDone);
     }
     for (const auto &batch : batches)

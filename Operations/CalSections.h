@@ -27,6 +27,7 @@
 #include "Operations/TargetCapability.h"
 
 class CCalIniFile;
+class CIniSection;
 
 enum class ECalAccess
 {
@@ -54,9 +55,8 @@ public:
     virtual SCalFault Read(CCalIniFile &file, const SCalPlace &place,
                            const std::vector<std::string> &sections,
                            const std::vector<bool> &present) = 0;
-    // Writes the keys behind the chip's name.
-    virtual void Write(CCalIniFile &file, const SCalPlace &place,
-                       const std::vector<std::string> &sections) = 0;
+    // Writes the keys behind the chip's name. index: of the section among those of the record.
+    virtual void Write(CIniSection &section, const SCalPlace &place, int index) = 0;
 };
 
 // A kind of route and its file; kinds may share a file.

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cwchar>
 #include <exception>
+#include <new>
 #include <stdexcept>
 
 #include <QFile>
@@ -18,11 +19,18 @@
 #define SI_IMPLEMENTATION
 #include <SimpleIni.h>
 
+#include "Support/IniSection.h"
 #include "Support/WideText.h"
 
 struct CCalIniFile::SIni : CSimpleIniTempl<wchar_t, SI_NoCase<wchar_t>, CWideTextConverter>
 {
     using CSimpleIniTempl::CSimpleIniTempl;
+
+    // The section of the last look: values are asked for section by section. Writing ends it.
+    std::string lookedAt;
+    const TKeyVal *keys = nullptr;
+
+    const TKeyVal *Keys(const std::string &section);
 };
 
 namespace {
@@ -38,6 +46,7 @@ constexpr qint64 kMaxFileBytes = 256 * 1024 * 1024;
 // Sign, the 309 digits of the greatest double, point and six decimals.
 constexpr size_t kMaxDoubleText = 320;
 constexpr int kDecimals = 6;
+constexpr char kBetweenSections[] = "\r\n\r\n";
 
 // A name or value as the single-line format can hold it.
 std::wstring ToLine(const std::string &text)
@@ -49,21 +58,37 @@ std::wstring ToLine(const std::string &text)
 }
 
 // The library ends lines with "\n" on this platform. A line end that is CRLF already stays.
-std::string WithCrLf(const std::string &text)
+void AppendWithCrLf(std::string &result, std::string_view text)
 {
-    std::string result;
-    result.reserve(text.size() + text.size() / 16);
-    char last = '\0';
-    for (char c : text) {
-        if (c == '\n' && last != '\r')
+    while (!text.empty()) {
+        const size_t length = text.find('\n');
+        result += text.substr(0, length);
+        if (length == std::string_view::npos)
+            return;
+        if (result.empty() || result.back() != '\r')
             result += '\r';
-        result += c;
-        last = c;
+        result += '\n';
+        text.remove_prefix(length + 1);
     }
-    return result;
+}
+
+std::string InLowerCase(std::string text)
+{
+    for (char &c : text)
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    return text;
 }
 
 }  // namespace
+
+const CCalIniFile::SIni::TKeyVal *CCalIniFile::SIni::Keys(const std::string &section)
+{
+    if (!keys || lookedAt != section) {
+        lookedAt = section;
+        keys = GetSection(ToLine(section).c_str());
+    }
+    return keys;
+}
 
 CCalIniFile::CCalIniFile(const wchar_t *path)
     : m_ini(std::make_unique<SIni>(kUtf8, kMultiKey, kMultiLine)), m_path(path ? path : L"")
@@ -117,20 +142,24 @@ void CCalIniFile::RequireLoaded(const std::string &what)
     if (!Load())
         throw std::runtime_error("Read " + what + " from " + Utf8FromWide(m_path) +
                                  " failed (load file failed)");
+    TakeNewSections();
 }
 
 bool CCalIniFile::HasSection(const std::string &section)
 {
     RequireLoaded(section);
-    return m_ini->GetSection(ToLine(section).c_str()) != nullptr;
+    return m_ini->Keys(section) != nullptr;
 }
 
 std::string CCalIniFile::ReadString(const std::string &section, const std::string &key,
                                     const std::string &defaultValue)
 {
     RequireLoaded(section + "::" + key);
-    const wchar_t *value = m_ini->GetValue(ToLine(section).c_str(), ToLine(key).c_str(), nullptr);
-    return value ? Utf8FromWide(value) : defaultValue;
+    const SIni::TKeyVal *keys = m_ini->Keys(section);
+    if (!keys)
+        return defaultValue;
+    const auto entry = keys->find(ToLine(key).c_str());  // the first of several
+    return entry == keys->end() ? defaultValue : Utf8FromWide(entry->second);
 }
 
 int CCalIniFile::ReadInt(const std::string &section, const std::string &key, int defaultValue)
@@ -156,17 +185,23 @@ std::vector<std::string> CCalIniFile::ReadSectionKeys(const std::string &section
 void CCalIniFile::WriteString(const std::string &section, const std::string &key,
                               const std::string &value)
 {
-    const std::string failureText = "Write " + section + "::" + key + " to " +
-                                    Utf8FromWide(m_path) + " failed (create file failed)";
-    PrepareWrite(failureText);
-    const SI_Error result = m_ini->SetValue(ToLine(section).c_str(), ToLine(key).c_str(),
-                                            ToLine(value).c_str(), nullptr, kReplaceAll);
-    if (result < 0)
-        throw std::runtime_error(failureText);
-    if (m_unsavedFailure.empty())
-        m_unsavedFailure = failureText;
-    if (m_openBatches == 0)
-        SaveUnsaved();
+    PrepareWrite(section, key);
+    SetValue(section, key, value);
+    FinishWrite(section, key);
+}
+
+void CCalIniFile::WriteSection(const CIniSection &section)
+{
+    const std::vector<CIniSection::SLine> lines = section.Lines();
+    if (lines.empty())
+        return;
+    const std::string firstKey(lines.front().key);
+    PrepareWrite(section.Name(), firstKey);
+    if (!AppendSection(section)) {
+        for (const CIniSection::SLine &line : lines)
+            SetValue(section.Name(), std::string(line.key), std::string(line.value));
+    }
+    FinishWrite(section.Name(), firstKey);
 }
 
 void CCalIniFile::WriteInt(const std::string &section, const std::string &key, int value)
@@ -184,13 +219,57 @@ void CCalIniFile::WriteDouble(const std::string &section, const std::string &key
 
 // What the file holds is loaded first, so that a save keeps it. A missing file starts empty; one
 // that is there but can't be read must not be overwritten.
-void CCalIniFile::PrepareWrite(const std::string &failureText)
+void CCalIniFile::PrepareWrite(const std::string &section, const std::string &key)
 {
     if (Load())
         return;
     if (m_path.empty() || QFileInfo::exists(QString::fromStdWString(m_path)))
-        throw std::runtime_error(failureText);
+        throw std::runtime_error(WriteFailure(section, key));
     m_loaded = true;
+}
+
+void CCalIniFile::FinishWrite(const std::string &section, const std::string &key)
+{
+    if (m_unsavedFailure.empty())
+        m_unsavedFailure = WriteFailure(section, key);
+    if (m_openBatches == 0)
+        SaveUnsaved();
+}
+
+void CCalIniFile::SetValue(const std::string &section, const std::string &key,
+                           const std::string &value)
+{
+    TakeNewSections();
+    m_ini->keys = nullptr;
+    const SI_Error result = m_ini->SetValue(ToLine(section).c_str(), ToLine(key).c_str(),
+                                            ToLine(value).c_str(), nullptr, kReplaceAll);
+    if (result < 0)
+        throw std::runtime_error(WriteFailure(section, key));
+}
+
+// A section that is new needs nothing of the library but its place in the file, which is the end.
+// False for one that is there, and for text that a file may hold in another form.
+bool CCalIniFile::AppendSection(const CIniSection &section)
+{
+    if (section.Name().empty() || !section.IsPlain() || m_ini->Keys(section.Name()))
+        return false;
+    if (!m_new.names.insert(InLowerCase(section.Name())).second)
+        return false;
+    if (!m_new.text.empty())
+        m_new.text += kBetweenSections;
+    section.AppendTo(m_new.text);
+    return true;
+}
+
+// Hands the new sections to the library, before anything that looks at values or changes them.
+void CCalIniFile::TakeNewSections()
+{
+    if (m_new.text.empty())
+        return;
+    m_ini->keys = nullptr;
+    if (m_ini->LoadData(m_new.text.data(), m_new.text.size()) < 0)
+        throw std::bad_alloc();
+    m_new = {};
 }
 
 void CCalIniFile::SaveUnsaved()
@@ -205,16 +284,32 @@ void CCalIniFile::SaveUnsaved()
 
 bool CCalIniFile::SaveToDisk() const
 {
-    std::string text;
-    if (m_ini->Save(text, kByteOrderMark) < 0)
+    struct SWriter : SIni::OutputWriter
+    {
+        std::string text;
+
+        void Write(const char *part) override { AppendWithCrLf(text, part); }
+    } writer;
+    if (m_ini->Save(writer, kByteOrderMark) < 0)
         return false;
-    text = WithCrLf(text);
+    std::string &text = writer.text;
+    if (!m_new.text.empty()) {
+        if (text != SI_UTF8_SIGNATURE)
+            text += kBetweenSections;
+        text += m_new.text;
+    }
     QSaveFile file(QString::fromStdWString(m_path));
     const qint64 size = static_cast<qint64>(text.size());
     // Unbuffered: commit does not notice when the flush of a buffer falls short on a full disk, and
     // would put the stump in place of the old file.
     return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
            file.write(text.data(), size) == size && file.commit();
+}
+
+std::string CCalIniFile::WriteFailure(const std::string &section, const std::string &key) const
+{
+    return "Write " + section + "::" + key + " to " + Utf8FromWide(m_path) +
+           " failed (create file failed)";
 }
 
 CCalIniFile::CBatch::CBatch(CCalIniFile &file) : m_file(file)

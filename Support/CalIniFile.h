@@ -16,6 +16,9 @@
 // before stays. A save is whole or not at all: after a full disk or a crash the old file is there
 // as it was. A missing file is created, a missing folder is not.
 //
+// A section that the file does not hold yet is written fastest as a whole, by WriteSection: to the
+// same bytes as a write of each of its keys.
+//
 // Errors. std::runtime_error with one of the texts
 //     Read <section> from <path> failed (load file failed)
 //     Read <section>::<key> from <path> failed (load file failed)
@@ -32,8 +35,11 @@
 //     batch.Commit();
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
+
+class CIniSection;
 
 class CCalIniFile
 {
@@ -59,17 +65,32 @@ public:
     void WriteInt(const std::string &section, const std::string &key, int value);
     // As "%lf", six decimals, with a point in every locale of the process.
     void WriteDouble(const std::string &section, const std::string &key, double value);
+    // All keys of the section as one write, the first key's in a failure text.
+    void WriteSection(const CIniSection &section);
 
 private:
     struct SIni;
 
+    // Sections behind those of m_ini, as their text in the file; none has the name of another.
+    struct SNewSections
+    {
+        std::string text;
+        std::set<std::string> names;  // in lower case
+    };
+
     bool ParseFile();
     void RequireLoaded(const std::string &what);
-    void PrepareWrite(const std::string &failureText);
+    void PrepareWrite(const std::string &section, const std::string &key);
+    void FinishWrite(const std::string &section, const std::string &key);
+    void SetValue(const std::string &section, const std::string &key, const std::string &value);
+    bool AppendSection(const CIniSection &section);
+    void TakeNewSections();
     void SaveUnsaved();
     bool SaveToDisk() const;
+    std::string WriteFailure(const std::string &section, const std::string &key) const;
 
     std::unique_ptr<SIni> m_ini;
+    SNewSections m_new;
     std::wstring m_path;
     bool m_loaded = false;
     int m_openBatches = 0;

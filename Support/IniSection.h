@@ -1,0 +1,51 @@
+#pragma once
+
+// A section of an INI file as it is put together: its keys and their values, in the order of the
+// file, for CCalIniFile::WriteSection.
+//
+// A value is written to the end of the text that Key gives, with nothing else done to that text, so
+// that a long list is put together in its place. The keys of a section differ, in more than the
+// case of letters; what a name, a key and a value may hold stands at CCalIniFile. UTF-8.
+//
+// No lock inside: one thread at a time.
+//
+//     CIniSection section("NR n78 BW0 TPC");
+//     section.Key("Route") += std::to_string(7);
+//     file.WriteSection(section);
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+class CIniSection
+{
+public:
+    struct SLine
+    {
+        std::string_view key;
+        std::string_view value;
+    };
+
+    explicit CIniSection(std::string name) : m_name(std::move(name)) {}
+
+    // Begins a key. Its value goes to the end of this text, before the next call here.
+    std::string &Key(std::string_view key);
+
+    const std::string &Name() const { return m_name; }
+    std::vector<SLine> Lines() const;
+    // Name and lines hold printable ASCII alone.
+    bool IsPlain() const;
+    // Appends the section as it stands in a file.
+    void AppendTo(std::string &text) const;
+
+private:
+    struct SPlace
+    {
+        size_t key;    // where it begins
+        size_t value;  // likewise, behind the " = "
+    };
+
+    std::string m_name;
+    std::string m_text;  // the lines, the last one without its line end
+    std::vector<SPlace> m_places;
+};
