@@ -53,30 +53,30 @@ int64_t Scaled(double value, int units)
     return static_cast<int64_t>(std::trunc(std::clamp(value, -kGreatest, kGreatest) * units));
 }
 
-// A number of few digits in plain decimal notation, which is all that this tool writes. The result
-// is that of the way by a double.
+bool IsDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+// A number as this tool writes it in a list, whole dB and five decimals; the result is that of the
+// way by a double.
 bool ParsePlainDb(std::string_view text, int64_t &value)
 {
-    constexpr size_t kMostDigits = 12;
+    constexpr size_t kMostWholeDigits = 7;
+    constexpr int64_t kScale = 100000;
     const bool negative = !text.empty() && text[0] == '-';
     text.remove_prefix(negative);
-    if (text.empty() || text.size() > kMostDigits + 1)
+    if (text.size() < kDecimals + 2 || text.size() > kMostWholeDigits + 1 + kDecimals)
         return false;
+    const size_t point = text.size() - kDecimals - 1;
     int64_t digits = 0;
-    int64_t scale = 0;  // 0 as long as there was no point
-    for (char c : text) {
-        if (c >= '0' && c <= '9') {
-            digits = digits * 10 + (c - '0');
-            scale *= 10;
-        } else if (c == '.' && scale == 0) {
-            scale = 1;
-        } else {
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (i == point ? text[i] != '.' : !IsDigit(text[i]))
             return false;
-        }
+        if (i != point)
+            digits = digits * 10 + (text[i] - '0');
     }
-    if (scale <= 1)
-        return false;
-    value = digits * kUnitsADb / scale;
+    value = digits * kUnitsADb / kScale;
     if (negative)
         value = -value;
     return true;
@@ -124,6 +124,9 @@ constexpr SDbDecimals kDbDecimals;
 
 char *PutNumber(char *to, int64_t value)
 {
+    const auto narrow = static_cast<uint32_t>(value);  // is printed in half the time
+    if (narrow == value)
+        return std::to_chars(to, to + kMaxValueText, narrow).ptr;
     return std::to_chars(to, to + kMaxValueText, value).ptr;
 }
 

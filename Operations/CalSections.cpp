@@ -146,7 +146,7 @@ SCalFault SaveCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
             CIniSection section(stop.sections[i]);
             section.Key(kChipKey) += context.chip;
             stop.part->sections->Write(section, stop.place, static_cast<int>(i));
-            stop.part->file->WriteSection(section);
+            stop.part->file->WriteSection(std::move(section));
         }
         context.onDone(stop.routesDone);
     }

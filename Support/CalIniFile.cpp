@@ -7,6 +7,7 @@
 #include <cwchar>
 #include <exception>
 #include <new>
+#include <numeric>
 #include <stdexcept>
 
 #include <QFile>
@@ -70,6 +71,12 @@ void AppendWithCrLf(std::string &result, std::string_view text)
         result += '\n';
         text.remove_prefix(length + 1);
     }
+}
+
+bool Write(QSaveFile &file, const std::string &text)
+{
+    const qint64 size = static_cast<qint64>(text.size());
+    return file.write(text.data(), size) == size;
 }
 
 std::string InLowerCase(std::string text)
@@ -137,11 +144,11 @@ bool CCalIniFile::ParseFile()
     return true;
 }
 
-void CCalIniFile::RequireLoaded(const std::string &what)
+void CCalIniFile::RequireLoaded(const std::string &section, const std::string &key)
 {
     if (!Load())
-        throw std::runtime_error("Read " + what + " from " + Utf8FromWide(m_path) +
-                                 " failed (load file failed)");
+        throw std::runtime_error("Read " + section + (key.empty() ? "" : "::" + key) + " from " +
+                                 Utf8FromWide(m_path) + " failed (load file failed)");
     TakeNewSections();
 }
 
@@ -154,7 +161,7 @@ bool CCalIniFile::HasSection(const std::string &section)
 std::string CCalIniFile::ReadString(const std::string &section, const std::string &key,
                                     const std::string &defaultValue)
 {
-    RequireLoaded(section + "::" + key);
+    RequireLoaded(section, key);
     const SIni::TKeyVal *keys = m_ini->Keys(section);
     if (!keys)
         return defaultValue;
@@ -190,7 +197,7 @@ void CCalIniFile::WriteString(const std::string &section, const std::string &key
     FinishWrite(section, key);
 }
 
-void CCalIniFile::WriteSection(const CIniSection &section)
+void CCalIniFile::WriteSection(CIniSection section)
 {
     const std::vector<CIniSection::SLine> lines = section.Lines();
     if (lines.empty())
@@ -249,25 +256,26 @@ void CCalIniFile::SetValue(const std::string &section, const std::string &key,
 
 // A section that is new needs nothing of the library but its place in the file, which is the end.
 // False for one that is there, and for text that a file may hold in another form.
-bool CCalIniFile::AppendSection(const CIniSection &section)
+bool CCalIniFile::AppendSection(CIniSection &section)
 {
     if (section.Name().empty() || !section.IsPlain() || m_ini->Keys(section.Name()))
         return false;
     if (!m_new.names.insert(InLowerCase(section.Name())).second)
         return false;
-    if (!m_new.text.empty())
-        m_new.text += kBetweenSections;
-    section.AppendTo(m_new.text);
+    if (!m_new.texts.empty())
+        m_new.texts.back() += kBetweenSections;
+    m_new.texts.push_back(section.TakeText());
     return true;
 }
 
 // Hands the new sections to the library, before anything that looks at values or changes them.
 void CCalIniFile::TakeNewSections()
 {
-    if (m_new.text.empty())
+    if (m_new.texts.empty())
         return;
     m_ini->keys = nullptr;
-    if (m_ini->LoadData(m_new.text.data(), m_new.text.size()) < 0)
+    const std::string text = std::accumulate(m_new.texts.begin(), m_new.texts.end(), std::string());
+    if (m_ini->LoadData(text.data(), text.size()) < 0)
         throw std::bad_alloc();
     m_new = {};
 }
@@ -292,18 +300,18 @@ bool CCalIniFile::SaveToDisk() const
     } writer;
     if (m_ini->Save(writer, kByteOrderMark) < 0)
         return false;
-    std::string &text = writer.text;
-    if (!m_new.text.empty()) {
-        if (text != SI_UTF8_SIGNATURE)
-            text += kBetweenSections;
-        text += m_new.text;
-    }
+    if (!m_new.texts.empty() && writer.text != SI_UTF8_SIGNATURE)
+        writer.text += kBetweenSections;
     QSaveFile file(QString::fromStdWString(m_path));
-    const qint64 size = static_cast<qint64>(text.size());
     // Unbuffered: commit does not notice when the flush of a buffer falls short on a full disk, and
     // would put the stump in place of the old file.
-    return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
-           file.write(text.data(), size) == size && file.commit();
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !Write(file, writer.text))
+        return false;
+    for (const std::string &text : m_new.texts) {
+        if (!Write(file, text))
+            return false;
+    }
+    return file.commit();
 }
 
 std::string CCalIniFile::WriteFailure(const std::string &section, const std::string &key) const

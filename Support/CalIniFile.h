@@ -66,24 +66,24 @@ public:
     // As "%lf", six decimals, with a point in every locale of the process.
     void WriteDouble(const std::string &section, const std::string &key, double value);
     // All keys of the section as one write, the first key's in a failure text.
-    void WriteSection(const CIniSection &section);
+    void WriteSection(CIniSection section);
 
 private:
     struct SIni;
 
-    // Sections behind those of m_ini, as their text in the file; none has the name of another.
+    // Sections behind those of m_ini, as their texts in the file; none has the name of another.
     struct SNewSections
     {
-        std::string text;
+        std::vector<std::string> texts;
         std::set<std::string> names;  // in lower case
     };
 
     bool ParseFile();
-    void RequireLoaded(const std::string &what);
+    void RequireLoaded(const std::string &section, const std::string &key = {});
     void PrepareWrite(const std::string &section, const std::string &key);
     void FinishWrite(const std::string &section, const std::string &key);
     void SetValue(const std::string &section, const std::string &key, const std::string &value);
-    bool AppendSection(const CIniSection &section);
+    bool AppendSection(CIniSection &section);
     void TakeNewSections();
     void SaveUnsaved();
     bool SaveToDisk() const;

@@ -1,24 +1,27 @@
 #include "Support/IniSection.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kEquals = " = ";
 
-size_t CountUnprintable(std::string_view text)
+bool IsPrintable(std::string_view text)
 {
-    size_t count = 0;
+    unsigned char outside = 0;  // gathered without a branch, so that the loop takes many at once
     for (char c : text)
-        count += c < ' ' || c > '~';
-    return count;
+        outside |= static_cast<unsigned char>(static_cast<unsigned char>(c - ' ') > '~' - ' ');
+    return outside == 0;
 }
 
 }  // namespace
 
+CIniSection::CIniSection(const std::string &name) : m_name(name), m_text("[" + name + "]") {}
+
 std::string &CIniSection::Key(std::string_view key)
 {
-    if (!m_places.empty())
-        m_text += kLineEnd;
+    m_text += kLineEnd;
     const size_t begin = m_text.size();
     m_text += key;
     m_text += kEquals;
@@ -43,16 +46,15 @@ std::vector<CIniSection::SLine> CIniSection::Lines() const
 
 bool CIniSection::IsPlain() const
 {
-    const size_t ownLineEnds = m_places.empty() ? 0 : (m_places.size() - 1) * kLineEnd.size();
-    return CountUnprintable(m_name) == 0 && CountUnprintable(m_text) == ownLineEnds;
+    const std::vector<SLine> lines = Lines();
+    return IsPrintable(m_name) && std::all_of(lines.begin(), lines.end(), [](const SLine &line) {
+               return IsPrintable(line.key) && IsPrintable(line.value);
+           });
 }
 
-void CIniSection::AppendTo(std::string &text) const
+std::string CIniSection::TakeText()
 {
-    text += '[';
-    text += m_name;
-    text += ']';
-    text += kLineEnd;
-    text += m_text;
-    text += kLineEnd;
+    m_places.clear();
+    m_text += kLineEnd;
+    return std::move(m_text);
 }

@@ -11,7 +11,7 @@
 //
 //     CIniSection section("NR n78 BW0 TPC");
 //     section.Key("Route") += std::to_string(7);
-//     file.WriteSection(section);
+//     file.WriteSection(std::move(section));
 
 #include <string>
 #include <string_view>
@@ -26,7 +26,7 @@ public:
         std::string_view value;
     };
 
-    explicit CIniSection(std::string name) : m_name(std::move(name)) {}
+    explicit CIniSection(const std::string &name);
 
     // Begins a key. Its value goes to the end of this text, before the next call here.
     std::string &Key(std::string_view key);
@@ -35,8 +35,8 @@ public:
     std::vector<SLine> Lines() const;
     // Name and lines hold printable ASCII alone.
     bool IsPlain() const;
-    // Appends the section as it stands in a file.
-    void AppendTo(std::string &text) const;
+    // The section as it stands in a file; it has no lines any more.
+    std::string TakeText();
 
 private:
     struct SPlace
@@ -46,6 +46,6 @@ private:
     };
 
     std::string m_name;
-    std::string m_text;  // the lines, the last one without its line end
+    std::string m_text;  // heading and lines, the last one without its line end
     std::vector<SPlace> m_places;
 };

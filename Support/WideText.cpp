@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <type_traits>
 
 #include <QString>
 
@@ -10,19 +11,14 @@ namespace {
 constexpr wchar_t kReplacement = L'\uFFFD';
 constexpr size_t kMaxUtf8Length = 4;  // bytes of one code point
 
-// ASCII without NUL, nearly all that an INI file holds, is the same in either form.
+// ASCII, nearly all that an INI file holds, is the same in either form.
 template <typename Char>
-bool IsPlain(const Char *text, size_t length)
+bool IsAscii(std::basic_string_view<Char> text)
 {
-    bool plain = true;
-    for (size_t i = 0; i < length; ++i)
-        plain &= text[i] > 0 && text[i] < 0x80;
-    return plain;
-}
-
-bool IsPlain(std::string_view text)
-{
-    return IsPlain(reinterpret_cast<const signed char *>(text.data()), text.size());
+    std::make_unsigned_t<Char> bits = 0;  // gathered without a branch, so that the loop is quick
+    for (Char c : text)
+        bits |= static_cast<std::make_unsigned_t<Char>>(c);
+    return bits < 0x80;
 }
 
 void Narrow(std::wstring_view plain, char *output)
@@ -35,7 +31,7 @@ void Narrow(std::wstring_view plain, char *output)
 
 std::wstring WideFromUtf8(std::string_view text)
 {
-    if (IsPlain(text))
+    if (IsAscii(text) && text.find('\0') == std::string_view::npos)
         return {text.begin(), text.end()};
     std::wstring wide =
         QString::fromUtf8(text.data(), static_cast<int>(text.size())).toStdWString();
@@ -45,7 +41,7 @@ std::wstring WideFromUtf8(std::string_view text)
 
 std::string Utf8FromWide(std::wstring_view text)
 {
-    if (IsPlain(text.data(), text.size())) {
+    if (IsAscii(text)) {
         std::string bytes(text.size(), '\0');
         Narrow(text, bytes.data());
         return bytes;
@@ -61,11 +57,12 @@ size_t CWideTextConverter::SizeFromStore(const char *, size_t inputLength)
 bool CWideTextConverter::ConvertFromStore(const char *input, size_t inputLength, wchar_t *output,
                                           size_t outputSize)
 {
-    if (inputLength <= outputSize && IsPlain({input, inputLength})) {
-        std::copy(input, input + inputLength, output);
+    const std::string_view text(input, inputLength);
+    if (inputLength <= outputSize && IsAscii(text) && text.find('\0') == std::string_view::npos) {
+        std::copy(text.begin(), text.end(), output);
         return true;
     }
-    const std::wstring wide = WideFromUtf8({input, inputLength});
+    const std::wstring wide = WideFromUtf8(text);
     if (wide.size() > outputSize)
         return false;
     std::copy(wide.begin(), wide.end(), output);
@@ -80,7 +77,7 @@ size_t CWideTextConverter::SizeToStore(const wchar_t *input)
 bool CWideTextConverter::ConvertToStore(const wchar_t *input, char *output, size_t outputSize)
 {
     const std::wstring_view text = input;
-    if (text.size() < outputSize && IsPlain(text.data(), text.size())) {
+    if (text.size() < outputSize && IsAscii(text)) {
         Narrow(text, output);
         output[text.size()] = '\0';
         return true;

@@ -20,7 +20,7 @@ protected:
         CIniSection section(name);
         for (const auto &[key, value] : lines)
             section.Key(key) += value;
-        file.WriteSection(section);
+        file.WriteSection(std::move(section));
     }
     static void WriteEach(CCalIniFile &file, const std::string &name, const Lines &lines)
     {
