@@ -1,6 +1,7 @@
 #include "Support/CalIniFile.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <climits>
 #include <cstdlib>
@@ -13,6 +14,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <unistd.h>
 
 // Wide text without the library's own converters, which the package lacks; ours takes their place.
 #define SI_NO_CONVERSION
@@ -77,6 +79,16 @@ bool Write(QSaveFile &file, const std::string &text)
 {
     const qint64 size = static_cast<qint64>(text.size());
     return file.write(text.data(), size) == size;
+}
+
+// Errors that show no sooner than the disk takes the bytes; commit would not tell of them.
+bool Sync(const QSaveFile &file)
+{
+    int result = 0;
+    do {
+        result = fdatasync(file.handle());
+    } while (result != 0 && errno == EINTR);
+    return result == 0 || errno == EINVAL;  // a place that knows no sync
 }
 
 std::string InLowerCase(std::string text)
@@ -311,7 +323,7 @@ bool CCalIniFile::SaveToDisk() const
         if (!Write(file, text))
             return false;
     }
-    return file.commit();
+    return Sync(file) && file.commit();
 }
 
 std::string CCalIniFile::WriteFailure(const std::string &section, const std::string &key) const
