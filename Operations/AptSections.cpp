@@ -64,11 +64,10 @@ std::vector<std::string> CAptSections::SectionsOf(ERadioKind kind, const SCalPla
     return {FormText(kFurther[form], {band, std::to_string(place.ordinal), region})};
 }
 
-SCalFault CAptSections::Read(CCalIniFile &file, const SCalPlace &place,
-                             const std::vector<std::string> &sections, const std::vector<bool> &)
+SCalFault CAptSections::Read(const SCalPlace &place, const CalFileSections &sections)
 {
     Record record = m_store.At(place);
-    if (const char *failure = ReadKeys(file, sections[0], kKeys, EAbsentKey::Default, record))
+    if (const char *failure = ReadKeys(*sections[0], kKeys, EAbsentKey::Default, record))
         return {kCalFileProblem, QString::fromLatin1(failure)};
     // The section belongs to its route by its name; a number in it can't send it elsewhere.
     record.band = place.band;

@@ -14,11 +14,3 @@ std::string FormText(std::string_view form, std::initializer_list<std::string> t
     result += form;
     return result;
 }
-
-bool ReadKey(CCalIniFile &file, const std::string &section, const std::string &key,
-             std::string &value)
-{
-    static const std::string kAbsent = "\n";  // no value of a file holds a line break
-    value = file.ReadString(section, key, kAbsent);
-    return value != kAbsent;
-}

@@ -11,7 +11,6 @@
 #include <string>
 
 #include "Operations/CalCells.h"
-#include "Support/CalIniFile.h"
 #include "Support/IniSection.h"
 
 template <typename Record>
@@ -34,10 +33,6 @@ enum class EAbsentKey
     Keep,     // what the record held before
 };
 
-// The value of a key; false when the section lacks it.
-bool ReadKey(CCalIniFile &file, const std::string &section, const std::string &key,
-             std::string &value);
-
 template <typename Record>
 std::string KeyText(const SCalKey<Record> &key, int row)
 {
@@ -55,13 +50,13 @@ void WriteKeys(CIniSection &section, const SCalKey<Record> (&keys)[keyCount], Re
 
 // Null, or the words of the failure; the record is half read then.
 template <typename Record, size_t keyCount>
-const char *ReadKeys(CCalIniFile &file, const std::string &section,
-                     const SCalKey<Record> (&keys)[keyCount], EAbsentKey absent, Record &record)
+const char *ReadKeys(const CIniSection &section, const SCalKey<Record> (&keys)[keyCount],
+                     EAbsentKey absent, Record &record)
 {
-    std::string text;
     for (const SCalKey<Record> &key : keys) {
         for (int row = 0; row < key.rows; ++row) {
-            if (!ReadKey(file, section, KeyText(key, row), text)) {
+            std::string_view text;
+            if (!section.Find(KeyText(key, row), text)) {
                 if (absent == EAbsentKey::Keep)
                     continue;
                 text = key.absent;

@@ -7,7 +7,6 @@
 
 #include "Operations/CalKeys.h"
 #include "Support/CalIniFile.h"
-#include "Support/IniSection.h"
 #include "Support/Log.h"
 
 namespace {
@@ -76,6 +75,16 @@ bool IsOfChip(const SStop &stop, const std::string &chip)
     return true;
 }
 
+CalFileSections SectionsInFile(const SStop &stop)
+{
+    CalFileSections sections(stop.sections.size());
+    for (size_t i = 0; i < sections.size(); ++i) {
+        if (stop.present[i])
+            sections[i] = stop.part->file->ReadSection(stop.sections[i]);
+    }
+    return sections;
+}
+
 // Readies each kind of route that the walk still holds.
 SCalFault Begin(const std::vector<SCalFilePart> &parts, const std::vector<SStop> &stops,
                 const SCalFileContext &context, ECalAccess access)
@@ -116,9 +125,7 @@ SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
         return fault;
     for (const SStop &stop : stops) {
         LogStop("Read ", stop);
-        SCalFault fault =
-            stop.part->sections->Read(*stop.part->file, stop.place, stop.sections, stop.present);
-        if (fault)
+        if (SCalFault fault = stop.part->sections->Read(stop.place, SectionsInFile(stop)))
             return fault;
         context.onDone(stop.routesDone);
     }

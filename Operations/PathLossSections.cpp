@@ -69,12 +69,12 @@ CCalCells LossCells(Record &record, const SGainKey &key, int path)
 }
 
 template <typename Record>
-SCalFault ReadGains(CCalIniFile &file, const std::string &section,
-                    const std::vector<SGainKey> &keys, int path, Record &record)
+SCalFault ReadGains(const CIniSection &section, const std::vector<SGainKey> &keys, int path,
+                    Record &record)
 {
-    std::string text;
     for (const SGainKey &key : keys) {
-        if (ReadKey(file, section, key.key, text)) {
+        std::string_view text;
+        if (section.Find(key.key, text)) {
             LossCells(record, key, path).Read(text, ECalValue::Db);
         } else if (key.required) {
             return {
@@ -134,18 +134,16 @@ SCalFault CPathLossSections<Record>::Begin(const CTargetCapability &target, ERad
 }
 
 template <typename Record>
-SCalFault CPathLossSections<Record>::Read(CCalIniFile &file, const SCalPlace &place,
-                                          const std::vector<std::string> &sections,
-                                          const std::vector<bool> &present)
+SCalFault CPathLossSections<Record>::Read(const SCalPlace &place, const CalFileSections &sections)
 {
     const auto record = std::make_unique<Record>(m_store.At(place));
     EAbsentKey absent = EAbsentKey::Default;
     for (int path = 0; path < kPaths; ++path) {
-        if (!present[path])
+        if (!sections[path])
             continue;
-        ReadKeys(file, sections[path], kKeys<Record>, absent, *record);
+        ReadKeys(*sections[path], kKeys<Record>, absent, *record);
         absent = EAbsentKey::Keep;
-        if (SCalFault fault = ReadGains(file, sections[path], m_gainKeys, path, *record))
+        if (SCalFault fault = ReadGains(*sections[path], m_gainKeys, path, *record))
             return fault;
     }
     // The sections belong to their route by their name; a number in them can't send them elsewhere.

@@ -28,12 +28,6 @@
 struct CCalIniFile::SIni : CSimpleIniTempl<wchar_t, SI_NoCase<wchar_t>, CWideTextConverter>
 {
     using CSimpleIniTempl::CSimpleIniTempl;
-
-    // The section of the last look: values are asked for section by section. Writing ends it.
-    std::string lookedAt;
-    const TKeyVal *keys = nullptr;
-
-    const TKeyVal *Keys(const std::string &section);
 };
 
 namespace {
@@ -100,15 +94,6 @@ std::string InLowerCase(std::string text)
 
 }  // namespace
 
-const CCalIniFile::SIni::TKeyVal *CCalIniFile::SIni::Keys(const std::string &section)
-{
-    if (!keys || lookedAt != section) {
-        lookedAt = section;
-        keys = GetSection(ToLine(section).c_str());
-    }
-    return keys;
-}
-
 CCalIniFile::CCalIniFile(const wchar_t *path)
     : m_ini(std::make_unique<SIni>(kUtf8, kMultiKey, kMultiLine)), m_path(path ? path : L"")
 {
@@ -167,18 +152,15 @@ void CCalIniFile::RequireLoaded(const std::string &section, const std::string &k
 bool CCalIniFile::HasSection(const std::string &section)
 {
     RequireLoaded(section);
-    return m_ini->Keys(section) != nullptr;
+    return m_ini->GetSection(ToLine(section).c_str()) != nullptr;
 }
 
 std::string CCalIniFile::ReadString(const std::string &section, const std::string &key,
                                     const std::string &defaultValue)
 {
     RequireLoaded(section, key);
-    const SIni::TKeyVal *keys = m_ini->Keys(section);
-    if (!keys)
-        return defaultValue;
-    const auto entry = keys->find(ToLine(key).c_str());  // the first of several
-    return entry == keys->end() ? defaultValue : Utf8FromWide(entry->second);
+    const wchar_t *value = m_ini->GetValue(ToLine(section).c_str(), ToLine(key).c_str(), nullptr);
+    return value ? Utf8FromWide(value) : defaultValue;
 }
 
 int CCalIniFile::ReadInt(const std::string &section, const std::string &key, int defaultValue)
@@ -199,6 +181,27 @@ std::vector<std::string> CCalIniFile::ReadSectionKeys(const std::string &section
     for (const SIni::Entry &name : names)
         keys.push_back(Utf8FromWide(name.pItem));
     return keys;
+}
+
+CIniSection CCalIniFile::ReadSection(const std::string &section)
+{
+    RequireLoaded(section);
+    CIniSection result(section);
+    const SIni::TKeyVal *keys = m_ini->GetSection(ToLine(section).c_str());
+    if (!keys)
+        return result;
+    std::vector<const SIni::TKeyVal::value_type *> lines;
+    lines.reserve(keys->size());
+    for (const auto &line : *keys) {
+        // Of a key that comes again the library has the first one first.
+        if (lines.empty() || keys->key_comp()(lines.back()->first, line.first))
+            lines.push_back(&line);
+    }
+    std::sort(lines.begin(), lines.end(),
+              [](auto *a, auto *b) { return a->first.nOrder < b->first.nOrder; });
+    for (const auto *line : lines)
+        AppendUtf8(result.Key(Utf8FromWide(line->first.pItem)), line->second);
+    return result;
 }
 
 void CCalIniFile::WriteString(const std::string &section, const std::string &key,
@@ -259,7 +262,6 @@ void CCalIniFile::SetValue(const std::string &section, const std::string &key,
                            const std::string &value)
 {
     TakeNewSections();
-    m_ini->keys = nullptr;
     const SI_Error result = m_ini->SetValue(ToLine(section).c_str(), ToLine(key).c_str(),
                                             ToLine(value).c_str(), nullptr, kReplaceAll);
     if (result < 0)
@@ -270,7 +272,8 @@ void CCalIniFile::SetValue(const std::string &section, const std::string &key,
 // False for one that is there, and for text that a file may hold in another form.
 bool CCalIniFile::AppendSection(CIniSection &section)
 {
-    if (section.Name().empty() || !section.IsPlain() || m_ini->Keys(section.Name()))
+    if (section.Name().empty() || !section.IsPlain() ||
+        m_ini->GetSection(ToLine(section.Name()).c_str()))
         return false;
     if (!m_new.names.insert(InLowerCase(section.Name())).second)
         return false;
@@ -285,7 +288,6 @@ void CCalIniFile::TakeNewSections()
 {
     if (m_new.texts.empty())
         return;
-    m_ini->keys = nullptr;
     const std::string text = std::accumulate(m_new.texts.begin(), m_new.texts.end(), std::string());
     if (m_ini->LoadData(text.data(), text.size()) < 0)
         throw std::bad_alloc();

@@ -16,8 +16,8 @@
 // before stays. A save is whole or not at all: after a full disk or a crash the old file is there
 // as it was. A missing file is created, a missing folder is not.
 //
-// A section that the file does not hold yet is written fastest as a whole, by WriteSection: to the
-// same bytes as a write of each of its keys.
+// Sections are read and written fastest as a whole, by ReadSection and WriteSection: the values of
+// a read and the bytes of a write of each of the keys.
 //
 // Errors. std::runtime_error with one of the texts
 //     Read <section> from <path> failed (load file failed)
@@ -60,6 +60,8 @@ public:
     int ReadInt(const std::string &section, const std::string &key, int defaultValue);
     // Each key once, in the order of the file; empty for an unknown section.
     std::vector<std::string> ReadSectionKeys(const std::string &section);
+    // All keys with their values; none for an unknown section.
+    CIniSection ReadSection(const std::string &section);
 
     void WriteString(const std::string &section, const std::string &key, const std::string &value);
     void WriteInt(const std::string &section, const std::string &key, int value);

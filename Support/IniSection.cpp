@@ -15,6 +15,17 @@ bool IsPrintable(std::string_view text)
     return outside == 0;
 }
 
+char Lower(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool IsSameKey(std::string_view a, std::string_view b)
+{
+    const auto isSame = [](char x, char y) { return Lower(x) == Lower(y); };
+    return a == b || (a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), isSame));
+}
+
 }  // namespace
 
 CIniSection::CIniSection(const std::string &name) : m_name(name), m_text("[" + name + "]") {}
@@ -29,19 +40,37 @@ std::string &CIniSection::Key(std::string_view key)
     return m_text;
 }
 
-std::vector<CIniSection::SLine> CIniSection::Lines() const
+CIniSection::SLine CIniSection::Line(size_t index) const
 {
     const std::string_view text = m_text;
+    const SPlace &place = m_places[index];
+    const size_t end =
+        index + 1 < m_places.size() ? m_places[index + 1].key - kLineEnd.size() : text.size();
+    return {text.substr(place.key, place.value - kEquals.size() - place.key),
+            text.substr(place.value, end - place.value)};
+}
+
+std::vector<CIniSection::SLine> CIniSection::Lines() const
+{
     std::vector<SLine> lines;
     lines.reserve(m_places.size());
-    for (size_t i = 0; i < m_places.size(); ++i) {
-        const SPlace &place = m_places[i];
-        const size_t end =
-            i + 1 < m_places.size() ? m_places[i + 1].key - kLineEnd.size() : text.size();
-        lines.push_back({text.substr(place.key, place.value - kEquals.size() - place.key),
-                         text.substr(place.value, end - place.value)});
-    }
+    for (size_t i = 0; i < m_places.size(); ++i)
+        lines.push_back(Line(i));
     return lines;
+}
+
+bool CIniSection::Find(std::string_view key, std::string_view &value) const
+{
+    for (size_t i = 0; i < m_places.size(); ++i) {
+        const size_t at = (m_next + i) % m_places.size();
+        const SLine line = Line(at);
+        if (IsSameKey(line.key, key)) {
+            m_next = at + 1;
+            value = line.value;
+            return true;
+        }
+    }
+    return false;
 }
 
 bool CIniSection::IsPlain() const

@@ -1,11 +1,11 @@
 #pragma once
 
-// A section of an INI file as it is put together: its keys and their values, in the order of the
-// file, for CCalIniFile::WriteSection.
+// A section of an INI file as a whole: its keys and their values, in the order of the file, for
+// CCalIniFile::WriteSection and as ReadSection gives it.
 //
 // A value is written to the end of the text that Key gives, with nothing else done to that text, so
 // that a long list is put together in its place. The keys of a section differ, in more than the
-// case of letters; what a name, a key and a value may hold stands at CCalIniFile. UTF-8.
+// case of ASCII letters; what a name, a key and a value may hold stands at CCalIniFile. UTF-8.
 //
 // No lock inside: one thread at a time.
 //
@@ -31,6 +31,10 @@ public:
     // Begins a key. Its value goes to the end of this text, before the next call here.
     std::string &Key(std::string_view key);
 
+    // The value of a key, as long as the section lives; false when there is none. Quickest for keys
+    // that come in the order of the section.
+    bool Find(std::string_view key, std::string_view &value) const;
+
     const std::string &Name() const { return m_name; }
     std::vector<SLine> Lines() const;
     // Name and lines hold printable ASCII alone.
@@ -45,7 +49,10 @@ private:
         size_t value;  // likewise, behind the " = "
     };
 
+    SLine Line(size_t index) const;
+
     std::string m_name;
     std::string m_text;  // heading and lines, the last one without its line end
     std::vector<SPlace> m_places;
+    mutable size_t m_next = 0;  // behind the line that was found last
 };

@@ -110,6 +110,41 @@ TEST_F(CalIniFileSection, FailedWriteNamesTheFirstKeyAndStaysInMemory)
               "\xEF\xBB\xBF[S]\r\nfirst = 1\r\nsecond = 2\r\nthird = 3\r\n");
 }
 
+TEST_F(CalIniFileSection, ReadSectionHasTheFirstOfEachKeyInTheOrderOfTheFile)
+{
+    m_folder.Put("[S]\nzulu = 1\nalpha = \xC2\xB1\nZULU = 3\nMike =\n");
+    CCalIniFile file(m_folder.WidePath().c_str());
+    const CIniSection section = file.ReadSection("s");
+    std::string text;
+    for (const auto &line : section.Lines())
+        text += std::string(line.key) + '=' + std::string(line.value) + ';';
+    EXPECT_EQ(text, "zulu=1;alpha=\xC2\xB1;Mike=;");
+}
+
+TEST_F(CalIniFileSection, KeysAreFoundInAnyOrderAndCase)
+{
+    m_folder.Put("[S]\na = 1\nb = 2\nc = 3\n");
+    CCalIniFile file(m_folder.WidePath().c_str());
+    const CIniSection section = file.ReadSection("S");
+    std::string_view value = "none";
+    for (const char *key : {"c", "A", "b", "b", "C", "a"}) {
+        ASSERT_TRUE(section.Find(key, value)) << key;
+        EXPECT_EQ(value, file.ReadString("S", key, ""));
+    }
+    EXPECT_FALSE(section.Find("d", value));
+    EXPECT_FALSE(section.Find("", value));
+}
+
+TEST_F(CalIniFileSection, UnknownSectionHasNoKeysAndAMissingFileThrows)
+{
+    m_folder.Put("[S]\na = 1\n");
+    CCalIniFile file(m_folder.WidePath().c_str());
+    EXPECT_TRUE(file.ReadSection("T").Lines().empty());
+    CCalIniFile missing(m_folder.WidePath("missing.ini").c_str());
+    EXPECT_EQ(FailureOf([&] { missing.ReadSection("T"); }),
+              "Read T from " + m_folder.Path("missing.ini") + " failed (load file failed)");
+}
+
 TEST_F(CalIniFileSection, AnyRunOfWritesGivesTheBytesOfAWriteOfEachKey)
 {
     std::mt19937 random(77);
