@@ -58,35 +58,38 @@ bool IsDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-// A number as this tool writes it in a list, whole dB and five decimals; the result is that of the
-// way by a double.
-bool ParsePlainDb(std::string_view text, int64_t &value)
+// Takes a value off a list when it is written as this tool does it, whole dB and five decimals; the
+// result is that of the way by a double. False, and nothing taken, for any other text.
+bool TakePlainDb(std::string_view &list, int64_t &value)
 {
-    constexpr size_t kMostWholeDigits = 7;
+    constexpr int kMostWholeDigits = 7;
     constexpr int64_t kScale = 100000;
-    const bool negative = !text.empty() && text[0] == '-';
-    text.remove_prefix(negative);
-    if (text.size() < kDecimals + 2 || text.size() > kMostWholeDigits + 1 + kDecimals)
-        return false;
-    const size_t point = text.size() - kDecimals - 1;
+    const char *const end = list.data() + list.size();
+    const char *at = list.data();
+    const bool negative = at != end && *at == '-';
+    at += negative;
+    const char *const first = at;
     int64_t digits = 0;
-    for (size_t i = 0; i < text.size(); ++i) {
-        if (i == point ? text[i] != '.' : !IsDigit(text[i]))
+    for (; at != end && IsDigit(*at) && at - first <= kMostWholeDigits; ++at)
+        digits = digits * 10 + (*at - '0');
+    if (at == first || at - first > kMostWholeDigits || end - at <= kDecimals || *at != '.')
+        return false;
+    const char *const behind = at + 1 + kDecimals;
+    if (behind != end && *behind != ',')
+        return false;
+    while (++at != behind) {
+        if (!IsDigit(*at))
             return false;
-        if (i != point)
-            digits = digits * 10 + (text[i] - '0');
+        digits = digits * 10 + (*at - '0');
     }
-    value = digits * kUnitsADb / kScale;
-    if (negative)
-        value = -value;
+    const int64_t units = digits * kUnitsADb / kScale;
+    value = negative ? -units : units;
+    list.remove_prefix(static_cast<size_t>(behind - list.data()) + (behind != end));
     return true;
 }
 
 int64_t ParseDb(std::string_view text)
 {
-    int64_t units = 0;
-    if (ParsePlainDb(text, units))
-        return units;
     double value = 0;
     Parse(text, value);
     return std::isnan(value) ? 0 : Scaled(value, kUnitsADb);
@@ -227,7 +230,8 @@ const char *CCalCells::Read(std::string_view text, ECalValue kind) const
             std::string_view item;
             for (size_t i = 0; i < m_count; ++i) {
                 int64_t value = 0;
-                if (TakeListItem(text, item)) {
+                const bool plain = kind == ECalValue::Db && TakePlainDb(text, value);
+                if (!plain && TakeListItem(text, item)) {
                     if (const char *failure = ParseCalValue(kind, item, value))
                         return failure;
                 }

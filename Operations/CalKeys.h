@@ -33,18 +33,22 @@ enum class EAbsentKey
     Keep,     // what the record held before
 };
 
+// The key of a row; buffer holds the text of a form.
 template <typename Record>
-std::string KeyText(const SCalKey<Record> &key, int row)
+std::string_view KeyText(const SCalKey<Record> &key, int row, std::string &buffer)
 {
-    return key.rows > 1 ? FormText(key.key, {std::to_string(row)}) : std::string(key.key);
+    if (key.rows == 1)
+        return key.key;
+    return buffer = FormText(key.key, {std::to_string(row)});
 }
 
 template <typename Record, size_t keyCount>
 void WriteKeys(CIniSection &section, const SCalKey<Record> (&keys)[keyCount], Record &record)
 {
+    std::string buffer;
     for (const SCalKey<Record> &key : keys) {
         for (int row = 0; row < key.rows; ++row)
-            key.cells(record, row).AppendTo(section.Key(KeyText(key, row)), key.kind);
+            key.cells(record, row).AppendTo(section.Key(KeyText(key, row, buffer)), key.kind);
     }
 }
 
@@ -53,10 +57,11 @@ template <typename Record, size_t keyCount>
 const char *ReadKeys(const CIniSection &section, const SCalKey<Record> (&keys)[keyCount],
                      EAbsentKey absent, Record &record)
 {
+    std::string buffer;
     for (const SCalKey<Record> &key : keys) {
         for (int row = 0; row < key.rows; ++row) {
             std::string_view text;
-            if (!section.Find(KeyText(key, row), text)) {
+            if (!section.Find(KeyText(key, row, buffer), text)) {
                 if (absent == EAbsentKey::Keep)
                     continue;
                 text = key.absent;

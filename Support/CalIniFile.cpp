@@ -43,6 +43,7 @@ constexpr qint64 kMaxFileBytes = 256 * 1024 * 1024;
 // Sign, the 309 digits of the greatest double, point and six decimals.
 constexpr size_t kMaxDoubleText = 320;
 constexpr int kDecimals = 6;
+constexpr size_t kBlockBytes = 64 * 1024;  // of a write to the disk, at least
 constexpr char kBetweenSections[] = "\r\n\r\n";
 
 // A name or value as the single-line format can hold it.
@@ -199,8 +200,12 @@ CIniSection CCalIniFile::ReadSection(const std::string &section)
     }
     std::sort(lines.begin(), lines.end(),
               [](auto *a, auto *b) { return a->first.nOrder < b->first.nOrder; });
-    for (const auto *line : lines)
-        AppendUtf8(result.Key(Utf8FromWide(line->first.pItem)), line->second);
+    std::string key;
+    for (const auto *line : lines) {
+        key.clear();
+        AppendUtf8(key, line->first.pItem);
+        AppendUtf8(result.Key(key), line->second);
+    }
     return result;
 }
 
@@ -214,16 +219,16 @@ void CCalIniFile::WriteString(const std::string &section, const std::string &key
 
 void CCalIniFile::WriteSection(CIniSection section)
 {
-    const std::vector<CIniSection::SLine> lines = section.Lines();
-    if (lines.empty())
+    if (section.IsEmpty())
         return;
-    const std::string firstKey(lines.front().key);
-    PrepareWrite(section.Name(), firstKey);
+    const std::string name = section.Name();
+    const std::string firstKey(section.Line(0).key);
+    PrepareWrite(name, firstKey);
     if (!AppendSection(section)) {
-        for (const CIniSection::SLine &line : lines)
-            SetValue(section.Name(), std::string(line.key), std::string(line.value));
+        for (const CIniSection::SLine &line : section.Lines())
+            SetValue(name, std::string(line.key), std::string(line.value));
     }
-    FinishWrite(section.Name(), firstKey);
+    FinishWrite(name, firstKey);
 }
 
 void CCalIniFile::WriteInt(const std::string &section, const std::string &key, int value)
@@ -314,17 +319,24 @@ bool CCalIniFile::SaveToDisk() const
     } writer;
     if (m_ini->Save(writer, kByteOrderMark) < 0)
         return false;
-    if (!m_new.texts.empty() && writer.text != SI_UTF8_SIGNATURE)
-        writer.text += kBetweenSections;
+    std::string &block = writer.text;
+    if (!m_new.texts.empty() && block != SI_UTF8_SIGNATURE)
+        block += kBetweenSections;
     QSaveFile file(QString::fromStdWString(m_path));
     // Unbuffered: commit does not notice when the flush of a buffer falls short on a full disk, and
     // would put the stump in place of the old file.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !Write(file, writer.text))
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return false;
     for (const std::string &text : m_new.texts) {
-        if (!Write(file, text))
+        block += text;
+        if (block.size() < kBlockBytes)
+            continue;
+        if (!Write(file, block))
             return false;
+        block.clear();
     }
+    if (!Write(file, block))
+        return false;
     return Sync(file) && file.commit();
 }
 

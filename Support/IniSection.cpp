@@ -6,6 +6,9 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kEquals = " = ";
+// Most sections need no more.
+constexpr size_t kUsualBytes = 8 * 1024;
+constexpr size_t kUsualKeys = 32;
 
 bool IsPrintable(std::string_view text)
 {
@@ -28,7 +31,14 @@ bool IsSameKey(std::string_view a, std::string_view b)
 
 }  // namespace
 
-CIniSection::CIniSection(const std::string &name) : m_name(name), m_text("[" + name + "]") {}
+CIniSection::CIniSection(const std::string &name) : m_name(name)
+{
+    m_text.reserve(kUsualBytes);
+    m_places.reserve(kUsualKeys);
+    m_text += '[';
+    m_text += name;
+    m_text += ']';
+}
 
 std::string &CIniSection::Key(std::string_view key)
 {
@@ -75,10 +85,12 @@ bool CIniSection::Find(std::string_view key, std::string_view &value) const
 
 bool CIniSection::IsPlain() const
 {
-    const std::vector<SLine> lines = Lines();
-    return IsPrintable(m_name) && std::all_of(lines.begin(), lines.end(), [](const SLine &line) {
-               return IsPrintable(line.key) && IsPrintable(line.value);
-           });
+    bool plain = IsPrintable(m_name);
+    for (size_t i = 0; plain && i < m_places.size(); ++i) {
+        const SLine line = Line(i);
+        plain = IsPrintable(line.key) && IsPrintable(line.value);
+    }
+    return plain;
 }
 
 std::string CIniSection::TakeText()

@@ -36,6 +36,8 @@ public:
     bool Find(std::string_view key, std::string_view &value) const;
 
     const std::string &Name() const { return m_name; }
+    bool IsEmpty() const { return m_places.empty(); }
+    SLine Line(size_t index) const;
     std::vector<SLine> Lines() const;
     // Name and lines hold printable ASCII alone.
     bool IsPlain() const;
@@ -48,8 +50,6 @@ private:
         size_t key;    // where it begins
         size_t value;  // likewise, behind the " = "
     };
-
-    SLine Line(size_t index) const;
 
     std::string m_name;
     std::string m_text;  // heading and lines, the last one without its line end

@@ -128,9 +128,20 @@ TEST(CalCells, DbOfPlainNotationIsThatOfADouble)
         const double value = static_cast<int>(random() % 2048001) / 1000.0 - 1024;
         char text[32];
         std::snprintf(text, sizeof text, "%.*f", decimals, value + random() % 100 / 1e6);
-        ASSERT_EQ(Value(ECalValue::Db, text), static_cast<int64_t>(std::strtod(text, nullptr) * 32))
-            << text;
+        int16_t units[] = {7, 7};
+        ASSERT_EQ(CCalCells(units).Read(std::string(text) + ",0.50000", ECalValue::Db), nullptr);
+        ASSERT_EQ(units[0], static_cast<int16_t>(std::strtod(text, nullptr) * 32)) << text;
+        ASSERT_EQ(units[1], 16);
     }
+}
+
+TEST(CalCells, PlainNotationThatIsSpoiltIsReadLikeAnyOther)
+{
+    EXPECT_EQ(DbList("1.00000x,1.0000x,-.50000,12345678.00000,-"), (Values{32, 32, -16, 32767, 0}));
+    EXPECT_EQ(DbList("1.00000,"), (Values{32, 0, 0, 0, 0}));
+    EXPECT_EQ(DbList("-1.0000"), (Values{-32, 0, 0, 0, 0}));
+    EXPECT_EQ(DbList("1.00000 ,+2.00000,--1.00000,1.000000,99999999999999999999.00000"),
+              (Values{32, 64, 0, 32, 32767}));
 }
 
 TEST(CalCells, ShortListLeavesTheTailZero)
