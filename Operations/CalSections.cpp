@@ -76,6 +76,16 @@ bool IsOfChip(const SStop &stop, const std::string &chip)
     return true;
 }
 
+CalFileSections SectionsInFile(const SStop &stop)
+{
+    CalFileSections sections(stop.sections.size());
+    for (size_t i = 0; i < sections.size(); ++i) {
+        if (stop.present[i])
+            sections[i] = stop.part->file->ReadSection(stop.sections[i]);
+    }
+    return sections;
+}
+
 // Readies each kind of route that the walk still holds.
 SCalFault Begin(const std::vector<SCalFilePart> &parts, const std::vector<SStop> &stops,
                 const SCalFileContext &context, ECalAccess access)
@@ -124,9 +134,7 @@ SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
         return fault;
     for (const SStop &stop : stops) {
         LogStop("Read ", stop);
-        SCalFault fault =
-            stop.part->sections->Read(*stop.part->file, stop.place, stop.sections, stop.present);
-        if (fault)
+        if (SCalFault fault = stop.part->sections->Read(stop.place, SectionsInFile(stop)))
             return fault;
         context.onDone(stop.routesDone);
     }
@@ -150,9 +158,12 @@ SCalFault SaveCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
         batches.push_back(std::make_unique<CCalIniFile::CBatch>(*part.file));
     for (const SStop &stop : stops) {
         LogStop("Write ", stop);
-        for (const std::string &section : stop.sections)
-            stop.part->file->WriteString(section, kChipKey, context.chip);
-        stop.part->sections->Write(*stop.part->file, stop.place, stop.sections);
+        for (size_t i = 0; i < stop.sections.size(); ++i) {
+            CIniSection section(stop.sections[i]);
+            section.Key(kChipKey) += context.chip;
+            stop.part->sections->Write(section, stop.place, static_cast<int>(i));
+            stop.part->file->WriteSection(std::move(section));
+        }
         context.onDone(stop.routesDone);
     }
     for (const auto &batch : batches)
