@@ -232,7 +232,8 @@ QString CCampaign::RunAgain(const SRequest &request)
     if (!failure.isEmpty())
         return "again: " + failure;
     if (m_tool.Boxes().Seen().size() != boxes)
-        return "again: " + m_tool.Boxes().Seen().last().title;
+        return "again: " + m_tool.Boxes().Seen().last().title + ' ' +
+               m_tool.Boxes().Seen().last().informative;
     return m_tool.IsUsable(request.page) ? QString() : "the page is not usable";
 }
 
@@ -295,5 +296,6 @@ bool CCampaign::Print() const
         std::printf("\n");
     }
     std::printf("cases run %d, held %d\n", all.run, all.held);
+    std::fflush(stdout);
     return all.run == all.held;
 }

@@ -52,8 +52,10 @@ QString CTool::Prepare(const SRequest &request)
             page->findChild<QSpinBox *>("cmdIf_request_group1_memberProperty_reportPeriod"))
         period->setValue(period->maximum());
     auto *search = page->findChild<QCheckBox *>("cmdIf_request_group1_memberProperty_enableCsr");
-    if (search && !search->isChecked())
-        search->setChecked(true);
+    // The carrier search, which the DUT refuses in a start, is what the reading is about.
+    if (search && search->isEnabled() &&
+        search->isChecked() != (qstrcmp(request.button, "m_btnCalculate") == 0))
+        search->click();
     if (failure.isEmpty() && request.before == EBefore::Running && !IsOn(page, "m_stop")) {
         QTest::mouseClick(page->findChild<QPushButton *>("m_start"), Qt::LeftButton);
         failure = Settle();
