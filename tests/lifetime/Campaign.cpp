@@ -209,6 +209,8 @@ QString CCampaign::Look(const SRound &round)
         return {};
     }
     QString failure = m_tool.Settle();
+    if (round.action == EAction::Reset)
+        m_tool.Reconnect();
     if (failure.isEmpty() && round.action == EAction::Reset && m_tool.HasPages())
         failure = "pages are still there";
     if (failure.isEmpty() && round.action == EAction::Hide &&

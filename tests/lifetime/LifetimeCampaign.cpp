@@ -15,7 +15,7 @@ int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     QCommandLineParser parser;
-    parser.addOption({"rounds", "How many.", "n", "40"});
+    parser.addOption({"rounds", "How many.", "n", "24"});
     parser.addOption({"minutes", "At most.", "m", "100000"});
     parser.addOption({"seed", "Of all chance.", "s", "1"});
     parser.addOption({"first", "Number of the first round.", "n", "0"});

@@ -26,16 +26,17 @@ constexpr SRequest Press(const char *page, const char *name, const char *functio
     return {page, name, function, EWay::Button, button, before};
 }
 
-constexpr SRequest File(const char *page, const char *name, const char *button)
+constexpr SRequest File(const char *page, const char *name, const char *button, EBefore before)
 {
-    return {page, name, nullptr, EWay::File, button, EBefore::Nothing};
+    return {page, name, nullptr, EWay::File, button, before};
 }
 
 void AddCalibration(QVector<SRequest> &requests, const char *page)
 {
     requests += {Document(page), Press(page, "read", "VOND_MMRf_GetCalDataV7_r", "m_btnUpload"),
-                 Press(page, "write", "VOND_MMRf_SetCalDataV7_r", "m_btnDownload"),
-                 File(page, "import", "m_btnLoad"), File(page, "export", "m_btnSave")};
+                 Press(page, "write", "VOND_MMRf_SetCalDataV7_r", "m_btnDownload", EBefore::Read),
+                 File(page, "import", "m_btnLoad", EBefore::File),
+                 File(page, "export", "m_btnSave", EBefore::Read)};
 }
 
 void AddRsrp(QVector<SRequest> &requests, const char *page)

@@ -11,6 +11,8 @@ enum class EBefore
 {
     Nothing,  // the page has its document
     Running,  // its test runs
+    Read,     // it shows the DUT's calibration data
+    File,     // there is a file to import
     Fresh,    // the tool has no pages: the request is made by showing it
 };
 

@@ -1,6 +1,7 @@
 #include "tests/lifetime/Tool.h"
 
 #include <QCheckBox>
+#include <QFile>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QThreadPool>
@@ -33,7 +34,9 @@ QString CTool::Prepare(const SRequest &request)
     if (request.before == EBefore::Fresh) {
         (*m_session)->ResetPlugin();
         (*m_session)->HidePlugin();
-        return Settle();
+        const QString failure = Settle();
+        Reconnect();
+        return failure;
     }
     QString failure = Show();
     QDockWidget *page = Page(request.page);
@@ -61,6 +64,16 @@ QString CTool::Prepare(const SRequest &request)
         failure = Settle();
         if (failure.isEmpty() && !IsOn(page, "m_stop"))
             failure = "the test does not start";
+    }
+    const bool needsFile = request.before == EBefore::File && !QFile::exists(File(request));
+    if (failure.isEmpty() && (request.before == EBefore::Read || needsFile)) {
+        QTest::mouseClick(page->findChild<QPushButton *>("m_btnUpload"), Qt::LeftButton);
+        failure = Settle();
+    }
+    if (failure.isEmpty() && needsFile) {
+        AnswerFileDialog(File(request));
+        QTest::mouseClick(page->findChild<QPushButton *>("m_btnSave"), Qt::LeftButton);
+        failure = Settle();
     }
     if (request.way != EWay::Timer && failure.isEmpty() && !IsOn(page, request.button))
         failure = QString("%1 is off").arg(request.button);
@@ -130,6 +143,11 @@ QString CTool::Settle()
                (!m_session || m_session->busy.isEmpty() || !m_session->busy.last());
     };
     return WaitUntil(isQuiet, kLongMs) ? QString() : "the tool stays busy";
+}
+
+void CTool::Reconnect()
+{
+    VondSim_SetProfileText(Type1Profile().toUtf8());
 }
 
 void CTool::Unload()
