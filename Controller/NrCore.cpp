@@ -19,8 +19,8 @@ const QLatin1String
 
 CNrCore &GetCore()
 {
-    static CNrCore core;
-    return core;
+    static auto *const core = new CNrCore;
+    return *core;
 }
 
 CNrCore::CNrCore() : m_pageMap(BuildPageMap()), m_calItemMap(BuildCalItemMap())

@@ -1,9 +1,10 @@
 // The core: the one object that knows the target.
 //
-// A process-wide singleton, created on first use from the GUI thread and reached through GetCore();
-// it lives until the process ends. It decides whether the tool runs on this DUT, supplies each
-// page's document, turns a page's document into a command, a target call and a result, and moves
-// calibration data between flash, memory, files and documents.
+// A process-wide singleton, created on first use from the GUI thread and reached through GetCore().
+// It is never destroyed: a host may call exit() while a job is with the target. It decides whether
+// the tool runs on this DUT, supplies each page's document, turns a page's document into a command,
+// a target call and a result, and moves calibration data between flash, memory, files and
+// documents.
 //
 // Threads. Everything that reaches the target blocks, so it is called on pool threads, with the one
 // exception of GetSupportStatus, which the host asks for before the tool is shown. Each job takes

@@ -1,13 +1,12 @@
 // Calibration flows of the core.
 #include <exception>
 
-#include <QtConcurrent>
-
 #include "Controller/CalItemTable.h"
 #include "Controller/NrCore.h"
 #include "Model/StatusTable.h"
 #include "Support/CalIniFile.h"
 #include "Support/Log.h"
+#include "Support/Threads.h"
 
 namespace {
 
@@ -111,7 +110,7 @@ void CNrCore::StartFlow(const SCalFlow &flow, const QStringList &items,
 {
     if (flow.startLog)
         qCDebug(lcCore) << flow.startLog << items.size();
-    QtConcurrent::run([this, &flow, items, file = std::move(file)]() mutable {
+    StartOnPool([this, &flow, items, file = std::move(file)]() mutable {
         RunFlow(flow, items, std::move(file));
     });
     if (flow.startLog)
