@@ -186,6 +186,10 @@ void CCampaign::Act(const SRound &round)
         break;
     case EAction::Hide:
         (*m_tool.Session())->HidePlugin();
+        // A hidden window's pages wait for its show, in the window's own event loop.
+        if (round.request->way == EWay::Launch)
+            QTimer::singleShot(round.turns, m_tool.Session(),
+                               [this] { (*m_tool.Session())->ShowPlugin(); });
         break;
     case EAction::Unload:
         m_tool.Unload();
@@ -213,7 +217,7 @@ QString CCampaign::Look(const SRound &round)
         m_tool.Reconnect();
     if (failure.isEmpty() && round.action == EAction::Reset && m_tool.HasPages())
         failure = "pages are still there";
-    if (failure.isEmpty() && round.action == EAction::Hide &&
+    if (failure.isEmpty() && round.action == EAction::Hide && round.request->way != EWay::Launch &&
         m_tool.Session()->Window()->isVisible())
         failure = "the window is still shown";
     return failure;

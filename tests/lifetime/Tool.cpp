@@ -125,6 +125,9 @@ void CTool::Make(const SRequest &request, const std::function<void()> &onDialog)
         return;
     }
     if (request.way == EWay::File) {
+        // Nobody answers the question whether to write over a file.
+        if (request.before == EBefore::Read)
+            QFile::remove(File(request));
         AnswerFileDialog(File(request), [onDialog](QFileDialog *) {
             if (onDialog)
                 onDialog();
