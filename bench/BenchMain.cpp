@@ -19,7 +19,8 @@ public:
     {
         for (const Run &run : runs) {
             if (!run.error_occurred)
-                m_seconds[Name(run)] = run.real_accumulated_time / run.iterations;
+                m_seconds[Name(run)] =
+                    run.real_accumulated_time / static_cast<double>(run.iterations);
         }
         ConsoleReporter::ReportRuns(runs);
     }

@@ -148,7 +148,7 @@ TEST_F(AnswerRoomTest, NoiseIsHeldWhateverItHolds)
         EXPECT_LE(Report().reportCount, 10);
         const SMMGainSearchCnfV7 gains = Search(1);
         EXPECT_LE(gains.simultaneous, 1u);
-        const SMMRssiCnfV7 answer = Rssi(seed % 2);
+        const SMMRssiCnfV7 answer = Rssi(static_cast<uint8_t>(seed % 2));
         EXPECT_LE(seed % 2 == 1 ? answer.rows.single.mainG : answer.rows.simultaneous.mainG, 6);
     }
 }

@@ -76,17 +76,19 @@ TEST_F(AptFileTest, EveryValueComesBackAtTheExtremesOfItsType)
     ASSERT_EQ(LoadText(m_item, BareFile(ECalRoute::Tx)), kDone);
     std::mt19937 random(6);
     for (const SCalPlace &place : places) {
-        const uint16_t band = Record(place.route, place.region).band;
+        const auto region = static_cast<uint16_t>(place.region);
+        const uint16_t band = Record(place.route, region).band;
         m_item.SetAptCalibrationData(
-            place.route, place.region,
+            place.route, region,
             ExtremeApt(random, band, place.route, static_cast<int>(random() % 65)));
     }
     ASSERT_EQ(SaveFile(m_item), kDone);
     CMultiRatAptProfileV7 other(ERadioKind::Nr);
     ASSERT_EQ(LoadFile(other), kDone);
     for (const SCalPlace &place : places) {
-        const auto *record = other.GetAptCalibrationData(place.route, place.region);
-        ASSERT_EQ(BytesOf(*record), BytesOf(Record(place.route, place.region)))
+        const auto region = static_cast<uint16_t>(place.region);
+        const auto *record = other.GetAptCalibrationData(place.route, region);
+        ASSERT_EQ(BytesOf(*record), BytesOf(Record(place.route, region)))
             << "route " << place.route << " region " << place.region;
     }
     EXPECT_EQ(SaveBytes(other), m_folder.Bytes());

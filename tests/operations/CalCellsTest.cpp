@@ -127,7 +127,8 @@ TEST(CalCells, DbOfPlainNotationIsThatOfADouble)
         const int decimals = 4 + static_cast<int>(random() % 3);
         const double value = static_cast<int>(random() % 2048001) / 1000.0 - 1024;
         char text[32];
-        std::snprintf(text, sizeof text, "%.*f", decimals, value + random() % 100 / 1e6);
+        std::snprintf(text, sizeof text, "%.*f", decimals,
+                      value + static_cast<int>(random() % 100) / 1e6);
         int16_t units[] = {7, 7};
         ASSERT_EQ(CCalCells(units).Read(std::string(text) + ",0.50000", ECalValue::Db), nullptr);
         ASSERT_EQ(units[0], static_cast<int16_t>(std::strtod(text, nullptr) * 32)) << text;

@@ -108,7 +108,7 @@ TEST_F(BlockErrorTest, LowPowerModeCostsSensitivity)
 {
     SNrRsrpCmdV7 command = RsrpForcedCommand();
     double rate[4] = {};
-    for (const uint8_t mode : {1, 2, 3}) {
+    for (const uint8_t mode : {uint8_t{1}, uint8_t{2}, uint8_t{3}}) {
         command.forcedMode.carrier.lpmHpmConf = mode;
         rate[mode] = RateAt(Sensitivity() + 0.5, command);
     }

@@ -74,7 +74,7 @@ TEST_F(CalIniFileBroken, AnyBytesCanBeUsed)
         QByteArray("[]=;#\r\n \t<ab\xC3\xE4\xF0\xFF\x80\xEF\xBB\xBF") + '\0';
     for (int round = 0; round < 300; ++round) {
         QByteArray bytes;
-        for (unsigned left = random() % 120; left > 0; --left)
+        for (auto left = random() % 120; left > 0; --left)
             bytes += alphabet.at(int(random() % unsigned(alphabet.size())));
         ASSERT_NO_FATAL_FAILURE(UseFile(bytes)) << "round " << round << ' ' << bytes.toHex().data();
     }
