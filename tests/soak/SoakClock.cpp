@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <time.h>
+
 #include <QEvent>
 #include <QTimer>
 
@@ -11,6 +13,14 @@ namespace {
 double Milliseconds(const QElapsedTimer &timer)
 {
     return static_cast<double>(timer.nsecsElapsed()) * 1e-6;
+}
+
+// Of this thread, ms.
+double ProcessorTime()
+{
+    timespec time = {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) * 1e-6;
 }
 
 }  // namespace
@@ -22,18 +32,20 @@ bool CSoakApplication::notify(QObject *receiver, QEvent *event)
         return QApplication::notify(receiver, event);
     QElapsedTimer timer;
     timer.start();
+    const double workedBefore = ProcessorTime();
     ++m_depth;
     const bool isTaken = QApplication::notify(receiver, event);
     --m_depth;
-    const double worked = Milliseconds(timer);
-    m_busy += worked;
-    m_longest = std::max(m_longest, worked);
+    const double worked = ProcessorTime() - workedBefore;
+    m_worked += worked;
+    m_longest.passed = std::max(m_longest.passed, Milliseconds(timer));
+    m_longest.worked = std::max(m_longest.worked, worked);
     return isTaken;
 }
 
-double CSoakApplication::TakeLongest()
+SStretch CSoakApplication::TakeLongest()
 {
-    return std::exchange(m_longest, 0);
+    return std::exchange(m_longest, {});
 }
 
 void SSpread::Add(double value)
@@ -77,10 +89,10 @@ void CSoakClock::OnTick()
         ++m_skipped;
         return;
     }
-    const double busy = CSoakApplication::Instance()->Busy();
+    const double worked = CSoakApplication::Instance()->Worked();
     if (m_isAnswered)
-        m_cost.gui.Add(busy - m_busyAtTick);
-    m_busyAtTick = busy;
+        m_cost.gui.Add(worked - m_workedAtTick);
+    m_workedAtTick = worked;
     m_isAsked = true;
     m_isAnswered = false;
     m_sinceTick.start();

@@ -1,10 +1,11 @@
 // What a fetch costs: the time from the report timer's tick to the rows on the table, and the time
 // that the GUI thread works for it.
 //
-// The GUI thread works while it delivers an event; CSoakApplication takes that time. Between two
-// ticks of a running test nothing happens but for the fetch, so all work in between is its own:
-// asking, taking the answer, layout and paint. What a person does between them would spoil both
-// times, so that fetch is left out (Disturb).
+// The GUI thread works while it delivers an event; CSoakApplication takes the processor time of
+// that, which is the same on a machine that others use as well. Between two ticks of a running test
+// nothing happens but for the fetch, so all work in between is its own: asking, taking the answer,
+// layout and paint. What a person does between them would spoil both times, so that fetch is left
+// out (Disturb).
 //
 // GUI thread. All times are ms.
 //
@@ -19,6 +20,13 @@
 #include <QObject>
 #include <QString>
 
+// Time that passed, and processor time of the thread in it.
+struct SStretch
+{
+    double passed;
+    double worked;
+};
+
 // An application that knows how long its thread works.
 class CSoakApplication : public QApplication
 {
@@ -28,14 +36,15 @@ public:
     bool notify(QObject *receiver, QEvent *event) override;
     static CSoakApplication *Instance() { return static_cast<CSoakApplication *>(qApp); }
 
-    double Busy() const { return m_busy; }
-    // The longest single event since the last call: for so long the window stood still.
-    double TakeLongest();
+    double Worked() const { return m_worked; }  // processor time in events
+    // The longest single event since the last call, by each time: for so long the window stood
+    // still.
+    SStretch TakeLongest();
 
 private:
     int m_depth = 0;
-    double m_busy = 0;
-    double m_longest = 0;
+    double m_worked = 0;
+    SStretch m_longest = {};
 };
 
 // Mean and worst of some times.
@@ -52,7 +61,7 @@ struct SSpread
 struct SFetchCost
 {
     SSpread toRows;  // from a tick to its rows
-    SSpread gui;     // work of the GUI thread
+    SSpread gui;     // processor time of the GUI thread
 };
 
 class CSoakClock : public QObject
@@ -85,7 +94,7 @@ private:
     QElapsedTimer m_sinceTick;
     bool m_isAsked = false;     // the answer to a tick is on its way
     bool m_isAnswered = false;  // its rows are there; the next tick ends its account
-    double m_busyAtTick = 0;
+    double m_workedAtTick = 0;
     int m_answers = 0;
     int m_answersInTable = 0;
     int m_skipped = 0;

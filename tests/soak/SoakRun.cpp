@@ -10,11 +10,11 @@
 
 namespace {
 
-constexpr int kMinute = 60000;     // ms
-constexpr int kBaseline = 5;       // minutes
-constexpr double kMostGrowth = 2;  // percent
-constexpr int kFewestAnswers = 5;  // between two actions
-constexpr int kMostAnswers = 60;
+constexpr int kHalfAMinute = 30000;  // ms
+constexpr int kBaseline = 5;         // minutes
+constexpr double kMostGrowth = 2;    // percent
+constexpr int kFewestAnswers = 5;    // between two actions
+constexpr int kMostAnswers = 40;
 
 double Megabytes(std::size_t bytes)
 {
@@ -39,29 +39,35 @@ CSoakRun::CSoakRun(unsigned seed) : m_chance(seed) {}
 bool CSoakRun::Minutes(int minutes)
 {
     std::printf("| Minute | Resident, MB | In use, MB | Actions | Fetches | Rows at the end | "
-                "Tick to rows, ms: mean | worst | GUI thread, ms: a fetch | worst fetch | "
-                "longest event |\n"
-                "|---|---|---|---|---|---|---|---|---|---|---|\n");
+                "Tick to rows, ms | worst | GUI thread works, ms a fetch | worst | "
+                "Longest event works, ms | passes |\n"
+                "|---|---|---|---|---|---|---|---|---|---|---|---|\n");
     m_user.Begin();
     for (int minute = 1; minute <= minutes; ++minute) {
         m_clock.TakeCost();
         CSoakApplication::Instance()->TakeLongest();
         const int answers = m_clock.Answers();
-        m_actions = 0;
-        Minute(minute > 1);
-        const SFetchCost cost = m_clock.TakeCost();
-        const double longest = CSoakApplication::Instance()->TakeLongest();
-        const int fetches = m_clock.Answers() - answers;
+        ActForHalfAMinute();
+        RunForHalfAMinute();
+        m_cost = m_clock.TakeCost();
+        m_longest = CSoakApplication::Instance()->TakeLongest();
+        m_fetches = m_clock.Answers() - answers;
         m_memory.push_back(ClearAndMeasure());
-        std::printf("| %d | %.3f | %.3f | %d | %d | %d | %.2f | %.2f | %.2f | %.2f | %.2f |\n",
-                    minute, Megabytes(m_memory.back().resident), Megabytes(m_memory.back().inUse),
-                    m_actions, fetches, m_rows, cost.toRows.Mean(), cost.toRows.worst,
-                    cost.gui.Mean(), cost.gui.worst, longest);
-        std::fflush(stdout);
+        PrintMinute();
     }
     if (m_clock.Skipped() > 0)
         std::printf("\n%d ticks were skipped, since an answer was late.\n", m_clock.Skipped());
     return Compare(minutes);
+}
+
+void CSoakRun::PrintMinute() const
+{
+    std::printf("| %zu | %.3f | %.3f | %d | %d | %d | %.1f | %.1f | %.1f | %.1f | %.1f | %.1f |\n",
+                m_memory.size(), Megabytes(m_memory.back().resident),
+                Megabytes(m_memory.back().inUse), m_actions, m_fetches, m_rows,
+                m_cost.toRows.Mean(), m_cost.toRows.worst, m_cost.gui.Mean(), m_cost.gui.worst,
+                m_longest.worked, m_longest.passed);
+    std::fflush(stdout);
 }
 
 void CSoakRun::Fetches(int fetches)
@@ -77,25 +83,30 @@ void CSoakRun::Fetches(int fetches)
     std::printf("%d fetches, %.3f MB in use\n", m_clock.Answers(), Megabytes(memory.inUse));
 }
 
-void CSoakRun::Minute(bool hasActions)
+void CSoakRun::ActForHalfAMinute()
 {
-    QElapsedTimer minute;
-    minute.start();
-    while (true) {
-        const int answers =
-            std::uniform_int_distribution<int>(kFewestAnswers, kMostAnswers)(m_chance);
-        const int action =
-            std::uniform_int_distribution<int>(0, CSoakUser::Actions() - 1)(m_chance);
+    using Draw = std::uniform_int_distribution<int>;
+    QElapsedTimer time;
+    time.start();
+    for (m_actions = 0; true; ++m_actions) {
+        const int answers = Draw(kFewestAnswers, kMostAnswers)(m_chance);
+        const int action = Draw(0, CSoakUser::Actions() - 1)(m_chance);
         for (int i = 0; i < answers; ++i) {
             m_user.WaitForAnswers(1);
-            if (minute.hasExpired(kMinute))
+            if (time.hasExpired(kHalfAMinute))
                 return;
         }
-        if (!hasActions)
-            continue;
         m_user.Act(action);
-        ++m_actions;
     }
+}
+
+void CSoakRun::RunForHalfAMinute()
+{
+    m_clock.Disturb();
+    m_user.Stop();
+    m_user.Start();
+    m_clock.Disturb();
+    m_user.WaitForAnswers(kHalfAMinute / kSoakPeriod);
 }
 
 SMemory CSoakRun::ClearAndMeasure()

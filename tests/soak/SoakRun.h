@@ -1,9 +1,10 @@
 // The soak itself: minutes of a person's work, each ended by Stop, Clear, a line of figures and
 // Start.
 //
-// Memory is taken at like moments: behind Clear, with no request under way. The first minute goes
-// without actions, so that the table is once as long as it ever gets before memory counts. The
-// simulated DUT's journal is emptied with the table; it would grow with every call.
+// Memory is taken at like moments: behind Clear, with no request under way, and of a table that had
+// the same number of rows each time. For that, the second half of a minute is one undisturbed run
+// of so many fetches; the first half has the actions. The simulated DUT's journal is emptied with
+// the table; it would grow with every call.
 //
 // Both functions throw std::runtime_error when the page does not do what it should. GUI thread.
 //
@@ -31,7 +32,9 @@ public:
     void Fetches(int fetches);
 
 private:
-    void Minute(bool hasActions);
+    void ActForHalfAMinute();
+    void RunForHalfAMinute();
+    void PrintMinute() const;
     SMemory ClearAndMeasure();
     bool Compare(int minutes) const;
 
@@ -39,6 +42,10 @@ private:
     CSoakUser m_user{m_clock};
     std::mt19937 m_chance;
     std::vector<SMemory> m_memory;  // after each minute
-    int m_rows = 0;                 // on the table before the last Clear
+    // Of this minute.
+    int m_rows = 0;  // on the table before Clear
     int m_actions = 0;
+    int m_fetches = 0;
+    SFetchCost m_cost;
+    SStretch m_longest = {};
 };
