@@ -11,8 +11,6 @@
 namespace {
 
 constexpr int kHalfAMinute = 30000;  // ms
-constexpr int kBaseline = 5;         // minutes
-constexpr double kMostGrowth = 2;    // percent
 constexpr int kFewestAnswers = 5;    // between two actions
 constexpr int kMostAnswers = 40;
 
@@ -20,17 +18,6 @@ double Megabytes(std::size_t bytes)
 {
     return static_cast<double>(bytes) * 1e-6;
 }
-
-struct SFigure
-{
-    const char *name;
-    std::size_t SMemory::*bytes;
-};
-
-constexpr SFigure kFigures[] = {
-    {"resident", &SMemory::resident},
-    {"in use", &SMemory::inUse},
-};
 
 }  // namespace
 
@@ -57,7 +44,7 @@ bool CSoakRun::Minutes(int minutes)
     }
     if (m_clock.Skipped() > 0)
         std::printf("\n%d ticks were skipped, since an answer was late.\n", m_clock.Skipped());
-    return Compare(minutes);
+    return IsSteady();
 }
 
 void CSoakRun::PrintMinute() const
@@ -123,22 +110,17 @@ SMemory CSoakRun::ClearAndMeasure()
     return memory;
 }
 
-bool CSoakRun::Compare(int minutes) const
+bool CSoakRun::IsSteady() const
 {
-    if (minutes <= kBaseline)
-        return true;
+    const std::vector<SGrowth> figures = CompareMemory(m_memory);
+    std::printf(figures.empty() ? "\nToo short to compare memory.\n" : "\n");
     bool isSteady = true;
-    std::printf("\n");
-    for (const SFigure &figure : kFigures) {
-        const double before = Megabytes(m_memory[kBaseline - 1].*figure.bytes);
-        const double after = Megabytes(m_memory.back().*figure.bytes);
-        const double growth = (after / before - 1) * 100;
-        const bool holds = growth <= kMostGrowth;
-        isSteady = isSteady && holds;
-        std::printf("Memory %s: %.3f MB after %d minutes, %.3f MB after %d: %+.2f %%, at most "
+    for (const SGrowth &growth : figures) {
+        isSteady = isSteady && growth.Holds();
+        std::printf("Memory %s: %.3f MB after 5 minutes, %.3f MB at the end: %+.2f %%, at most "
                     "%+.0f %%: %s\n",
-                    figure.name, before, kBaseline, after, minutes, growth, kMostGrowth,
-                    holds ? "holds" : "FAILS");
+                    growth.name, Megabytes(growth.before), Megabytes(growth.after), growth.percent,
+                    kMostGrowth, growth.Holds() ? "holds" : "FAILS");
     }
     return isSteady;
 }

@@ -25,8 +25,7 @@ public:
     // The seed decides which action comes when.
     explicit CSoakRun(unsigned seed);
 
-    // Prints a line a minute. False when memory at the end is more than 2 % above that after five
-    // minutes; a run that is no longer compares nothing.
+    // Prints a line a minute. False when memory grew by more than 2 % after the fifth.
     bool Minutes(int minutes);
     // A short run: every action once, with so many fetches in all, at least one each.
     void Fetches(int fetches);
@@ -36,7 +35,7 @@ private:
     void RunForHalfAMinute();
     void PrintMinute() const;
     SMemory ClearAndMeasure();
-    bool Compare(int minutes) const;
+    bool IsSteady() const;
 
     CSoakClock m_clock;
     CSoakUser m_user{m_clock};
