@@ -1,6 +1,5 @@
 #include "tests/soak/SoakUser.h"
 
-#include <functional>
 #include <iterator>
 #include <stdexcept>
 
@@ -30,15 +29,15 @@ int CSoakUser::Actions()
     return static_cast<int>(std::size(kActions));
 }
 
-const char *CSoakUser::ActionName(int action)
-{
-    return kActions[action].name;
-}
-
 void CSoakUser::Act(int action)
 {
+    const SAction &chosen = kActions[action];
     m_clock.Disturb();
-    (this->*kActions[action].act)();
+    try {
+        (this->*chosen.act)();
+    } catch (const std::runtime_error &error) {
+        throw std::runtime_error(std::string(chosen.name) + ": " + error.what());
+    }
     m_clock.Disturb();
 }
 

@@ -12,6 +12,8 @@
 //   user.Act(0);
 #pragma once
 
+#include <functional>
+
 #include "tests/device/RsrpSession.h"
 
 class CSoakClock;
@@ -35,7 +37,6 @@ public:
     int Rows() const { return m_session.Rows(); }
 
     static int Actions();
-    static const char *ActionName(int action);
     void Act(int action);
 
 private:
