@@ -1,0 +1,37 @@
+// What the process has of memory: at one moment, and how it grew over the minutes of a run.
+//
+// What lies in main memory goes up and down by a percent or two from minute to minute, as the
+// threads of the pool come and go with what malloc keeps for each. So a moment is the median of the
+// five lines around it: "after five minutes" the lines 3 to 7, "at the end" the last five.
+//
+//   lines.push_back(ReadMemory());
+//   ...
+//   for (const SGrowth &growth : CompareMemory(lines)) ...
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+struct SMemory
+{
+    std::size_t resident;  // bytes that lie in main memory: code, stacks and heap, free blocks too
+    std::size_t inUse;     // bytes that malloc has given out, of all its arenas
+};
+
+// 0 for what the system does not tell.
+SMemory ReadMemory();
+
+constexpr double kMostGrowth = 2;  // percent
+
+struct SGrowth
+{
+    const char *name;
+    std::size_t before;  // bytes after five minutes
+    std::size_t after;   // bytes at the end
+    double percent;
+
+    bool Holds() const { return percent <= kMostGrowth; }
+};
+
+// One line a minute, from the first on; fewer than twelve compare nothing.
+std::vector<SGrowth> CompareMemory(const std::vector<SMemory> &lines);

@@ -1,0 +1,50 @@
+// The soak itself: minutes of a person's work, each ended by Stop, Clear, a line of figures and
+// Start.
+//
+// Memory is taken at like moments: behind Clear, with no request under way, and of a table that had
+// the same number of rows each time. For that, the second half of a minute is one undisturbed run
+// of so many fetches; the first half has the actions. The simulated DUT's journal is emptied with
+// the table; it would grow with every call.
+//
+// Both functions throw std::runtime_error when the page does not do what it should. GUI thread.
+//
+//   CSoakRun run(1);
+//   const bool isSteady = run.Minutes(65);
+#pragma once
+
+#include <random>
+#include <vector>
+
+#include "tests/soak/SoakClock.h"
+#include "tests/soak/SoakMemory.h"
+#include "tests/soak/SoakUser.h"
+
+class CSoakRun
+{
+public:
+    // The seed decides which action comes when.
+    explicit CSoakRun(unsigned seed);
+
+    // Prints a line a minute. False when memory grew by more than 2 % after the fifth.
+    bool Minutes(int minutes);
+    // A short run: every action once, with so many fetches in all, at least one each.
+    void Fetches(int fetches);
+
+private:
+    void ActForHalfAMinute();
+    void RunForHalfAMinute();
+    void PrintMinute() const;
+    SMemory ClearAndMeasure();
+    bool IsSteady() const;
+
+    CSoakClock m_clock;
+    CSoakUser m_user{m_clock};
+    std::mt19937 m_chance;
+    std::vector<SMemory> m_memory;  // after each minute
+    // Of this minute.
+    int m_rows = 0;  // on the table before Clear
+    int m_actions = 0;
+    int m_fetches = 0;
+    SFetchCost m_cost;
+    SStretch m_longest = {};
+};
