@@ -5,6 +5,8 @@
 #
 #   ./test.sh            all of it
 #   ./test.sh --quick    the release build only
+#   ./test.sh --tsan     the same tests with the thread sanitizer, and a seeded race that it must find;
+#                        by itself, since it takes about as long as all of the others
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . scripts/setup.sh
@@ -13,8 +15,9 @@ presets=(release asan)
 case "$#:${1:-}" in
     0:) ;;
     1:--quick) presets=(release) ;;
+    1:--tsan) presets=(tsan) ;;
     *)
-        echo "usage: ./test.sh [--quick]" >&2
+        echo "usage: ./test.sh [--quick|--tsan]" >&2
         exit 2
         ;;
 esac

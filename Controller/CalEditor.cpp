@@ -23,10 +23,14 @@ QJsonValue EntryOf(const QJsonObject &document, const QJsonObject &member)
         .value(GetJsonValueConst(document, keyPath).toString());
 }
 
-template <typename Number>
-Number Held(Number value, Number least, Number most)
+// In the editor's own arithmetic: the middle of integers is truncated toward zero.
+template <typename Number, typename Text>
+QStringList Held(Number value, Number least, Number most, bool goesToTheMiddle, Text text)
 {
-    return qMax(least, qMin(value, most));
+    QStringList texts = {text(qMax(least, qMin(value, most)))};
+    if (goesToTheMiddle && (value < least || value > most))
+        texts.append(text((least + most) / 2));
+    return texts;
 }
 
 }  // namespace
@@ -35,24 +39,26 @@ CCalEditor::CCalEditor(const QJsonObject &document, const QString &memberPath)
 {
     const QJsonObject member = GetJsonValueConst(document, memberPath).toObject();
     m_dataType = GetJsonValueConst(member, QStringLiteral("trait.dataType")).toString();
+    m_isSubscriber = IsJsonValueValid(member.value(QLatin1String("subscribeValue")));
     m_entry = EntryOf(document, member);
 }
 
-QString CCalEditor::Shown(const QString &text) const
+QStringList CCalEditor::Shown(const QString &text) const
 {
     if (m_dataType == QLatin1String("list"))
-        return FindStringInJsonArray(m_entry.toArray(), text) >= 0 ? text : QString();
+        return {FindStringInJsonArray(m_entry.toArray(), text) >= 0 ? text : QString()};
 
     const QJsonValue least = m_entry.toObject().value(QLatin1String("min"));
     const QJsonValue most = m_entry.toObject().value(QLatin1String("max"));
     if (!least.isDouble() || !most.isDouble())
-        return text;
+        return {text};
     if (m_dataType == QLatin1String("range"))
-        return CalText(ECalText::Number, Held(text.toInt(), least.toInt(), most.toInt()));
+        return Held<qint64>(text.toInt(), least.toInt(), most.toInt(), m_isSubscriber,
+                            [](qint64 value) { return CalText(ECalText::Number, value); });
     if (m_dataType == QLatin1String("pointRange")) {
         constexpr int kDecimals = 5;
-        return QString::number(Held(text.toDouble(), least.toDouble(), most.toDouble()), 'f',
-                               kDecimals);
+        return Held(text.toDouble(), least.toDouble(), most.toDouble(), m_isSubscriber,
+                    [](double value) { return QString::number(value, 'f', kDecimals); });
     }
-    return text;
+    return {text};
 }

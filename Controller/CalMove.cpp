@@ -37,7 +37,11 @@ bool IsSame(ECalText kind, const QString &a, const QString &b)
 void Fill(const CCalEditor &editor, ECalText kind, const QString &packaged, const QString &own,
           CCalCell cell)
 {
-    if (!IsSame(kind, packaged, editor.Shown(own)))
+    const QStringList shown = editor.Shown(own);
+    const bool isEdited = std::none_of(shown.begin(), shown.end(), [&](const QString &text) {
+        return IsSame(kind, packaged, text);
+    });
+    if (isEdited)
         cell.Set(CalValue(kind, packaged));
 }
 

@@ -33,12 +33,31 @@ std::string CNrDataModelResponseBuilder::GetAptDataModelV7(QJsonObject document,
     return ModelToText(document);
 }
 
+const SMMRfRxGainInfoV7 *CNrDataModelResponseBuilder::GainsFor(const QJsonObject &document) const
+{
+    return m_target.GetSupportRxGainInfoV7(
+        ERadioKind::Nr, ShownPowerMode(ReadLossConfig(document).powerMode).gainMode);
+}
+
 std::string
 CNrDataModelResponseBuilder::GetType1PathLossDataModelV7(QJsonObject document,
                                                          SMMType1PathlossByRouteV7 record) const
 {
+    return ShowType1PathLoss(document, record, GainsFor(document));
+}
+
+std::string
+CNrDataModelResponseBuilder::GetType2PathLossDataModelV7(QJsonObject document,
+                                                         SMMType2PathlossByRouteV7 record) const
+{
+    return ShowType2PathLoss(document, record, GainsFor(document));
+}
+
+std::string CNrDataModelResponseBuilder::ShowType1PathLoss(QJsonObject document,
+                                                           SMMType1PathlossByRouteV7 record,
+                                                           const SMMRfRxGainInfoV7 *gains) const
+{
     const SPowerMode &mode = ShownPowerMode(ReadLossConfig(document).powerMode);
-    const SMMRfRxGainInfoV7 *gains = m_target.GetSupportRxGainInfoV7(ERadioKind::Nr, mode.gainMode);
     SLossView view{mode.half};
     view.hasGains = gains != nullptr;
     if (gains)
@@ -51,17 +70,17 @@ CNrDataModelResponseBuilder::GetType1PathLossDataModelV7(QJsonObject document,
 }
 
 // Without the supported gains nobody can tell which gain a column stands for.
-std::string
-CNrDataModelResponseBuilder::GetType2PathLossDataModelV7(QJsonObject document,
-                                                         SMMType2PathlossByRouteV7 record) const
+std::string CNrDataModelResponseBuilder::ShowType2PathLoss(QJsonObject document,
+                                                           SMMType2PathlossByRouteV7 record,
+                                                           const SMMRfRxGainInfoV7 *gains) const
 {
     const SLossConfig config = ReadLossConfig(document);
     LogType2Config(config);
     const SPowerMode &mode = ShownPowerMode(config.powerMode);
-    const bool hasGains = m_target.GetSupportRxGainInfoV7(ERadioKind::Nr, mode.gainMode) != nullptr;
     CCalShow show(document);
-    MoveType2(show, record, {mode.half, config.freqIdx, config.path, config.bigG, {}, hasGains});
-    if (!hasGains)
+    MoveType2(show, record,
+              {mode.half, config.freqIdx, config.path, config.bigG, {}, gains != nullptr});
+    if (!gains)
         show.Fail(QStringLiteral("Get gain info failed"));
     return ModelToText(document);
 }

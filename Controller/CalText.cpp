@@ -1,5 +1,9 @@
 #include "Controller/CalText.h"
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 #include "Controller/CommandConversions.h"
 
 namespace {
@@ -7,6 +11,16 @@ namespace {
 constexpr double kDbPerUnit = 0.03125;  // 1/32
 constexpr int kDbDecimals = 5;
 constexpr int kUnitsPerDb = 32;
+
+// Truncated toward zero and held to the field: its low bits alone would turn a gain into a loss.
+int64_t FieldOf(double db)
+{
+    using Field = std::numeric_limits<int16_t>;
+    if (!std::isfinite(db))
+        return 0;
+    return static_cast<int64_t>(
+        std::clamp<double>(std::trunc(db * kUnitsPerDb), Field::min(), Field::max()));
+}
 
 }  // namespace
 
@@ -23,9 +37,9 @@ int64_t CalValue(ECalText kind, const QString &text)
 {
     switch (kind) {
     case ECalText::Db:
-        return FixedPoint(text, kGainScale);
+        return FieldOf(text.toDouble());
     case ECalText::WholeDb:
-        return static_cast<int16_t>(static_cast<uint16_t>(DecimalInt<int16_t>(text) * kUnitsPerDb));
+        return FieldOf(DecimalInt<int16_t>(text));
     default:
         return DecimalInt<int64_t>(text);
     }

@@ -1,9 +1,12 @@
 #include "Controller/NrCore.h"
 
+#include <exception>
+
 #include "Controller/CalItemTable.h"
 #include "Controller/PageTable.h"
 #include "Model/ModelResources.h"
 #include "Operations/TargetLink.h"
+#include "Support/CalIniFile.h"
 #include "Support/Log.h"
 
 namespace {
@@ -16,8 +19,8 @@ const QLatin1String
 
 CNrCore &GetCore()
 {
-    static CNrCore core;
-    return core;
+    static auto *const core = new CNrCore;
+    return *core;
 }
 
 CNrCore::CNrCore() : m_pageMap(BuildPageMap()), m_calItemMap(BuildCalItemMap())
@@ -105,4 +108,21 @@ void CNrCore::GetAllCalItem(QStringList &out)
     if (IsC2kModem() || GetSupportStatus().status != eSupported)
         return;
     out = CalItemNames();
+}
+
+void CNrCore::GetCalItemInFile(QStringList &out, CCalIniFile *file)
+{
+    const CLockSentry lock(m_targetLock);
+    QStringList items;
+    GetAllCalItem(items);
+    RenewCalItems();
+    out.clear();
+    for (const QString &item : items) {
+        try {
+            if (file && FindCalItem(item)->IsInFile(*file))
+                out.append(item);
+        } catch (const std::exception &failure) {
+            qCCritical(lcCore) << "no items of a file:" << failure.what();
+        }
+    }
 }

@@ -1,25 +1,31 @@
 // The core: the one object that knows the target.
 //
-// A process-wide singleton, created on first use from the GUI thread and reached through GetCore();
-// it lives until the process ends. It decides whether the tool runs on this DUT, supplies each
-// page's document, turns a page's document into a command, a target call and a result, and moves
-// calibration data between flash, memory, files and documents.
+// A process-wide singleton, created on first use from the GUI thread and reached through GetCore().
+// It is never destroyed: a host may call exit() while a job is with the target. It decides whether
+// the tool runs on this DUT, supplies each page's document, turns a page's document into a command,
+// a target call and a result, and moves calibration data between flash, memory, files and
+// documents.
 //
 // Threads. Everything that reaches the target blocks, so it is called on pool threads, with the one
 // exception of GetSupportStatus, which the host asks for before the tool is shown. Each job takes
 // m_targetLock for its whole run, the emission of its answer included: the target sees one call at
 // a time and the capability caches one reader, also when a reset lets a new init flow begin while a
-// test still runs. ResetTargetCache never waits: it leaves a mark that the next job obeys. Signals
-// are emitted on pool threads.
+// test still runs. ResetTargetCache never waits: it leaves a mark that the next job obeys. The
+// records of a calibration item have a lock of their own, which a flow of that item holds too: a
+// page changes its selection while the target works for another one. Signals are emitted on pool
+// threads.
 //
 //   QObject::connect(&GetCore(), &CNrCore::Signal_TestDone, page, &Page::Slot_Done);
 //   GetCore().Test(GetCore().GetPageName(2), document);
 #pragma once
 
+#include <array>
 #include <atomic>
+#include <optional>
 
 #include <QMap>
 
+#include "Controller/CalItemTable.h"
 #include "Controller/Interface/CoreInterface.h"
 #include "Controller/NrCoreCmdBuilder.h"
 #include "Controller/NrDataModelCapUpdater.h"
@@ -47,6 +53,7 @@ public:
     static void SetTargetHandle(uint32_t handle);
 
     void GetAllCalItem(QStringList &out) override;
+    void GetCalItemInFile(QStringList &out, CCalIniFile *file) override;
     void UploadFromFlashStart(QStringList items) override;
     void DownloadToFlashStart(QStringList items) override;
     void LoadFromFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) override;
@@ -76,8 +83,8 @@ public:
     // The record of the route that a packaged calibration document selects, between the item's
     // memory and the document: Get answers with the document filled, Set stores what the page
     // shows. Storing makes no record valid. On another generation Get answers with an empty text
-    // and Set does nothing. Any thread; they work on what is in memory, once the capability of the
-    // DUT has been read.
+    // and Set does nothing. Any thread; they work on what is in memory and wait for no job but a
+    // flow of their own item, once the page has its document.
     std::string GetAptCalibrationData(std::string document);
     void SetAptCalibrationData(const std::string &document);
     std::string GetPathLossCalibrationData(std::string document);
@@ -110,6 +117,14 @@ protected:
 
 private:
     struct SCalFlow;  // one of the four moves
+    // What storing and showing the records of an item takes of the capability.
+    struct SCalView
+    {
+        bool isKnown = false;
+        int generation = 0;
+        // Supported gains by power mode, of path loss; none when the read failed.
+        std::array<std::optional<SMMRfRxGainInfoV7>, 2> gains;
+    };
 
     SRfSupportStatus DecideSupportStatus();
     bool IsC2kModem() const;
@@ -130,10 +145,18 @@ private:
     // not for the next.
     void RenewCalItems();
     ICalItemByL1Operation *FindCalItem(const QString &name);
+    // Under m_targetLock.
+    void LookForCalItem(ECalItem item);
+    SCalView CalView(ECalItem item);
+    PortableCriticalSection &RecordLock(ECalItem item);
     // The status of the move; its text is in m_errorMessage then.
     int RunCalItem(const SCalFlow &flow, const QString &name, CCalIniFile *file);
 
     PortableCriticalSection m_targetLock;
+    // By item, taken behind m_targetLock or without it.
+    std::array<PortableCriticalSection, 2> m_recordLocks;
+    PortableCriticalSection m_viewLock;  // the innermost one
+    std::array<SCalView, 2> m_calViews;  // by item
     CTargetCapability m_target;
     QMap<QString, int> m_pageMap;     // page name to page id
     QMap<QString, int> m_calItemMap;  // calibration item name to item id

@@ -1,5 +1,6 @@
 // Calibration records of the core as pages see them.
 #include "Controller/CommandFields.h"
+#include "Controller/LossConfig.h"
 #include "Controller/NrCore.h"
 #include "Model/ModelText.h"
 #include "Support/Log.h"
@@ -43,13 +44,51 @@ SRxPlace ReadRxPlace(const QJsonObject &document)
 
 }  // namespace
 
+PortableCriticalSection &CNrCore::RecordLock(ECalItem item)
+{
+    return m_recordLocks[static_cast<size_t>(item)];
+}
+
+void CNrCore::LookForCalItem(ECalItem item)
+{
+    RenewCalItems();
+    SCalView view;
+    view.isKnown = true;
+    view.generation = m_target.GetNrGeneration();
+    if (item == ECalItem::PathLoss && view.generation == 1) {
+        for (uint32_t mode = 0; mode < view.gains.size(); ++mode) {
+            if (const auto *gains = m_target.GetSupportRxGainInfoV7(ERadioKind::Nr, mode))
+                view.gains[mode] = *gains;
+        }
+    }
+    const CLockSentry lock(m_viewLock);
+    m_calViews[static_cast<size_t>(item)] = view;
+}
+
+// While a job is at the target the last look counts: the page could not be there without one, and
+// what the DUT can do changes with a reset alone, which takes the pages away.
+CNrCore::SCalView CNrCore::CalView(ECalItem item)
+{
+    const auto last = [&] {
+        const CLockSentry lock(m_viewLock);
+        return m_calViews[static_cast<size_t>(item)];
+    };
+    if (!m_targetLock.TryLock()) {
+        if (!m_areItemsStale.load() && last().isKnown)
+            return last();
+        m_targetLock.Lock();
+    }
+    LookForCalItem(item);
+    m_targetLock.Unlock();
+    return last();
+}
+
 std::string CNrCore::GetAptCalibrationData(std::string document)
 {
-    const CLockSentry lock(m_targetLock);
-    RenewCalItems();
     const QJsonObject object = ModelFromText(document);
-    if (m_target.GetNrGeneration() != 1)
+    if (CalView(ECalItem::Apt).generation != 1)
         return {};
+    const CLockSentry lock(RecordLock(ECalItem::Apt));
     const STxPlace place = ReadTxPlace(object, "GetAptCalibrationData: route ");
     const SAptRouteBwRecord *record = m_aptProfile->GetAptCalibrationData(place.route, place.bwIdx);
     return record ? m_responseBuilder.GetAptDataModelV7(object, *record) : document;
@@ -57,11 +96,10 @@ std::string CNrCore::GetAptCalibrationData(std::string document)
 
 void CNrCore::SetAptCalibrationData(const std::string &document)
 {
-    const CLockSentry lock(m_targetLock);
-    RenewCalItems();
     const QJsonObject object = ModelFromText(document);
-    if (m_target.GetNrGeneration() != 1)
+    if (CalView(ECalItem::Apt).generation != 1)
         return;
+    const CLockSentry lock(RecordLock(ECalItem::Apt));
     const STxPlace place = ReadTxPlace(object, "SetAptCalibrationData: route ");
     const SAptRouteBwRecord *record = m_aptProfile->GetAptCalibrationData(place.route, place.bwIdx);
     if (record)
@@ -71,27 +109,29 @@ void CNrCore::SetAptCalibrationData(const std::string &document)
 
 std::string CNrCore::GetPathLossCalibrationData(std::string document)
 {
-    const CLockSentry lock(m_targetLock);
-    RenewCalItems();
     const QJsonObject object = ModelFromText(document);
-    if (m_target.GetNrGeneration() != 1)
+    const SCalView view = CalView(ECalItem::PathLoss);
+    if (view.generation != 1)
         return {};
+    const CLockSentry lock(RecordLock(ECalItem::PathLoss));
     const SRxPlace place = ReadRxPlace(object);
+    const auto &known = view.gains[ShownPowerMode(ReadLossConfig(object).powerMode).gainMode];
+    const SMMRfRxGainInfoV7 *gains = known ? &*known : nullptr;
     if (place.isType2)
-        return m_responseBuilder.GetType2PathLossDataModelV7(
-            object,
-            *m_pathLoss->GetPathLossCalibrationData<SMMType2PathlossByRouteV7>(place.route));
-    return m_responseBuilder.GetType1PathLossDataModelV7(
-        object, *m_pathLoss->GetPathLossCalibrationData<SMMType1PathlossByRouteV7>(place.route));
+        return m_responseBuilder.ShowType2PathLoss(
+            object, *m_pathLoss->GetPathLossCalibrationData<SMMType2PathlossByRouteV7>(place.route),
+            gains);
+    return m_responseBuilder.ShowType1PathLoss(
+        object, *m_pathLoss->GetPathLossCalibrationData<SMMType1PathlossByRouteV7>(place.route),
+        gains);
 }
 
 void CNrCore::SetPathLossCalibrationData(const std::string &document)
 {
-    const CLockSentry lock(m_targetLock);
-    RenewCalItems();
     const QJsonObject object = ModelFromText(document);
-    if (m_target.GetNrGeneration() != 1)
+    if (CalView(ECalItem::PathLoss).generation != 1)
         return;
+    const CLockSentry lock(RecordLock(ECalItem::PathLoss));
     const SRxPlace place = ReadRxPlace(object);
     const auto store = [&](auto build, const auto *record) {
         m_pathLoss->SetPathLossCalibrationData(place.route, (m_cmdBuilder.*build)(object, *record));

@@ -1,13 +1,12 @@
 // Calibration flows of the core.
 #include <exception>
 
-#include <QtConcurrent>
-
 #include "Controller/CalItemTable.h"
 #include "Controller/NrCore.h"
 #include "Model/StatusTable.h"
 #include "Support/CalIniFile.h"
 #include "Support/Log.h"
+#include "Support/Threads.h"
 
 namespace {
 
@@ -111,7 +110,7 @@ void CNrCore::StartFlow(const SCalFlow &flow, const QStringList &items,
 {
     if (flow.startLog)
         qCDebug(lcCore) << flow.startLog << items.size();
-    QtConcurrent::run([this, &flow, items, file = std::move(file)]() mutable {
+    StartOnPool([this, &flow, items, file = std::move(file)]() mutable {
         RunFlow(flow, items, std::move(file));
     });
     if (flow.startLog)
@@ -152,6 +151,8 @@ void CNrCore::RenewCalItems()
 {
     if (!m_areItemsStale.exchange(false))
         return;
+    const CLockSentry pathLoss(RecordLock(ECalItem::PathLoss));
+    const CLockSentry apt(RecordLock(ECalItem::Apt));
     m_aptProfile = std::make_unique<CMultiRatAptProfileV7>(ERadioKind::Nr);
     m_pathLoss = std::make_unique<CMultiRatPathLossV7>(ERadioKind::Nr);
     const QStringList names = m_calItemMap.keys();
@@ -174,6 +175,7 @@ ICalItemByL1Operation *CNrCore::FindCalItem(const QString &name)
 
 int CNrCore::RunCalItem(const SCalFlow &flow, const QString &name, CCalIniFile *file)
 {
+    const CLockSentry lock(RecordLock(static_cast<ECalItem>(m_calItemMap.value(name))));
     ICalItemByL1Operation &item = *FindCalItem(name);
     try {
         const uint32_t status = flow.move(item, file);

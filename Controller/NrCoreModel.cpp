@@ -51,7 +51,11 @@ std::string CNrCore::GetDataModelV7(const QString &pageName)
         qCDebug(lcCore) << "[CNrCore] GetDataModelV7()Done --" << QJsonObject();
         return ModelToText({});
     }
-    return LoadDataModel(pageName, page, QString::fromLatin1(page.resource));
+    std::string document = LoadDataModel(pageName, page, QString::fromLatin1(page.resource));
+    const auto item = m_calItemMap.constFind(pageName);  // a calibration page bears its item's name
+    if (item != m_calItemMap.constEnd())
+        LookForCalItem(static_cast<ECalItem>(*item));
+    return document;
 }
 
 std::string CNrCore::LoadDataModel(const QString &pageName, const SPageRow &page,

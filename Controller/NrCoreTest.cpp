@@ -1,11 +1,10 @@
 // Tests and stops of the core.
-#include <QtConcurrent>
-
 #include "Controller/NrCore.h"
 #include "Controller/PageTable.h"
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
+#include "Support/Threads.h"
 
 namespace {
 
@@ -15,7 +14,7 @@ constexpr uint32_t kStopNr = 1;  // radio kind of a multi-RAT stop
 
 void CNrCore::Test(QString pageName, std::string document)
 {
-    QtConcurrent::run(
+    StartOnPool(
         [this, pageName, document = std::move(document)] { TestInternal(pageName, document); });
 }
 
@@ -98,7 +97,7 @@ void CNrCore::Stop()
 
 void CNrCore::TestStopStart(bool isNr)
 {
-    QtConcurrent::run([this, isNr] { TestStopInternal(isNr); });
+    StartOnPool([this, isNr] { TestStopInternal(isNr); });
 }
 
 void CNrCore::TestStopInternal(bool isNr)

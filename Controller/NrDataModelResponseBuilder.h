@@ -7,8 +7,8 @@
 // the document's integrity record and a critical log line. What went wrong at the target is not
 // told in the document beyond the words in the cells; the caller reports it. Powers, gains and
 // losses are texts in dBm and dB. A number that a target answers outside its table's room is held
-// to that room. No state; any thread that owns the document. Path loss asks the cached capability
-// for the supported gains, so it runs under the core's lock.
+// to that room. No state; any thread that owns the document. Without gains given, path loss asks
+// the cached capability for the supported ones, so it runs under the core's lock then.
 //
 //   builder.UpdateMixRxResultV7(document, report, status == 0);
 #pragma once
@@ -48,7 +48,14 @@ public:
                                             SMMType1PathlossByRouteV7 record) const;
     std::string GetType2PathLossDataModelV7(QJsonObject document,
                                             SMMType2PathlossByRouteV7 record) const;
+    // gains: the supported ones of the power mode that the document shows; null: unknown.
+    std::string ShowType1PathLoss(QJsonObject document, SMMType1PathlossByRouteV7 record,
+                                  const SMMRfRxGainInfoV7 *gains) const;
+    std::string ShowType2PathLoss(QJsonObject document, SMMType2PathlossByRouteV7 record,
+                                  const SMMRfRxGainInfoV7 *gains) const;
 
 private:
+    const SMMRfRxGainInfoV7 *GainsFor(const QJsonObject &document) const;
+
     CTargetCapability m_target;
 };

@@ -66,10 +66,11 @@ std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
     }
     if (!parser.positionalArguments().isEmpty())
         return Refuse(
-            QString("Unexpected argument '%1'.").arg(parser.positionalArguments().first()));
+            QString("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
     for (const QCommandLineOption &option : {kPlugin, kProfile, kScreenshot}) {
         if (parser.isSet(option) && parser.value(option).isEmpty())
-            return Refuse(QString("Option '%1' has an empty value.").arg(option.names().first()));
+            return Refuse(
+                QString("Option '%1' has an empty value.").arg(option.names().constFirst()));
     }
     const std::optional<uint32_t> handle = ReadHandle(parser.value(kHandle));
     if (!handle)

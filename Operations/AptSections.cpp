@@ -7,11 +7,7 @@ namespace {
 
 using Record = SAptRouteBwRecord;
 
-constexpr int kLevels = VOND_APT_LEVELS;
 constexpr int kPaModes = VOND_APT_PA_MODES;
-constexpr int kTemperatures = VOND_CAL_TEMPERATURES;
-constexpr int kSubbands = VOND_CAL_MAX_SUBBANDS;
-constexpr int kLone = 1;
 constexpr int kOnce = 1;
 
 constexpr char kZeros[] = "0";  // a list of zeros, however long
@@ -19,38 +15,37 @@ constexpr char kLowestVolts[] = "0.1V,0.1V,0.1V,0.1V,0.1V,0.1V,0.1V,0.1V,0.1V,0.
 
 // In the order of writing, behind the chip's name. A "%d" is the PA mode.
 constexpr SCalKey<Record> kKeys[] = {
-    {"Route", ECalValue::Number, kLone, kOnce, kZeros,
-     [](Record &r, int, int) { return CCalCell(r.route); }},
-    {"Temperature Index", ECalValue::Number, kLone, kOnce, "3",
-     [](Record &r, int, int) { return CCalCell(r.normalTempIndex); }},
-    {"Pa section number", ECalValue::Number, kLone, kOnce, "8",
-     [](Record &r, int, int) { return CCalCell(r.paControlLevel); }},
-    {"Pa mode number", ECalValue::Number, kLone, kOnce, "3",
-     [](Record &r, int, int) { return CCalCell(r.paModeCount); }},
-    {"Pa mode prf_idx", ECalValue::Number, kPaModes, kOnce, kZeros,
-     [](Record &r, int, int i) { return CCalCell(r.prfIndex[i]); }},
-    {"Tx compensation pa gain frequency(1KHz)", ECalValue::Number, kSubbands, kOnce, kZeros,
-     [](Record &r, int, int i) { return CCalCell(r.freq[i]); }},
-    {"Pa mode map", ECalValue::Number, kLevels, kOnce, kZeros,
-     [](Record &r, int, int i) { return CCalCell(r.level[i].paMode); }},
-    {"Pa control dc2dc level", ECalValue::Volt, kLevels, kOnce, kLowestVolts,
-     [](Record &r, int, int i) { return CCalCell(r.level[i].dc2dcLevel); }},
-    {"Pa control prf", ECalValue::Db, kLevels, kOnce, kZeros,
-     [](Record &r, int, int i) { return CCalCell(r.level[i].prf); }},
-    {"Pa control pa gain", ECalValue::Db, kLevels, kOnce, kZeros,
-     [](Record &r, int, int i) { return CCalCell(r.level[i].paGain); }},
-    {"256QAM usage", ECalValue::Number, kLevels, kOnce, kZeros,
-     [](Record &r, int, int i) { return CCalCell(r.level[i].usage256Qam); }},
-    {"Tx compensation power detector coupler loss %d", ECalValue::Db, kLone, kPaModes, kZeros,
-     [](Record &r, int pa, int) { return CCalCell(r.couplerLoss[pa]); }},
-    {"Temperature Offset pa gain pa %d", ECalValue::Db, kTemperatures, kPaModes, kZeros,
-     [](Record &r, int pa, int i) { return CCalCell(r.paGainTempOffset[pa][i]); }},
-    {"Temperature Offset Power detector pa %d", ECalValue::Db, kTemperatures, kPaModes, kZeros,
-     [](Record &r, int pa, int i) { return CCalCell(r.powerDetectorTempOffset[pa][i]); }},
-    {"Tx compensation pa gain pa %d", ECalValue::Db, kSubbands, kPaModes, kZeros,
-     [](Record &r, int pa, int i) { return CCalCell(r.paGain[pa][i]); }},
-    {"Tx compensation power detector pa %d", ECalValue::Db, kSubbands, kPaModes, kZeros,
-     [](Record &r, int pa, int i) { return CCalCell(r.powerDetector[pa][i]); }},
+    {"Route", ECalValue::Number, kOnce, kZeros, [](Record &r, int) { return CCalCells(r.route); }},
+    {"Temperature Index", ECalValue::Number, kOnce, "3",
+     [](Record &r, int) { return CCalCells(r.normalTempIndex); }},
+    {"Pa section number", ECalValue::Number, kOnce, "8",
+     [](Record &r, int) { return CCalCells(r.paControlLevel); }},
+    {"Pa mode number", ECalValue::Number, kOnce, "3",
+     [](Record &r, int) { return CCalCells(r.paModeCount); }},
+    {"Pa mode prf_idx", ECalValue::Number, kOnce, kZeros,
+     [](Record &r, int) { return CCalCells(r.prfIndex); }},
+    {"Tx compensation pa gain frequency(1KHz)", ECalValue::Number, kOnce, kZeros,
+     [](Record &r, int) { return CCalCells(r.freq); }},
+    {"Pa mode map", ECalValue::Number, kOnce, kZeros,
+     [](Record &r, int) { return CCalCells(r.level, &SAptLevel::paMode); }},
+    {"Pa control dc2dc level", ECalValue::Volt, kOnce, kLowestVolts,
+     [](Record &r, int) { return CCalCells(r.level, &SAptLevel::dc2dcLevel); }},
+    {"Pa control prf", ECalValue::Db, kOnce, kZeros,
+     [](Record &r, int) { return CCalCells(r.level, &SAptLevel::prf); }},
+    {"Pa control pa gain", ECalValue::Db, kOnce, kZeros,
+     [](Record &r, int) { return CCalCells(r.level, &SAptLevel::paGain); }},
+    {"256QAM usage", ECalValue::Number, kOnce, kZeros,
+     [](Record &r, int) { return CCalCells(r.level, &SAptLevel::usage256Qam); }},
+    {"Tx compensation power detector coupler loss %d", ECalValue::Db, kPaModes, kZeros,
+     [](Record &r, int pa) { return CCalCells(r.couplerLoss[pa]); }},
+    {"Temperature Offset pa gain pa %d", ECalValue::Db, kPaModes, kZeros,
+     [](Record &r, int pa) { return CCalCells(r.paGainTempOffset[pa]); }},
+    {"Temperature Offset Power detector pa %d", ECalValue::Db, kPaModes, kZeros,
+     [](Record &r, int pa) { return CCalCells(r.powerDetectorTempOffset[pa]); }},
+    {"Tx compensation pa gain pa %d", ECalValue::Db, kPaModes, kZeros,
+     [](Record &r, int pa) { return CCalCells(r.paGain[pa]); }},
+    {"Tx compensation power detector pa %d", ECalValue::Db, kPaModes, kZeros,
+     [](Record &r, int pa) { return CCalCells(r.powerDetector[pa]); }},
 };
 
 // By radio kind: 0 LTE side, 1 NR.
@@ -69,11 +64,10 @@ std::vector<std::string> CAptSections::SectionsOf(ERadioKind kind, const SCalPla
     return {FormText(kFurther[form], {band, std::to_string(place.ordinal), region})};
 }
 
-SCalFault CAptSections::Read(CCalIniFile &file, const SCalPlace &place,
-                             const std::vector<std::string> &sections, const std::vector<bool> &)
+SCalFault CAptSections::Read(const SCalPlace &place, const CalFileSections &sections)
 {
     Record record = m_store.At(place);
-    if (const char *failure = ReadKeys(file, sections[0], kKeys, EAbsentKey::Default, record))
+    if (const char *failure = ReadKeys(*sections[0], kKeys, EAbsentKey::Default, record))
         return {kCalFileProblem, QString::fromLatin1(failure)};
     // The section belongs to its route by its name; a number in it can't send it elsewhere.
     record.band = place.band;
@@ -84,8 +78,7 @@ SCalFault CAptSections::Read(CCalIniFile &file, const SCalPlace &place,
     return {};
 }
 
-void CAptSections::Write(CCalIniFile &file, const SCalPlace &place,
-                         const std::vector<std::string> &sections)
+void CAptSections::Write(CIniSection &section, const SCalPlace &place, int)
 {
-    WriteKeys(file, sections[0], kKeys, m_store.At(place));
+    WriteKeys(section, kKeys, m_store.At(place));
 }

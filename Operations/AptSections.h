@@ -20,11 +20,8 @@ public:
     std::vector<std::string> SectionsOf(ERadioKind kind, const SCalPlace &place) const override;
     bool IsValid(const SCalPlace &place) const override { return m_store.IsValid(place); }
     SCalFault Begin(const CTargetCapability &, ERadioKind, ECalAccess) override { return {}; }
-    SCalFault Read(CCalIniFile &file, const SCalPlace &place,
-                   const std::vector<std::string> &sections,
-                   const std::vector<bool> &present) override;
-    void Write(CCalIniFile &file, const SCalPlace &place,
-               const std::vector<std::string> &sections) override;
+    SCalFault Read(const SCalPlace &place, const CalFileSections &sections) override;
+    void Write(CIniSection &section, const SCalPlace &place, int index) override;
 
 private:
     CCalStore<SAptRouteBwRecord> &m_store;

@@ -11,12 +11,14 @@
 // voltage that is no number is a failure. The decimal point is '.' in every locale. Pure functions,
 // any thread.
 //
-//   ReadCells(ECalValue::Db, "-30.5,1", 8, [&](int i) { return CCalCell(record.plOffset[i]); });
+//   CCalCells(record.plOffset).Read("-30.5,1", ECalValue::Db);
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <variant>
 
 enum class ECalValue
@@ -42,37 +44,53 @@ private:
     std::variant<uint8_t *, uint16_t *, int16_t *, uint32_t *> m_field;
 };
 
+// The fields of a record that one value of a file holds: a lone one, or a list of fields that lie
+// at equal distances.
+class CCalCells
+{
+public:
+    // A lone field, or an array.
+    template <typename T>
+    explicit CCalCells(T &fields)
+        : CCalCells(First(fields), std::is_array_v<T> ? std::extent_v<T> : 1,
+                    sizeof(std::remove_extent_t<T>))
+    {
+    }
+    // A field of each element of an array.
+    template <typename Row, size_t count, typename T>
+    CCalCells(Row (&rows)[count], T Row::*field) : CCalCells(rows[0].*field, count, sizeof(Row))
+    {
+    }
+    // count fields from the first one on, each so many bytes behind the one before.
+    template <typename T>
+    CCalCells(T &first, size_t count, size_t distance)
+        : m_first(&first), m_count(count), m_distance(distance)
+    {
+    }
+
+    // Appends the values of the fields as one value of a file.
+    void AppendTo(std::string &text, ECalValue kind) const;
+    // Null, or the words of the failure; the fields before the failed one are set then.
+    const char *Read(std::string_view text, ECalValue kind) const;
+
+private:
+    template <typename T>
+    static T &First(T &field)
+    {
+        return field;
+    }
+    template <typename T, size_t count>
+    static T &First(T (&fields)[count])
+    {
+        return fields[0];
+    }
+
+    std::variant<uint8_t *, uint16_t *, int16_t *, uint32_t *> m_first;
+    size_t m_count;
+    size_t m_distance;
+};
+
 // Appends a value as text; lone: it is no part of a list.
 void AppendCalValue(std::string &text, ECalValue kind, int64_t value, bool lone);
 // Null, or the words of the failure.
 const char *ParseCalValue(ECalValue kind, std::string_view text, int64_t &value);
-// Takes the first value off a list; false when none is left.
-bool TakeListItem(std::string_view &list, std::string_view &item);
-
-template <typename CellAt>
-std::string CellsText(ECalValue kind, int count, CellAt cellAt)
-{
-    std::string text;
-    for (int i = 0; i < count; ++i) {
-        if (i > 0)
-            text += ',';
-        AppendCalValue(text, kind, cellAt(i).Get(), count == 1);
-    }
-    return text;
-}
-
-// Null, or the words of the failure; the cells before the failed one are set then.
-template <typename CellAt>
-const char *ReadCells(ECalValue kind, std::string_view text, int count, CellAt cellAt)
-{
-    std::string_view item;
-    for (int i = 0; i < count; ++i) {
-        int64_t value = 0;
-        if (TakeListItem(text, item)) {
-            if (const char *failure = ParseCalValue(kind, item, value))
-                return failure;
-        }
-        cellAt(i).Set(value);
-    }
-    return nullptr;
-}

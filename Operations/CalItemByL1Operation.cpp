@@ -19,6 +19,15 @@ bool ICalItemByL1Operation::HasData() const
                        [](const SPart &part) { return part.region->HasValid(); });
 }
 
+bool ICalItemByL1Operation::IsInFile(CCalIniFile &file) const
+{
+    const SMMRfRouteTableV7 *table = FindRouteTable();
+    std::vector<SCalFilePart> parts;
+    for (const SPart &part : m_parts)
+        parts.push_back({part.sections, &file});
+    return table && HasCalSections(parts, *table, m_kind);
+}
+
 uint32_t ICalItemByL1Operation::Load(const std::vector<CCalIniFile *> &files)
 {
     return MoveFile(LoadCalSections, files);
@@ -56,10 +65,14 @@ uint32_t ICalItemByL1Operation::MoveFile(FileMove move, const std::vector<CCalIn
     return kCalSuccess;
 }
 
+const SMMRfRouteTableV7 *ICalItemByL1Operation::FindRouteTable() const
+{
+    return m_kind == ERadioKind::Lte ? m_target.GetRouteTableLte() : m_target.GetRouteTableNr();
+}
+
 const SMMRfRouteTableV7 *ICalItemByL1Operation::RouteTable()
 {
-    const SMMRfRouteTableV7 *table =
-        m_kind == ERadioKind::Lte ? m_target.GetRouteTableLte() : m_target.GetRouteTableNr();
+    const SMMRfRouteTableV7 *table = FindRouteTable();
     if (!table)
         m_errorMessage = QString::fromLatin1(kNoRouteInfo);
     return table;

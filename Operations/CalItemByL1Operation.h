@@ -48,6 +48,9 @@ public:
 
     void SetProgress(Progress progress) { m_progress = std::move(progress); }
     bool HasData() const;  // some record is valid
+    // Does a file hold a section of this item, of whatever RF chip? No text is left. Throws as load
+    // does; false without a route table.
+    bool IsInFile(CCalIniFile &file) const;
 
 protected:
     // One kind of route of the item; both are the item's own and outlive it.
@@ -78,7 +81,8 @@ private:
     using SendRound = std::function<uint32_t()>;
     using MoveRecord = std::function<uint32_t(CCalRounds &, int part, const SCalPlace &)>;
 
-    const SMMRfRouteTableV7 *RouteTable();
+    const SMMRfRouteTableV7 *FindRouteTable() const;
+    const SMMRfRouteTableV7 *RouteTable();  // a missing one is told in the text
     std::string ChipName() const;
     uint32_t Fail(const SCalFault &fault);
     uint32_t MoveFile(FileMove move, const std::vector<CCalIniFile *> &files);

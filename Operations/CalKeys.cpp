@@ -3,22 +3,14 @@
 std::string FormText(std::string_view form, std::initializer_list<std::string> texts)
 {
     std::string result;
-    const std::string *next = texts.begin();
-    for (size_t i = 0; i < form.size(); ++i) {
-        if (form[i] == '%' && i + 1 < form.size() && next != texts.end()) {
-            result += *next++;
-            ++i;
-        } else {
-            result += form[i];
-        }
+    for (const std::string &text : texts) {
+        const size_t mark = form.find('%');
+        if (mark == std::string_view::npos || mark + 1 == form.size())
+            break;
+        result += form.substr(0, mark);
+        result += text;
+        form.remove_prefix(mark + 2);
     }
+    result += form;
     return result;
-}
-
-bool ReadKey(CCalIniFile &file, const std::string &section, const std::string &key,
-             std::string &value)
-{
-    static const std::string kAbsent = "\n";  // no value of a file holds a line break
-    value = file.ReadString(section, key, kAbsent);
-    return value != kAbsent;
 }

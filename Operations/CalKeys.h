@@ -2,26 +2,25 @@
 // when it is absent. The same table writes and reads.
 //
 //   constexpr SCalKey<SAptRouteBwRecord> kKeys[] = {
-//       {"Temperature Index", ECalValue::Number, 1, 1, "3",
-//        [](SAptRouteBwRecord &r, int, int) { return CCalCell(r.normalTempIndex); }}};
-//   WriteKeys(file, section, kKeys, record);
+//       {"Temperature Index", ECalValue::Number, 1, "3",
+//        [](SAptRouteBwRecord &r, int) { return CCalCells(r.normalTempIndex); }}};
+//   WriteKeys(section, kKeys, record);
 #pragma once
 
 #include <initializer_list>
 #include <string>
 
 #include "Operations/CalCells.h"
-#include "Support/CalIniFile.h"
+#include "Support/IniSection.h"
 
 template <typename Record>
 struct SCalKey
 {
     const char *key;  // with rows > 1, "%d" in it is the row
     ECalValue kind;
-    int values;  // 1: a lone value; more: a list
-    int rows;    // 1, or the number of keys of this form, which follow each other in the file
+    int rows;  // 1, or the number of keys of this form, which follow each other in the file
     const char *absent;
-    CCalCell (*cell)(Record &record, int row, int value);
+    CCalCells (*cells)(Record &record, int row);
 };
 
 // The "%d" and "%s" of a form replaced by the texts, in their order.
@@ -34,45 +33,40 @@ enum class EAbsentKey
     Keep,     // what the record held before
 };
 
-// The value of a key; false when the section lacks it.
-bool ReadKey(CCalIniFile &file, const std::string &section, const std::string &key,
-             std::string &value);
-
+// The key of a row; buffer holds the text of a form.
 template <typename Record>
-std::string KeyText(const SCalKey<Record> &key, int row)
+std::string_view KeyText(const SCalKey<Record> &key, int row, std::string &buffer)
 {
-    return key.rows > 1 ? FormText(key.key, {std::to_string(row)}) : std::string(key.key);
+    if (key.rows == 1)
+        return key.key;
+    return buffer = FormText(key.key, {std::to_string(row)});
 }
 
 template <typename Record, size_t keyCount>
-void WriteKeys(CCalIniFile &file, const std::string &section,
-               const SCalKey<Record> (&keys)[keyCount], Record &record)
+void WriteKeys(CIniSection &section, const SCalKey<Record> (&keys)[keyCount], Record &record)
 {
+    std::string buffer;
     for (const SCalKey<Record> &key : keys) {
-        for (int row = 0; row < key.rows; ++row) {
-            file.WriteString(
-                section, KeyText(key, row),
-                CellsText(key.kind, key.values, [&](int i) { return key.cell(record, row, i); }));
-        }
+        for (int row = 0; row < key.rows; ++row)
+            key.cells(record, row).AppendTo(section.Key(KeyText(key, row, buffer)), key.kind);
     }
 }
 
 // Null, or the words of the failure; the record is half read then.
 template <typename Record, size_t keyCount>
-const char *ReadKeys(CCalIniFile &file, const std::string &section,
-                     const SCalKey<Record> (&keys)[keyCount], EAbsentKey absent, Record &record)
+const char *ReadKeys(const CIniSection &section, const SCalKey<Record> (&keys)[keyCount],
+                     EAbsentKey absent, Record &record)
 {
-    std::string text;
+    std::string buffer;
     for (const SCalKey<Record> &key : keys) {
         for (int row = 0; row < key.rows; ++row) {
-            if (!ReadKey(file, section, KeyText(key, row), text)) {
+            std::string_view text;
+            if (!section.Find(KeyText(key, row, buffer), text)) {
                 if (absent == EAbsentKey::Keep)
                     continue;
                 text = key.absent;
             }
-            const char *failure = ReadCells(key.kind, text, key.values,
-                                            [&](int i) { return key.cell(record, row, i); });
-            if (failure)
+            if (const char *failure = key.cells(record, row).Read(text, key.kind))
                 return failure;
         }
     }

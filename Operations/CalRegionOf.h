@@ -171,6 +171,8 @@ void CCalRegionOf<TKind>::TakeBlock(SAsked &asked, const typename TKind::Block &
                                   << asked.place.route;
         return;
     }
+    qCDebug(lcCalibration).noquote().nospace()
+        << "         [request] current blk data idx = " << asked.read;
     qCDebug(lcCalibration).noquote().nospace() << "         [confirm]blk_data_idx = " << asked.read;
     Record &record = m_store.At(asked.place);
     if (asked.read == 0) {

@@ -23,20 +23,21 @@ struct SStop
     int routesDone = 0;         // behind this record
 };
 
-std::vector<SStop> Walk(const std::vector<SCalFilePart> &parts, const SCalFileContext &context)
+std::vector<SStop> Walk(const std::vector<SCalFilePart> &parts, const SMMRfRouteTableV7 &table,
+                        ERadioKind kind)
 {
     std::vector<SStop> stops;
     int rowsBefore = 0;
     for (const SCalFilePart &part : parts) {
         const ECalRoute route = part.sections->Kind();
-        for (const SCalPlace &place : WalkRoutes(context.table, route)) {
+        for (const SCalPlace &place : WalkRoutes(table, route)) {
             stops.push_back({&part,
                              place,
-                             part.sections->SectionsOf(context.kind, place),
+                             part.sections->SectionsOf(kind, place),
                              {},
                              rowsBefore + place.row + 1});
         }
-        rowsBefore += RouteRows(context.table, route);
+        rowsBefore += RouteRows(table, route);
     }
     return stops;
 }
@@ -75,6 +76,16 @@ bool IsOfChip(const SStop &stop, const std::string &chip)
     return true;
 }
 
+CalFileSections SectionsInFile(const SStop &stop)
+{
+    CalFileSections sections(stop.sections.size());
+    for (size_t i = 0; i < sections.size(); ++i) {
+        if (stop.present[i])
+            sections[i] = stop.part->file->ReadSection(stop.sections[i]);
+    }
+    return sections;
+}
+
 // Readies each kind of route that the walk still holds.
 SCalFault Begin(const std::vector<SCalFilePart> &parts, const std::vector<SStop> &stops,
                 const SCalFileContext &context, ECalAccess access)
@@ -100,9 +111,17 @@ void LogStop(const char *verb, const SStop &stop)
 
 }  // namespace
 
+bool HasCalSections(const std::vector<SCalFilePart> &parts, const SMMRfRouteTableV7 &table,
+                    ERadioKind kind)
+{
+    std::vector<SStop> stops = Walk(parts, table, kind);
+    KeepPresent(stops);
+    return !stops.empty();
+}
+
 SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFileContext &context)
 {
-    std::vector<SStop> stops = Walk(parts, context);
+    std::vector<SStop> stops = Walk(parts, context.table, context.kind);
     KeepPresent(stops);
     GiveSharedRecordsOneBand(stops);
     if (stops.empty())
@@ -115,9 +134,7 @@ SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
         return fault;
     for (const SStop &stop : stops) {
         LogStop("Read ", stop);
-        SCalFault fault =
-            stop.part->sections->Read(*stop.part->file, stop.place, stop.sections, stop.present);
-        if (fault)
+        if (SCalFault fault = stop.part->sections->Read(stop.place, SectionsInFile(stop)))
             return fault;
         context.onDone(stop.routesDone);
     }
@@ -126,7 +143,7 @@ SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
 
 SCalFault SaveCalSections(const std::vector<SCalFilePart> &parts, const SCalFileContext &context)
 {
-    std::vector<SStop> stops = Walk(parts, context);
+    std::vector<SStop> stops = Walk(parts, context.table, context.kind);
     const auto isInvalid = [](const SStop &stop) {
         return !stop.part->sections->IsValid(stop.place);
     };
@@ -141,9 +158,12 @@ SCalFault SaveCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
         batches.push_back(std::make_unique<CCalIniFile::CBatch>(*part.file));
     for (const SStop &stop : stops) {
         LogStop("Write ", stop);
-        for (const std::string &section : stop.sections)
-            stop.part->file->WriteString(section, kChipKey, context.chip);
-        stop.part->sections->Write(*stop.part->file, stop.place, stop.sections);
+        for (size_t i = 0; i < stop.sections.size(); ++i) {
+            CIniSection section(stop.sections[i]);
+            section.Key(kChipKey) += context.chip;
+            stop.part->sections->Write(section, stop.place, static_cast<int>(i));
+            stop.part->file->WriteSection(std::move(section));
+        }
         context.onDone(stop.routesDone);
     }
     for (const auto &batch : batches)

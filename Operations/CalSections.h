@@ -19,14 +19,20 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "Operations/CalResult.h"
 #include "Operations/CalRoutes.h"
 #include "Operations/TargetCapability.h"
+#include "Support/IniSection.h"
 
 class CCalIniFile;
+
+// The sections of a record as a file has them, in the order of their names; empty where it has
+// none.
+using CalFileSections = std::vector<std::optional<CIniSection>>;
 
 enum class ECalAccess
 {
@@ -50,13 +56,10 @@ public:
     virtual SCalFault Begin(const CTargetCapability &target, ERadioKind kind,
                             ECalAccess access) = 0;
     // Takes a record over from those of its sections that the file has, and makes it valid. On a
-    // failure the record stays as it was. present: one flag for each of the sections.
-    virtual SCalFault Read(CCalIniFile &file, const SCalPlace &place,
-                           const std::vector<std::string> &sections,
-                           const std::vector<bool> &present) = 0;
-    // Writes the keys behind the chip's name.
-    virtual void Write(CCalIniFile &file, const SCalPlace &place,
-                       const std::vector<std::string> &sections) = 0;
+    // failure the record stays as it was.
+    virtual SCalFault Read(const SCalPlace &place, const CalFileSections &sections) = 0;
+    // Writes the keys behind the chip's name. index: of the section among those of the record.
+    virtual void Write(CIniSection &section, const SCalPlace &place, int index) = 0;
 };
 
 // A kind of route and its file; kinds may share a file.
@@ -75,5 +78,8 @@ struct SCalFileContext
     std::function<void(int routesDone)> onDone;  // told behind each record; never empty
 };
 
+// Does a file hold a section of a record, of whatever RF chip?
+bool HasCalSections(const std::vector<SCalFilePart> &parts, const SMMRfRouteTableV7 &table,
+                    ERadioKind kind);
 SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFileContext &context);
 SCalFault SaveCalSections(const std::vector<SCalFilePart> &parts, const SCalFileContext &context);

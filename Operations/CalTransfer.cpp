@@ -142,11 +142,11 @@ uint32_t ICalItemByL1Operation::ReceiveRound(SMMGetCalDataReqV7 &request)
     const VOND_RESULT result =
         VOND_MMRf_GetCalDataV7_r(TargetHandle(), kTargetTimeoutMs, &request, &answer);
     Clear(request);
-    if (uint32_t code = FinishRound(answer.verdict, result)) {
-        qCDebug(lcCalibration) << "-----> receive from target failed";
+    const uint32_t code = FinishRound(answer.verdict, result);
+    qCDebug(lcCalibration) << (code == kCalTargetFailed ? "-----> receive from target failed"
+                                                        : "-----> receive from target...");
+    if (code != kCalSuccess)
         return code;
-    }
-    qCDebug(lcCalibration) << "-----> receive from target...";
     for (const SPart &part : m_parts)
         part.region->Take(answer);
     return kCalSuccess;

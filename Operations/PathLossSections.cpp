@@ -52,32 +52,30 @@ constexpr const STypeForm &kForm<SMMType2PathlossByRouteV7> = kType2;
 // What both sections of a route hold, in the order of writing, behind the chip's name.
 template <typename Record>
 constexpr SCalKey<Record> kKeys[] = {
-    {"Comp Route", ECalValue::Number, 1, 1, "0",
-     [](Record &r, int, int) { return CCalCell(r.route); }},
-    {"DL Frequency(1KHz)", ECalValue::Number, VOND_CAL_MAX_SUBBANDS, 1, "0",
-     [](Record &r, int, int i) { return CCalCell(r.freq[i]); }},
-    {"Temperature Offset", ECalValue::Db, VOND_CAL_TEMPERATURES, 1, "0",
-     [](Record &r, int, int i) { return CCalCell(r.plOffset[i]); }},
+    {"Comp Route", ECalValue::Number, 1, "0", [](Record &r, int) { return CCalCells(r.route); }},
+    {"DL Frequency(1KHz)", ECalValue::Number, 1, "0",
+     [](Record &r, int) { return CCalCells(r.freq); }},
+    {"Temperature Offset", ECalValue::Db, 1, "0",
+     [](Record &r, int) { return CCalCells(r.plOffset); }},
 };
 
-// The loss of a key's gain on a path, by subband.
+// The losses of a key's gain on a path, by subband.
 template <typename Record>
-auto LossCells(Record &record, const SGainKey &key, int path)
+CCalCells LossCells(Record &record, const SGainKey &key, int path)
 {
-    return [&record, &key, path](int subband) {
-        SMMLossPair &loss = record.loss[subband][key.pair[path]];
-        return CCalCell(key.mode == EPowerMode::Hpm ? loss.hpm : loss.lpm);
-    };
+    SMMLossPair &first = record.loss[0][key.pair[path]];
+    return {key.mode == EPowerMode::Hpm ? first.hpm : first.lpm, VOND_CAL_MAX_SUBBANDS,
+            sizeof record.loss[0]};
 }
 
 template <typename Record>
-SCalFault ReadGains(CCalIniFile &file, const std::string &section,
-                    const std::vector<SGainKey> &keys, int path, Record &record)
+SCalFault ReadGains(const CIniSection &section, const std::vector<SGainKey> &keys, int path,
+                    Record &record)
 {
-    std::string text;
     for (const SGainKey &key : keys) {
-        if (ReadKey(file, section, key.key, text)) {
-            ReadCells(ECalValue::Db, text, VOND_CAL_MAX_SUBBANDS, LossCells(record, key, path));
+        std::string_view text;
+        if (section.Find(key.key, text)) {
+            LossCells(record, key, path).Read(text, ECalValue::Db);
         } else if (key.required) {
             return {
                 kCalIncomplete,
@@ -136,18 +134,16 @@ SCalFault CPathLossSections<Record>::Begin(const CTargetCapability &target, ERad
 }
 
 template <typename Record>
-SCalFault CPathLossSections<Record>::Read(CCalIniFile &file, const SCalPlace &place,
-                                          const std::vector<std::string> &sections,
-                                          const std::vector<bool> &present)
+SCalFault CPathLossSections<Record>::Read(const SCalPlace &place, const CalFileSections &sections)
 {
     const auto record = std::make_unique<Record>(m_store.At(place));
     EAbsentKey absent = EAbsentKey::Default;
     for (int path = 0; path < kPaths; ++path) {
-        if (!present[path])
+        if (!sections[path])
             continue;
-        ReadKeys(file, sections[path], kKeys<Record>, absent, *record);
+        ReadKeys(*sections[path], kKeys<Record>, absent, *record);
         absent = EAbsentKey::Keep;
-        if (SCalFault fault = ReadGains(file, sections[path], m_gainKeys, path, *record))
+        if (SCalFault fault = ReadGains(*sections[path], m_gainKeys, path, *record))
             return fault;
     }
     // The sections belong to their route by their name; a number in them can't send them elsewhere.
@@ -160,18 +156,12 @@ SCalFault CPathLossSections<Record>::Read(CCalIniFile &file, const SCalPlace &pl
 }
 
 template <typename Record>
-void CPathLossSections<Record>::Write(CCalIniFile &file, const SCalPlace &place,
-                                      const std::vector<std::string> &sections)
+void CPathLossSections<Record>::Write(CIniSection &section, const SCalPlace &place, int index)
 {
     Record &record = m_store.At(place);
-    for (int path = 0; path < kPaths; ++path) {
-        WriteKeys(file, sections[path], kKeys<Record>, record);
-        for (const SGainKey &key : m_gainKeys) {
-            file.WriteString(
-                sections[path], key.key,
-                CellsText(ECalValue::Db, VOND_CAL_MAX_SUBBANDS, LossCells(record, key, path)));
-        }
-    }
+    WriteKeys(section, kKeys<Record>, record);
+    for (const SGainKey &key : m_gainKeys)
+        LossCells(record, key, index).AppendTo(section.Key(key.key), ECalValue::Db);
 }
 
 template class CPathLossSections<SMMType1PathlossByRouteV7>;

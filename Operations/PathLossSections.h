@@ -25,11 +25,8 @@ public:
     std::vector<std::string> SectionsOf(ERadioKind kind, const SCalPlace &place) const override;
     bool IsValid(const SCalPlace &place) const override { return m_store.IsValid(place); }
     SCalFault Begin(const CTargetCapability &target, ERadioKind kind, ECalAccess access) override;
-    SCalFault Read(CCalIniFile &file, const SCalPlace &place,
-                   const std::vector<std::string> &sections,
-                   const std::vector<bool> &present) override;
-    void Write(CCalIniFile &file, const SCalPlace &place,
-               const std::vector<std::string> &sections) override;
+    SCalFault Read(const SCalPlace &place, const CalFileSections &sections) override;
+    void Write(CIniSection &section, const SCalPlace &place, int index) override;
 
 private:
     CCalStore<Record> &m_store;

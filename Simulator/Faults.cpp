@@ -190,7 +190,7 @@ bool CFaultSet::Fires(SState &state)
     if (state.fault.nth != 0)
         fires = state.calls == state.fault.nth;
     else if (state.fault.probability)
-        fires = state.draw() < *state.fault.probability * 4294967296.0;
+        fires = static_cast<double>(state.draw()) < *state.fault.probability * 4294967296.0;
     if (fires)
         ++state.fired;
     return fires;

@@ -13,6 +13,7 @@ namespace {
 constexpr std::size_t MOST_TYPE1_PAIRS = std::size(decltype(SRxRouteHw::type1){}.mimoPair);
 constexpr std::size_t MOST_TYPE2_PAIRS = std::size(decltype(SRxRouteHw::type2){}.mimoPair);
 constexpr std::size_t MOST_TX_PAIRS = std::size(decltype(STxBwRegionHw{}.mimoPair){});
+constexpr uint32_t EDGE_KHZ = 1000;
 
 std::vector<SProfileBand> BandsWith(const SProfile &profile, bool uplink)
 {
@@ -84,7 +85,8 @@ void AddRxRoutes(const SProfile &profile, const SRxRule &rule, std::vector<SProf
     }
 }
 
-// Each limit takes 1 MHz off both edges of the band, so that it differs from the band's own.
+// Each limit takes 1 MHz off both edges of the band, so that it differs from the band's own; less
+// of a band that is narrower than 4 MHz, so that something is left.
 template <class Route>
 void AddLimits(const SProfile &profile, const std::vector<Route> &routes,
                SFreqLimits SProfileBand::*direction, std::size_t count,
@@ -92,7 +94,8 @@ void AddLimits(const SProfile &profile, const std::vector<Route> &routes,
 {
     for (std::size_t i = 0; i < std::min(count, routes.size()); ++i) {
         const SFreqLimits whole = FindBand(profile, routes[i].band)->*direction;
-        limits.push_back({routes[i].band, routes[i].route, {whole.low + 1000, whole.high - 1000}});
+        const uint32_t edge = std::min(EDGE_KHZ, (whole.high - whole.low) / 4);
+        limits.push_back({routes[i].band, routes[i].route, {whole.low + edge, whole.high - edge}});
     }
 }
 

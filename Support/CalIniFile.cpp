@@ -1,16 +1,20 @@
 #include "Support/CalIniFile.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <climits>
 #include <cstdlib>
 #include <cwchar>
 #include <exception>
+#include <new>
+#include <numeric>
 #include <stdexcept>
 
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <unistd.h>
 
 // Wide text without the library's own converters, which the package lacks; ours takes their place.
 #define SI_NO_CONVERSION
@@ -18,6 +22,7 @@
 #define SI_IMPLEMENTATION
 #include <SimpleIni.h>
 
+#include "Support/IniSection.h"
 #include "Support/WideText.h"
 
 struct CCalIniFile::SIni : CSimpleIniTempl<wchar_t, SI_NoCase<wchar_t>, CWideTextConverter>
@@ -38,6 +43,8 @@ constexpr qint64 kMaxFileBytes = 256 * 1024 * 1024;
 // Sign, the 309 digits of the greatest double, point and six decimals.
 constexpr size_t kMaxDoubleText = 320;
 constexpr int kDecimals = 6;
+constexpr size_t kBlockBytes = 64 * 1024;  // of a write to the disk, at least
+constexpr char kBetweenSections[] = "\r\n\r\n";
 
 // A name or value as the single-line format can hold it.
 std::wstring ToLine(const std::string &text)
@@ -49,18 +56,41 @@ std::wstring ToLine(const std::string &text)
 }
 
 // The library ends lines with "\n" on this platform. A line end that is CRLF already stays.
-std::string WithCrLf(const std::string &text)
+void AppendWithCrLf(std::string &result, std::string_view text)
 {
-    std::string result;
-    result.reserve(text.size() + text.size() / 16);
-    char last = '\0';
-    for (char c : text) {
-        if (c == '\n' && last != '\r')
+    while (!text.empty()) {
+        const size_t length = text.find('\n');
+        result += text.substr(0, length);
+        if (length == std::string_view::npos)
+            return;
+        if (result.empty() || result.back() != '\r')
             result += '\r';
-        result += c;
-        last = c;
+        result += '\n';
+        text.remove_prefix(length + 1);
     }
-    return result;
+}
+
+bool Write(QSaveFile &file, const std::string &text)
+{
+    const qint64 size = static_cast<qint64>(text.size());
+    return file.write(text.data(), size) == size;
+}
+
+// Errors that show no sooner than the disk takes the bytes; commit would not tell of them.
+bool Sync(const QSaveFile &file)
+{
+    int result = 0;
+    do {
+        result = fdatasync(file.handle());
+    } while (result != 0 && errno == EINTR);
+    return result == 0 || errno == EINVAL;  // a place that knows no sync
+}
+
+std::string InLowerCase(std::string text)
+{
+    for (char &c : text)
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    return text;
 }
 
 }  // namespace
@@ -112,11 +142,12 @@ bool CCalIniFile::ParseFile()
     return true;
 }
 
-void CCalIniFile::RequireLoaded(const std::string &what)
+void CCalIniFile::RequireLoaded(const std::string &section, const std::string &key)
 {
     if (!Load())
-        throw std::runtime_error("Read " + what + " from " + Utf8FromWide(m_path) +
-                                 " failed (load file failed)");
+        throw std::runtime_error("Read " + section + (key.empty() ? "" : "::" + key) + " from " +
+                                 Utf8FromWide(m_path) + " failed (load file failed)");
+    TakeNewSections();
 }
 
 bool CCalIniFile::HasSection(const std::string &section)
@@ -128,7 +159,7 @@ bool CCalIniFile::HasSection(const std::string &section)
 std::string CCalIniFile::ReadString(const std::string &section, const std::string &key,
                                     const std::string &defaultValue)
 {
-    RequireLoaded(section + "::" + key);
+    RequireLoaded(section, key);
     const wchar_t *value = m_ini->GetValue(ToLine(section).c_str(), ToLine(key).c_str(), nullptr);
     return value ? Utf8FromWide(value) : defaultValue;
 }
@@ -153,20 +184,51 @@ std::vector<std::string> CCalIniFile::ReadSectionKeys(const std::string &section
     return keys;
 }
 
+CIniSection CCalIniFile::ReadSection(const std::string &section)
+{
+    RequireLoaded(section);
+    CIniSection result(section);
+    const SIni::TKeyVal *keys = m_ini->GetSection(ToLine(section).c_str());
+    if (!keys)
+        return result;
+    std::vector<const SIni::TKeyVal::value_type *> lines;
+    lines.reserve(keys->size());
+    for (const auto &line : *keys) {
+        // Of a key that comes again the library has the first one first.
+        if (lines.empty() || keys->key_comp()(lines.back()->first, line.first))
+            lines.push_back(&line);
+    }
+    std::sort(lines.begin(), lines.end(),
+              [](auto *a, auto *b) { return a->first.nOrder < b->first.nOrder; });
+    std::string key;
+    for (const auto *line : lines) {
+        key.clear();
+        AppendUtf8(key, line->first.pItem);
+        AppendUtf8(result.Key(key), line->second);
+    }
+    return result;
+}
+
 void CCalIniFile::WriteString(const std::string &section, const std::string &key,
                               const std::string &value)
 {
-    const std::string failureText = "Write " + section + "::" + key + " to " +
-                                    Utf8FromWide(m_path) + " failed (create file failed)";
-    PrepareWrite(failureText);
-    const SI_Error result = m_ini->SetValue(ToLine(section).c_str(), ToLine(key).c_str(),
-                                            ToLine(value).c_str(), nullptr, kReplaceAll);
-    if (result < 0)
-        throw std::runtime_error(failureText);
-    if (m_unsavedFailure.empty())
-        m_unsavedFailure = failureText;
-    if (m_openBatches == 0)
-        SaveUnsaved();
+    PrepareWrite(section, key);
+    SetValue(section, key, value);
+    FinishWrite(section, key);
+}
+
+void CCalIniFile::WriteSection(CIniSection section)
+{
+    if (section.IsEmpty())
+        return;
+    const std::string name = section.Name();
+    const std::string firstKey(section.Line(0).key);
+    PrepareWrite(name, firstKey);
+    if (!AppendSection(section)) {
+        for (const CIniSection::SLine &line : section.Lines())
+            SetValue(name, std::string(line.key), std::string(line.value));
+    }
+    FinishWrite(name, firstKey);
 }
 
 void CCalIniFile::WriteInt(const std::string &section, const std::string &key, int value)
@@ -184,13 +246,57 @@ void CCalIniFile::WriteDouble(const std::string &section, const std::string &key
 
 // What the file holds is loaded first, so that a save keeps it. A missing file starts empty; one
 // that is there but can't be read must not be overwritten.
-void CCalIniFile::PrepareWrite(const std::string &failureText)
+void CCalIniFile::PrepareWrite(const std::string &section, const std::string &key)
 {
     if (Load())
         return;
     if (m_path.empty() || QFileInfo::exists(QString::fromStdWString(m_path)))
-        throw std::runtime_error(failureText);
+        throw std::runtime_error(WriteFailure(section, key));
     m_loaded = true;
+}
+
+void CCalIniFile::FinishWrite(const std::string &section, const std::string &key)
+{
+    if (m_unsavedFailure.empty())
+        m_unsavedFailure = WriteFailure(section, key);
+    if (m_openBatches == 0)
+        SaveUnsaved();
+}
+
+void CCalIniFile::SetValue(const std::string &section, const std::string &key,
+                           const std::string &value)
+{
+    TakeNewSections();
+    const SI_Error result = m_ini->SetValue(ToLine(section).c_str(), ToLine(key).c_str(),
+                                            ToLine(value).c_str(), nullptr, kReplaceAll);
+    if (result < 0)
+        throw std::runtime_error(WriteFailure(section, key));
+}
+
+// A section that is new needs nothing of the library but its place in the file, which is the end.
+// False for one that is there, and for text that a file may hold in another form.
+bool CCalIniFile::AppendSection(CIniSection &section)
+{
+    if (section.Name().empty() || !section.IsPlain() ||
+        m_ini->GetSection(ToLine(section.Name()).c_str()))
+        return false;
+    if (!m_new.names.insert(InLowerCase(section.Name())).second)
+        return false;
+    if (!m_new.texts.empty())
+        m_new.texts.back() += kBetweenSections;
+    m_new.texts.push_back(section.TakeText());
+    return true;
+}
+
+// Hands the new sections to the library, before anything that looks at values or changes them.
+void CCalIniFile::TakeNewSections()
+{
+    if (m_new.texts.empty())
+        return;
+    const std::string text = std::accumulate(m_new.texts.begin(), m_new.texts.end(), std::string());
+    if (m_ini->LoadData(text.data(), text.size()) < 0)
+        throw std::bad_alloc();
+    m_new = {};
 }
 
 void CCalIniFile::SaveUnsaved()
@@ -205,16 +311,39 @@ void CCalIniFile::SaveUnsaved()
 
 bool CCalIniFile::SaveToDisk() const
 {
-    std::string text;
-    if (m_ini->Save(text, kByteOrderMark) < 0)
+    struct SWriter : SIni::OutputWriter
+    {
+        std::string text;
+
+        void Write(const char *part) override { AppendWithCrLf(text, part); }
+    } writer;
+    if (m_ini->Save(writer, kByteOrderMark) < 0)
         return false;
-    text = WithCrLf(text);
+    std::string &block = writer.text;
+    if (!m_new.texts.empty() && block != SI_UTF8_SIGNATURE)
+        block += kBetweenSections;
     QSaveFile file(QString::fromStdWString(m_path));
-    const qint64 size = static_cast<qint64>(text.size());
     // Unbuffered: commit does not notice when the flush of a buffer falls short on a full disk, and
     // would put the stump in place of the old file.
-    return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
-           file.write(text.data(), size) == size && file.commit();
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return false;
+    for (const std::string &text : m_new.texts) {
+        block += text;
+        if (block.size() < kBlockBytes)
+            continue;
+        if (!Write(file, block))
+            return false;
+        block.clear();
+    }
+    if (!Write(file, block))
+        return false;
+    return Sync(file) && file.commit();
+}
+
+std::string CCalIniFile::WriteFailure(const std::string &section, const std::string &key) const
+{
+    return "Write " + section + "::" + key + " to " + Utf8FromWide(m_path) +
+           " failed (create file failed)";
 }
 
 CCalIniFile::CBatch::CBatch(CCalIniFile &file) : m_file(file)

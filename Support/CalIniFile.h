@@ -16,6 +16,9 @@
 // before stays. A save is whole or not at all: after a full disk or a crash the old file is there
 // as it was. A missing file is created, a missing folder is not.
 //
+// Sections are read and written fastest as a whole, by ReadSection and WriteSection: the values of
+// a read and the bytes of a write of each of the keys.
+//
 // Errors. std::runtime_error with one of the texts
 //     Read <section> from <path> failed (load file failed)
 //     Read <section>::<key> from <path> failed (load file failed)
@@ -32,8 +35,11 @@
 //     batch.Commit();
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
+
+class CIniSection;
 
 class CCalIniFile
 {
@@ -54,22 +60,39 @@ public:
     int ReadInt(const std::string &section, const std::string &key, int defaultValue);
     // Each key once, in the order of the file; empty for an unknown section.
     std::vector<std::string> ReadSectionKeys(const std::string &section);
+    // All keys with their values; none for an unknown section.
+    CIniSection ReadSection(const std::string &section);
 
     void WriteString(const std::string &section, const std::string &key, const std::string &value);
     void WriteInt(const std::string &section, const std::string &key, int value);
     // As "%lf", six decimals, with a point in every locale of the process.
     void WriteDouble(const std::string &section, const std::string &key, double value);
+    // All keys of the section as one write, the first key's in a failure text.
+    void WriteSection(CIniSection section);
 
 private:
     struct SIni;
 
+    // Sections behind those of m_ini, as their texts in the file; none has the name of another.
+    struct SNewSections
+    {
+        std::vector<std::string> texts;
+        std::set<std::string> names;  // in lower case
+    };
+
     bool ParseFile();
-    void RequireLoaded(const std::string &what);
-    void PrepareWrite(const std::string &failureText);
+    void RequireLoaded(const std::string &section, const std::string &key = {});
+    void PrepareWrite(const std::string &section, const std::string &key);
+    void FinishWrite(const std::string &section, const std::string &key);
+    void SetValue(const std::string &section, const std::string &key, const std::string &value);
+    bool AppendSection(CIniSection &section);
+    void TakeNewSections();
     void SaveUnsaved();
     bool SaveToDisk() const;
+    std::string WriteFailure(const std::string &section, const std::string &key) const;
 
     std::unique_ptr<SIni> m_ini;
+    SNewSections m_new;
     std::wstring m_path;
     bool m_loaded = false;
     int m_openBatches = 0;

@@ -16,6 +16,12 @@
 #include "Support/FileDialogMan.h"
 #include "Support/Log.h"
 
+namespace {
+
+constexpr int kProgressChars = 24;  // width of the progress bar
+
+}  // namespace
+
 // What the user and the log read of a flow.
 struct CCalibrationDockWidget::SFlowWords
 {
@@ -276,6 +282,9 @@ void CCalibrationDockWidget::ShowProgress(ECalibrationFlow kind, int round, int 
     if (auto *window = qobject_cast<QMainWindow *>(parentWidget()); window && !m_progress) {
         m_progress = new QProgressBar;
         m_progress->setTextVisible(false);
+        // No higher than the text beside it, or the page would move when it comes and goes.
+        const QFontMetrics text = window->statusBar()->fontMetrics();
+        m_progress->setFixedSize(kProgressChars * text.averageCharWidth(), text.height());
         window->statusBar()->addPermanentWidget(m_progress);
     }
     if (m_progress) {

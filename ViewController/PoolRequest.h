@@ -1,4 +1,4 @@
-// Requests on the pool whose answer is a signal of the view controller.
+// Requests on the pool: their answer is what a job returns, or a signal of the core.
 //
 // For the sources of CQuorlinViewCtrl alone. GUI thread.
 //
@@ -9,22 +9,14 @@
 #include <memory>
 #include <tuple>
 
-#include <QCoreApplication>
 #include <QPointer>
-#include <QtConcurrent>
 
 #include "Controller/NrCore.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
+#include "Support/Threads.h"
+#include "ViewController/CoreAnswers.h"
 #include "ViewController/QuorlinViewCtrl.h"
-
-// Runs a call on the GUI thread, some time later; not at all once the application is going down.
-template <typename Call>
-void PostToGui(Call call)
-{
-    if (QCoreApplication *application = QCoreApplication::instance())
-        QMetaObject::invokeMethod(application, std::move(call), Qt::QueuedConnection);
-}
 
 // What a job that threw answers: that nothing ran, and nothing else.
 template <typename Answer>
@@ -46,8 +38,8 @@ void CQuorlinViewCtrl::RunOnPool(const char *internalName,
 {
     CNrCore &core = GetCore();
     m_future =
-        QtConcurrent::run([internalName, signal, &core, job = std::make_shared<Job>(std::move(job)),
-                           epoch = m_epoch, self = QPointer<CQuorlinViewCtrl>(this)] {
+        StartOnPool([internalName, signal, &core, job = std::make_shared<Job>(std::move(job)),
+                     epoch = m_epoch, self = QPointer<CQuorlinViewCtrl>(this)] {
             qCDebug(lcCore) << internalName;
             std::tuple<Answers...> answers{AnswerOfNothing<Answers>()...};
             try {
@@ -61,4 +53,19 @@ void CQuorlinViewCtrl::RunOnPool(const char *internalName,
                     std::apply(emitAll, answers);
             });
         });
+}
+
+// The connection lives for one request: made here, taken down in the done slot. What was asked for
+// before a reset is not answered after it.
+template <typename... Answers>
+void CQuorlinViewCtrl::AwaitAnswer(void (CCoreAnswers::*signal)(Answers...),
+                                   void (CQuorlinViewCtrl::*done)(Answers...))
+{
+    CCoreAnswers &core = CCoreAnswers::Get();
+    disconnect(&core, signal, this, nullptr);
+    connect(&core, signal, this,
+            [this, done, epoch = m_epoch, asked = core.Now()](const Answers &...answers) {
+                if (m_epoch == epoch && CCoreAnswers::Get().Given() > asked)
+                    (this->*done)(answers...);
+            });
 }

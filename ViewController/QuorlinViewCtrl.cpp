@@ -21,7 +21,7 @@ void CQuorlinViewCtrl::ResetTargetCache()
 
 void CQuorlinViewCtrl::ReportIdle()
 {
-    m_future = QtConcurrent::run([&core = GetCore(), self = QPointer<CQuorlinViewCtrl>(this)] {
+    m_future = StartOnPool([&core = GetCore(), self = QPointer<CQuorlinViewCtrl>(this)] {
         core.WaitForTurn();
         PostToGui([self] {
             if (self)

@@ -25,6 +25,7 @@
 #include "Controller/Interface/CoreInterface.h"
 #include "Model/OperationResult.h"
 
+class CCoreAnswers;
 class CNrCore;
 enum class EPageId;
 
@@ -196,7 +197,7 @@ private:
     void PassFlowAnswer(ECalRequest id, const QVector<SEachItemOperationResult> &itemResult);
 
     template <typename... Answers>
-    void AwaitAnswer(void (CNrCore::*signal)(Answers...),
+    void AwaitAnswer(void (CCoreAnswers::*signal)(Answers...),
                      void (CQuorlinViewCtrl::*done)(Answers...));
 
     // Job: CNrCore & -> std::tuple<Answers...>.

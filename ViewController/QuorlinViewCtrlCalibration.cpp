@@ -33,7 +33,7 @@ enum class CQuorlinViewCtrl::ECalRequest
 struct CQuorlinViewCtrl::SCalFlow
 {
     void (*start)(CNrCore &core, const QStringList &items, File file);
-    void (IRfCoreCalDataOperation::*coreDone)(bool, QVector<SEachItemOperationResult>);
+    void (CCoreAnswers::*coreDone)(bool, QVector<SEachItemOperationResult>);
     bool storesFirst;  // the page's record goes into memory before the flow
 };
 
@@ -57,7 +57,7 @@ struct CQuorlinViewCtrl::SCalRequest
 const CQuorlinViewCtrl::SCalRequest &CQuorlinViewCtrl::CalRequest(ECalRequest id)
 {
     using Ctrl = CQuorlinViewCtrl;
-    using Core = IRfCoreCalDataOperation;
+    using Core = CCoreAnswers;
     static constexpr SCalItem kApt{ECalItem::Apt, &CNrCore::GetAptCalibrationData,
                                    &CNrCore::SetAptCalibrationData};
     static constexpr SCalItem kPathLoss{ECalItem::PathLoss, &CNrCore::GetPathLossCalibrationData,
@@ -103,19 +103,13 @@ const CQuorlinViewCtrl::SCalRequest &CQuorlinViewCtrl::CalRequest(ECalRequest id
 // is not given after it.
 void CQuorlinViewCtrl::AwaitFlow(const SCalRequest &request)
 {
-    CNrCore &core = GetCore();
-    disconnect(&core, request.flow.coreDone, this, nullptr);
-    disconnect(&core, &CNrCore::Signal_CalProgress, this, nullptr);
-    connect(&core, request.flow.coreDone, this,
-            [this, done = request.done,
-             epoch = m_epoch](bool result, const QVector<SEachItemOperationResult> &itemResult) {
-                if (m_epoch == epoch)
-                    (this->*done)(result, itemResult);
-            });
-    connect(&core, &CNrCore::Signal_CalProgress, this,
-            [this, name = CalItemName(request.item.id),
-             epoch = m_epoch](const QString &item, int round, int routesDone, int routesInAll) {
-                if (m_epoch == epoch && item == name)
+    CCoreAnswers &core = CCoreAnswers::Get();
+    AwaitAnswer(request.flow.coreDone, request.done);
+    disconnect(&core, &CCoreAnswers::Signal_CalProgress, this, nullptr);
+    connect(&core, &CCoreAnswers::Signal_CalProgress, this,
+            [this, name = CalItemName(request.item.id), epoch = m_epoch,
+             asked = core.Now()](const QString &item, int round, int routesDone, int routesInAll) {
+                if (m_epoch == epoch && CCoreAnswers::Get().Given() > asked && item == name)
                     emit Signal_CalProgress(round, routesDone, routesInAll);
             });
 }
@@ -125,9 +119,9 @@ void CQuorlinViewCtrl::RequestFlow(ECalRequest id, std::string document, File fi
     const SCalRequest &request = CalRequest(id);
     AwaitFlow(request);
     m_document = request.response ? document : std::string();
-    m_future = QtConcurrent::run([&request, &core = GetCore(), file = std::move(file),
-                                  document = std::move(document), epoch = m_epoch,
-                                  self = QPointer<CQuorlinViewCtrl>(this)]() mutable {
+    m_future = StartOnPool([&request, &core = GetCore(), file = std::move(file),
+                            document = std::move(document), epoch = m_epoch,
+                            self = QPointer<CQuorlinViewCtrl>(this)]() mutable {
         qCDebug(lcCore) << request.internalName;
         const QString item = CalItemName(request.item.id);
         QString failure;
@@ -156,8 +150,9 @@ void CQuorlinViewCtrl::PassFlowAnswer(ECalRequest id,
     const SEachItemOperationResult answer = itemResult.value(0);
     if (answer.itemName != CalItemName(request.item.id))
         return;
-    disconnect(&GetCore(), request.flow.coreDone, this, nullptr);
-    disconnect(&GetCore(), &CNrCore::Signal_CalProgress, this, nullptr);
+    CCoreAnswers &core = CCoreAnswers::Get();
+    disconnect(&core, request.flow.coreDone, this, nullptr);
+    disconnect(&core, &CCoreAnswers::Signal_CalProgress, this, nullptr);
     if (request.result) {
         emit(this->*request.result)(answer);
         return;

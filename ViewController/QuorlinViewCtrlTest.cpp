@@ -1,40 +1,21 @@
 // Tests and stops of the view controller: the core answers them through signals of its own.
-#include <QtConcurrent>
-
-#include "Controller/NrCore.h"
 #include "Controller/PageTable.h"
-#include "Support/Log.h"
-#include "ViewController/QuorlinViewCtrl.h"
-
-// The connection to the core lives for one request: made here, taken down in the done slot. What
-// was asked for before a reset is not answered after it.
-template <typename... Answers>
-void CQuorlinViewCtrl::AwaitAnswer(void (CNrCore::*signal)(Answers...),
-                                   void (CQuorlinViewCtrl::*done)(Answers...))
-{
-    CNrCore &core = GetCore();
-    disconnect(&core, signal, this, nullptr);
-    connect(&core, signal, this, [this, done, epoch = m_epoch](const Answers &...answers) {
-        if (m_epoch == epoch)
-            (this->*done)(answers...);
-    });
-}
+#include "ViewController/PoolRequest.h"
 
 void CQuorlinViewCtrl::RequestTest(const char *internalName, EPageId page, std::string document,
                                    TestDoneSlot done)
 {
-    AwaitAnswer(&CNrCore::Signal_TestDone, done);
-    m_future =
-        QtConcurrent::run([internalName, &core = GetCore(), page, document = std::move(document)] {
-            qCDebug(lcCore) << internalName;
-            core.Test(PageName(page), document);
-        });
+    AwaitAnswer(&CCoreAnswers::Signal_TestDone, done);
+    m_future = StartOnPool([internalName, &core = GetCore(), page, document = std::move(document)] {
+        qCDebug(lcCore) << internalName;
+        core.Test(PageName(page), document);
+    });
 }
 
 void CQuorlinViewCtrl::RequestStop(const char *internalName, bool isNr)
 {
-    AwaitAnswer(&CNrCore::Signal_TestStopDone, &CQuorlinViewCtrl::Slot_TestStopDone);
-    m_future = QtConcurrent::run([internalName, &core = GetCore(), isNr] {
+    AwaitAnswer(&CCoreAnswers::Signal_TestStopDone, &CQuorlinViewCtrl::Slot_TestStopDone);
+    m_future = StartOnPool([internalName, &core = GetCore(), isNr] {
         qCDebug(lcCore) << internalName;
         core.TestStopStart(isNr);
     });
@@ -98,7 +79,7 @@ bool CQuorlinViewCtrl::TakeAnswer(EPageId page, const SEachItemOperationResult &
 {
     if (result.itemName != PageName(page))
         return false;
-    disconnect(&GetCore(), &CNrCore::Signal_TestDone, this, nullptr);
+    disconnect(&CCoreAnswers::Get(), &CCoreAnswers::Signal_TestDone, this, nullptr);
     return true;
 }
 
@@ -147,6 +128,6 @@ void CQuorlinViewCtrl::Slot_RssiTestDone(SEachItemOperationResult result, std::s
 
 void CQuorlinViewCtrl::Slot_TestStopDone(SEachItemOperationResult result)
 {
-    disconnect(&GetCore(), &CNrCore::Signal_TestStopDone, this, nullptr);
+    disconnect(&CCoreAnswers::Get(), &CCoreAnswers::Signal_TestStopDone, this, nullptr);
     emit Signal_TestStopDone(result);
 }

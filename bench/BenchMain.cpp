@@ -1,6 +1,8 @@
 #include "bench/BenchMain.h"
 
 #include <cstdio>
+#include <cstdlib>
+#include <fstream>
 #include <map>
 #include <string>
 
@@ -24,19 +26,23 @@ public:
 
     void PrintRatios(const SRatio *ratios, int count) const
     {
+        const char *fileName = std::getenv("QUORLIN_RATIOS");
+        std::ofstream file(fileName ? fileName : "");
         std::printf("\n%-40s %-40s %8s %6s\n", "measured", "against", "ratio", "aim");
         for (int i = 0; i < count; ++i) {
-            const char *floorName = ratios[i].floor ? ratios[i].floor : "1 ms";
-            const auto measured = m_seconds.find(ratios[i].measured);
+            const SRatio &ratio = ratios[i];
+            const char *floorName = ratio.floor ? ratio.floor : "1 ms";
+            const auto measured = m_seconds.find(ratio.measured);
             const auto floor = m_seconds.find(floorName);
-            if (measured == m_seconds.end() || (ratios[i].floor && floor == m_seconds.end()))
+            if (measured == m_seconds.end() || (ratio.floor && floor == m_seconds.end()))
                 continue;
-            const double unit = ratios[i].floor ? floor->second : 1e-3;
-            std::printf("%-40s %-40s %8.2f", ratios[i].measured, floorName,
-                        measured->second / unit);
-            if (ratios[i].aim > 0)
-                std::printf(" %6.1f", ratios[i].aim);
-            std::printf("\n");
+            const double unit = ratio.floor ? floor->second : 1e-3;
+            const std::string aim = ratio.aim > 0 ? Text("%.1f", ratio.aim) : "";
+            std::printf("%-40s %-40s %8.2f %6s\n", ratio.measured, floorName,
+                        measured->second / unit, aim.c_str());
+            file << ratio.measured << ',' << Text("%.3f", measured->second * 1e3) << ','
+                 << floorName << ',' << Text("%.3f", unit * 1e3) << ','
+                 << Text("%.2f", measured->second / unit) << ',' << aim << '\n';
         }
     }
 
@@ -46,6 +52,13 @@ private:
     {
         const std::string name = run.benchmark_name();
         return name.substr(0, name.find("/iterations:"));
+    }
+
+    static std::string Text(const char *format, double number)
+    {
+        char text[32];
+        std::snprintf(text, sizeof(text), format, number);
+        return text;
     }
 
     std::map<std::string, double> m_seconds;  // by benchmark, of one iteration

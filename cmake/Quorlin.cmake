@@ -19,14 +19,19 @@ endfunction()
 
 # Compile settings that all code of the project shares.
 add_library(quorlin_options INTERFACE)
-target_compile_options(quorlin_options INTERFACE -Wall -Wextra
+target_compile_options(quorlin_options INTERFACE -Wall -Wextra -Wconversion
                        $<$<BOOL:${QUORLIN_WERROR}>:-Werror>)
 target_compile_definitions(quorlin_options INTERFACE QT_NO_FOREACH QT_DEPRECATED_WARNINGS
                            QT_MESSAGELOGCONTEXT)
-if(QUORLIN_SANITIZE)
+if(QUORLIN_SANITIZE STREQUAL "address")
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+elseif(QUORLIN_SANITIZE STREQUAL "thread")
+  add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=thread)
+elseif(NOT QUORLIN_SANITIZE STREQUAL "none")
+  message(FATAL_ERROR "QUORLIN_SANITIZE is one of none, address, thread")
 endif()
 
 # Precompiled Qt headers. A target may reuse one only if it is compiled alike, so libraries and
@@ -69,15 +74,29 @@ function(quorlin_page)
   target_sources(${P_MODULE} PRIVATE ${P_NAME}.h ${P_NAME}.cpp ${P_NAME}.ui)
 endfunction()
 
+# What every test runs with. The sanitizers' settings belong here, so that a test by hand and one in CI
+# look at the same.
+set(QUORLIN_TEST_ENVIRONMENT
+    "QT_QPA_PLATFORM=offscreen"
+    "QT_LOGGING_RULES=quorlin.*.debug=false"
+    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"
+    "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/races/tsan.supp:print_suppressions=0:second_deadlock_stack=1")
+
 # A test program, run by ctest from the build's bin folder.
 #   LABELS  unit (no widgets, no plug-in), gui (widgets, offscreen), device (the whole plug-in on the
 #           simulated DUT); the label sets the timeout
 #   QT      uses QtTest; without it the test is a GoogleTest program
+#   CASES   arguments; with them, one run of the program for each, named after both
 function(quorlin_test)
-  cmake_parse_arguments(T "QT" "NAME;LABELS" "SOURCES;DEPENDS" ${ARGN})
+  cmake_parse_arguments(T "QT" "NAME;LABELS" "SOURCES;DEPENDS;CASES" ${ARGN})
   set(timeout_unit 120)
   set(timeout_gui 120)
-  set(timeout_device 300)
+  set(timeout_device 600)
+  if(QUORLIN_SANITIZE STREQUAL "thread")
+    foreach(label unit gui device)
+      math(EXPR timeout_${label} "${timeout_${label}} * 5")
+    endforeach()
+  endif()
   if(NOT DEFINED timeout_${T_LABELS})
     message(FATAL_ERROR "quorlin_test(${T_NAME}): LABELS is one of unit, gui, device")
   endif()
@@ -91,9 +110,18 @@ function(quorlin_test)
     set_target_properties(${T_NAME} PROPERTIES AUTOUIC OFF)
     target_link_libraries(${T_NAME} PRIVATE quorlin_options GTest::gtest_main)
   endif()
-  add_test(NAME ${T_NAME} COMMAND ${T_NAME} WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
-  set_tests_properties(${T_NAME} PROPERTIES LABELS ${T_LABELS} TIMEOUT ${timeout_${T_LABELS}}
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=quorlin.*.debug=false;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+  set(runs)
+  foreach(case IN LISTS T_CASES)
+    list(APPEND runs ${T_NAME}.${case})
+    add_test(NAME ${T_NAME}.${case} COMMAND ${T_NAME} ${case}
+      WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  endforeach()
+  if(NOT runs)
+    set(runs ${T_NAME})
+    add_test(NAME ${T_NAME} COMMAND ${T_NAME} WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  endif()
+  set_tests_properties(${runs} PROPERTIES LABELS ${T_LABELS} TIMEOUT ${timeout_${T_LABELS}}
+    ENVIRONMENT "${QUORLIN_TEST_ENVIRONMENT}")
 endfunction()
 
 # A benchmark program, run by hand (bench/README.md); never a test, since its numbers depend on the

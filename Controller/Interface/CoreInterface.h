@@ -77,6 +77,9 @@ class IRfCoreCalDataOperation : public QObject
 public:
     // Names of the calibration items that the DUT has. Blocks on the link.
     virtual void GetAllCalItem(QStringList &out) = 0;
+    // The same, of those that have a section in the file; none for a file that can't be read. The
+    // caller keeps the file. Blocks on the link.
+    virtual void GetCalItemInFile(QStringList &out, CCalIniFile *file) = 0;
 
     // The four flows. The file belongs to the flow and is let go before the answer.
     virtual void UploadFromFlashStart(QStringList items) = 0;

@@ -4,10 +4,10 @@
 #include <QMessageBox>
 #include <QPointer>
 
-CBoxWatcher::CBoxWatcher()
+CBoxWatcher::CBoxWatcher(int everyMs)
 {
     connect(&m_timer, &QTimer::timeout, this, &CBoxWatcher::Look);
-    m_timer.start(0);
+    m_timer.start(everyMs);
 }
 
 void CBoxWatcher::Look()

@@ -1,7 +1,8 @@
 // Answers modal message boxes as a person would: reads each box that opens and presses its button.
 //
-// Looks at every turn of the event loop while it lives, so it also works while a box's own loop
-// runs. onBox, if set, is called with the box still open, and may do anything but wait.
+// Looks at every turn of the event loop while it lives, or every so many milliseconds, so it also
+// works while a box's own loop runs. onBox, if set, is called with the box still open, and may do
+// anything but wait.
 //
 //   CBoxWatcher boxes;
 //   ... press Start ...
@@ -27,7 +28,8 @@ struct SSeenBox
 class CBoxWatcher : public QObject
 {
 public:
-    CBoxWatcher();
+    // everyMs: how often it looks; 0 keeps the thread busy, which long waits had better not.
+    explicit CBoxWatcher(int everyMs = 0);
 
     const QVector<SSeenBox> &Seen() const { return m_seen; }
     std::function<void()> onBox;

@@ -113,12 +113,14 @@ bool CPluginSession::ClickTab(const QString &title) const
         if (dock->windowTitle() == title)
             page = dock;
     }
-    auto *bar = Window()->findChild<QTabBar *>(QString(), Qt::FindDirectChildrenOnly);
-    if (!page || !bar)
+    if (!page)
         return false;
-    for (int tab = 0; tab < bar->count(); ++tab) {
-        if (bar->tabText(tab) == title)
-            QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(tab).center());
+    // The window keeps the bars of pages that a reset has taken, hidden and without their tabs.
+    for (QTabBar *bar : Window()->findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly)) {
+        for (int tab = 0; bar->isVisible() && tab < bar->count(); ++tab) {
+            if (bar->tabText(tab) == title)
+                QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(tab).center());
+        }
     }
     return WaitUntil([page] { return IsInFront(page); });
 }

@@ -37,6 +37,8 @@ const SScalar kScalars[] = {
     {"group3", "pRf4", "1023", 32736, [](const Apt &r) { return int(r.level[3].prf); }},
     {"group4", "paGain2", "28.03125", 897, [](const Apt &r) { return int(r.level[1].paGain); }},
     {"group4", "paGain10", "0.06", 1, [](const Apt &r) { return int(r.level[9].paGain); }},
+    {"group4", "paGain3", "1024", 32767, [](const Apt &r) { return int(r.level[2].paGain); }},
+    {"group4", "paGain9", "2047.00000", 32767, [](const Apt &r) { return int(r.level[8].paGain); }},
     {"group5", "dc2dcLevel1", "0.1V", 1, [](const Apt &r) { return int(r.level[0].dc2dcLevel); }},
     {"group5", "dc2dcLevel10", "3.4V", 34, [](const Apt &r) { return int(r.level[9].dc2dcLevel); }},
     {"group5", "dc2dcLevel6", "5.5V", 55, [](const Apt &r) { return int(r.level[5].dc2dcLevel); }},
@@ -230,6 +232,24 @@ TEST(AptCommandTest, EditOfAValueThatWasShownShortTakesTheNewValue)
     EXPECT_EQ(after.level[0].prf, 64);
     EXPECT_EQ(after.level[1].paGain, 1);
     EXPECT_EQ(after.level[2].paMode, 0);
+}
+
+// A route on two bands has the data of one and the limits of the other.
+TEST(AptCommandTest, FrequencyBeyondTheLimitsOfTheRouteMayStandAtTheirEndOrInTheirMiddle)
+{
+    const QJsonObject limits = {{"12", QJsonObject{{"min", 0}, {"max", 3800000}}}};
+    QJsonObject page = Page();
+    ASSERT_TRUE(ModifyJsonValue(page, Group("group12") + ".memberProperty.ulFreq.trait.valuePair",
+                                limits, 0));
+    Put(page, "calDataIf.config.group1", {{"txRoute", "12"}});
+    Apt record = {};
+    record.freq[0] = 3900000;
+    for (const char *shown : {"3800000", "1900000"}) {
+        PutRow(page, kFreqGroup, "ulFreq", {shown});
+        EXPECT_EQ(Built(page, record).freq[0], 3900000u) << shown;
+    }
+    PutRow(page, kFreqGroup, "ulFreq", {"3799999"});
+    EXPECT_EQ(Built(page, record).freq[0], 3799999u);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@ namespace {
 constexpr char kApt[] = "APT Profile";
 constexpr char kPathLoss[] = "RX PathLoss";
 constexpr char kSetCalData[] = "VOND_MMRf_SetCalDataV7_r";
+constexpr char kBlockInfo[] = "VOND_MMRf_GetCalBlkInfoV7_r";
 constexpr char kConfig[] = "calDataIf.config.group1";
 constexpr char kCoupler[] = "calDataIf.data.group11";
 
@@ -137,6 +138,39 @@ TEST_F(CoreCalDocumentTest, StoringBeforeAnyReadMakesNothingValid)
     StoreCoupler("1", "BW0", "3");
     StoreLoss(LossPage("Type1", "1"), "calDataIf.data.group1", "plOffset", "1");
     EXPECT_TRUE(WriteAll().isEmpty());
+}
+
+// A job may hold the target for as long as that takes to answer. The calls below come back while
+// another item's flow is held; what a waiting call would do here, the time limit of the test ends.
+TEST_F(CoreCalDocumentTest, RecordsAreShownAndStoredWhileTheTargetWorksForAnotherItem)
+{
+    m_core.GetDataModel(kApt);
+    m_core.GetDataModel(kPathLoss);
+    const struct
+    {
+        const char *busy;
+        std::function<void()> use;
+    } cases[] = {{kPathLoss,
+                  [this] {
+                      StoreCoupler("7", "BW0", "3");
+                      EXPECT_EQ(Coupler("7", "BW0"), "3.00000");
+                  }},
+                 {kApt, [this] {
+                      StoreLoss(LossPage("Type1", "5"), "calDataIf.data.group1", "plOffset", "1");
+                      EXPECT_EQ(
+                          FirstLoss(LossPage("Type1", "5"), "calDataIf.data.group1", "plOffset"),
+                          "1.00000");
+                  }}};
+    for (const auto &each : cases) {
+        VondSim_Hold(kBlockInfo);
+        m_core.UploadFromFlashStart({each.busy});
+        ASSERT_EQ(VondSim_WaitUntilHeld(kBlockInfo, 20000), 1);
+        const int before = CountCalls(kBlockInfo);
+        each.use();
+        EXPECT_EQ(CountCalls(kBlockInfo), before);
+        VondSim_Release(kBlockInfo);
+        WaitForPool();
+    }
 }
 
 // What the page shows and stores again is what was there; edits under HPM and LPM, with another

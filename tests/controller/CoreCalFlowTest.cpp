@@ -142,7 +142,12 @@ TEST_F(CoreCalFlowTest, FailingItemGivesFalseAndAResultForEveryItem)
     ASSERT_EQ(failed.results.size(), 2);
     EXPECT_EQ(failed.results[0].status, 2);
     EXPECT_EQ(failed.results[1].status, 0);
+}
 
+TEST_F(CoreCalFlowTest, FlowBehindAFailedOneStartsWithoutItsResults)
+{
+    RunFlow(kUpload, {kApt});
+    EXPECT_FALSE(RunFlow(kDownload, {kPathLoss, kApt}).isAllSuccess);
     const SAnswer second = RunFlow(kDownload, {kApt});
     EXPECT_TRUE(second.isAllSuccess);
     ASSERT_EQ(second.results.size(), 1);

@@ -1,9 +1,9 @@
 #include "tests/controller/CoreFixture.h"
 
 #include <QCoreApplication>
-#include <QThreadPool>
 
 #include "Model/ModelText.h"
+#include "tests/common/PoolJobs.h"
 
 namespace {
 
@@ -62,7 +62,7 @@ void CCoreTest::Run(const std::function<void()> &start)
 
 void CCoreTest::WaitForPool()
 {
-    ASSERT_TRUE(QThreadPool::globalInstance()->waitForDone(kLongMs));
+    ASSERT_TRUE(EndPoolJobs(kLongMs));
 }
 
 TextMap GoodValues()

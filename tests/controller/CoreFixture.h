@@ -12,7 +12,6 @@
 #include <memory>
 
 #include <QMap>
-#include <QMutex>
 
 #include "Controller/NrCore.h"
 #include "tests/operations/TargetFixture.h"

@@ -126,6 +126,27 @@ TEST_F(PathLossResponseTest, CaptionsAreTheSetGainsOfThePowerModeAndNaBehindThem
     }
 }
 
+TEST_F(PathLossResponseTest, SlotThatNoGainUsesIsCaptionedNa)
+{
+    PlugHandsetWith(R"("gain": {
+        "hpm": {"t1": ["100", "000", "001", "000", "000", "000", "000"],
+                "t2": ["000 000 000", "000 000 000", "000 000 000", "000 000 000",
+                       "000 000 000", "000 000 000", "000 000 000"]},
+        "lpm": {"t1": ["000", "000", "000", "000", "000", "000", "000"],
+                "t2": ["000 000 000", "000 000 000", "000 000 000", "000 000 000",
+                       "000 000 000", "000 000 000", "000 000 000"]}})");
+    const QJsonObject hpm = Shown(Page({"HPM"}), Type1());
+    EXPECT_EQ(Caption(hpm, "group2/lna0"), "G0,g0");
+    EXPECT_EQ(Caption(hpm, "group3/lna1"), "G2,g2");
+    const QJsonObject lpm = Shown(Page({"LPM"}), Type1());
+    for (int slot = 0; slot < 8; ++slot) {
+        EXPECT_EQ(Caption(lpm, QString("group3/lna%1").arg(slot)), "NA");
+        if (slot > 1) {
+            EXPECT_EQ(Caption(hpm, QString("group2/lna%1").arg(slot)), "NA");
+        }
+    }
+}
+
 TEST_F(PathLossResponseTest, All64FrequenciesAreShown)
 {
     Type1 record = {};

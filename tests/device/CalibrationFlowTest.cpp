@@ -65,10 +65,6 @@ private slots:
     void unchangedWriteLeavesTheFlashAsItWas();
     void secondReadDoesNotDoubleTheAnswers_data() { AddPageRows(); }
     void secondReadDoesNotDoubleTheAnswers();
-    void tabChangeLeavesAFlowGoing_data() { AddPageRows(); }
-    void tabChangeLeavesAFlowGoing();
-    void resetDuringAFlowDropsItsAnswer_data() { AddPageRows(); }
-    void resetDuringAFlowDropsItsAnswer();
     void resetWhileTheFileDialogIsOpen_data() { AddPageRows(); }
     void resetWhileTheFileDialogIsOpen();
     void resetWhileTheFailureBoxIsOpen_data() { AddPageRows(); }
@@ -88,6 +84,8 @@ void CalibrationFlowTest::readDisablesThePageAndShowsThatItIsBusy()
     CCalibrationSession session(page);
     QVERIFY(session.ShowAndWait());
     QVERIFY(session.IsIdle());
+    const QSize window = session.Window()->size();
+    const QPoint button = session.Find(kRead.button)->mapTo(session.Window(), QPoint(0, 0));
     VondSim_Hold(kReadCall);
     session.Press(kRead.button);
     QVERIFY(!session.IsAnyButtonOn());
@@ -102,6 +100,9 @@ void CalibrationFlowTest::readDisablesThePageAndShowsThatItIsBusy()
     QVERIFY(bar->maximum() > 0);
     QVERIFY(TurnsWhile([] { return true; }) > 20);
     QVERIFY(!session.IsAnyButtonOn());
+    // Nothing moves for the bar.
+    QCOMPARE(session.Window()->size(), window);
+    QCOMPARE(session.Find(kRead.button)->mapTo(session.Window(), QPoint(0, 0)), button);
     VondSim_Release(kReadCall);
     QVERIFY(session.WaitForStatus(kRead.done));
     QVERIFY(session.IsIdle());
@@ -212,6 +213,7 @@ void CalibrationFlowTest::writeBeforeAnyReadSendsNothing()
     session.Press(kWrite.button);
     QVERIFY(WaitUntil([&] { return boxes.Seen().size() == 1; }));
     QCOMPARE(boxes.Seen()[0].title, QString("Write data to target failed"));
+    QVERIFY(boxes.Seen()[0].text.contains("Operation does not execute yet."));
     QCOMPARE(CountCalls(kWriteCall), 0);
 }
 
@@ -310,44 +312,6 @@ void CalibrationFlowTest::secondReadDoesNotDoubleTheAnswers()
     QVERIFY(WaitUntil([&] { return session.busy.size() == 4; }));
     QCoreApplication::processEvents();
     QCOMPARE(session.busy, (QVector<bool>{true, false, true, false}));
-}
-
-void CalibrationFlowTest::tabChangeLeavesAFlowGoing()
-{
-    QFETCH(QString, page);
-    CCalibrationSession session(page);
-    QVERIFY(session.ShowAndWait());
-    const QString title = session.Page()->windowTitle();
-    VondSim_Hold(kReadCall);
-    session.Press(kRead.button);
-    QVERIFY(VondSim_WaitUntilHeld(kReadCall, 20000));
-    QVERIFY(session.ClickTab("Continuous RX"));
-    QVERIFY(session.ClickTab(title));
-    QVERIFY(!session.Selector("band")->isEnabled());
-    QVERIFY(!session.IsAnyButtonOn());
-    VondSim_Release(kReadCall);
-    QVERIFY(session.WaitForStatus(kRead.done));
-    QVERIFY(session.IsIdle());
-    QCOMPARE(session.busy, (QVector<bool>{true, false}));
-}
-
-void CalibrationFlowTest::resetDuringAFlowDropsItsAnswer()
-{
-    QFETCH(QString, page);
-    CCalibrationSession session(page);
-    QVERIFY(session.ShowAndWait());
-    VondSim_Hold(kReadCall);
-    session.Press(kRead.button);
-    QVERIFY(VondSim_WaitUntilHeld(kReadCall, 20000));
-    session->ResetPlugin();
-    QVERIFY(!session.Page());
-    QVERIFY(!session.Window()->statusBar()->findChild<QProgressBar *>());
-    VondSim_Release(kReadCall);
-    QVERIFY(WaitUntil([&] { return session.busy == QVector<bool>{true, false}; }));
-    QVERIFY(session.StatusBar() != kRead.done);
-    session->HidePlugin();
-    QVERIFY(session.ShowAndWait());
-    QVERIFY(session.Run(kRead));
 }
 
 void CalibrationFlowTest::resetWhileTheFileDialogIsOpen()

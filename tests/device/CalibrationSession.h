@@ -53,7 +53,8 @@ constexpr SFlowButton kImport = {"m_btnLoad", "Import data from file successfull
 constexpr SFlowButton kExport = {"m_btnSave", "Export data to file successfully.",
                                  "Export data to file failed"};
 
-// Answers the next file dialog: with a file, as a user who types its path, or by cancelling it.
+// Answers the next file dialog: with a file, as a user who types its path and replaces what is
+// there, or by cancelling it.
 inline void AnswerFileDialog(const QString &file,
                              const std::function<void(QFileDialog *)> &look = {})
 {
@@ -73,6 +74,7 @@ inline void AnswerFileDialog(const QString &file,
             dialog->reject();
             return;
         }
+        dialog->setOption(QFileDialog::DontConfirmOverwrite);
         dialog->findChild<QLineEdit *>("fileNameEdit")->setText(file);
         QMetaObject::invokeMethod(dialog, "accept");
     });
@@ -87,13 +89,19 @@ public:
     {
     }
 
-    // Presses a flow's button and waits for its good end; a file flow gets the file.
+    // Presses a flow's button and waits for its good end; a file flow gets the file. False when it
+    // fails, which the log tells.
     bool Run(const SFlowButton &flow, const QString &file = {})
     {
         if (!file.isEmpty())
             AnswerFileDialog(file);
+        CBoxWatcher boxes;
         Press(flow.button);
-        return WaitUntil([&] { return IsIdle() && StatusBar() == flow.done; });
+        const bool isOver = WaitUntil(
+            [&] { return !boxes.Seen().isEmpty() || (IsIdle() && StatusBar() == flow.done); });
+        for (const SSeenBox &box : boxes.Seen())
+            qWarning() << box.title << box.text << box.informative;
+        return isOver && boxes.Seen().isEmpty();
     }
 
     // All four buttons can be pressed, and nothing covers the page.

@@ -6,8 +6,9 @@
 //   EXPECT_TRUE(log.Holds(QtDebugMsg, "nowhere"));
 #pragma once
 
+#include <mutex>
+
 #include <QLoggingCategory>
-#include <QMutex>
 #include <QPair>
 #include <QStringList>
 #include <QVector>
@@ -34,7 +35,7 @@ public:
 
     QStringList Lines(QtMsgType type) const
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         QStringList lines;
         for (const auto &line : m_lines) {
             if (line.first == type)
@@ -55,7 +56,7 @@ private:
             s_current->m_previous(type, context, text);
             return;
         }
-        const QMutexLocker lock(&s_current->m_mutex);
+        const std::lock_guard<std::mutex> lock(s_current->m_mutex);
         s_current->m_lines.append({type, text});
     }
 
@@ -64,6 +65,6 @@ private:
     QLoggingCategory &m_category;
     bool m_wasEnabled;
     QtMessageHandler m_previous = nullptr;
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex;  // one that a thread sanitizer sees
     QVector<QPair<QtMsgType, QString>> m_lines;
 };

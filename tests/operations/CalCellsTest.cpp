@@ -3,6 +3,7 @@
 
 #include <climits>
 #include <clocale>
+#include <random>
 
 #include <gtest/gtest.h>
 
@@ -12,6 +13,13 @@ std::string Text(ECalValue kind, int64_t value, bool lone = false)
 {
     std::string text;
     AppendCalValue(text, kind, value, lone);
+    return text;
+}
+
+std::string Text(ECalValue kind, const CCalCells &cells)
+{
+    std::string text;
+    cells.AppendTo(text, kind);
     return text;
 }
 
@@ -26,15 +34,15 @@ int64_t Value(ECalValue kind, const char *text)
 std::vector<int16_t> DbList(const char *text)
 {
     std::vector<int16_t> values = {7, 7, 7, 7, 7};
-    EXPECT_EQ(ReadCells(ECalValue::Db, text, 5, [&](int i) { return CCalCell(values[i]); }),
-              nullptr);
+    const CCalCells cells(values[0], values.size(), sizeof values[0]);
+    EXPECT_EQ(cells.Read(text, ECalValue::Db), nullptr);
     return values;
 }
 
 std::string VoltFailure(const char *text)
 {
     uint8_t value = 9;
-    const char *failure = ReadCells(ECalValue::Volt, text, 1, [&](int) { return CCalCell(value); });
+    const char *failure = CCalCells(value).Read(text, ECalValue::Volt);
     return failure ? failure : "";
 }
 
@@ -86,11 +94,54 @@ TEST(CalCells, DbAreTruncatedTowardsZero)
 TEST(CalCells, ListIsJoinedByCommasWithoutBlanks)
 {
     int16_t values[] = {0, -1, 976};
-    EXPECT_EQ(CellsText(ECalValue::Db, 3, [&](int i) { return CCalCell(values[i]); }),
-              "0.00000,-0.03125,30.50000");
+    EXPECT_EQ(Text(ECalValue::Db, CCalCells(values)), "0.00000,-0.03125,30.50000");
     uint32_t frequencies[] = {0, UINT32_MAX};
-    EXPECT_EQ(CellsText(ECalValue::Number, 2, [&](int i) { return CCalCell(frequencies[i]); }),
-              "0,4294967295");
+    EXPECT_EQ(Text(ECalValue::Number, CCalCells(frequencies)), "0,4294967295");
+}
+
+TEST(CalCells, LoneFieldHasTheFormOfALoneValue)
+{
+    int16_t value = -16;
+    EXPECT_EQ(Text(ECalValue::Db, CCalCells(value)), "-0.500000");
+}
+
+TEST(CalCells, ListOfAFieldOfEachElementSkipsTheOthers)
+{
+    struct SLevel
+    {
+        uint8_t mode;
+        int16_t gain;
+    };
+    SLevel levels[] = {{1, 32}, {2, 64}, {3, 96}};
+    const CCalCells gains(levels, &SLevel::gain);
+    EXPECT_EQ(Text(ECalValue::Db, gains), "1.00000,2.00000,3.00000");
+    EXPECT_EQ(gains.Read("-1,-2,-3", ECalValue::Db), nullptr);
+    EXPECT_EQ(levels[2].gain, -96);
+    EXPECT_EQ(levels[2].mode, 3);
+}
+
+TEST(CalCells, DbOfPlainNotationIsThatOfADouble)
+{
+    std::mt19937 random(31);
+    for (int round = 0; round < 200000; ++round) {
+        const int decimals = 4 + static_cast<int>(random() % 3);
+        const double value = static_cast<int>(random() % 2048001) / 1000.0 - 1024;
+        char text[32];
+        std::snprintf(text, sizeof text, "%.*f", decimals, value + random() % 100 / 1e6);
+        int16_t units[] = {7, 7};
+        ASSERT_EQ(CCalCells(units).Read(std::string(text) + ",0.50000", ECalValue::Db), nullptr);
+        ASSERT_EQ(units[0], static_cast<int16_t>(std::strtod(text, nullptr) * 32)) << text;
+        ASSERT_EQ(units[1], 16);
+    }
+}
+
+TEST(CalCells, PlainNotationThatIsSpoiltIsReadLikeAnyOther)
+{
+    EXPECT_EQ(DbList("1.00000x,1.0000x,-.50000,12345678.00000,-"), (Values{32, 32, -16, 32767, 0}));
+    EXPECT_EQ(DbList("1.00000,"), (Values{32, 0, 0, 0, 0}));
+    EXPECT_EQ(DbList("-1.0000"), (Values{-32, 0, 0, 0, 0}));
+    EXPECT_EQ(DbList("1.00000 ,+2.00000,--1.00000,1.000000,99999999999999999999.00000"),
+              (Values{32, 64, 0, 32, 32767}));
 }
 
 TEST(CalCells, ShortListLeavesTheTailZero)
@@ -150,8 +201,7 @@ TEST(CalCells, FailedVoltageIsToldInItsWords)
 TEST(CalCells, VoltagesWithoutTextAreZeroAndNoFailure)
 {
     uint8_t values[] = {9, 9};
-    EXPECT_EQ(ReadCells(ECalValue::Volt, "3.4V", 2, [&](int i) { return CCalCell(values[i]); }),
-              nullptr);
+    EXPECT_EQ(CCalCells(values).Read("3.4V", ECalValue::Volt), nullptr);
     EXPECT_EQ(values[0], 34);
     EXPECT_EQ(values[1], 0);
 }

@@ -126,6 +126,41 @@ TEST_F(CalDownloadTest, HundredThirtySixBlocksGoInTwoRoundsSplitAtARoute)
     EXPECT_EQ(first, 132);
 }
 
+TEST_F(CalDownloadTest, HundredThirtyFiveBlocksGoInOneRound)
+{
+    // 39 records of 3 blocks, 18 of them with one more.
+    PlugHandsetWith(R"("calibration": {"txSubbands": {"default": 48, "n41": 64, "n79": 64,
+                                                      "n5": 64, "n28": 64}})");
+    ASSERT_EQ(m_apt.UploadFromFlash(), 0u);
+    ASSERT_EQ(m_apt.DownloadToFlash(), 0u);
+    const auto requests = Requests();
+    ASSERT_EQ(requests.size(), 1u);
+    ASSERT_EQ(requests[0].txCount, 39);
+    int blocks = 0;
+    for (int i = 0; i < 39; ++i)
+        blocks += requests[0].tx[i].blockCount;
+    EXPECT_EQ(blocks, 135);
+    EXPECT_NE(requests[0].txBlock[134].band, 0);
+}
+
+TEST_F(CalDownloadTest, FiftyFiveType1BlocksGoInOneRound)
+{
+    // 17 routes of 3 blocks, 4 of them with one more.
+    PlugHandsetWith(R"("calibration": {"rxType1Subbands": {"default": 48, "n1": 64, "n3": 64},
+                                       "rxType2Subbands": {"default": 0}})");
+    ASSERT_EQ(m_pathLoss.UploadFromFlash(), 0u);
+    ASSERT_EQ(m_pathLoss.DownloadToFlash(), 0u);
+    EXPECT_EQ(CountCalls(kGetCalData), 1);
+    const auto requests = Requests();
+    ASSERT_EQ(requests.size(), 1u);
+    ASSERT_EQ(requests[0].type1Count, 17);
+    int blocks = 0;
+    for (int i = 0; i < 17; ++i)
+        blocks += requests[0].type1[i].blockCount;
+    EXPECT_EQ(blocks, 55);
+    EXPECT_NE(requests[0].type1Block[54].band, 0);
+}
+
 TEST_F(CalDownloadTest, FourType2BlocksOverTwoRoutesGoInTwoRounds)
 {
     PlugHandsetWith(R"("calibration": {"rxType1Subbands": {"default": 0},
@@ -291,6 +326,29 @@ TEST_F(CalDownloadTest, BlockCountOfAStoredRecordIsHeldToItsRoom)
     EXPECT_EQ(m_apt.GetAptCalibrationData(1, 0)->blockCount, 4u);
     EXPECT_FALSE(m_apt.SetAptCalibrationData(1, 4, record));
     EXPECT_EQ(m_apt.GetAptCalibrationData(1, 4), nullptr);
+}
+
+TEST_F(CalDownloadTest, RouteNumbersAbove100HaveRecordsOfTheirOwn)
+{
+    AnswerBytes(kRouteConfig, 458, "ffff");   // the first TX route
+    AnswerBytes(kRouteConfig, 2858, "6500");  // the first type 1 route: 101, as of type 2
+    CTargetCapability::Reset();
+    ASSERT_EQ(LoadText(m_apt, "[NR n1 BW0 TPC]\nTemperature Index = 5\n"), kDone);
+    ASSERT_EQ(LoadText(m_pathLoss, BareFile(ECalRoute::Type1) + BareFile(ECalRoute::Type2)), kDone);
+    EXPECT_EQ(m_apt.GetAptCalibrationData(65535, 0)->normalTempIndex, 5);
+    SType1 type1 = *m_pathLoss.GetPathLossCalibrationData<SType1>(101);
+    EXPECT_EQ(type1.route, 101);
+    type1.plOffset[0] = 7;
+    m_pathLoss.SetPathLossCalibrationData(101, type1);
+    EXPECT_EQ(m_pathLoss.GetPathLossCalibrationData<SType2>(101)->plOffset[0], 0);
+    m_apt.DownloadToFlash();  // the DUT knows no such routes: what it is sent is what counts
+    m_pathLoss.DownloadToFlash();
+    const auto requests = Requests();
+    ASSERT_EQ(requests.size(), 2u);
+    EXPECT_EQ(requests[0].tx[0].route, 65535);
+    EXPECT_EQ(requests[0].txBlock[0].normalTempIndex, 5);
+    EXPECT_EQ(requests[1].type1[0].route, 101);
+    EXPECT_EQ(requests[1].type1Block[0].plOffset[0], 7);
 }
 
 TEST_F(CalDownloadTest, MissingRouteTableEndsTheDownload)

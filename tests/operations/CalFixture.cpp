@@ -7,6 +7,7 @@
 
 #include "Operations/PathLossGains.h"
 #include "Support/CalIniFile.h"
+#include "tests/common/CalProfile.h"
 
 namespace {
 
@@ -114,14 +115,7 @@ QByteArray CCalTest::SaveBytes(ICalItemByL1Operation &item)
 
 void PlugLargest()
 {
-    const char *const profile = R"({"name": "largest with slots", "base": "largest", "gain": {
-        "hpm": {"t1": ["110", "010", "010", "010", "001", "001", "001"],
-                "t2": ["110 110 000", "111 111 110", "110 111 011", "110 110 000", "000 011 011",
-                       "000 010 000", "000 000 001"]},
-        "lpm": {"t1": ["100", "110", "110", "100", "010", "000", "001"],
-                "t2": ["100 000 000", "110 110 000", "100 110 000", "100 000 000", "000 010 000",
-                       "000 000 000", "000 000 001"]}}})";
-    ASSERT_EQ(VondSim_SetProfileText(profile), 0);
+    ASSERT_EQ(VondSim_SetProfileText(kLargestCalProfile), 0);
     CTargetCapability::Reset();
     VondSim_ClearJournal();
 }

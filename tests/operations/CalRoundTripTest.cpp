@@ -174,6 +174,14 @@ TEST_F(CalRoundTripTest, ExtremesInFlashComeBackThroughAFile)
     CheckWayThroughAFile<CMultiRatPathLossV7>();
 }
 
+TEST_F(CalRoundTripTest, ExtremesInTheLargestsFlashComeBackThroughAFile)
+{
+    PlugLargest();
+    FillFlashWithExtremes(12);
+    CheckWayThroughAFile<CMultiRatAptProfileV7>();
+    CheckWayThroughAFile<CMultiRatPathLossV7>();
+}
+
 TEST_F(CalRoundTripTest, RandomAptImagesGoInTheFewestRounds)
 {
     PlugLargest();

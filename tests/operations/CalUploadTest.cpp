@@ -220,10 +220,13 @@ TEST_F(CalUploadTest, TextThatFillsItsRoomEndsThere)
 
 TEST_F(CalUploadTest, ResultElevenIsAcceptedAndThenTheLibrarysFailure)
 {
+    const LogCapture log(lcCalibration());
     Fault(kGetCalData, 11);
     EXPECT_EQ(m_apt.UploadFromFlash(), 3u);
     EXPECT_EQ(m_apt.GetErrorMessage(), VondErrorText(11));
     EXPECT_FALSE(m_apt.HasData());
+    EXPECT_TRUE(log.Holds(QtDebugMsg, "-----> receive from target..."));
+    EXPECT_FALSE(log.Holds(QtDebugMsg, "-----> receive from target failed"));
 }
 
 TEST_F(CalUploadTest, AcceptedStatusWithAFailingResultIsTheLibrarysFailure)
@@ -279,10 +282,15 @@ TEST_F(CalUploadTest, RecordWithMoreBlocksThanItHoldsStaysInvalid)
 TEST_F(CalUploadTest, AnswerThatNamesAnotherRouteFillsNoRecord)
 {
     const LogCapture log(lcCalibration());
+    CMultiRatAptProfileV7 whole(ERadioKind::Nr);
+    ASSERT_EQ(whole.UploadFromFlash(), 0u);
     AnswerBytes(kGetCalData, 462, "ff7f");  // route of the first TX entry
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_TRUE(log.Holds(QtDebugMsg, "Can not get the bwIdx for route 32767"));
     EXPECT_FALSE(ValidSections(m_apt).contains("NR n1 BW0 TPC"));
+    EXPECT_EQ(BytesOf(*m_apt.GetAptCalibrationData(1, 1)),
+              BytesOf(*whole.GetAptCalibrationData(1, 1)))
+        << "the next record has blocks that are not its own";
 }
 
 TEST_F(CalUploadTest, AnswerWithFewerBlocksThanAskedForLeavesTheRecordInvalid)
@@ -361,6 +369,7 @@ TEST_F(CalUploadTest, LogFollowsTheBlocks)
          {"add to upload: current route 1 bw20000", "add for upload: T1 current route 1",
           "add for upload: T2 current route 101", " start upload....",
           "-----> receive from target...", "[T1][confirm] data info: route = 1, blkNum = ",
-          "         [confirm]blk_data_idx = 0", "UploadFromFlashInternal reset currblkIdx "})
+          "         [request] current blk data idx = 0", "         [confirm]blk_data_idx = 0",
+          "UploadFromFlashInternal reset currblkIdx "})
         EXPECT_TRUE(log.Holds(QtDebugMsg, line)) << line;
 }

@@ -155,6 +155,20 @@ TEST_F(PathLossFileTest, EverySupportedGainHasItsType2Keys)
     EXPECT_FALSE(keys.count("RX srx path0 gbg loss for hpm G6,g0,g0"));
 }
 
+TEST_F(PathLossFileTest, GainsThatRunTogetherAloneHaveAKeyOnEachPathAndNeedNone)
+{
+    SMMRfRxGainInfoV7 gains = {};
+    gains.t2[3][0][2] = 1;  // G3: path 0 at g0 while path 1 is at g2
+    std::vector<SGainKey> keys;
+    ASSERT_TRUE(AppendType2Keys(gains, EPowerMode::Hpm, keys));
+    ASSERT_EQ(keys.size(), 2u);
+    EXPECT_EQ(keys[0].key, "RX srx path0 gbg loss for hpm G3,g0,g2");
+    EXPECT_EQ(keys[0].pair[0], 16 + 3 * (3 * 3 + 0) + 2);
+    EXPECT_EQ(keys[1].key, "RX srx path1 gbg loss for hpm G3,g2,g0");
+    EXPECT_EQ(keys[1].pair[1], 142 + 16 + 3 * (21 + 3 * 3 + 2) + 0);
+    EXPECT_FALSE(keys[0].required || keys[1].required);
+}
+
 TEST_F(PathLossFileTest, EveryValueComesBackAtTheExtremesOfItsType)
 {
     const SMMRfRouteTableV7 &table = *m_target.GetRouteTableNr();

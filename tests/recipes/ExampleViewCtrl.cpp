@@ -1,13 +1,12 @@
 #include "tests/recipes/ExampleViewCtrl.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QPointer>
-#include <QtConcurrent>
 
 #include "Model/JsonPath.h"
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
+#include "Support/Threads.h"
 #include "tests/recipes/ExamplePdValue.h"
 
 namespace {
@@ -24,14 +23,11 @@ struct SExampleAnswer
 template <typename Job, typename Done>
 void RunOnPool(CExampleViewCtrl *ctrl, Job job, Done done)
 {
-    QtConcurrent::run([job, done, self = QPointer<CExampleViewCtrl>(ctrl)] {
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [self, done, answer = job()] {
-                if (self)
-                    done(*self, answer);
-            },
-            Qt::QueuedConnection);
+    StartOnPool([job, done, self = QPointer<CExampleViewCtrl>(ctrl)] {
+        PostToGui([self, done, answer = job()] {
+            if (self)
+                done(*self, answer);
+        });
     });
 }
 

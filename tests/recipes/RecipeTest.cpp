@@ -7,6 +7,7 @@
 #include "Vond/VondCore.h"
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/GoodCommands.h"
+#include "tests/common/PoolJobs.h"
 #include "tests/common/SimJournal.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/recipes/ExamplePageTypes.h"
@@ -32,7 +33,7 @@ public:
         SetTargetHandle(kHandle);
         m_form.show();
         m_form.Slot_GetInitPageListDone({"CNrExampleDockWidgetV7"});
-        QThreadPool::globalInstance()->waitForDone();
+        EndPoolJobs();
         VondSim_ClearJournal();
     }
 

@@ -138,6 +138,22 @@ TEST_F(ProfileTest, ListedFunctionsAloneAreOffered)
               "Target: function is not offered");
 }
 
+TEST_F(ProfileTest, GeneratedLimitsOfANarrowBandStayWithinIt)
+{
+    const char *const profile = R"({"name": "narrow", "base": "largest",
+        "bands": [{"band": 900, "uplink": [800000, 801000], "downlink": [810000, 810002]}],
+        "generate": {"txRoutes": 1, "bwRegionsKhz": [20000], "rxType1Routes": 1,
+                     "rxType2Routes": 0, "pairedTxRoutes": 0, "freqLimits": 1}})";
+    ASSERT_EQ(VondSim_SetProfileText(profile), 0);
+    const auto config = std::make_unique<SMMRfRouteConfigV7>();
+    const uint32_t nr = 1;
+    ASSERT_EQ(VOND_MMRf_GetRouteConfigV7_r(HANDLE, TIMEOUT_MS, &nr, config.get()), 0);
+    EXPECT_EQ(config->freqRange.tx.low[0], 800250);
+    EXPECT_EQ(config->freqRange.tx.high[0], 800750);
+    EXPECT_EQ(config->freqRange.rx.low[0], 810000);
+    EXPECT_EQ(config->freqRange.rx.high[0], 810002);
+}
+
 TEST_F(ProfileTest, EveryProfilesOwnFaultIsInForceUntilAnotherProfileComes)
 {
     const std::string text =

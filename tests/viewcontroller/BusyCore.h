@@ -8,15 +8,15 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QThreadPool>
-#include <QtConcurrent>
 
 #include "Controller/NrCore.h"
 #include "Simulator/VondSim.h"
+#include "Support/Threads.h"
+#include "tests/common/PoolJobs.h"
 
 inline void EndJobs()
 {
-    QThreadPool::globalInstance()->waitForDone();
+    EndPoolJobs();
 }
 
 // Lets all jobs end and their answers arrive.
@@ -34,7 +34,7 @@ public:
     CBusyCore()
     {
         VondSim_Hold(kHeld);
-        QtConcurrent::run([] { GetCore().ResetMixRxCounter(); });
+        StartOnPool([] { GetCore().ResetMixRxCounter(); });
         VondSim_WaitUntilHeld(kHeld, 20000);  // ends a broken test; never waited for in a good one
     }
     ~CBusyCore() { VondSim_Release(kHeld); }

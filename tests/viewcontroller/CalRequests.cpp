@@ -2,9 +2,9 @@
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QThreadPool>
 
 #include "Support/CalIniFile.h"
+#include "tests/common/PoolJobs.h"
 
 namespace {
 
@@ -64,7 +64,7 @@ QStringList Answer(CNrCore &core, const SItem &item, const SFlow &flow, const st
         (core.*item.set)(document);
     const QSignalSpy done(&core, flow.done);
     flow.start(core, {item.name});
-    QThreadPool::globalInstance()->waitForDone();
+    EndPoolJobs();
     const Result result = done.value(0).value(1).value<Results>().value(0);
     QVariantList words{QVariant::fromValue(result)};
     if (flow.answersDocument)

@@ -1,8 +1,8 @@
 #include "tests/viewcontroller/Requests.h"
 
 #include <QSignalSpy>
-#include <QThreadPool>
 
+#include "tests/common/PoolJobs.h"
 #include "tests/viewcontroller/CalRequests.h"
 
 namespace {
@@ -38,7 +38,7 @@ QStringList WordsOf(const Answers &...answers)
 // What a signal of the core carries when the job behind it has ended.
 QStringList Awaited(const QSignalSpy &done)
 {
-    QThreadPool::globalInstance()->waitForDone();
+    EndPoolJobs();
     return done.size() == 1 ? Words(done[0]) : QStringList("no answer");
 }
 

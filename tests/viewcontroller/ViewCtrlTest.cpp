@@ -23,6 +23,7 @@ private slots:
     void init();
     void eachPageGetsItsOwnAnswerWhenAllAskAtOnce();
     void answerOfAnotherPagesTestIsNotTaken();
+    void answerGivenBeforeTheQuestionIsNotTaken();
     void resetReturnsWhileTheTargetIsAtWork();
     void idleIsReportedOnlyWhenTheTargetIsIdle();
     void idleOfADestroyedControllerIsNotReported();
@@ -87,6 +88,24 @@ void ViewCtrlTest::answerOfAnotherPagesTestIsNotTaken()
     Settle();
     QCOMPARE(spies.Fired().size(), 1);
     QVERIFY(spies.Fired()[0].arguments[0].startsWith("Continuous RX|"));
+}
+
+// The answer of another's stop waits for the event loop when this one asks.
+void ViewCtrlTest::answerGivenBeforeTheQuestionIsNotTaken()
+{
+    CQuorlinViewCtrl earlier, ctrl;
+    const CSignalSpies spies(ctrl), spiesOfEarlier(earlier);
+    earlier.NrTestStop();
+    EndJobs();
+    {
+        const CBusyCore busy;
+        ctrl.NrTestStop();
+        QCoreApplication::processEvents();
+        QCOMPARE(spiesOfEarlier.Fired().size(), 1);
+        QCOMPARE(spies.Fired().size(), 0);
+    }
+    Settle();
+    QCOMPARE(spies.Fired().size(), 1);
 }
 
 void ViewCtrlTest::resetReturnsWhileTheTargetIsAtWork()

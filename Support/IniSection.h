@@ -1,0 +1,58 @@
+#pragma once
+
+// A section of an INI file as a whole: its keys and their values, in the order of the file, for
+// CCalIniFile::WriteSection and as ReadSection gives it.
+//
+// A value is written to the end of the text that Key gives, with nothing else done to that text, so
+// that a long list is put together in its place. The keys of a section differ, in more than the
+// case of ASCII letters; what a name, a key and a value may hold stands at CCalIniFile. UTF-8.
+//
+// No lock inside: one thread at a time.
+//
+//     CIniSection section("NR n78 BW0 TPC");
+//     section.Key("Route") += std::to_string(7);
+//     file.WriteSection(std::move(section));
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+class CIniSection
+{
+public:
+    struct SLine
+    {
+        std::string_view key;
+        std::string_view value;
+    };
+
+    explicit CIniSection(const std::string &name);
+
+    // Begins a key. Its value goes to the end of this text, before the next call here.
+    std::string &Key(std::string_view key);
+
+    // The value of a key, as long as the section lives; false when there is none. Quickest for keys
+    // that come in the order of the section.
+    bool Find(std::string_view key, std::string_view &value) const;
+
+    const std::string &Name() const { return m_name; }
+    bool IsEmpty() const { return m_places.empty(); }
+    SLine Line(size_t index) const;
+    std::vector<SLine> Lines() const;
+    // Name and lines hold printable ASCII alone.
+    bool IsPlain() const;
+    // The section as it stands in a file; it has no lines any more.
+    std::string TakeText();
+
+private:
+    struct SPlace
+    {
+        size_t key;    // where it begins
+        size_t value;  // likewise, behind the " = "
+    };
+
+    std::string m_name;
+    std::string m_text;  // heading and lines, the last one without its line end
+    std::vector<SPlace> m_places;
+    mutable size_t m_next = 0;  // behind the line that was found last
+};

@@ -1,0 +1,40 @@
+#include "ViewController/CoreAnswers.h"
+
+#include <tuple>
+#include <utility>
+
+#include "Controller/NrCore.h"
+#include "Support/Threads.h"
+
+CCoreAnswers &CCoreAnswers::Get()
+{
+    static auto *const answers = new CCoreAnswers;
+    return *answers;
+}
+
+CCoreAnswers::CCoreAnswers()
+{
+    using Cal = IRfCoreCalDataOperation;
+    PassOn(&CNrCore::Signal_TestDone, &CCoreAnswers::Signal_TestDone);
+    PassOn(&CNrCore::Signal_TestStopDone, &CCoreAnswers::Signal_TestStopDone);
+    PassOn(&Cal::Signal_UploadFromFlashDone, &CCoreAnswers::Signal_UploadFromFlashDone);
+    PassOn(&Cal::Signal_DownloadToFlashDone, &CCoreAnswers::Signal_DownloadToFlashDone);
+    PassOn(&Cal::Signal_SaveToFileDone, &CCoreAnswers::Signal_SaveToFileDone);
+    PassOn(&Cal::Signal_LoadFromFileDone, &CCoreAnswers::Signal_LoadFromFileDone);
+    PassOn(&Cal::Signal_CalProgress, &CCoreAnswers::Signal_CalProgress);
+}
+
+// The connection is never taken down, so that no pool thread meets it half gone.
+template <typename Core, typename... Answers>
+void CCoreAnswers::PassOn(void (Core::*signal)(Answers...), void (CCoreAnswers::*own)(Answers...))
+{
+    const auto post = [this, own](const Answers &...answers) {
+        PostToGui([this, own, given = ++m_count, answers = std::make_tuple(answers...)] {
+            const quint64 outer =
+                std::exchange(m_given, given);  // of an event loop around this one
+            std::apply([&](const Answers &...each) { emit(this->*own)(each...); }, answers);
+            m_given = outer;
+        });
+    };
+    connect(static_cast<Core *>(&GetCore()), signal, this, post, Qt::DirectConnection);
+}

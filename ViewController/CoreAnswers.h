@@ -1,0 +1,56 @@
+// The answers that the core signals on its pool threads, as signals of the same names on the GUI
+// thread.
+//
+// For the sources of CQuorlinViewCtrl alone. One object for the process, made with the first
+// request and never destroyed, as the core is not. GUI thread.
+//
+// An answer is signalled to all who are connected when the GUI thread comes to it, which may be
+// later than a question that it is no answer to. Now() and Given() tell: what was given up to the
+// moment of the question is not for the asker.
+//
+//   connect(&answers, &CCoreAnswers::Signal_TestStopDone, this, [this, asked = answers.Now()] {
+//       if (CCoreAnswers::Get().Given() > asked) ...
+//   });
+#pragma once
+
+#include <atomic>
+#include <string>
+
+#include <QObject>
+#include <QString>
+#include <QVector>
+
+#include "Model/OperationResult.h"
+
+class CNrCore;
+
+class CCoreAnswers : public QObject
+{
+    Q_OBJECT
+
+public:
+    static CCoreAnswers &Get();
+
+    quint64 Now() const { return m_count.load(); }
+    // Of the answer that is being signalled.
+    quint64 Given() const { return m_given; }
+
+signals:
+    void Signal_TestDone(SEachItemOperationResult itemResult, std::string resultModel);
+    void Signal_TestStopDone(SEachItemOperationResult itemResult);
+    void Signal_UploadFromFlashDone(bool isAllSuccess,
+                                    QVector<SEachItemOperationResult> itemResult);
+    void Signal_DownloadToFlashDone(bool isAllSuccess,
+                                    QVector<SEachItemOperationResult> itemResult);
+    void Signal_SaveToFileDone(bool isAllSuccess, QVector<SEachItemOperationResult> itemResult);
+    void Signal_LoadFromFileDone(bool isAllSuccess, QVector<SEachItemOperationResult> itemResult);
+    void Signal_CalProgress(QString item, int round, int routesDone, int routesInAll);
+
+private:
+    CCoreAnswers();
+    template <typename Core, typename... Answers>
+    void PassOn(void (Core::*signal)(Answers...), void (CCoreAnswers::*own)(Answers...));
+
+    std::atomic<quint64> m_count{0};  // answers given so far
+    quint64 m_given = 0;
+};

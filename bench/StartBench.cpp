@@ -1,0 +1,255 @@
+// From ShowPlugin to "Init done." with all pages, beside the nine bare forms shown one after
+// another and each patched document's text there and back; one start of a test, from the click to
+// the status line, beside an empty job through the pool.
+#include <QApplication>
+#include <QLoggingCategory>
+#include <QMainWindow>
+#include <QStatusBar>
+#include <QThreadPool>
+#include <QtConcurrent>
+#include <benchmark/benchmark.h>
+
+#include "Controller/NrDataModelCapUpdater.h"
+#include "Controller/PageTable.h"
+#include "Model/ModelResources.h"
+#include "Model/ModelText.h"
+#include "PluginInterface/QuorlinPluginInterface.h"
+#include "Simulator/VondSim.h"
+#include "View/Rx/NrContRxDockWidgetV7.h"
+#include "View/Rx/NrRsrpForceDockWidgetV7.h"
+#include "View/Rx/NrRsrpNormalDockWidgetV7.h"
+#include "View/Rx/NrRssiDockWidgetV7.h"
+#include "View/Rx/NrRxPathlossDockWidgetV7.h"
+#include "View/Tx/NrAptProfileDockWidgetV7.h"
+#include "View/Tx/NrPuschTxForcedDockWidgetV7.h"
+#include "View/Tx/NrPuschTxNormalDockWidgetV7.h"
+#include "View/Tx/NrSingleToneTxDockWidgetV7.h"
+#include "bench/BenchMain.h"
+
+namespace {
+
+constexpr const char *kProfiles[] = {"handset", "largest"};
+
+constexpr EPageId kPages[] = {EPageId::Rssi,       EPageId::RxPathLoss,   EPageId::ContRx,
+                              EPageId::RsrpForce,  EPageId::RsrpNormal,   EPageId::SingleToneTx,
+                              EPageId::AptProfile, EPageId::PuschTxForce, EPageId::PuschTxNormal};
+
+template <typename Condition>
+void Wait(Condition condition)
+{
+    while (!condition())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+// As a main window's event loop between two slots.
+void HandleEvents()
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+// The plug-in as a host holds it, on a DUT that answers at once.
+class CTool
+{
+public:
+    explicit CTool(const char *profile)
+    {
+        VondSim_Reset();
+        VondSim_SetProfile(profile);
+        m_plugin.ResetPlugin();
+    }
+    ~CTool()
+    {
+        m_plugin.HidePlugin();
+        QThreadPool::globalInstance()->waitForDone();
+        HandleEvents();
+    }
+
+    void Show()
+    {
+        m_plugin.ShowPlugin();
+        Wait([this] { return Window()->isEnabled() && Status() == "Init done."; });
+    }
+    QMainWindow *Window() const
+    {
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            if (widget->objectName() == "CQuorlinForm")
+                return static_cast<QMainWindow *>(widget);
+        }
+        return nullptr;
+    }
+    QString Status() const { return Window()->statusBar()->currentMessage(); }
+
+private:
+    QuorlinPluginInterface m_plugin;
+};
+
+// The window and its making are the host's load of the plug-in; what a user waits for begins at the
+// show.
+void Start(benchmark::State &state)
+{
+    for (auto _ : state) {
+        state.PauseTiming();
+        {
+            CTool tool(kProfiles[state.range(0)]);
+            state.ResumeTiming();
+            tool.Show();
+            state.PauseTiming();
+        }
+        state.ResumeTiming();
+    }
+    state.SetLabel(kProfiles[state.range(0)]);
+}
+BENCHMARK(Start)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+// A page that asks for no document.
+template <typename Page>
+class CBare : public Page
+{
+public:
+    explicit CBare(QWidget *parent) : Page(parent) {}
+    void RequestDataModel() override {}
+};
+
+template <typename... Pages>
+void ShowBareForms(QMainWindow &window)
+{
+    QDockWidget *first = nullptr;
+    const auto show = [&](QDockWidget *page) {
+        window.addDockWidget(Qt::TopDockWidgetArea, page);
+        HandleEvents();
+        if (first)
+            window.tabifyDockWidget(first, page);
+        else
+            first = page;
+    };
+    (show(new CBare<Pages>(&window)), ...);
+    first->raise();
+    HandleEvents();
+}
+
+std::vector<std::string> PatchedTexts(const char *profile)
+{
+    VondSim_Reset();
+    VondSim_SetProfile(profile);
+    CNrDataModelCapUpdater updater;
+    updater.ResetCapabilityCache();
+    std::vector<std::string> texts;
+    for (const EPageId id : kPages) {
+        const SPageRow &page = FindPage(id);
+        QFile file(page.resource);
+        file.open(QIODevice::ReadOnly);
+        QJsonObject document = ModelFromText(file.readAll().toStdString());
+        (updater.*page.driver)(document);
+        texts.push_back(ModelToText(document));
+    }
+    return texts;
+}
+
+void TextsThereAndBack(const std::vector<std::string> &texts)
+{
+    for (const std::string &text : texts)
+        benchmark::DoNotOptimize(ModelToText(ModelFromText(text)));
+}
+
+// The floor of Start: the same nine forms in a window of the same size, and the documents' texts.
+void BareStart(benchmark::State &state)
+{
+    const std::vector<std::string> texts = PatchedTexts(kProfiles[state.range(0)]);
+    QSize size;
+    {
+        const CTool tool("handset");
+        size = tool.Window()->size();
+    }
+    for (auto _ : state) {
+        state.PauseTiming();
+        {
+            QMainWindow window;
+            window.setDockOptions(QMainWindow::AllowTabbedDocks | QMainWindow::ForceTabbedDocks);
+            window.setTabPosition(Qt::TopDockWidgetArea, QTabWidget::North);
+            window.statusBar();
+            window.setFixedSize(size);
+            state.ResumeTiming();
+            window.show();
+            ShowBareForms<CNrRssiDockWidgetV7, CNrRxPathlossDockWidgetV7, CNrContRxDockWidgetV7,
+                          CNrRsrpForceDockWidgetV7, CNrRsrpNormalDockWidgetV7,
+                          CNrSingleToneTxDockWidgetV7, CNrAptProfileDockWidgetV7,
+                          CNrPuschTxForcedDockWidgetV7, CNrPuschTxNormalDockWidgetV7>(window);
+            TextsThereAndBack(texts);
+            state.PauseTiming();
+        }
+        HandleEvents();
+        state.ResumeTiming();
+    }
+    state.SetLabel(kProfiles[state.range(0)]);
+}
+BENCHMARK(BareStart)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+// The part of the floor that is text alone.
+void DocumentTexts(benchmark::State &state)
+{
+    const std::vector<std::string> texts = PatchedTexts(kProfiles[state.range(0)]);
+    for (auto _ : state)
+        TextsThereAndBack(texts);
+    state.SetLabel(kProfiles[state.range(0)]);
+}
+BENCHMARK(DocumentTexts)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+// One start of continuous RX: the click, the document packaged, the pool, the command, the answer,
+// the line in the status bar. The stop between two starts is not measured.
+void StartTurn(benchmark::State &state)
+{
+    CTool tool("handset");
+    tool.Show();
+    auto *page = tool.Window()->findChild<CNrContRxDockWidgetV7 *>();
+    page->raise();
+    auto *start = page->findChild<QPushButton *>("m_start");
+    Wait([&] { return start->isEnabled(); });
+    for (auto _ : state) {
+        start->click();
+        Wait([&] { return tool.Status() == "Cont Rx start..."; });
+        state.PauseTiming();
+        auto *stop = page->findChild<QPushButton *>("m_stop");
+        Wait([&] { return stop->isEnabled(); });
+        stop->click();
+        Wait([&] { return tool.Status() == "Cont Rx stop." && start->isEnabled(); });
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(StartTurn)->Unit(benchmark::kMicrosecond);
+
+// Its floor: a job that does nothing, through the pool and back to the GUI thread, and the page's
+// text there and back once.
+void PoolTurn(benchmark::State &state)
+{
+    const std::string text = PatchedTexts("handset").at(2);
+    QObject home;
+    for (auto _ : state) {
+        bool isBack = false;
+        QtConcurrent::run([&] {
+            benchmark::DoNotOptimize(ModelToText(ModelFromText(text)));
+            QMetaObject::invokeMethod(
+                &home, [&isBack] { isBack = true; }, Qt::QueuedConnection);
+        });
+        Wait([&] { return isBack; });
+    }
+}
+BENCHMARK(PoolTurn)->Unit(benchmark::kMicrosecond);
+
+constexpr SRatio kRatios[] = {
+    {"Start/0", "BareStart/0", 1.3},
+    {"Start/1", "BareStart/1", 1.3},
+    {"StartTurn", "PoolTurn", 0},
+};
+
+}  // namespace
+
+int main(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLoggingCategory::setFilterRules("quorlin.*.debug=false\nquorlin.*.critical=false");
+    QApplication application(argc, argv);
+    InitModelResources();
+    return RunBenchmarks(argc, argv, kRatios, std::size(kRatios));
+}

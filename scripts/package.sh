@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# Makes the Debian package and tries it: lintian, then the demonstration from the unpacked package and
+# from an installed tree that was moved. Fails at the first error.
+#
+#   scripts/package.sh             build/package/quorlin-rf_VERSION_ARCH.deb
+#   scripts/package.sh --install   also installs the package (as root), runs it, and removes it again
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. scripts/setup.sh
+
+install=false
+case "$#:${1:-}" in
+    0:) ;;
+    1:--install) install=true ;;
+    *)
+        echo "usage: scripts/package.sh [--install]" >&2
+        exit 2
+        ;;
+esac
+
+# Of an installed quorlin-host, on a platform that needs no display.
+demo_of() {
+    quorlin_say "Demonstration: $*"
+    QT_QPA_PLATFORM=offscreen "$@" --demo --profile handset
+}
+
+quorlin_need_packages build package
+quorlin_build release QuorlinRf quorlin-host
+
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+
+quorlin_say "Installing a tree, and moving it"
+cmake --install build/release --prefix "$folder/first"
+mv "$folder/first" "$folder/moved"
+demo_of "$folder/moved/bin/quorlin-host"
+
+quorlin_say "Making the package"
+rm -rf build/package
+(cd build/release && cpack -G DEB)
+package=$(echo build/package/*.deb)
+rm -rf build/package/_CPack_Packages
+
+quorlin_say "lintian"
+lintian --fail-on error --tag-display-limit 0 --allow-root "$package"
+echo "No errors."
+
+dpkg-deb --extract "$package" "$folder/unpacked"
+demo_of "$folder/unpacked/usr/bin/quorlin-host"
+
+if $install; then
+    quorlin_say "Installing the package"
+    dpkg --install "$package"
+    trap 'dpkg --remove quorlin-rf; rm -rf "$folder"' EXIT
+    demo_of /usr/bin/quorlin-host
+fi
+quorlin_say "The package is $package"

@@ -1,0 +1,83 @@
+#include "tests/fuzz/wire/CalRequestRules.h"
+
+#include <algorithm>
+
+#include "tests/fuzz/common/FuzzTarget.h"
+
+namespace {
+
+template <typename T>
+bool IsZero(const T &value)
+{
+    const auto *bytes = reinterpret_cast<const uint8_t *>(&value);
+    return std::all_of(bytes, bytes + sizeof value, [](uint8_t byte) { return byte == 0; });
+}
+
+// blocksOf(i): the block count of entry i; isEmpty(i): nothing stands in it.
+template <typename BlocksOf, typename IsEmpty>
+int CheckPart(int count, int limit, const BlocksOf &blocksOf, const IsEmpty &isEmpty)
+{
+    Require(count <= limit, "a round has no more entries than room");
+    int blocks = 0;
+    for (int i = 0; i < limit; ++i) {
+        Require(i < count || isEmpty(i), "behind the entries in use a request is empty");
+        if (i < count) {
+            Require(blocksOf(i) <= VOND_CAL_MAX_BLOCKS, "a route has at most 4 blocks");
+            blocks += blocksOf(i);
+        }
+    }
+    Require(blocks <= limit, "a round has no more blocks than room");
+    return blocks;
+}
+
+template <typename Entry, std::size_t limit>
+int CheckPart(int count, const Entry (&entries)[limit])
+{
+    return CheckPart(
+        count, static_cast<int>(limit), [&](int i) { return entries[i].blockCount; },
+        [&](int i) { return IsZero(entries[i]); });
+}
+
+// What lies behind the blocks in use.
+template <typename Block, std::size_t limit>
+bool IsRestZero(const Block (&blocks)[limit], int used)
+{
+    return std::all_of(blocks + used, blocks + limit,
+                       [](const Block &block) { return IsZero(block); });
+}
+
+}  // namespace
+
+void CheckRequest(const SMMGetCalDataReqV7 &request)
+{
+    Require(request.radioKind == 1, "calibration data is of NR");
+    Require(request.type1Count + request.type2Count + request.txCount > 0,
+            "no round goes out empty");
+    Require(IsZero(request.reserved10), "reserved bytes are 0");
+    CheckPart(request.type1Count, request.type1);
+    CheckPart(request.type2Count, request.type2);
+    CheckPart(request.txCount, request.tx);
+    for (const SMMCalTxRequestEntryV7 &entry : request.tx) {
+        Require(entry.route == entry.routeAgain, "a TX entry names its route twice");
+        Require(IsZero(entry.reserved8) && IsZero(entry.reserved14), "reserved bytes are 0");
+    }
+}
+
+void CheckRequest(const SMMSetCalDataReqV7 &request)
+{
+    Require(request.radioKind == 1, "calibration data is of NR");
+    Require(request.version == VOND_CAL_VERSION, "a download tells its version");
+    Require(request.type1Count + request.type2Count + request.txCount > 0,
+            "no round goes out empty");
+    Require(request.reserved5 == 0 && IsZero(request.reserved238) && IsZero(request.reserved250),
+            "reserved bytes are 0");
+    const int type1 = CheckPart(request.type1Count, request.type1);
+    const int type2 = CheckPart(
+        request.type2Count, VOND_CAL_TYPE2_BLOCKS,
+        [&](int i) { return request.type2BlockCount[i]; },
+        [&](int i) { return request.type2BlockCount[i] == 0 && request.type2Route[i] == 0; });
+    const int tx = CheckPart(request.txCount, request.tx);
+    Require(IsRestZero(request.type1Block, type1) && IsRestZero(request.type2Block, type2) &&
+                IsRestZero(request.txBlock, tx),
+            "behind the blocks in use a request is empty");
+}

@@ -1,0 +1,33 @@
+// Fuzz target of the builders: a page's document with any changes goes through all that make
+// commands and calibration records of it, and any records go through all that write into it.
+//
+// A builder takes what a page has packaged, and a page packages what a target has reported and a
+// user has typed: none of it is sure. Any builder may be given any page's document, since none
+// fails outward. What must hold stands in CommandRules.h and ResponseRules.h.
+#include <QLoggingCategory>
+
+#include "tests/fuzz/common/FuzzTarget.h"
+#include "tests/fuzz/wire/CommandInput.h"
+#include "tests/fuzz/wire/CommandRules.h"
+#include "tests/fuzz/wire/FuzzAnswers.h"
+#include "tests/fuzz/wire/ResponseRules.h"
+
+extern "C" int LLVMFuzzerInitialize(int *, char ***)
+{
+    qunsetenv("QT_LOGGING_RULES");  // they would outrule the next line
+    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+    FuzzAnswers::TakeAll();
+    TakeBaseDocuments();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const CCommandInput input(
+        QByteArray(reinterpret_cast<const char *>(data), static_cast<int>(size)));
+    CheckCommands(input);
+    CheckCalCommands(input);
+    CheckResponses(input);
+    CheckCalResponses(input);
+    return 0;
+}

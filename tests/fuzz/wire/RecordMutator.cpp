@@ -1,0 +1,200 @@
+// New inputs of RecordFuzz: another answer, at places and with numbers that a reader trips over.
+#include <algorithm>
+#include <iterator>
+
+#include "Vond/VondCalRecords.h"
+#include "Vond/VondCapabilityRecords.h"
+#include "tests/fuzz/common/FuzzTarget.h"
+#include "tests/fuzz/common/JsonMutator.h"
+#include "tests/fuzz/wire/FuzzAnswers.h"
+#include "tests/fuzz/wire/FuzzPages.h"
+#include "tests/fuzz/wire/RecordInput.h"
+
+namespace {
+
+constexpr int kMaxChanges = 12;
+constexpr int kMaxTimes = 400;
+constexpr int kMaxBytes = 40;
+
+// Where an answer says how much of it counts, and what.
+struct SPlace
+{
+    const char *function;
+    std::size_t offset;
+};
+constexpr SPlace kPlaces[] = {
+    {"VOND_MMRf_GetRfCapability_r", offsetof(SMMRfCapability, worldMode)},
+    {"VOND_NRf_GetRfCapability_r", offsetof(SNRfCapability, generation)},
+    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, bandCount)},
+    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, band)},
+    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, freqRange.tx)},
+    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, freqRange.rx)},
+    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, routes.txRouteCount)},
+    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, routes.rxType1RouteCount)},
+    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, routes.rxType2RouteCount)},
+    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, routes.txRoute)},
+    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, routes.rxType1Route)},
+    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, routes.rxType2Route)},
+    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, rxGainInfo[0])},
+    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, rxGainInfo[1])},
+    {"VOND_NRf_GetBandRxInfo_r", offsetof(SNRfBandRxInfo, count)},
+    {"VOND_NRf_GetBandRxInfo_r", offsetof(SNRfBandRxInfo, ulMimo)},
+    {"VOND_NRf_GetRxRouteValues_r", offsetof(SNRfRxRouteValues, count)},
+    {"VOND_NRf_GetRxRouteValues_r", offsetof(SNRfRxRouteValues, entry)},
+    {"VOND_MMRf_GetRouteDetailV7_r", offsetof(SMMRfRouteDetailCnfV7, rxType1)},
+    {"VOND_MMRf_GetRouteDetailV7_r", offsetof(SMMRfRouteDetailCnfV7, rxType2)},
+    {"VOND_MMRf_GetRouteDetailV7_r", offsetof(SMMRfRouteDetailCnfV7, txPair)},
+    {"VOND_MMRf_GetCalBlkInfoV7_r", offsetof(SMMCalBlkInfoCnfV7, type1Count)},
+    {"VOND_MMRf_GetCalBlkInfoV7_r", offsetof(SMMCalBlkInfoCnfV7, type1)},
+    {"VOND_MMRf_GetCalBlkInfoV7_r", offsetof(SMMCalBlkInfoCnfV7, type2)},
+    {"VOND_MMRf_GetCalBlkInfoV7_r", offsetof(SMMCalBlkInfoCnfV7, tx)},
+    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, verdict)},
+    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, type1Count)},
+    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, type1)},
+    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, type2BlockCount)},
+    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, type2Route)},
+    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, tx)},
+    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, type1Block)},
+    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, type2Block)},
+    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, txBlock)},
+    {"VOND_MMRf_SetCalDataV7_r", offsetof(SMMSetCalDataCnfV7, status)},
+};
+constexpr int kNear = 48;  // bytes around a place, a few rows
+
+constexpr uint32_t kNumbers[] = {0,   1,   2,   3,    4,     5,     16,    55,         64,
+                                 78,  100, 101, 127,  128,   135,   255,   256,        1000,
+                                 256, 41,  84,  1181, 32767, 32768, 65535, 0x7fffffff, 0xffffffff};
+constexpr int32_t kResults[] = {0, 1, 4, 11, -1, 203};
+
+template <typename Item, size_t count>
+const Item &One(std::mt19937 &random, const Item (&items)[count])
+{
+    return items[FuzzBelow(random, static_cast<int>(count))];
+}
+
+QByteArray NewBytes(std::mt19937 &random)
+{
+    QByteArray bytes;
+    if (FuzzBelow(random, 3) != 0) {
+        const int width = 1 << FuzzBelow(random, 3);
+        const uint32_t number = One(random, kNumbers);
+        for (int i = 0; i < width; ++i)
+            bytes.append(static_cast<char>(number >> (8 * i)));
+        return bytes;
+    }
+    for (int i = 1 + FuzzBelow(random, 16); i > 0; --i)
+        bytes.append(static_cast<char>(random()));
+    return bytes;
+}
+
+SRecordChange NewChange(std::mt19937 &random)
+{
+    SRecordChange change;
+    const std::vector<SFuzzAnswer> &table = FuzzAnswerTable();
+    if (FuzzBelow(random, 10) == 0) {
+        change.function = table[FuzzBelow(random, static_cast<int>(table.size()))].function;
+        change.isResult = true;
+        change.result = One(random, kResults);
+        return change;
+    }
+    if (FuzzBelow(random, 3) != 0) {
+        const SPlace &place = One(random, kPlaces);
+        change.function = place.function;
+        change.offset = static_cast<uint32_t>(place.offset);
+        if (FuzzBelow(random, 2) == 0)
+            change.offset += static_cast<uint32_t>(FuzzBelow(random, kNear));
+    } else {
+        const SFuzzAnswer &answer = table[FuzzBelow(random, static_cast<int>(table.size()))];
+        change.function = answer.function;
+        change.offset = static_cast<uint32_t>(FuzzBelow(random, static_cast<int>(answer.size)));
+    }
+    change.bytes = NewBytes(random);
+    if (FuzzBelow(random, 3) == 0)
+        change.times = static_cast<uint32_t>(1 + FuzzBelow(random, kMaxTimes));
+    return change;
+}
+
+// Few enough for a file, of all three kinds.
+SRecordChange FewRoutes(std::mt19937 &random)
+{
+    SRecordChange change;
+    change.function = "VOND_MMRf_GetRouteConfigV7_r";
+    change.offset = offsetof(SMMRfRouteConfigV7, routes.txRouteCount);
+    for (int most : {4, 3, 1}) {
+        change.bytes.append(static_cast<char>(1 + FuzzBelow(random, most)));
+        change.bytes.append('\0');
+    }
+    return change;
+}
+
+void AlterBytes(QByteArray &bytes, std::mt19937 &random)
+{
+    const int at = FuzzBelow(random, bytes.size());
+    switch (FuzzBelow(random, 3)) {
+    case 0:
+        bytes = (bytes + NewBytes(random)).left(kMaxBytes);
+        break;
+    case 1:
+        bytes.remove(at, 1);
+        break;
+    default:
+        if (!bytes.isEmpty())
+            bytes[at] = static_cast<char>(random());
+    }
+}
+
+void Alter(SRecordChange &change, std::mt19937 &random)
+{
+    if (change.isResult) {
+        change.result = One(random, kResults);
+        return;
+    }
+    switch (FuzzBelow(random, 4)) {
+    case 0:
+        change.offset += static_cast<uint32_t>(FuzzBelow(random, 33) - 16);
+        break;
+    case 1:
+        change.times = static_cast<uint32_t>(1 + FuzzBelow(random, kMaxTimes));
+        break;
+    default:
+        AlterBytes(change.bytes, random);
+    }
+}
+
+}  // namespace
+
+QByteArray MutateFuzzInput(const QByteArray &text, std::mt19937 &random)
+{
+    SRecordInput input = ReadRecordInput(text);
+    auto &changes = input.changes;
+    const int at = FuzzBelow(random, static_cast<int>(changes.size()));
+    switch (FuzzBelow(random, 10)) {
+    case 0:
+        input.page = One(random, kFuzzPages);
+        input.isFiled = FuzzBelow(random, 3) == 0;
+        if (input.isFiled)
+            input.changes.push_back(FewRoutes(random));
+        break;
+    case 1:
+        if (FuzzBelow(random, 3) == 0)
+            input.dut = One(random, FuzzAnswers::kDuts);
+        [[fallthrough]];
+    case 2:
+        if (!changes.empty())
+            changes.erase(changes.begin() + at);
+        break;
+    case 3:
+    case 4:
+    case 5:
+        if (!changes.empty()) {
+            Alter(changes[at], random);
+            break;
+        }
+        [[fallthrough]];
+    default:
+        changes.insert(changes.begin() + at, NewChange(random));
+        if (changes.size() > kMaxChanges)
+            changes.erase(changes.begin() + FuzzBelow(random, kMaxChanges));
+    }
+    return RecordText(input);
+}
