@@ -17,6 +17,25 @@ int ReadColumns(const QJsonObject &properties)
     return qBound(0, columns, kMaxColumns);
 }
 
+// Rows are numbered from 1 on, so a row's place in the list is known from its name.
+bool IsRow(const QJsonArray &instances, const QString &key)
+{
+    const int number = key.toInt();
+    return number >= 1 && number <= instances.size() && instances.at(number - 1).toString() == key;
+}
+
+// Built anew, in the order of its keys: to remove cell by cell would move all that lies behind
+// each.
+QJsonObject WithoutRows(const QJsonObject &member, const QJsonArray &instances)
+{
+    QJsonObject kept;
+    for (auto entry = member.begin(); entry != member.end(); ++entry) {
+        if (!IsRow(instances, entry.key()))
+            kept.insert(entry.key(), entry.value());
+    }
+    return kept;
+}
+
 }  // namespace
 
 STableGroup::STableGroup(const QJsonObject &document, const QString &memberPath)
@@ -59,6 +78,19 @@ QStringList ToStringList(const QJsonArray &array)
     for (const QJsonValue &element : array)
         texts.append(element.toString());
     return texts;
+}
+
+void DropRowCells(QJsonObject &document, const QString &memberPath)
+{
+    const STableGroup table(document, memberPath);
+    QJsonObject properties = table.properties;
+    for (const QString &member : table.members) {
+        const QJsonValue content = table.properties.value(member);
+        if (content.isObject())
+            properties.insert(member, WithoutRows(content.toObject(), table.instances));
+    }
+    if (!table.instances.isEmpty() && !properties.isEmpty())
+        ModifyJsonValue(document, GroupPropertyPath(memberPath), properties, 0);
 }
 
 QTableWidget *AsTable(QWidget *widget, const char *failure)

@@ -35,5 +35,12 @@ struct STableGroup
 QJsonValue ColumnElement(const QJsonArray &array, int column);
 QStringList ToStringList(const QJsonArray &array);
 
+// Takes the cells of a row table's rows out of the document, and leaves the rows in its list, so
+// that the next row gets the next number. For a document whose rows are all on the table: it goes
+// back and forth between threads as text, and cells that nobody reads again would be most of it. A
+// table of such a document is appended to alone: Update would show the missing cells as empty ones.
+// A document without such a group is left as it is.
+void DropRowCells(QJsonObject &document, const QString &memberPath);
+
 // The widget as a table; null, with the failure on the critical log, when it is of another class.
 QTableWidget *AsTable(QWidget *widget, const char *failure);

@@ -13,6 +13,7 @@
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
+#include "View/TableGroup.h"
 
 namespace {
 
@@ -269,16 +270,18 @@ void CNrRsrpDockWidgetV7::OnClearDone(const std::string &response)
 }
 
 // Makes the response the page's document and brings the result tables in line with it: rows that
-// they lack are added, and all go when there are none any more. False when there is no document in
-// it.
+// they lack are added, and all go when there are none any more. From then on the tables alone have
+// the rows' cells. False when there is no document in it.
 bool CNrRsrpDockWidgetV7::AdoptReports(const std::string &response)
 {
     const QJsonObject document = ModelFromText(response);
     if (document.isEmpty())
         return false;
     m_dataModel = document;
-    m_documentText = response;
     AppendWidget(m_dataModel);
+    for (const QTableWidget *table : qAsConst(m_widgets.results))
+        DropRowCells(m_dataModel, PathFromObjectName(table->objectName()));
+    m_documentText = ModelToText(m_dataModel);
     return true;
 }
 

@@ -9,9 +9,11 @@
 //
 // Reports. A tick asks for one report, and is skipped while an answer is on its way: a slow target
 // costs ticks, never rows. The answer is the page's document with the new rows in it; it becomes
-// the document, and the result table gets the rows that it lacks. So a fetch costs the text of the
-// document once each way, and nothing for the rows that are shown already. An answer that comes
-// after Stop still counts. An answer without a document changes nothing.
+// the document, and the result table gets the rows that it lacks. Then the document lets go of
+// their cells and keeps their numbers alone: the table has the texts, and a text of megabytes would
+// have to be read on the GUI thread at each fetch. So a fetch costs next to nothing for the rows
+// that are shown already. An answer that comes after Stop still counts. An answer without a
+// document changes nothing.
 //
 // Clear. Empties document and table and leaves the target alone; Start begins with it. What was
 // asked for before a clear goes with the rows that it clears, so that its answer cannot bring them
@@ -137,7 +139,7 @@ private:
     std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
     QVector<QPair<QWidget *, bool>> m_inputs;  // input groups and buttons, and whether each was on
     QTimer m_reportTimer{this};
-    std::string m_documentText;  // m_dataModel from Start on; a run of days makes it megabytes long
+    std::string m_documentText;  // m_dataModel from Start on
     bool m_isFetching = false;
     bool m_isClearing = false;
     bool m_isResetting = false;
