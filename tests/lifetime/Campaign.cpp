@@ -205,14 +205,13 @@ void CCampaign::Act(const SRound &round)
 
 QString CCampaign::Look(const SRound &round)
 {
-    if (round.action == EAction::Unload) {
-        m_tool.Settle();
-        if (m_tool.Session()->Window())
-            return "the window is still there";
-        m_tool.DropSession();
-        return {};
-    }
     QString failure = m_tool.Settle();
+    if (round.action == EAction::Unload) {
+        if (failure.isEmpty() && m_tool.Session()->Window())
+            failure = "the window is still there";
+        m_tool.DropSession();
+        return failure;
+    }
     if (round.action == EAction::Reset)
         m_tool.Reconnect();
     if (failure.isEmpty() && round.action == EAction::Reset && m_tool.HasPages())

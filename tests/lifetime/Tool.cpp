@@ -155,8 +155,10 @@ void CTool::Reconnect()
 
 void CTool::Unload()
 {
-    if (m_session)
-        m_session->Unload();
+    if (!m_session)
+        return;
+    m_session->Unload();
+    m_session->busy.clear();  // nobody is left to say that it has ended
 }
 
 bool CTool::HasPages() const
