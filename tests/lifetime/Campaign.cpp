@@ -172,7 +172,8 @@ void CCampaign::Launch(const SRound &round)
         QThreadPool::globalInstance()->waitForDone();
     else if (isList && round.moment == EMoment::Held)
         VondSim_WaitUntilHeld(request.function, kLongMs);
-    WaitUntil([this] { return m_hasActed; }, kLongMs);
+    // A show that is still to come would meet the next round.
+    WaitUntil([this] { return m_hasActed && !m_isShowDue; }, kLongMs);
 }
 
 void CCampaign::Act(const SRound &round)
@@ -187,9 +188,13 @@ void CCampaign::Act(const SRound &round)
     case EAction::Hide:
         (*m_tool.Session())->HidePlugin();
         // A hidden window's pages wait for its show, in the window's own event loop.
-        if (round.request->way == EWay::Launch)
-            QTimer::singleShot(round.turns, m_tool.Session(),
-                               [this] { (*m_tool.Session())->ShowPlugin(); });
+        if (round.request->way == EWay::Launch) {
+            m_isShowDue = true;
+            QTimer::singleShot(round.turns, m_tool.Session(), [this] {
+                m_isShowDue = false;
+                (*m_tool.Session())->ShowPlugin();
+            });
+        }
         break;
     case EAction::Unload:
         m_tool.Unload();

@@ -88,6 +88,7 @@ private:
     const uint64_t m_seed;
     const QString m_folder;
     CTool m_tool;
+    bool m_isShowDue = false;  // a hidden window is shown again in a moment
     bool m_hasActed = false;
     bool m_endsProcess = false;
     std::map<std::pair<int, EAction>, STally> m_tallies;  // request, action
