@@ -256,6 +256,9 @@ void CAutoBindingDataModelForm::FinishInit(QMenu *menu, CAutoBindingDataModelDoc
     }
 
     for (CAutoBindingDataModelDockWidget *page : Pages()) {
+        // A page that is tabbed while the window is hidden stays hidden, without a tab.
+        if (page->isHidden())
+            page->show();
         page->setContextMenuPolicy(Qt::CustomContextMenu);
         page->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
         connect(page, &QDockWidget::visibilityChanged, this,

@@ -84,6 +84,8 @@ private slots:
     void unloadWhileTheFailureBoxIsOpen();
     void answerArrivesWhileTheWindowIsHidden();
     void showAfterAHideStopsARunningTestLikeATabChange();
+    void hideAndShowWhileAPageComesInLeavesEachPageReachable_data();
+    void hideAndShowWhileAPageComesInLeavesEachPageReachable();
 };
 
 void LifetimeTest::resetWhileAStartIsInFlightDropsTheAnswer()
@@ -251,6 +253,38 @@ void LifetimeTest::showAfterAHideStopsARunningTestLikeATabChange()
     session->ShowPlugin();
     QVERIFY(session.WaitForStatus("Cont Rx stop."));
     QCOMPARE(QString(VondSim_RunningTest()), QString());
+}
+
+void LifetimeTest::hideAndShowWhileAPageComesInLeavesEachPageReachable_data()
+{
+    QTest::addColumn<QString>("line");
+    for (const char *page : {"RSSI", "RX Pathloss", "RSRP Force Mode", "APT Profile"})
+        QTest::newRow(page) << QString("Start Init: ") + page;
+}
+
+void LifetimeTest::hideAndShowWhileAPageComesInLeavesEachPageReachable()
+{
+    QFETCH(QString, line);
+    CPluginSession session(Type1Profile());
+    QTimer watch;
+    // The page's document arrives while the window is hidden.
+    int hiddenTurns = 0;
+    connect(&watch, &QTimer::timeout, this, [&] {
+        if (hiddenTurns == 0 && session.StatusBar() != line)
+            return;
+        if (++hiddenTurns == 1) {
+            session->HidePlugin();
+        } else if (hiddenTurns > 20 && QThreadPool::globalInstance()->waitForDone(0)) {
+            watch.stop();
+            session->ShowPlugin();
+        }
+    });
+    watch.start(0);
+    session->ShowPlugin();
+    QVERIFY(WaitUntil([&] { return session.StatusBar() == "Init done."; }));
+    QVERIFY(hiddenTurns > 0);
+    for (const QDockWidget *page : session.Window()->findChildren<QDockWidget *>())
+        QVERIFY2(!page->isHidden(), qPrintable(page->windowTitle()));
 }
 
 QTEST_MAIN(LifetimeTest)
