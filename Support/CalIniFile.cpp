@@ -88,8 +88,7 @@ bool Sync(const QSaveFile &file)
 
 std::string InLowerCase(std::string text)
 {
-    for (char &c : text)
-        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    std::transform(text.begin(), text.end(), text.begin(), &LowerAscii);
     return text;
 }
 

@@ -18,14 +18,9 @@ bool IsPrintable(std::string_view text)
     return outside == 0;
 }
 
-char Lower(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 bool IsSameKey(std::string_view a, std::string_view b)
 {
-    const auto isSame = [](char x, char y) { return Lower(x) == Lower(y); };
+    const auto isSame = [](char x, char y) { return LowerAscii(x) == LowerAscii(y); };
     return a == b || (a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), isSame));
 }
 

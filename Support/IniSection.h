@@ -17,6 +17,12 @@
 #include <string_view>
 #include <vector>
 
+// Names and keys are compared without the case of ASCII letters.
+inline char LowerAscii(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
 class CIniSection
 {
 public:

@@ -6,6 +6,7 @@
 //             [](CNrCore &core) { return std::make_tuple(core.ResetMixRxCounter()); });
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <tuple>
 
@@ -56,16 +57,15 @@ void CQuorlinViewCtrl::RunOnPool(const char *internalName,
 }
 
 // The connection lives for one request: made here, taken down in the done slot. What was asked for
-// before a reset is not answered after it.
-template <typename... Answers>
-void CQuorlinViewCtrl::AwaitAnswer(void (CCoreAnswers::*signal)(Answers...),
-                                   void (CQuorlinViewCtrl::*done)(Answers...))
+// before a reset is not answered after it. done: a slot, or what takes this object and the answers.
+template <typename Done, typename... Answers>
+void CQuorlinViewCtrl::AwaitAnswer(void (CCoreAnswers::*signal)(Answers...), Done done)
 {
     CCoreAnswers &core = CCoreAnswers::Get();
     disconnect(&core, signal, this, nullptr);
     connect(&core, signal, this,
             [this, done, epoch = m_epoch, asked = core.Now()](const Answers &...answers) {
                 if (m_epoch == epoch && CCoreAnswers::Get().Given() > asked)
-                    (this->*done)(answers...);
+                    std::invoke(done, this, answers...);
             });
 }

@@ -196,9 +196,8 @@ private:
     void AwaitFlow(const SCalRequest &request);
     void PassFlowAnswer(ECalRequest id, const QVector<SEachItemOperationResult> &itemResult);
 
-    template <typename... Answers>
-    void AwaitAnswer(void (CCoreAnswers::*signal)(Answers...),
-                     void (CQuorlinViewCtrl::*done)(Answers...));
+    template <typename Done, typename... Answers>
+    void AwaitAnswer(void (CCoreAnswers::*signal)(Answers...), Done done);
 
     // Job: CNrCore & -> std::tuple<Answers...>.
     template <typename Job, typename... Answers>

@@ -99,19 +99,15 @@ const CQuorlinViewCtrl::SCalRequest &CQuorlinViewCtrl::CalRequest(ECalRequest id
     return kRequests[static_cast<int>(id)];
 }
 
-// The connections live for one request, as those of a test do. An answer asked for before a reset
-// is not given after it.
 void CQuorlinViewCtrl::AwaitFlow(const SCalRequest &request)
 {
-    CCoreAnswers &core = CCoreAnswers::Get();
     AwaitAnswer(request.flow.coreDone, request.done);
-    disconnect(&core, &CCoreAnswers::Signal_CalProgress, this, nullptr);
-    connect(&core, &CCoreAnswers::Signal_CalProgress, this,
-            [this, name = CalItemName(request.item.id), epoch = m_epoch,
-             asked = core.Now()](const QString &item, int round, int routesDone, int routesInAll) {
-                if (m_epoch == epoch && CCoreAnswers::Get().Given() > asked && item == name)
-                    emit Signal_CalProgress(round, routesDone, routesInAll);
-            });
+    AwaitAnswer(&CCoreAnswers::Signal_CalProgress,
+                [name = CalItemName(request.item.id)](CQuorlinViewCtrl *self, const QString &item,
+                                                      int round, int routesDone, int routesInAll) {
+                    if (item == name)
+                        emit self->Signal_CalProgress(round, routesDone, routesInAll);
+                });
 }
 
 void CQuorlinViewCtrl::RequestFlow(ECalRequest id, std::string document, File file)

@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 
+#include <QLoggingCategory>
 #include <benchmark/benchmark.h>
 
 namespace {
@@ -66,6 +67,13 @@ private:
 };
 
 }  // namespace
+
+void SetUpBench()
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLoggingCategory::setFilterRules("quorlin.*.debug=false\nquorlin.*.critical=false");
+}
 
 int RunBenchmarks(int argc, char **argv, const SRatio *ratios, int count)
 {

@@ -16,4 +16,6 @@ struct SRatio
     double aim;         // not to be exceeded; 0 for none
 };
 
+// First in main: the tool's logs off, and Qt's offscreen platform unless the environment names one.
+void SetUpBench();
 int RunBenchmarks(int argc, char **argv, const SRatio *ratios, int count);

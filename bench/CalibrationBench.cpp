@@ -13,7 +13,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
@@ -302,70 +301,44 @@ void Copy(benchmark::State &state)
     state.SetLabel(std::to_string(from.size() / 1000) + " kB");
 }
 
-#define CAL_BENCH(name, ...)                                                                       \
-    BENCHMARK_TEMPLATE(__VA_ARGS__)->Name(name)->Unit(benchmark::kMicrosecond)
-CAL_BENCH("Export/Apt", Export, Apt);
-CAL_BENCH("ExportOver/Apt", ExportOver, Apt);
-CAL_BENCH("Import/Apt", Import, Apt);
-CAL_BENCH("ExportOnDisk/Apt", Export, Apt, EMedium::Disk);
-CAL_BENCH("SaveIni/Apt", SaveIni, WideIni, Apt);
-CAL_BENCH("SaveByteIni/Apt", SaveIni, ByteIni, Apt);
-CAL_BENCH("LoadIni/Apt", LoadIni, WideIni, Apt);
-CAL_BENCH("LoadByteIni/Apt", LoadIni, ByteIni, Apt);
-CAL_BENCH("Fwrite/Apt", Fwrite, Apt);
-CAL_BENCH("FwriteSafely/Apt", FwriteSafely, Apt);
-CAL_BENCH("Upload/Apt", Upload, Apt);
-CAL_BENCH("UploadCalls/Apt", UploadCalls, Apt);
-CAL_BENCH("Download/Apt", Download, Apt);
-CAL_BENCH("DownloadCalls/Apt", DownloadCalls, Apt);
-CAL_BENCH("Copy/Apt", Copy, Apt);
-CAL_BENCH("Export/PathLoss", Export, PathLoss);
-CAL_BENCH("ExportOver/PathLoss", ExportOver, PathLoss);
-CAL_BENCH("Import/PathLoss", Import, PathLoss);
-CAL_BENCH("ExportOnDisk/PathLoss", Export, PathLoss, EMedium::Disk);
-CAL_BENCH("SaveIni/PathLoss", SaveIni, WideIni, PathLoss);
-CAL_BENCH("SaveByteIni/PathLoss", SaveIni, ByteIni, PathLoss);
-CAL_BENCH("LoadIni/PathLoss", LoadIni, WideIni, PathLoss);
-CAL_BENCH("LoadByteIni/PathLoss", LoadIni, ByteIni, PathLoss);
-CAL_BENCH("Fwrite/PathLoss", Fwrite, PathLoss);
-CAL_BENCH("FwriteSafely/PathLoss", FwriteSafely, PathLoss);
-CAL_BENCH("Upload/PathLoss", Upload, PathLoss);
-CAL_BENCH("UploadCalls/PathLoss", UploadCalls, PathLoss);
-CAL_BENCH("Download/PathLoss", Download, PathLoss);
-CAL_BENCH("DownloadCalls/PathLoss", DownloadCalls, PathLoss);
-CAL_BENCH("Copy/PathLoss", Copy, PathLoss);
-#undef CAL_BENCH
+// Of both items alike: "Export/Apt", "Export/PathLoss".
+#define CAL_BENCH(Item, name, ...)                                                                 \
+    BENCHMARK_TEMPLATE(__VA_ARGS__)->Name(name "/" #Item)->Unit(benchmark::kMicrosecond)
+#define CAL_BENCHES(Item)                                                                          \
+    CAL_BENCH(Item, "Export", Export, Item);                                                       \
+    CAL_BENCH(Item, "ExportOver", ExportOver, Item);                                               \
+    CAL_BENCH(Item, "Import", Import, Item);                                                       \
+    CAL_BENCH(Item, "ExportOnDisk", Export, Item, EMedium::Disk);                                  \
+    CAL_BENCH(Item, "SaveIni", SaveIni, WideIni, Item);                                            \
+    CAL_BENCH(Item, "SaveByteIni", SaveIni, ByteIni, Item);                                        \
+    CAL_BENCH(Item, "LoadIni", LoadIni, WideIni, Item);                                            \
+    CAL_BENCH(Item, "LoadByteIni", LoadIni, ByteIni, Item);                                        \
+    CAL_BENCH(Item, "Fwrite", Fwrite, Item);                                                       \
+    CAL_BENCH(Item, "FwriteSafely", FwriteSafely, Item);                                           \
+    CAL_BENCH(Item, "Upload", Upload, Item);                                                       \
+    CAL_BENCH(Item, "UploadCalls", UploadCalls, Item);                                             \
+    CAL_BENCH(Item, "Download", Download, Item);                                                   \
+    CAL_BENCH(Item, "DownloadCalls", DownloadCalls, Item);                                         \
+    CAL_BENCH(Item, "Copy", Copy, Item)
+CAL_BENCHES(Apt);
+CAL_BENCHES(PathLoss);
 
-constexpr SRatio kRatios[] = {
-    {"Export/Apt", "SaveIni/Apt", 2},
-    {"Export/Apt", "SaveByteIni/Apt", 2},
-    {"Export/Apt", "Fwrite/Apt", 10},
-    {"ExportOver/Apt", "SaveByteIni/Apt", 0},
-    {"ExportOnDisk/Apt", "FwriteSafely/Apt", 0},
-    {"Import/Apt", "LoadIni/Apt", 2},
-    {"Import/Apt", "LoadByteIni/Apt", 2},
-    {"Upload/Apt", "Copy/Apt", 0},
-    {"Upload/Apt", "UploadCalls/Apt", 0},
-    {"Download/Apt", "Copy/Apt", 0},
-    {"Download/Apt", "DownloadCalls/Apt", 0},
-    {"Export/PathLoss", "SaveIni/PathLoss", 2},
-    {"Export/PathLoss", "SaveByteIni/PathLoss", 2},
-    {"Export/PathLoss", "Fwrite/PathLoss", 10},
-    {"ExportOver/PathLoss", "SaveByteIni/PathLoss", 0},
-    {"ExportOnDisk/PathLoss", "FwriteSafely/PathLoss", 0},
-    {"Import/PathLoss", "LoadIni/PathLoss", 2},
-    {"Import/PathLoss", "LoadByteIni/PathLoss", 2},
-    {"Upload/PathLoss", "Copy/PathLoss", 0},
-    {"Upload/PathLoss", "UploadCalls/PathLoss", 0},
-    {"Download/PathLoss", "Copy/PathLoss", 0},
-    {"Download/PathLoss", "DownloadCalls/PathLoss", 0},
-};
+#define CAL_RATIOS(Item)                                                                           \
+    {"Export/" #Item, "SaveIni/" #Item, 2}, {"Export/" #Item, "SaveByteIni/" #Item, 2},            \
+        {"Export/" #Item, "Fwrite/" #Item, 10}, {"ExportOver/" #Item, "SaveByteIni/" #Item, 0},    \
+        {"ExportOnDisk/" #Item, "FwriteSafely/" #Item, 0}, {"Import/" #Item, "LoadIni/" #Item, 2}, \
+        {"Import/" #Item, "LoadByteIni/" #Item, 2}, {"Upload/" #Item, "Copy/" #Item, 0},           \
+        {"Upload/" #Item, "UploadCalls/" #Item, 0}, {"Download/" #Item, "Copy/" #Item, 0},         \
+    {                                                                                              \
+        "Download/" #Item, "DownloadCalls/" #Item, 0                                               \
+    }
+constexpr SRatio kRatios[] = {CAL_RATIOS(Apt), CAL_RATIOS(PathLoss)};
 
 }  // namespace
 
 int main(int argc, char **argv)
 {
-    QLoggingCategory::setFilterRules("quorlin.*.debug=false\nquorlin.*.critical=false");
+    SetUpBench();
     VondSim_SetProfileText(kLargestCalProfile);
     CTargetCapability::Reset();
     return RunBenchmarks(argc, argv, kRatios, std::size(kRatios));

@@ -1,7 +1,6 @@
 // The capability update: each page's driver on the fullest DUT, beside the patched document's own
 // text there and back; the entries of a step as they grow.
 #include <QFile>
-#include <QLoggingCategory>
 #include <benchmark/benchmark.h>
 
 #include "Controller/DocumentWriter.h"
@@ -100,7 +99,7 @@ constexpr SRatio kRatios[] = {
 
 int main(int argc, char **argv)
 {
-    QLoggingCategory::setFilterRules("quorlin.*.debug=false\nquorlin.*.critical=false");
+    SetUpBench();
     InitModelResources();
     VondSim_SetProfile("largest");
     Updater().ResetCapabilityCache();

@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QLoggingCategory>
 
 #include "Model/ModelResources.h"
 #include "bench/BenchMain.h"
@@ -30,9 +29,7 @@ constexpr SRatio kRatios[] = {
 
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QLoggingCategory::setFilterRules("quorlin.*.debug=false\nquorlin.*.critical=false");
+    SetUpBench();
     QApplication application(argc, argv);
     InitModelResources();
     return RunBenchmarks(argc, argv, kRatios, std::size(kRatios));

@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
-#include <QLoggingCategory>
 #include <QSpinBox>
 #include <QThreadPool>
 #include <benchmark/benchmark.h>
@@ -167,9 +166,7 @@ constexpr SRatio kRatios[] = {
 
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QLoggingCategory::setFilterRules("quorlin.*.debug=false\nquorlin.*.critical=false");
+    SetUpBench();
     QApplication application(argc, argv);
     RegisterOperationResultTypes();
     InitModelResources();

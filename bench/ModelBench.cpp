@@ -1,6 +1,5 @@
 // Documents: a write at depth 6, and the text of a page's document there and back.
 #include <QFile>
-#include <QLoggingCategory>
 #include <benchmark/benchmark.h>
 
 #include "Model/JsonPath.h"
@@ -60,6 +59,6 @@ constexpr SRatio kRatios[] = {
 
 int main(int argc, char **argv)
 {
-    QLoggingCategory::setFilterRules("quorlin.*.debug=false\nquorlin.*.critical=false");
+    SetUpBench();
     return RunBenchmarks(argc, argv, kRatios, std::size(kRatios));
 }

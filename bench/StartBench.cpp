@@ -2,7 +2,6 @@
 // another and each patched document's text there and back; one start of a test, from the click to
 // the status line, beside an empty job through the pool.
 #include <QApplication>
-#include <QLoggingCategory>
 #include <QMainWindow>
 #include <QStatusBar>
 #include <QThreadPool>
@@ -251,9 +250,7 @@ constexpr SRatio kRatios[] = {
 
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QLoggingCategory::setFilterRules("quorlin.*.debug=false\nquorlin.*.critical=false");
+    SetUpBench();
     QApplication application(argc, argv);
     InitModelResources();
     return RunBenchmarks(argc, argv, kRatios, std::size(kRatios));
