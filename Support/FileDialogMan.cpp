@@ -8,8 +8,8 @@
 // What tells the two dialogs apart.
 struct CFileDialogMan::SDialogKind
 {
-    QString (*ask)(QWidget *parent, const QString &caption, const QString &directory,
-                   const QString &filter);
+    QFileDialog::AcceptMode acceptMode;
+    QFileDialog::FileMode fileMode;
     const char *defaultCaption;
 };
 
@@ -17,18 +17,6 @@ namespace {
 
 // Taken as it stands: the bar is part of the one filter, not a separator.
 constexpr char kDefaultFilter[] = "All files (*.*)|*.*";
-
-QString AskSave(QWidget *parent, const QString &caption, const QString &directory,
-                const QString &filter)
-{
-    return QFileDialog::getSaveFileName(parent, caption, directory, filter);
-}
-
-QString AskOpen(QWidget *parent, const QString &caption, const QString &directory,
-                const QString &filter)
-{
-    return QFileDialog::getOpenFileName(parent, caption, directory, filter);
-}
 
 // The outermost window above the active one. A page may float in a window of its own and is
 // destroyed on a reset, which would take a dialog that runs as its child along.
@@ -40,27 +28,52 @@ QWidget *DialogParent()
     return window;
 }
 
+// QFileDialog's own static functions hold their dialog on the stack: one whose window is destroyed
+// while it is open would be deleted there.
+QString Ask(QFileDialog *newDialog)
+{
+    const QPointer<QFileDialog> dialog = newDialog;
+    const bool isAccepted = dialog->exec() == QDialog::Accepted;
+    const QString file = isAccepted && dialog ? dialog->selectedFiles().value(0) : QString();
+    delete dialog;
+    return file;
+}
+
+// A directory that is gone shows as none at all.
+QString ExistingDirectory(const QString &path)
+{
+    return QFileInfo(path).isDir() ? path : QString();
+}
+
 }  // namespace
 
 CFileDialogMan::CFileDialogMan(const QString &settingsFile) : m_record(settingsFile) {}
 
 QString CFileDialogMan::GetSaveFileName(const QString &caption, const QString &filter)
 {
-    return GetFileName({AskSave, "Please choose the file to save"}, caption, filter);
+    return GetFileName(
+        {QFileDialog::AcceptSave, QFileDialog::AnyFile, "Please choose the file to save"}, caption,
+        filter);
 }
 
 QString CFileDialogMan::GetOpenFileName(const QString &caption, const QString &filter)
 {
-    return GetFileName({AskOpen, "Please choose the file to open"}, caption, filter);
+    return GetFileName(
+        {QFileDialog::AcceptOpen, QFileDialog::ExistingFile, "Please choose the file to open"},
+        caption, filter);
 }
 
 QString CFileDialogMan::GetFileName(const SDialogKind &kind, const QString &caption,
                                     const QString &filter)
 {
     const QPointer<CFileDialogMan> alive = this;
-    const QString file =
-        kind.ask(DialogParent(), caption.isEmpty() ? QString(kind.defaultCaption) : caption,
-                 m_record.GetLastPath(), filter.isEmpty() ? QString(kDefaultFilter) : filter);
+    auto *dialog =
+        new QFileDialog(DialogParent(), caption.isEmpty() ? QString(kind.defaultCaption) : caption,
+                        ExistingDirectory(m_record.GetLastPath()),
+                        filter.isEmpty() ? QString(kDefaultFilter) : filter);
+    dialog->setAcceptMode(kind.acceptMode);
+    dialog->setFileMode(kind.fileMode);
+    const QString file = Ask(dialog);
     if (!alive)
         return {};
     if (!file.isEmpty())

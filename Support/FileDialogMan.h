@@ -9,7 +9,7 @@
 //
 // The object may be destroyed while a dialog is open, as happens when the pages are reset; the
 // answer is then empty and not remembered. The dialog belongs to the tool window, not to this
-// object. GUI thread.
+// object; when that window is destroyed the answer is empty, too. GUI thread.
 //
 //     CFileDialogMan dialogs;
 //     const QString file = dialogs.GetOpenFileName("", "");

@@ -26,12 +26,14 @@ constexpr SHeldFlow kFlows[] = {
     {"Export", kExport, kChipCall, true},
 };
 
-void AddFlowRows()
+void AddFlowRows(bool haveFile = false)
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<int>("flow");
     for (const char *page : {kPathLossPage, kAptPage}) {
         for (int flow = 0; flow < int(std::size(kFlows)); ++flow) {
+            if (haveFile && !kFlows[flow].hasFile)
+                continue;
             const QByteArray row = QByteArray(page) + ", " + kFlows[flow].name;
             QTest::newRow(row.constData()) << QString(page) << flow;
         }
@@ -91,6 +93,8 @@ private slots:
     void resetDuringAFlowDropsItsAnswer();
     void unloadDuringAFlowLeavesWholeFiles_data() { AddFlowRows(); }
     void unloadDuringAFlowLeavesWholeFiles();
+    void unloadClosesAnOpenFileDialogAndStartsNothing_data() { AddFlowRows(true); }
+    void unloadClosesAnOpenFileDialogAndStartsNothing();
 
 private:
     QString File() const { return m_folder->filePath("cal.ini"); }
@@ -281,6 +285,26 @@ void CalibrationLifetimeTest::unloadDuringAFlowLeavesWholeFiles()
     EndFlow(held);
     QVERIFY(IsFileWhole());
     QCOMPARE(session.busy, (QVector<bool>{true}));
+}
+
+void CalibrationLifetimeTest::unloadClosesAnOpenFileDialogAndStartsNothing()
+{
+    QFETCH(QString, page);
+    QFETCH(int, flow);
+    CCalibrationSession session(page);
+    QVERIFY(session.ShowAndWait() && session.Run(kRead));
+    const int callsBefore = CountCalls(kChipCall);
+    bool isSeen = false;
+    AnswerFileDialog(File(), [&](QFileDialog *) {
+        isSeen = true;
+        session.Unload();
+    });
+    session.Press(kFlows[flow].flow.button);
+    QVERIFY(isSeen);
+    QThreadPool::globalInstance()->waitForDone();
+    QCOMPARE(CountCalls(kChipCall), callsBefore);
+    QVERIFY(!QFile::exists(File()));
+    QVERIFY(!QApplication::activeModalWidget());
 }
 
 QTEST_MAIN(CalibrationLifetimeTest)

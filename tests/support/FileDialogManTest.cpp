@@ -182,7 +182,44 @@ private slots:
         QCOMPARE(m_dialogsSeen, 1);
     }
 
+    void windowMayBeDestroyedWhileADialogOfItIsOpen_data() { AddDialogRows(); }
+
+    void windowMayBeDestroyedWhileADialogOfItIsOpen()
+    {
+        QFETCH(TGetFileName, getFileName);
+        auto *tool = new QWidget;
+        tool->show();
+        QApplication::setActiveWindow(tool);
+        CFileDialogMan dialogs(SettingsFile());
+        InNextDialog([&](QFileDialog *dialog) {
+            QCOMPARE(dialog->parentWidget(), tool);
+            delete tool;
+        });
+        QCOMPARE((dialogs.*getFileName)("", ""), QString());
+        QCOMPARE(m_dialogsSeen, 1);
+    }
+
+    void directoryThatIsGoneGivesTheDialogsOwnStartDirectory()
+    {
+        CFilePathRecordSentry(SettingsFile()).SetLastPath(m_start);
+        QVERIFY(QDir(m_start).removeRecursively());
+        CFileDialogMan dialogs(SettingsFile());
+        InNextDialog([&](QFileDialog *dialog) {
+            QVERIFY(dialog->directory().exists());
+            dialog->reject();
+        });
+        dialogs.GetOpenFileName("", "");
+        QCOMPARE(m_dialogsSeen, 1);
+    }
+
 private:
+    static void AddDialogRows()
+    {
+        QTest::addColumn<TGetFileName>("getFileName");
+        QTest::newRow("save") << &CFileDialogMan::GetSaveFileName;
+        QTest::newRow("open") << &CFileDialogMan::GetOpenFileName;
+    }
+
     QString SettingsFile() const { return m_folder->filePath("settings.txt"); }
 
     // Runs the steps in the next file dialog that opens. Whatever they find, no dialog stays open.
