@@ -51,7 +51,9 @@
 //   // on Start:  m_viewCtrl->ContRxTest(PackageMemberValue());
 #pragma once
 
+#include <functional>
 #include <string>
+#include <vector>
 
 #include <QDockWidget>
 #include <QFuture>
@@ -188,6 +190,7 @@ private:
     void WalkMembers(const SWalkWords &words, QJsonObject &source, Filter filter, Visit visit);
     bool StoreMemberValue(const QString &path, const QJsonValue &value);
     void ShowHeaders();
+    void SizeTables();
     void InitColumnTableRow(QTableWidget *table, int row, const STableGroup &group);
 
     void Publish(const SRelevanceWords &words, const QString &currentText);
@@ -200,6 +203,7 @@ private:
     static const SRelevanceWords kStatusWords;
 
     const CWidgetIndex *m_index = nullptr;  // of the walk under way
+    std::vector<std::function<void()>> m_sizings;  // of the tables that Init has filled
     int m_packageCount = 0;
     int m_relevanceDepth = 0;  // publishers on the stack
     int m_relevanceCount = 0;  // publications since the outermost one began

@@ -7,13 +7,13 @@
 #include "Support/Log.h"
 #include "View/AutoBindingDataModelDockWidget.h"
 #include "View/DataTypes.h"
+#include "View/TableCells.h"
 #include "View/TableGroup.h"
 #include "View/WidgetIndex.h"
 
 namespace {
 
 constexpr int kColumnWidth = 58;    // pixels
-constexpr int kRowHeight = 22;      // pixels
 constexpr int kNarrowColumns = 16;  // columns up to which the table shows all of them
 
 // Keys of an entry that a data type looks at, and what is said of them.
@@ -73,22 +73,24 @@ void CAutoBindingDataModelDockWidget::InitColumnTable(const QString &path, QWidg
                       << group.rows;
     table->setColumnCount(group.columns);
     table->setRowCount(group.rows.size());
+    FillPlaces(table);
     for (int c = 0; c < group.columns; ++c)
         table->horizontalHeader()->resizeSection(c, kColumnWidth);
     for (int r = 0; r < group.rows.size(); ++r) {
-        table->verticalHeader()->resizeSection(r, kRowHeight);
+        table->verticalHeader()->resizeSection(r, kCellRowHeight);
         InitColumnTableRow(table, r, group);
     }
     table->setHorizontalHeaderLabels(headers);
     table->setVerticalHeaderLabels(group.Captions(group.rows));
 
-    ShowHeaders();
     const bool narrow = group.columns <= kNarrowColumns;
-    table->setMaximumSize(narrow ? FitTableSize(table) : FitWideTableSize(table));
-    table->setMinimumSize(table->maximumSize());
-    if (narrow)
-        table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_sizings.push_back([table, narrow] {
+        table->setMaximumSize(narrow ? FitTableSize(table) : FitWideTableSize(table));
+        table->setMinimumSize(table->maximumSize());
+        if (narrow)
+            table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    });
 }
 
 void CAutoBindingDataModelDockWidget::InitColumnTableRow(QTableWidget *table, int row,
@@ -110,7 +112,8 @@ void CAutoBindingDataModelDockWidget::InitColumnTableRow(QTableWidget *table, in
             << dataType;
         return;
     }
-    SCellWish wish{ECellUse::Column, table, {}, trait.value(QLatin1String("value")).toArray(), {}};
+    SCellWish wish{
+        ECellUse::Column, table->viewport(), {}, trait.value(QLatin1String("value")).toArray(), {}};
     if (type->cellReadsEntry)
         wish.entry = ResolveInitEntry(memberObject, trait).toObject();
     QJsonArray defaults = trait.value(QLatin1String("defaultValue")).toArray();
@@ -144,7 +147,7 @@ void CAutoBindingDataModelDockWidget::InitColumnTableRow(QTableWidget *table, in
         QWidget *cell = type->makeCell(wish);
         if (type->takesStatus)
             cell->setEnabled(enabled);
-        table->setCellWidget(row, c, cell);
+        PlaceEditor(table, row, c, cell);
         if (isChecked) {
             cell->setToolTip(check.toString());
             connect(cell, SIGNAL(editingFinished()), this, type->cellCheckSlot);

@@ -7,21 +7,21 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <memory>
+#include <utility>
 
 #include "Model/JsonPath.h"
 #include "Support/Log.h"
 #include "View/AutoBindingDataModelDockWidget.h"
 #include "View/DataTypes.h"
+#include "View/TableCells.h"
 #include "View/TableGroup.h"
 #include "View/WidgetIndex.h"
 
 namespace {
 
 constexpr int kEditorRows = 256;  // newest rows that hold editor widgets
-constexpr int kRowHeight = 22;    // pixels
 constexpr int kNarrowRows = 16;   // rows up to which the table is sized to all its columns
 constexpr int kWideColumns = 15;  // columns that the wide size counts
 constexpr int kEmptyHeightFactor = 6;
@@ -44,7 +44,7 @@ SColumn ReadColumn(const STableGroup &group, const QString &member, ECellUse use
     return {member,
             name,
             type && type->inRowTable ? type : nullptr,
-            {use, table, group.Member(member, "trait.value").toObject(), {}, {}}};
+            {use, table->viewport(), group.Member(member, "trait.value").toObject(), {}, {}}};
 }
 
 QString CellPath(const QString &member, const QJsonValue &instance)
@@ -97,21 +97,6 @@ void RetireOldRows(QTableWidget *table, int first)
         --row;
 }
 
-// Places a cell's editor. The standard delegate works out the look of the item behind the editor
-// each time, for every editor of the table at every append; a result cell just fills its place.
-class CCellDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
-                              const QModelIndex &) const override
-    {
-        if (editor->geometry() != option.rect)
-            editor->setGeometry(option.rect);
-    }
-};
-
 // The table as result rows need it, whatever its form says; done once, before the first row. A
 // table that scrolls by rows keeps a whole row at its top: new rows at its end then shift what is
 // shown by a part of a row, and back, which moves every editor twice.
@@ -119,30 +104,27 @@ void PrepareTable(QTableWidget *table)
 {
     QHeaderView *header = table->verticalHeader();
     header->setDefaultSectionSize(
-        qBound(header->minimumSectionSize(), kRowHeight, header->maximumSectionSize()));
+        qBound(header->minimumSectionSize(), kCellRowHeight, header->maximumSectionSize()));
     table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     // All that the table itself does for new rows is to place every editor, before it knows where;
     // the header, which hears of them too, has them placed with the layout.
     QObject::disconnect(table->model(), SIGNAL(rowsInserted(QModelIndex, int, int)), table,
                         SLOT(rowsInserted(QModelIndex, int, int)));
-    table->setItemDelegate(new CCellDelegate(table));
+    FillPlaces(table);
 }
 
-// Puts a new cell into the table: as an editor among the newest rows, as an item above them. A cell
-// with a size of its own is not asked for its best one.
+// Puts a new cell into the table: as an editor among the newest rows, as an item above them.
 void PlaceCell(QTableWidget *table, int row, int column, const SDataType &type,
                const SCellWish &wish)
 {
     if (row < table->rowCount() - kEditorRows) {
         SCellWish unplaced = wish;
-        unplaced.table = nullptr;
+        unplaced.parent = nullptr;
         const std::unique_ptr<QWidget> cell(type.makeCell(unplaced));
         table->setItem(row, column, ItemOf(cell.get(), type));
         return;
     }
-    QWidget *cell = type.makeCell(wish);
-    cell->resize(table->columnWidth(column), table->rowHeight(row));
-    table->setCellWidget(row, column, cell);
+    PlaceEditor(table, row, column, type.makeCell(wish));
 }
 
 // Lays the rows out now, which places every editor, rather than once more at each later step: only
@@ -222,6 +204,17 @@ void CAutoBindingDataModelDockWidget::ShowHeaders()
         move(position);
 }
 
+// All tables of a page at once, since showing their headers shows every editor of the page again.
+void CAutoBindingDataModelDockWidget::SizeTables()
+{
+    const auto sizings = std::exchange(m_sizings, {});
+    if (sizings.empty())
+        return;
+    ShowHeaders();
+    for (const auto &size : sizings)
+        size();
+}
+
 void CAutoBindingDataModelDockWidget::InitRowTable(const QString &path, QWidget *widget)
 {
     QTableWidget *table = AsTable(
@@ -263,12 +256,13 @@ void CAutoBindingDataModelDockWidget::InitRowTable(const QString &path, QWidget 
     table->setHorizontalHeaderLabels(group.Captions(group.members));
     table->setVerticalHeaderLabels(rowHeaders);
 
-    ShowHeaders();
     const bool narrow = group.instances.size() <= kNarrowRows;
-    SetFixedTableSize(
-        table, WithRoomForRows(table, narrow ? FitTableSize(table) : FitWideTableSize(table)));
-    if (narrow)
-        table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_sizings.push_back([table, narrow] {
+        SetFixedTableSize(
+            table, WithRoomForRows(table, narrow ? FitTableSize(table) : FitWideTableSize(table)));
+        if (narrow)
+            table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    });
 }
 
 void CAutoBindingDataModelDockWidget::UpdateRowTable(const QString &path, QWidget *widget,

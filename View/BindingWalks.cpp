@@ -110,6 +110,7 @@ void CAutoBindingDataModelDockWidget::InitWidget()
                 << "====== Failed processing name: Not support this group type yet ====== " << name;
         }
     }
+    SizeTables();
     qCDebug(lcEngine) << "============ [Done] Init widget ============ ";
 }
 

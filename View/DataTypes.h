@@ -38,10 +38,10 @@ enum class ECellUse
 struct SCellWish
 {
     ECellUse use;
-    QTableWidget *table;  // parent of the cell; null for one that is only read
-    QJsonObject entry;    // limits, decimals, radix
-    QJsonArray items;     // choices of a list
-    QJsonValue value;     // text to start with; undefined when there is none
+    QWidget *parent;    // viewport of the table; null for a cell that is only read
+    QJsonObject entry;  // limits, decimals, radix
+    QJsonArray items;   // choices of a list
+    QJsonValue value;   // text to start with; undefined when there is none
 };
 
 struct SDataType

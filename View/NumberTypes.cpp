@@ -112,7 +112,7 @@ template <typename Box>
 QWidget *MakeNumberCell(const SCellWish &wish)
 {
     const bool asItCame = wish.use == ECellUse::RowAppend;
-    auto *box = new Box(wish.table);
+    auto *box = new Box(wish.parent);
     box->setLocale(QLocale::c());  // also of a cell that no page has taken in
     const auto limits = ReadLimits<Box>(wish.entry);
     ApplyLimits(box, limits);
@@ -148,7 +148,7 @@ QWidget *MakeUnsignedCell(const SCellWish &wish)
     const auto limit = [&wish](const char *key) {
         return wish.entry.value(QLatin1String(key)).toString().toUInt(nullptr, 10);
     };
-    auto *box = new CUnsignedSpinBox(wish.table, wish.entry.value(kDisplayBase).toInt(10));
+    auto *box = new CUnsignedSpinBox(wish.parent, wish.entry.value(kDisplayBase).toInt(10));
     box->m_maximum = limit("max");
     box->m_minimum = limit("min");
     box->setToolTip(QString::number(box->m_minimum) + QLatin1Char('~') +

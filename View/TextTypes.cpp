@@ -48,7 +48,7 @@ void RelateList(QWidget *widget, const SRelevance &relevance)
 
 QWidget *MakeListCell(const SCellWish &wish)
 {
-    auto *box = new QComboBox(wish.table);
+    auto *box = new QComboBox(wish.parent);
     FillList(box, wish.items);
     SetCellFont(box);
     box->setCurrentText(wish.value.toString());
@@ -80,7 +80,7 @@ void RelateLabel(QWidget *widget, const SRelevance &relevance)
 
 QWidget *MakeLabelCell(const SCellWish &wish)
 {
-    auto *label = new QLabel(wish.table);
+    auto *label = new QLabel(wish.parent);
     SetCellFont(label);
     if (wish.use == ECellUse::Column)
         label->setFrameStyle(QFrame::Panel | QFrame::Sunken);

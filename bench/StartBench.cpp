@@ -12,6 +12,7 @@
 #include "Controller/PageTable.h"
 #include "Model/ModelResources.h"
 #include "Model/ModelText.h"
+#include "Operations/TargetCapability.h"
 #include "PluginInterface/QuorlinPluginInterface.h"
 #include "Simulator/VondSim.h"
 #include "View/Rx/NrContRxDockWidgetV7.h"
@@ -136,6 +137,7 @@ std::vector<std::string> PatchedTexts(const char *profile)
 {
     VondSim_Reset();
     VondSim_SetProfileText(profile);
+    CTargetCapability::Reset();
     CNrDataModelCapUpdater updater;
     updater.ResetCapabilityCache();
     std::vector<std::string> texts;
