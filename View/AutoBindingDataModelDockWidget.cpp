@@ -129,12 +129,31 @@ void CAutoBindingDataModelDockWidget::CheckDateModelIntegrity(QJsonObject update
             text = QStringLiteral("This is empty data to update.");
         }
         if (!text.isEmpty()) {
-            m_messageBox.Show(eBoxCritical, QStringLiteral("Error"), text, {}, {}, -1);
+            ShowErrorBox(text);
             return;
         }
     }
     qCDebug(lcEngine) << "CheckDateModelIntegrity -- Update DataMode -- ";
     m_dataModel = update;
+}
+
+void CAutoBindingDataModelDockWidget::ShowErrorBox(const QString &text)
+{
+    const auto show = [this, text] {
+        m_messageBox.Show(eBoxCritical, QStringLiteral("Error"), text, {}, {}, -1);
+    };
+    if (m_boxesWait)
+        QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
+    else
+        show();
+}
+
+bool CAutoBindingDataModelDockWidget::BeginBusy()
+{
+    const QPointer<CAutoBindingDataModelDockWidget> self(this);
+    const QWidget *const window = parentWidget();
+    emit Signal_PluginIsBusy(true);
+    return self && parentWidget() == window;
 }
 
 void CAutoBindingDataModelDockWidget::ShowItemResult(const QString &title,

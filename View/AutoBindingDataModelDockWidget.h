@@ -34,7 +34,8 @@
 //
 // Threads. GUI thread. Documents arrive as text through queued signals. A box shown here runs an
 // event loop in which the page may be destroyed: nothing touches the page after that. A page's own
-// slot on an editor's change must not open one, since a walk or a chain may be under way.
+// slot on an editor's change must not open one, since a walk or a chain may be under way, and Qt's
+// own code of the editor: it sets m_boxesWait, and the box comes with the next turn of the loop.
 //
 // A page adds its form, its buttons and their answers:
 //
@@ -121,10 +122,14 @@ protected:
     std::string PackageMemberValue();
     void UpdateWidget(QJsonObject update);
     void AppendWidget(QJsonObject update);
+    // Says that the page is busy. False when a listener has taken the page out of its window by
+    // that, as a host does that resets: nothing may be asked of the target any more, and the end of
+    // busy is said by others. GUI state is set before, since the page may be gone.
+    bool BeginBusy();
     // Opens the result box; the page may be gone when it returns.
     void ShowItemResult(const QString &title, const SEachItemOperationResult &result);
     // Shows and drops the document's record of failed patches, and adopts the document if it is
-    // good. The page may be gone when it returns.
+    // good. The page may be gone when it returns, unless boxes wait.
     void CheckDateModelIntegrity(QJsonObject update);
     int GetGroupType(const QString &memberPath);
     QString AbsoluteModelPath(const QString &relativePath) const;
@@ -158,6 +163,7 @@ protected:
     QString BuildLiveKey(const QJsonArray &list);
 
     bool m_initStarted = false;
+    bool m_boxesWait = false;   // in a slot on an editor's own change
     bool m_modelReady = false;  // the document is in place and no Update is under way
     QJsonObject m_dataModel;
     QWidget *m_rootWidget = nullptr;  // null until the page is first shown
@@ -182,6 +188,7 @@ private:
     };
 
     void StartInit();
+    void ShowErrorBox(const QString &text);
     void InitWidget();
     void InitCaption(const QString &path, QWidget *widget, const QString &caption);
     QList<QWidget *> AllWidgets() const;
@@ -202,7 +209,7 @@ private:
     static const SRelevanceWords kValueWords;
     static const SRelevanceWords kStatusWords;
 
-    const CWidgetIndex *m_index = nullptr;  // of the walk under way
+    const CWidgetIndex *m_index = nullptr;         // of the walk under way
     std::vector<std::function<void()>> m_sizings;  // of the tables that Init has filled
     int m_packageCount = 0;
     int m_relevanceDepth = 0;  // publishers on the stack

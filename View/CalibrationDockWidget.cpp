@@ -130,20 +130,20 @@ bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &sel
 {
     if (!m_modelReady || selected.isEmpty())
         return false;
-    const QPointer<CCalibrationDockWidget> self(this);
     SetButtonsEnabled(false);
-    emit Signal_PluginIsBusy(true);
+    if (!BeginBusy())
+        return false;
     qCDebug(lcForm) << log;
     // Without a snapshot the user has not been to a selector, and no data were shown by one.
     if (!m_lastDocument.empty())
         (m_viewCtrl.get()->*m_page.store)(m_lastDocument);
+    m_boxesWait = true;
     ShowDocument((m_viewCtrl.get()->*m_page.fetch)(PackageMemberValue()));
-    if (!self)
-        return false;
+    m_boxesWait = false;
     ShowSelectionDetails();
     SetButtonsEnabled(true);
     emit Signal_PluginIsBusy(false);
-    return self;
+    return true;
 }
 
 // A DUT of another generation gives no document; the page then keeps what it has.
@@ -158,7 +158,8 @@ void CCalibrationDockWidget::StartFlow(ECalibrationFlow kind, const Flow &flow,
                                        const Arguments &...arguments)
 {
     SetButtonsEnabled(false);
-    emit Signal_PluginIsBusy(true);
+    if (!BeginBusy())
+        return;
     qCDebug(lcForm) << Words(kind).log;
     const std::string document = PackageMemberValue();
     m_focus = isAncestorOf(QApplication::focusWidget()) ? QApplication::focusWidget() : nullptr;

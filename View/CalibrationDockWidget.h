@@ -134,7 +134,7 @@ protected:
                     const std::string &document);
 
     // For a selector's slot: stores the snapshot and shows the data of the new selection. False
-    // when there was nothing to do, or the page was destroyed in a box.
+    // when there was nothing to do, or the page has left its window.
     bool ChangeSelection(const char *log, const QString &selected);
 
     // A snapshot has been taken, or new data are shown.

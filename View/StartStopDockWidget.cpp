@@ -71,7 +71,8 @@ void CStartStopDockWidget::StartTest()
 {
     qCDebug(lcForm) << "on_m_start_clicked";
     ShowStep(ETestStep::Starting);
-    emit Signal_PluginIsBusy(true);
+    if (!BeginBusy())
+        return;
     const std::string document = PackageMemberValue();
     connect(ViewCtrl(), m_page.startDone, this, m_page.startSlot);
     (ViewCtrl()->*m_page.start)(document);
@@ -95,7 +96,8 @@ void CStartStopDockWidget::FinishStart(const char *slot, const SEachItemOperatio
 void CStartStopDockWidget::StopTest()
 {
     ShowStep(ETestStep::Stopping);
-    emit Signal_PluginIsBusy(true);
+    if (!BeginBusy())
+        return;
     connect(ViewCtrl(), &CQuorlinViewCtrl::Signal_TestStopDone, this, m_page.stopSlot);
     (ViewCtrl()->*m_page.stop)();
 }

@@ -134,7 +134,8 @@ void CNrRsrpDockWidgetV7::StartTest()
     qCDebug(lcForm) << "on_m_start_clicked";
     m_reportTimer.stop();
     DisableInputs();
-    emit Signal_PluginIsBusy(true);
+    if (!BeginBusy())
+        return;
     const std::string document = PackageMemberValue();
     RequestClear(document);
     Await(m_page.testDone, m_page.onTestDone);
@@ -161,7 +162,8 @@ void CNrRsrpDockWidgetV7::OnTestDone(const SEachItemOperationResult &result)
 
 void CNrRsrpDockWidgetV7::StopTest()
 {
-    emit Signal_PluginIsBusy(true);
+    if (!BeginBusy())
+        return;
     DisableInputs();
     m_reportTimer.stop();
     Await(&CQuorlinViewCtrl::Signal_TestStopDone, m_page.onStopDone);
@@ -223,7 +225,8 @@ void CNrRsrpDockWidgetV7::OnFetchDone(const SEachItemOperationResult &result,
 void CNrRsrpDockWidgetV7::ResetCounter()
 {
     DisableInputs();
-    emit Signal_PluginIsBusy(true);
+    if (!BeginBusy())
+        return;
     m_isResetting = true;
     Await(&CQuorlinViewCtrl::Signal_RsrpResetCounterDone, m_page.onResetDone);
     m_viewCtrl->RsrpResetCounter();

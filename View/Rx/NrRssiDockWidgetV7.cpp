@@ -93,19 +93,21 @@ void CNrRssiDockWidgetV7::FixLayout()
 void CNrRssiDockWidgetV7::on_m_start_clicked()
 {
     qCDebug(lcForm) << "on_m_start_clicked";
-    const std::string document = BeginRequest();
+    if (!BeginRequest())
+        return;
     connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiTestDone, this,
             &CNrRssiDockWidgetV7::Slot_RssiTestDone);
-    m_viewCtrl->RssiTest(document);
+    m_viewCtrl->RssiTest(PackageMemberValue());
 }
 
 void CNrRssiDockWidgetV7::on_m_btnRssiSeqSrhCalculator_clicked()
 {
     qCDebug(lcForm) << "on_m_btnRssiSeqSrhCalculator_clicked";
-    const std::string document = BeginRequest();
+    if (!BeginRequest())
+        return;
     connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiGainCalculatorDone, this,
             &CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone);
-    m_viewCtrl->RssiGainCalculator(document);
+    m_viewCtrl->RssiGainCalculator(PackageMemberValue());
 }
 
 void CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone(SEachItemOperationResult result,
@@ -124,12 +126,11 @@ void CNrRssiDockWidgetV7::Slot_RssiTestDone(SEachItemOperationResult result,
     EndRequest(kTestWords, result, responseStr);
 }
 
-// Gives the document to send.
-std::string CNrRssiDockWidgetV7::BeginRequest()
+// False when nothing may be asked any more, see BeginBusy.
+bool CNrRssiDockWidgetV7::BeginRequest()
 {
     DisableTestControls();
-    emit Signal_PluginIsBusy(true);
-    return PackageMemberValue();
+    return BeginBusy();
 }
 
 void CNrRssiDockWidgetV7::EndRequest(const SWords &words, const SEachItemOperationResult &result,

@@ -65,7 +65,7 @@ private:
     static const SWords kCalculatorWords;
 
     void FixLayout();
-    std::string BeginRequest();
+    bool BeginRequest();
     void EndRequest(const SWords &words, const SEachItemOperationResult &result,
                     const std::string &responseStr);
 

@@ -48,7 +48,8 @@ void CNrTxDockWidget::StartReading()
     }
     m_button->setEnabled(false);
     m_isReading = true;
-    emit Signal_PluginIsBusy(true);
+    if (!BeginBusy())
+        return;
     connect(ViewCtrl(), m_reading.done, this, m_reading.slot);
     (ViewCtrl()->*m_reading.request)(PackageMemberValue());
 }

@@ -95,6 +95,8 @@ private slots:
     void unloadDuringAFlowLeavesWholeFiles();
     void unloadClosesAnOpenFileDialogAndStartsNothing_data() { AddFlowRows(true); }
     void unloadClosesAnOpenFileDialogAndStartsNothing();
+    void pageMayGoWhileTheBoxThatASelectionHasCausedIsOpen_data();
+    void pageMayGoWhileTheBoxThatASelectionHasCausedIsOpen();
 
 private:
     QString File() const { return m_folder->filePath("cal.ini"); }
@@ -305,6 +307,42 @@ void CalibrationLifetimeTest::unloadClosesAnOpenFileDialogAndStartsNothing()
     QCOMPARE(CountCalls(kChipCall), callsBefore);
     QVERIFY(!QFile::exists(File()));
     QVERIFY(!QApplication::activeModalWidget());
+}
+
+void CalibrationLifetimeTest::pageMayGoWhileTheBoxThatASelectionHasCausedIsOpen_data()
+{
+    QTest::addColumn<bool>("isUnload");
+    QTest::newRow("reset") << false;
+    QTest::newRow("unload") << true;
+}
+
+void CalibrationLifetimeTest::pageMayGoWhileTheBoxThatASelectionHasCausedIsOpen()
+{
+    QFETCH(bool, isUnload);
+    CCalibrationSession session(kPathLossPage);
+    CBoxWatcher boxes;
+    VondSim_AddFault(R"({"function": "VOND_MMRf_GetRouteConfigV7_r", "kind": "fail"})");
+    QVERIFY(session.ShowAndWait());  // without routes, and with a box for each page that needs them
+    const int before = boxes.Seen().size();
+    bool isInSlot = false;
+    boxes.onBox = [&] {
+        QVERIFY(!isInSlot);  // the selector's own code must not find itself gone
+        if (isUnload)
+            session.Unload();
+        else
+            session->ResetPlugin();
+    };
+    isInSlot = true;
+    session.Select("powerMode", "LPM");
+    isInSlot = false;
+    QVERIFY(WaitUntil([&] { return boxes.Seen().size() == before + 1; }));
+    QCOMPARE(boxes.Seen().last().title, QString("Error"));
+    QVERIFY2(boxes.Seen().last().text.contains("Get gain lpm info failed"),
+             qPrintable(boxes.Seen().last().text));
+    QCoreApplication::processEvents();
+    QVERIFY(!QApplication::activeModalWidget());
+    QVERIFY(isUnload ? !session.Window()
+                     : session.Window()->findChildren<QDockWidget *>().isEmpty());
 }
 
 QTEST_MAIN(CalibrationLifetimeTest)
