@@ -15,6 +15,7 @@
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/CalIniFile.h"
+#include "Support/Threads.h"
 #include "tests/capability/WrittenPaths.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 #include "tests/fuzz/wire/FuzzPages.h"
@@ -99,6 +100,13 @@ bool IsFileSmall(EPageId page)
                                              table->rxType2RouteCount <= kMaxFiledType2;
 }
 
+// What the jobs wrote can be read then.
+void WaitForPool()
+{
+    QThreadPool::globalInstance()->waitForDone();
+    Require(IsPoolIdle(), "a job is over when its thread is");
+}
+
 struct SFlowAnswer
 {
     bool isDone = false;
@@ -119,7 +127,7 @@ int RunFlow(Signal signal, const Start &start)
         },
         Qt::DirectConnection);
     start();
-    QThreadPool::globalInstance()->waitForDone();
+    WaitForPool();
     QObject::disconnect(connection);
     Require(answer.isDone, "a flow answers");
     return answer.status;
@@ -197,7 +205,7 @@ void CPageRun::Test()
     GetCore().Test(m_name, ModelToText(m_document));
     GetCore().TestStopStart(true);
     GetCore().TestStopStart(false);
-    QThreadPool::globalInstance()->waitForDone();
+    WaitForPool();
     QObject::disconnect(done);
     Require(isDone, "a test answers");
 }
