@@ -39,8 +39,8 @@ class RssiResultTest : public QObject
 
 private slots:
     void unusedColumnsComeFromTheTarget();
-    void pathsOfACalTypeGetTheResults_data();
-    void pathsOfACalTypeGetTheResults();
+    void pathOfTheCalTypeGetsTheResultsAndTheOtherTableIsEmpty_data();
+    void pathOfTheCalTypeGetsTheResultsAndTheOtherTableIsEmpty();
     void bothPathsGetTheResultsOfASimultaneousRun();
     void failedRunShowsErrorOnThePathsAskedFor_data();
     void failedRunShowsErrorOnThePathsAskedFor();
@@ -59,7 +59,7 @@ void RssiResultTest::unusedColumnsComeFromTheTarget()
     QCOMPARE(session.ResultRow(0, CRssiSession::DivRssi)[4], QString("1.00000"));
 }
 
-void RssiResultTest::pathsOfACalTypeGetTheResults_data()
+void RssiResultTest::pathOfTheCalTypeGetsTheResultsAndTheOtherTableIsEmpty_data()
 {
     QTest::addColumn<QString>("calType");
     QTest::addColumn<int>("path");
@@ -67,7 +67,7 @@ void RssiResultTest::pathsOfACalTypeGetTheResults_data()
     QTest::newRow("path 1") << "Partial-On Path1" << 1;
 }
 
-void RssiResultTest::pathsOfACalTypeGetTheResults()
+void RssiResultTest::pathOfTheCalTypeGetsTheResultsAndTheOtherTableIsEmpty()
 {
     QFETCH(QString, calType);
     QFETCH(int, path);

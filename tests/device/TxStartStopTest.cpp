@@ -21,6 +21,11 @@ QString Fault(const char *function, const QString &kind)
     return QString(R"({"function": "%1", %2})").arg(function, kind);
 }
 
+void StopByHost(const CPluginSession &session)
+{
+    QVERIFY(QMetaObject::invokeMethod(session.Page(), "Slot_TriggerStopTest"));
+}
+
 }  // namespace
 
 class TxStartStopTest : public QObject
@@ -44,6 +49,8 @@ private slots:
     void tabChangeLeavesAStartInFlightAlone();
     void testThatStartedBehindAnotherTabStopsAtTheNextTabChange_data() { AddPages(); }
     void testThatStartedBehindAnotherTabStopsAtTheNextTabChange();
+    void stopOfTheHostOnAnIdlePageDoesNothing_data() { AddPages(); }
+    void stopOfTheHostOnAnIdlePageDoesNothing();
     void secondStopOfTheHostDoesNothing_data() { AddPages(); }
     void secondStopOfTheHostDoesNothing();
     void hostCanDisableAndEnableThePages_data() { AddPages(); }
@@ -229,22 +236,27 @@ void TxStartStopTest::testThatStartedBehindAnotherTabStopsAtTheNextTabChange()
     QCOMPARE(QString(VondSim_RunningTest()), QString());
 }
 
+void TxStartStopTest::stopOfTheHostOnAnIdlePageDoesNothing()
+{
+    QFETCH(STxPage, page);
+    CPluginSession session("handset", 1, page.className);
+    QVERIFY(session.ShowAndWait());
+    StopByHost(session);
+    QVERIFY(session.busy.isEmpty());
+    QCOMPARE(CountCalls(page.stop), 0);
+}
+
 void TxStartStopTest::secondStopOfTheHostDoesNothing()
 {
     QFETCH(STxPage, page);
     CPluginSession session("handset", 1, page.className);
     QVERIFY(session.ShowAndWait());
-    const auto stop = [&] {
-        QVERIFY(QMetaObject::invokeMethod(session.Page(), "Slot_TriggerStopTest"));
-    };
-    stop();
-    QVERIFY(session.busy.isEmpty());
     session.Press("m_start");
     QVERIFY(session.WaitForStatus(Status(page, "start...")));
-    stop();
-    stop();
+    StopByHost(session);
+    StopByHost(session);
     QVERIFY(session.WaitForStatus(Status(page, "stop.")));
-    stop();
+    StopByHost(session);
     QCOMPARE(session.busy, (QVector<bool>{true, false, true, false}));
     QCOMPARE(CountCalls(page.stop), 1);
 }

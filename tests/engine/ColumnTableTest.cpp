@@ -68,6 +68,12 @@ class CColumnTableTest : public QObject
     Q_OBJECT
 
 private slots:
+    void baseSixteenCellPackagesItsTextInThatBase()
+    {
+        SPage p(AllTypes({"0"}, {"255"}, {"0"}, {"x"}, {"a"}));
+        QCOMPARE(p.Packaged()["hex"], JsonObject("{'hex':['FF','FF','FF']}")["hex"]);
+    }
+
     void packageGivesTheTextsAsShown()
     {
         SPage p(AllTypes({"60.1", "-1", "0"}, {"255", "10", "0"}, {"-7", "8", "50"}, {"x", "y", ""},

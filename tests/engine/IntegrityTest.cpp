@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include "Model/StatusTable.h"
 #include "tests/engine/BoxWatch.h"
 #include "tests/engine/LogCatcher.h"
 #include "tests/engine/TestPage.h"
@@ -216,6 +217,9 @@ private slots:
         const QString target = "L1 Status code != SUCCESS ";
         QTest::newRow("error with its message")
             << 203 << "code (1)" << int(QMessageBox::Critical) << target << "code (1)";
+        QTest::newRow("status 3 with a message shows it, not the advice")
+            << 3 << "error (7)" << int(QMessageBox::Critical) << LookupStatus(3).text
+            << "error (7)";
         QTest::newRow("error with advice")
             << 203 << "" << int(QMessageBox::Critical) << target
             << "Please recheck SW load stability and parameter setting of the command.";
