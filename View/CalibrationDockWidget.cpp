@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QMainWindow>
 #include <QProgressBar>
+#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStatusBar>
@@ -137,9 +138,10 @@ bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &sel
     // Without a snapshot the user has not been to a selector, and no data were shown by one.
     if (!m_lastDocument.empty())
         (m_viewCtrl.get()->*m_page.store)(m_lastDocument);
-    m_boxesWait = true;
-    ShowDocument((m_viewCtrl.get()->*m_page.fetch)(PackageMemberValue()));
-    m_boxesWait = false;
+    {
+        const QScopedValueRollback<bool> boxesWait(m_boxesWait, true);
+        ShowDocument((m_viewCtrl.get()->*m_page.fetch)(PackageMemberValue()));
+    }
     ShowSelectionDetails();
     SetButtonsEnabled(true);
     emit Signal_PluginIsBusy(false);
