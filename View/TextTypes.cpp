@@ -82,10 +82,12 @@ QWidget *MakeLabelCell(const SCellWish &wish)
 {
     auto *label = new QLabel(wish.parent);
     SetCellFont(label);
-    if (wish.use == ECellUse::Column)
-        label->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-    else
+    if (wish.use == ECellUse::Column) {
+        label->setFrameShape(QFrame::Panel);
+        label->setFrameShadow(QFrame::Sunken);
+    } else {
         label->setAlignment(Qt::AlignCenter);
+    }
     const bool given = !wish.value.isUndefined() && !wish.value.isNull();
     label->setText(given ? wish.value.toString() : QStringLiteral("0"));
     return label;
