@@ -3,7 +3,10 @@
 // of ours.
 #include "Support/Threads.h"
 
+#include <cstdlib>
+
 #include <QCoreApplication>
+#include <QThreadPool>
 #include <QtConcurrent>
 
 namespace {
@@ -44,6 +47,10 @@ QFuture<void> StartOnPool(CJobQueue::Job job)
 {
     QFuture<void> future;
     PoolJobs().Push(std::move(job), [&future] { future = QtConcurrent::run(&RunNextPoolJob); });
+    // The pool waits for its jobs when exit() destroys it, which may be after Qt's codecs,
+    // resources and loggers have gone. What stood before the first job is destroyed behind this.
+    [[maybe_unused]] static const int once =
+        std::atexit([] { QThreadPool::globalInstance()->waitForDone(); });
     return future;
 }
 

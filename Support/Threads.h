@@ -3,8 +3,9 @@
 // Qt tells a thread that there is something to do; what is to be done goes through a CJobQueue, so
 // that the order between the threads does not hang on Qt's own locks alone.
 //
-// Any thread. Jobs own what they need: they run after whoever started them may be gone. A job that
-// is left when the process ends does not run.
+// Any thread. Jobs own what they need: they run after whoever started them may be gone. exit()
+// waits for them before it destroys what they use; what is left for the GUI thread then does not
+// run.
 //
 //   m_future = StartOnPool([document] {
 //       const std::string answer = Ask(document);
