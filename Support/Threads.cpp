@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include <QCoreApplication>
+#include <QPointer>
 #include <QThreadPool>
 #include <QtConcurrent>
 
@@ -47,10 +48,14 @@ QFuture<void> StartOnPool(CJobQueue::Job job)
 {
     QFuture<void> future;
     PoolJobs().Push(std::move(job), [&future] { future = QtConcurrent::run(&RunNextPoolJob); });
-    // The pool waits for its jobs when exit() destroys it, which may be after Qt's codecs,
-    // resources and loggers have gone. What stood before the first job is destroyed behind this.
-    [[maybe_unused]] static const int once =
-        std::atexit([] { QThreadPool::globalInstance()->waitForDone(); });
+    // The pool waits for its jobs when it is destroyed: by the application object, or by exit(),
+    // which may be after Qt's codecs, resources and loggers have gone. What stood before the first
+    // job is destroyed behind this.
+    static const QPointer<QThreadPool> pool(QThreadPool::globalInstance());
+    [[maybe_unused]] static const int once = std::atexit([] {
+        if (pool)
+            pool->waitForDone();
+    });
     return future;
 }
 
