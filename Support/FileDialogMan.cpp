@@ -39,12 +39,6 @@ QString Ask(QFileDialog *newDialog)
     return file;
 }
 
-// A directory that is gone shows as none at all.
-QString ExistingDirectory(const QString &path)
-{
-    return QFileInfo(path).isDir() ? path : QString();
-}
-
 }  // namespace
 
 CFileDialogMan::CFileDialogMan(const QString &settingsFile) : m_record(settingsFile) {}
@@ -67,10 +61,9 @@ QString CFileDialogMan::GetFileName(const SDialogKind &kind, const QString &capt
                                     const QString &filter)
 {
     const QPointer<CFileDialogMan> alive = this;
-    auto *dialog =
-        new QFileDialog(DialogParent(), caption.isEmpty() ? QString(kind.defaultCaption) : caption,
-                        ExistingDirectory(m_record.GetLastPath()),
-                        filter.isEmpty() ? QString(kDefaultFilter) : filter);
+    auto *dialog = new QFileDialog(
+        DialogParent(), caption.isEmpty() ? QString(kind.defaultCaption) : caption,
+        m_record.GetLastPath(), filter.isEmpty() ? QString(kDefaultFilter) : filter);
     dialog->setAcceptMode(kind.acceptMode);
     dialog->setFileMode(kind.fileMode);
     const QString file = Ask(dialog);

@@ -199,19 +199,6 @@ private slots:
         QCOMPARE(m_dialogsSeen, 1);
     }
 
-    void directoryThatIsGoneGivesTheDialogsOwnStartDirectory()
-    {
-        CFilePathRecordSentry(SettingsFile()).SetLastPath(m_start);
-        QVERIFY(QDir(m_start).removeRecursively());
-        CFileDialogMan dialogs(SettingsFile());
-        InNextDialog([&](QFileDialog *dialog) {
-            QVERIFY(dialog->directory().exists());
-            dialog->reject();
-        });
-        dialogs.GetOpenFileName("", "");
-        QCOMPARE(m_dialogsSeen, 1);
-    }
-
 private:
     static void AddDialogRows()
     {
