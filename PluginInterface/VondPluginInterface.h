@@ -53,7 +53,8 @@ public:
     virtual SPluginToolLaunchRequirement QueryLaunchRequirement() = 0;
     virtual QString GetPluginNote() = 0;
     virtual void HostNotifyAfter(uint32_t) = 0;
-    // The Start and Stop buttons of all pages off; Start on and Stop off.
+    // The Start and Stop buttons of all pages off; Start on and Stop off. The Stop of a test that
+    // runs stays on with both.
     virtual void DisablePages() = 0;
     virtual void EnablePages() = 0;
 

@@ -93,10 +93,14 @@ public:
     virtual int GetModelInterface() = 0;
     // Connects the answer to Slot_GetDataModelDone and asks for the document.
     virtual void RequestDataModel() = 0;
-    // Start and Stop off.
+    // Start and Stop off; a running test's Stop stays on.
     virtual void DisableTestControls() = 0;
-    // Start on, Stop off.
+    // Start on, Stop off; a running test's buttons stay as they are.
     virtual void EnableTestControls() = 0;
+    // Every test on the DUT was stopped by the tool: the page shows itself idle (buttons, inputs,
+    // timers, remembered stops), without a status line. A page that starts none has nothing to
+    // show.
+    virtual void ShowTestStopped() {}
 
 signals:
     void Signal_UpdateStatus(QString msg, int timeout = 0);  // text for the status bar

@@ -37,13 +37,18 @@ void CStartStopDockWidget::RequestDataModel()
 void CStartStopDockWidget::DisableTestControls()
 {
     m_start->setEnabled(false);
-    m_stop->setEnabled(false);
 }
 
 void CStartStopDockWidget::EnableTestControls()
 {
-    m_start->setEnabled(true);
+    if (!m_stop->isEnabledTo(this))
+        m_start->setEnabled(true);
+}
+
+void CStartStopDockWidget::ShowTestStopped()
+{
     m_stop->setEnabled(false);
+    ShowStep(ETestStep::Stopped);
 }
 
 void CStartStopDockWidget::ShowStep(ETestStep step)

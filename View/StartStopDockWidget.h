@@ -82,6 +82,7 @@ public:
     void RequestDataModel() override;
     void DisableTestControls() override;
     void EnableTestControls() override;
+    void ShowTestStopped() override;
 
 protected:
     CStartStopDockWidget(const SStartStopPage &page, QWidget *parent);

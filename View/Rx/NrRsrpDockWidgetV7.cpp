@@ -78,13 +78,19 @@ void CNrRsrpDockWidgetV7::RequestDataModel()
 void CNrRsrpDockWidgetV7::DisableTestControls()
 {
     m_widgets.start->setEnabled(false);
-    m_widgets.stop->setEnabled(false);
 }
 
 void CNrRsrpDockWidgetV7::EnableTestControls()
 {
-    m_widgets.start->setEnabled(true);
-    m_widgets.stop->setEnabled(false);
+    if (!IsOn(m_widgets.stop))
+        m_widgets.start->setEnabled(true);
+}
+
+void CNrRsrpDockWidgetV7::ShowTestStopped()
+{
+    m_reportTimer.stop();
+    m_stopAfterReset = false;
+    ShowIdle();
 }
 
 // One answer of its kind is waited for at a time.

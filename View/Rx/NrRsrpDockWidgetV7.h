@@ -98,6 +98,7 @@ public:
     void RequestDataModel() override;
     void DisableTestControls() override;
     void EnableTestControls() override;
+    void ShowTestStopped() override;
 
 protected:
     // The record must outlive the page.

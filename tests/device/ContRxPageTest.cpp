@@ -56,6 +56,7 @@ private slots:
     void tabChangeLeavesAStartInFlightAlone();
     void startOnAnotherGenerationSaysThatNothingRan();
     void hostCanDisableAndEnableThePages();
+    void hostsDisableAndEnableLeaveTheStopOfARunningTestOn();
     void windowIsDisabledWhileItsPagesInit();
 };
 
@@ -257,11 +258,24 @@ void ContRxPageTest::startOnAnotherGenerationSaysThatNothingRan()
 void ContRxPageTest::hostCanDisableAndEnableThePages()
 {
     CPluginSession session(Type1Profile());
-    QVERIFY(Running(session));
+    QVERIFY(session.ShowAndWait());
     session->DisablePages();
     QCOMPARE(Enabled(session), QString("none"));
     session->EnablePages();
     QCOMPARE(Enabled(session), QString("start"));
+}
+
+void ContRxPageTest::hostsDisableAndEnableLeaveTheStopOfARunningTestOn()
+{
+    CPluginSession session(Type1Profile());
+    QVERIFY(Running(session));
+    session->DisablePages();
+    QCOMPARE(Enabled(session), QString("stop"));
+    session->EnablePages();
+    QCOMPARE(Enabled(session), QString("stop"));
+    session.Press("m_stop");
+    QVERIFY(session.WaitForStatus("Cont Rx stop."));
+    QCOMPARE(QString(VondSim_RunningTest()), QString());
 }
 
 void ContRxPageTest::windowIsDisabledWhileItsPagesInit()

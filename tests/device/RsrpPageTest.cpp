@@ -291,6 +291,12 @@ void RsrpPageTest::hostCanDisableAndEnableThePages()
     QCOMPARE(session.Enabled(), QString("reset clear rx tx"));
     session->EnablePages();
     QCOMPARE(session.Enabled(), kIdle);
+    session.Press("m_start");
+    QVERIFY(session.WaitForStatus("Rsrp start..."));
+    session->DisablePages();
+    QCOMPARE(session.Enabled(), kRunning);
+    session->EnablePages();
+    QCOMPARE(session.Enabled(), kRunning);
 }
 
 void RsrpPageTest::ulFrequencyFollowsTheDlFrequencyAndTheBand()

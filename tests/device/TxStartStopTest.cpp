@@ -53,8 +53,8 @@ private slots:
     void stopOfTheHostOnAnIdlePageDoesNothing();
     void secondStopOfTheHostDoesNothing_data() { AddPages(); }
     void secondStopOfTheHostDoesNothing();
-    void hostCanDisableAndEnableThePages_data() { AddPages(); }
-    void hostCanDisableAndEnableThePages();
+    void hostsDisableAndEnableLeaveTheStopOfARunningTestOn_data() { AddPages(); }
+    void hostsDisableAndEnableLeaveTheStopOfARunningTestOn();
     void secondTestOnTheSamePageDoesNotDoubleTheSignals_data() { AddPages(); }
     void secondTestOnTheSamePageDoesNotDoubleTheSignals();
 
@@ -261,15 +261,15 @@ void TxStartStopTest::secondStopOfTheHostDoesNothing()
     QCOMPARE(CountCalls(page.stop), 1);
 }
 
-void TxStartStopTest::hostCanDisableAndEnableThePages()
+void TxStartStopTest::hostsDisableAndEnableLeaveTheStopOfARunningTestOn()
 {
     QFETCH(STxPage, page);
     CPluginSession session("handset", 1, page.className);
     QVERIFY(Running(session, page));
     session->DisablePages();
-    QCOMPARE(Enabled(session, page), QString("none"));
+    QCOMPARE(Enabled(session, page), QString("stop"));
     session->EnablePages();
-    QCOMPARE(Enabled(session, page), QString("start read"));
+    QCOMPARE(Enabled(session, page), QString("stop read"));
 }
 
 void TxStartStopTest::secondTestOnTheSamePageDoesNotDoubleTheSignals()
