@@ -89,9 +89,10 @@ QString DbText(int16_t value)
     return QString::number(value * kGainUnit, 'f', 5);
 }
 
+// As the target gave it: one beyond the gain table is a target to look at.
 QString IndexText(uint8_t index)
 {
-    return QString::number(qMin<int>(index, VOND_HIGHEST_GAIN_IDX));
+    return QString::number(index);
 }
 
 void Show(QJsonObject &document, const char *group, const char *member, const QJsonValue &value)
@@ -158,8 +159,9 @@ void CNrDataModelResponseBuilder::UpdateRssiGainResultV7(QJsonObject &document,
             show(row.member[PathOf(calType)], DbText(result.gain.single.*row.gain));
     };
 
-    // A failed search has filled no record; then the request tells which paths have no gains.
-    if (result.simultaneous != 0 || (!success && IsSimultaneous(calType))) {
+    // Any other layout word means that of one path. A failed search has filled no record; then the
+    // request tells which paths have no gains.
+    if (result.simultaneous == 1 || (!success && IsSimultaneous(calType))) {
         showBoth(kBothRfGains<Gains>);
         showBoth(kBothDigitalGains<Gains>);
         for (const auto &row : kGainIndexes<Gains>)

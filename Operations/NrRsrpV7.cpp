@@ -1,6 +1,5 @@
 #include "Operations/NrRsrpV7.h"
 
-#include "Operations/AnswerRoom.h"
 #include "Operations/TargetLink.h"
 #include "Vond/VondCore.h"
 
@@ -14,10 +13,7 @@ uint32_t CNrRsrpV7::RunRsrp(const SNrRsrpCmdV7 *command)
 
 uint32_t CNrRsrpV7::GetMixRxReport(NRfTestResult_GetMixRxReportV7 *report)
 {
-    const VOND_RESULT result =
-        VOND_NRf_GetMixRxReportV7_r(TargetHandle(), kTargetTimeoutMs, report);
-    HoldToRoom(*report);
-    return Finish(result);
+    return Finish(VOND_NRf_GetMixRxReportV7_r(TargetHandle(), kTargetTimeoutMs, report));
 }
 
 uint32_t CNrRsrpV7::ResetMixRxReport()

@@ -1,9 +1,11 @@
 // The reads of the RSRP pages: fetch of a report, reset of the counters, clearing of the table.
 #include "Model/JsonPath.h"
 #include "Model/ModelText.h"
+#include "Support/Log.h"
 #include "tests/controller/CoreFixture.h"
 #include "tests/controller/RsrpReports.h"
 #include "tests/controller/StepPages.h"
+#include "tests/model/LogCapture.h"
 
 namespace {
 
@@ -77,6 +79,22 @@ TEST_F(CoreReportTest, CountOfTwelveShowsTenRows)
 {
     Answer(12);
     EXPECT_EQ(Rows(Fetch(kForcePage, m_forced)).size(), 10u);
+}
+
+TEST_F(CoreReportTest, LogTellsTheCountThatTheTargetGave)
+{
+    const LogCapture log(lcCommand());
+    for (const char *count : {"0c", "ff", "0a"}) {
+        VondSim_ClearFaults();
+        AnswerBytes(kReport, 0, count);
+        Fetch(kForcePage, m_forced);
+        Fetch(kNormalPage, m_normal);
+    }
+    const QString force = "CLteDataModelResponseBuilder::UpdateMixRxResultV7 report num =";
+    const QString normal = "CNrDataModelResponseBuilder::UpdateMixRxNormalResultV7 report num =";
+    EXPECT_EQ(log.Lines(QtDebugMsg).filter("report num ="),
+              (QStringList{force + " 12", normal + " 12", force + " 255", normal + " 255",
+                           force + " 10", normal + " 10"}));
 }
 
 TEST_F(CoreReportTest, RowsCountOnOverFetchesUntilTheTableIsCleared)

@@ -151,12 +151,12 @@ TEST_F(CoreRssiTest, SearchShowsWhatWasFound)
                  {"group1.path1DivGainIdx", "14"}});
 }
 
-TEST_F(CoreRssiTest, GainIndexBeyondTheTableIsHeldToIt)
+TEST_F(CoreRssiTest, GainIndexBeyondTheTableIsShownAsItCame)
 {
     SMMGainSearchCnfV7 record = FoundBoth();
     record.gain.simultaneous.path0MainGainIdx = 255;
     Answer(kGainSearch, record);
-    EXPECT_EQ(TextAt(Search(), Place("group1.path0MainGainIdx")), "\"17\"");
+    EXPECT_EQ(TextAt(Search(), Place("group1.path0MainGainIdx")), "\"255\"");
 }
 
 TEST_F(CoreRssiTest, FailedSearchIsThreeWithItsWordsAndErrors)

