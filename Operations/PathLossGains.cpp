@@ -47,30 +47,32 @@ void AppendPartialOn(const std::vector<SGain> &modes, int srxPath, EPowerMode mo
                         mode,
                         {VondPartialOnPair(EVondRxPath::Main, srxPath, slot),
                          VondPartialOnPair(EVondRxPath::Div, srxPath, slot)},
-                        true});
+                        EGainKey::Required});
         ++slot;
     }
+}
+
+EGainKey GainByGainUse(const SMMRfRxGainInfoV7 &gains, const SGain &gain, int subGain)
+{
+    if (gains.t1[gain.bigG][gain.smallG] == 1)
+        return EGainKey::Required;
+    const auto &together = gains.t2[gain.bigG];
+    const bool isSet = together[gain.smallG][subGain] == 1 || together[subGain][gain.smallG] == 1;
+    return isSet ? EGainKey::Optional : EGainKey::IfUsed;
 }
 
 // The sub-gains of one gain on one path.
 void AppendGainByGain(const SMMRfRxGainInfoV7 &gains, const SGain &gain, int srxPath,
                       EPowerMode mode, std::vector<SGainKey> &keys)
 {
-    const auto &together = gains.t2[gain.bigG];  // by gain of path 0, gain of path 1
-    const bool required = gains.t1[gain.bigG][gain.smallG] == 1;
-    for (int subGain = 0; subGain < VOND_SUB_GAINS; ++subGain) {
-        const bool isSet = srxPath == 0 ? together[gain.smallG][subGain] == 1
-                                        : together[subGain][gain.smallG] == 1;
-        if (!required && !isSet)
-            continue;
+    for (int subGain = 0; subGain < VOND_SUB_GAINS; ++subGain)
         keys.push_back(
             {FormText(kGainByGainForm, {Text(srxPath), ModeName(mode), Text(gain.bigG),
                                         Text(gain.smallG), Text(subGain)}),
              mode,
              {VondGainByGainPair(EVondRxPath::Main, srxPath, gain.bigG, gain.smallG, subGain),
               VondGainByGainPair(EVondRxPath::Div, srxPath, gain.bigG, gain.smallG, subGain)},
-             required});
-    }
+             GainByGainUse(gains, gain, subGain)});
 }
 
 }  // namespace
@@ -86,7 +88,7 @@ bool AppendType1Keys(const SMMRfRxGainInfoV7 &gains, EPowerMode mode, std::vecto
                         mode,
                         {VondType1LossPair(EVondRxPath::Main, slot),
                          VondType1LossPair(EVondRxPath::Div, slot)},
-                        true});
+                        EGainKey::Required});
         ++slot;
     }
     return true;

@@ -2,8 +2,15 @@
 // stands for.
 //
 // Supported is what the target's table t1 of a power mode sets; its set entries, counted in row
-// order, are the gain slots of that power mode. Gain-by-gain losses have a cell for every gain, so
-// the combinations that the table t2 sets beyond t1 have keys as well, but a file may lack those.
+// order, are the gain slots of that power mode. A file has to have their keys.
+//
+// Gain-by-gain losses have a cell for every gain G and two gain modes: the page's rows are those of
+// path 1, its columns those of path 0, whichever path the page shows, and a key names the row
+// before the column. A cell has a key when t1 sets its row, or t2 its two gain modes in either
+// order, since the page shows them so on both paths. The page shows all other cells, too: their
+// keys are in a file only when they hold a loss, so that nothing that the user sees is lost on the
+// way through a file. Of these keys a file may lack any.
+//
 // Pure functions, any thread.
 //
 //   std::vector<SGainKey> keys;
@@ -23,12 +30,19 @@ enum class EPowerMode
     Lpm = 1,
 };
 
+enum class EGainKey
+{
+    Required,  // written always; a file that lacks it is not complete
+    Optional,  // written always
+    IfUsed,    // written when it holds a loss other than 0
+};
+
 struct SGainKey
 {
     std::string key;
     EPowerMode mode;
-    int pair[2];    // index of the loss, by EVondRxPath
-    bool required;  // a file that lacks it is not complete
+    int pair[2];  // index of the loss, by EVondRxPath
+    EGainKey use;
 };
 
 // Appends the keys of a power mode. False when the table sets more than the 8 modes that a record

@@ -1,5 +1,7 @@
 #include "Operations/PathLossSections.h"
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 
 #include "Operations/CalBlockCount.h"
@@ -69,6 +71,16 @@ CCalCells LossCells(Record &record, const SGainKey &key, int path)
 }
 
 template <typename Record>
+bool IsWritten(const Record &record, const SGainKey &key, int path)
+{
+    return key.use != EGainKey::IfUsed ||
+           std::any_of(std::begin(record.loss), std::end(record.loss), [&](const auto &subband) {
+               const SMMLossPair &loss = subband[key.pair[path]];
+               return (key.mode == EPowerMode::Hpm ? loss.hpm : loss.lpm) != 0;
+           });
+}
+
+template <typename Record>
 SCalFault ReadGains(const CIniSection &section, const std::vector<SGainKey> &keys, int path,
                     Record &record)
 {
@@ -76,7 +88,7 @@ SCalFault ReadGains(const CIniSection &section, const std::vector<SGainKey> &key
         std::string_view text;
         if (section.Find(key.key, text)) {
             LossCells(record, key, path).Read(text, ECalValue::Db);
-        } else if (key.required) {
+        } else if (key.use == EGainKey::Required) {
             return {
                 kCalIncomplete,
                 QLatin1String("Target supports [") + QString::fromStdString(key.key) +
@@ -160,8 +172,10 @@ void CPathLossSections<Record>::Write(CIniSection &section, const SCalPlace &pla
 {
     Record &record = m_store.At(place);
     WriteKeys(section, kKeys<Record>, record);
-    for (const SGainKey &key : m_gainKeys)
-        LossCells(record, key, index).AppendTo(section.Key(key.key), ECalValue::Db);
+    for (const SGainKey &key : m_gainKeys) {
+        if (IsWritten(record, key, index))
+            LossCells(record, key, index).AppendTo(section.Key(key.key), ECalValue::Db);
+    }
 }
 
 template class CPathLossSections<SMMType1PathlossByRouteV7>;

@@ -155,18 +155,43 @@ TEST_F(PathLossFileTest, EverySupportedGainHasItsType2Keys)
     EXPECT_FALSE(keys.count("RX srx path0 gbg loss for hpm G6,g0,g0"));
 }
 
-TEST_F(PathLossFileTest, GainsThatRunTogetherAloneHaveAKeyOnEachPathAndNeedNone)
+// The page shows a gain of both in either place on either path.
+TEST_F(PathLossFileTest, GainsThatRunTogetherHaveTheirKeysInEitherOrderAndAFileMayLackThem)
 {
     SMMRfRxGainInfoV7 gains = {};
     gains.t2[3][0][2] = 1;  // G3: path 0 at g0 while path 1 is at g2
+    std::vector<SGainKey> all;
+    ASSERT_TRUE(AppendType2Keys(gains, EPowerMode::Hpm, all));
     std::vector<SGainKey> keys;
-    ASSERT_TRUE(AppendType2Keys(gains, EPowerMode::Hpm, keys));
-    ASSERT_EQ(keys.size(), 2u);
+    for (const SGainKey &key : all) {
+        EXPECT_NE(key.use, EGainKey::Required) << key.key;
+        if (key.use == EGainKey::Optional)
+            keys.push_back(key);
+    }
+    ASSERT_EQ(keys.size(), 4u);
     EXPECT_EQ(keys[0].key, "RX srx path0 gbg loss for hpm G3,g0,g2");
     EXPECT_EQ(keys[0].pair[0], 16 + 3 * (3 * 3 + 0) + 2);
-    EXPECT_EQ(keys[1].key, "RX srx path1 gbg loss for hpm G3,g2,g0");
-    EXPECT_EQ(keys[1].pair[1], 142 + 16 + 3 * (21 + 3 * 3 + 2) + 0);
-    EXPECT_FALSE(keys[0].required || keys[1].required);
+    EXPECT_EQ(keys[1].key, "RX srx path0 gbg loss for hpm G3,g2,g0");
+    EXPECT_EQ(keys[2].key, "RX srx path1 gbg loss for hpm G3,g0,g2");
+    EXPECT_EQ(keys[3].key, "RX srx path1 gbg loss for hpm G3,g2,g0");
+    EXPECT_EQ(keys[3].pair[1], 142 + 16 + 3 * (21 + 3 * 3 + 2) + 0);
+}
+
+TEST_F(PathLossFileTest, GainThatNoTableSetsIsInTheFileWhenItHoldsALoss)
+{
+    ASSERT_EQ(LoadText(m_item, BareFile(ECalRoute::Type2)), kDone);
+    auto record = std::make_unique<SType2>(Type2(105));
+    const int pair = VondGainByGainPair(EVondRxPath::Div, 1, 6, 0, 1);
+    record->loss[63][pair].lpm = -32;
+    m_item.SetPathLossCalibrationData(105, *record);
+    const QByteArray bytes = SaveBytes(m_item);
+    const QString key = "RX srx path1 gbg loss for lpm G6,g0,g1";
+    EXPECT_TRUE(IniValue(bytes, "NR n78 Route NCCA0 RXD loss", key).endsWith(",-1.00000"));
+    EXPECT_EQ(bytes.count(key.toLatin1()), 1);
+    record->loss[63][pair].lpm = 0;
+    m_item.SetPathLossCalibrationData(105, *record);
+    ASSERT_EQ(LoadText(m_item, bytes), kDone);
+    EXPECT_EQ(Type2(105).loss[63][pair].lpm, -32);
 }
 
 TEST_F(PathLossFileTest, EveryValueComesBackAtTheExtremesOfItsType)
