@@ -148,8 +148,14 @@ void CAutoBindingDataModelDockWidget::ShowErrorBox(const QString &text)
         show();
 }
 
+void CAutoBindingDataModelDockWidget::FinishEdit()
+{
+    m_edits.Finish();
+}
+
 bool CAutoBindingDataModelDockWidget::BeginBusy()
 {
+    FinishEdit();
     const QPointer<CAutoBindingDataModelDockWidget> self(this);
     const QWidget *const window = parentWidget();
     emit Signal_PluginIsBusy(true);

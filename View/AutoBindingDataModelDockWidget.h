@@ -64,6 +64,7 @@
 
 #include "Model/OperationResult.h"
 #include "Support/MessageBoxMan.h"
+#include "View/EditSession.h"
 
 class CWidgetIndex;
 struct SEntryWords;
@@ -123,10 +124,13 @@ protected:
     void showEvent(QShowEvent *event) override;
 
     // The walks, for a page's own actions.
-    std::string PackageMemberValue();
+    std::string PackageMemberValue();  // ends the edit under way first
     void UpdateWidget(QJsonObject update);
     void AppendWidget(QJsonObject update);
-    // Says that the page is busy. False when a listener has taken the page out of its window by
+    // Ends the edit under way, as leaving its editor does; the focus stays. First thing of a request,
+    // so that what is packaged is what the widgets show afterwards.
+    void FinishEdit();
+    // Ends the edit under way and says that the page is busy. False when a listener has taken the page out of its window by
     // that, as a host does that resets: nothing may be asked of the target any more, and the end of
     // busy is said by others. GUI state is set before, since the page may be gone.
     bool BeginBusy();
@@ -215,6 +219,7 @@ private:
 
     const CWidgetIndex *m_index = nullptr;         // of the walk under way
     std::vector<std::function<void()>> m_sizings;  // of the tables that Init has filled
+    CEditSession m_edits;
     int m_packageCount = 0;
     int m_relevanceDepth = 0;  // publishers on the stack
     int m_relevanceCount = 0;  // publications since the outermost one began

@@ -148,6 +148,7 @@ void CAutoBindingDataModelDockWidget::InitColumnTableRow(QTableWidget *table, in
         if (type->takesStatus)
             cell->setEnabled(enabled);
         PlaceEditor(table, row, c, cell);
+        m_edits.Watch(cell);
         if (isChecked) {
             cell->setToolTip(check.toString());
             connect(cell, SIGNAL(editingFinished()), this, type->cellCheckSlot);

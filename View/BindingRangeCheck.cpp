@@ -2,7 +2,7 @@
 //
 // The list is tokens joined by ",": a number, or low~high with both limits inclusive. An entry that
 // no token allows is replaced by the first token: by the number itself, or by the middle of the
-// range.
+// range. Only what the user has entered is checked: a value that a document brought stays.
 #include "Support/Log.h"
 #include "View/AutoBindingDataModelDockWidget.h"
 #include "View/NumberBox.h"
@@ -51,12 +51,12 @@ void CheckRange(Box *box, const char *title)
 
 void CAutoBindingDataModelDockWidget::Slot_RangeCheck()
 {
-    if (auto *box = qobject_cast<QSpinBox *>(sender()))
+    if (auto *box = qobject_cast<QSpinBox *>(sender()); m_edits.TakeEnded(box))
         CheckRange(box, "---> Slot_RangeCheck <--- ");
 }
 
 void CAutoBindingDataModelDockWidget::Slot_PointRangeCheck()
 {
-    if (auto *box = qobject_cast<QDoubleSpinBox *>(sender()))
+    if (auto *box = qobject_cast<QDoubleSpinBox *>(sender()); m_edits.TakeEnded(box))
         CheckRange(box, "---> Slot_PointRangeCheck <--- ");
 }

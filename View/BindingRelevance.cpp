@@ -94,8 +94,12 @@ void CAutoBindingDataModelDockWidget::Publish(const SRelevanceWords &words,
         return;
     if (words.needsEnabledSender && !publisher->isEnabled())
         return;
-    if (m_relevanceDepth == 0)
+    if (m_relevanceDepth == 0) {
         m_relevanceCount = 0;
+        // What another widget sets off may give the editor new limits.
+        if (publisher != m_edits.Editor())
+            FinishEdit();
+    }
     if (m_relevanceDepth >= kMaxDepth || m_relevanceCount >= kMaxPublications) {
         if (m_relevanceCount <= kMaxPublications)
             qCCritical(lcEngine) << "publish lists form a loop, the chain ends at"

@@ -99,6 +99,7 @@ void CAutoBindingDataModelDockWidget::InitScalarMember(const QString &path, QWid
     qCDebug(lcEngine) << type->initLog;
     const QJsonValue entry = type->readsEntry ? ResolveInitEntry(member, trait) : QJsonValue();
     type->init(widget, member, entry);
+    m_edits.Watch(widget);
 
     // After the widget is filled: Init itself publishes nothing.
     if (type->checkSlot && HasJsonValue(entry.toObject(), QStringLiteral("rangeCheck")))

@@ -196,6 +196,7 @@ void CAutoBindingDataModelDockWidget::AppendWidget(QJsonObject update)
 
 std::string CAutoBindingDataModelDockWidget::PackageMemberValue()
 {
+    FinishEdit();
     WalkMembers(kPackageWords, m_dataModel, IsAnyMember,
                 [&](int groupType, const QString &path, QWidget *widget) {
                     switch (groupType) {

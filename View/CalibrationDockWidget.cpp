@@ -201,6 +201,7 @@ void CCalibrationDockWidget::on_m_btnSave_clicked()
 
 QString CCalibrationDockWidget::AskFile(bool isSave)
 {
+    FinishEdit();
     const QPointer<CCalibrationDockWidget> self(this);
     QString file;
     {

@@ -1,5 +1,6 @@
 // Data types that are numbers within limits: range, pointRange, unsignedRange.
 #include "View/DataTypeRows.h"
+#include "View/DbStep.h"
 #include "View/NumberBox.h"
 #include "View/UnsignedSpinBox.h"
 
@@ -44,6 +45,7 @@ void InitPointRange(QWidget *widget, const QJsonObject &member, const QJsonValue
         qCDebug(lcEngine) << "---> [Init][type1] == Has the decimals setting <--- ";
         box->setDecimals(entry.value(kDecimals).toInt());
     }
+    SetDbStep(box);
     box->setValue(limits.Fit(SNumber<QDoubleSpinBox>::FromText(LoggedDefault(member))));
 }
 
@@ -106,6 +108,7 @@ void SetCellDecimals(QSpinBox *, const QJsonObject &) {}
 void SetCellDecimals(QDoubleSpinBox *box, const QJsonObject &entry)
 {
     box->setDecimals(entry.value(kDecimals).toInt(kCellDecimals));
+    SetDbStep(box);
 }
 
 template <typename Box>

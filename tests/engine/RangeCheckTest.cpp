@@ -95,8 +95,7 @@ private slots:
         auto *box = page.Add<QSpinBox>(kFrequency);
         box->setSuffix(" kHz");
         page.Init();
-        box->setValue(35);
-        emit box->editingFinished();
+        Enter(box, "35");
         QCOMPARE(box->value(), 8);  // "35 kHz" is no number
     }
 
@@ -138,10 +137,26 @@ private slots:
         CTestPage page(Scalar("0,10~20"));
         auto *box = page.Add<QSpinBox>(kFrequency);
         page.Init();
-        box->setValue(5);
+        box->selectAll();
+        QTest::keyClicks(box, "5");
         QFocusEvent out(QEvent::FocusOut);
         QCoreApplication::sendEvent(box, &out);
         QCOMPARE(box->value(), 0);
+    }
+
+    void valueThatTheUserDidNotEnterIsNotChecked()
+    {
+        CTestPage page(Scalar("0,10~20"));
+        auto *box = page.Add<QSpinBox>(kFrequency);
+        page.Init();
+        box->setValue(5);
+        CLogCatcher log;
+        QTest::keyClick(box, Qt::Key_Return);
+        QFocusEvent out(QEvent::FocusOut);
+        QCoreApplication::sendEvent(box, &out);
+        emit box->editingFinished();
+        QCOMPARE(box->value(), 5);
+        QVERIFY(!log.Has("---> Slot_RangeCheck"));
     }
 
     void scalarPointRangeIsNeverChecked()
@@ -160,20 +175,26 @@ private slots:
     void pointRangeCellIsHeldToItsList_data()
     {
         QTest::addColumn<QString>("list");
-        QTest::addColumn<double>("entry");
+        QTest::addColumn<QString>("entry");
         QTest::addColumn<double>("expected");
-        QTest::newRow("number") << "0,10.5~20.5" << 0.0 << 0.0;
-        QTest::newRow("low limit") << "0,10.5~20.5" << 10.5 << 10.5;
-        QTest::newRow("high limit") << "0,10.5~20.5" << 20.5 << 20.5;
-        QTest::newRow("refused to the number") << "0.25,10.5~20.5" << 10.25 << 0.25;
-        QTest::newRow("refused to the middle") << "10.5~21.0,0" << 10.25 << 15.75;
-        QTest::newRow("number in another spelling") << "7,1.50" << 1.5 << 1.5;
+        QTest::newRow("number") << "0,10.5~20.5"
+                                << "0.0" << 0.0;
+        QTest::newRow("low limit") << "0,10.5~20.5"
+                                   << "10.5" << 10.5;
+        QTest::newRow("high limit") << "0,10.5~20.5"
+                                    << "20.5" << 20.5;
+        QTest::newRow("refused to the number") << "0.25,10.5~20.5"
+                                               << "10.25" << 0.25;
+        QTest::newRow("refused to the middle") << "10.5~21.0,0"
+                                               << "10.25" << 15.75;
+        QTest::newRow("number in another spelling") << "7,1.50"
+                                                    << "1.5" << 1.5;
     }
 
     void pointRangeCellIsHeldToItsList()
     {
         QFETCH(QString, list);
-        QFETCH(double, entry);
+        QFETCH(QString, entry);
         CTestDocument document;
         document.ColumnTable("request.group2", 2)
             .Member(kTable, QString("{'trait':{'dataType':'pointRange','value':{'min':0,'max':99,"
@@ -186,11 +207,10 @@ private slots:
         QVERIFY(cell);
         QCOMPARE(cell->toolTip(), list);
         CLogCatcher log;
-        cell->setValue(entry);
-        emit cell->editingFinished();
+        Enter(cell, entry);
         QTEST(cell->value(), "expected");
         QVERIFY(log.Has("---> Slot_PointRangeCheck <--- "));
-        QCOMPARE(log.Has("find return"), cell->value() == entry);
+        QCOMPARE(log.Has("find return"), cell->value() == entry.toDouble());
     }
 
     void rangeCellIsHeldToItsList()

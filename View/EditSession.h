@@ -1,0 +1,53 @@
+// The edit under way on a page: text that the user is still typing.
+//
+// A mnemonic and a timer leave the focus where it is, so a request can come in the middle of a
+// number. What a spin box holds then is not what the user means: with keyboard tracking an emptied
+// box has gone through every shorter number to 0. The session remembers the value that the editor
+// had when the edit began, and ends the edit in one place.
+//
+// An edit begins with the first key, paste or step that changes the text, and ends when the editor
+// loses the focus or is hidden, with Enter, and with Finish(). At its end
+//     an unfinished or empty text gives way to the value at the beginning;
+//     a finished number goes to a step that the target can hold (DbStep.h), and then passes the
+//     page's range check, which asks TakeEnded() first.
+// Without an edit, leaving an editor changes nothing: a value from a document stays as it came.
+//
+// Watches QSpinBox, QDoubleSpinBox and CUnsignedSpinBox. The text's values on the way are published
+// as the user types. GUI thread; an editor that is destroyed takes its edit along.
+//
+//   m_edits.Watch(box);     // once
+//   m_edits.Finish();       // first thing of a request; the focus stays
+//   if (m_edits.TakeEnded(box)) ...  // in a slot on editingFinished
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QVariant>
+#include <QWidget>
+
+class CEditSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Another kind of widget is left alone.
+    void Watch(QWidget *editor);
+    // Ends the edit under way, as leaving its editor does.
+    void Finish();
+    // The editor whose text the user is changing; null when there is none.
+    QWidget *Editor() const { return m_editor; }
+    // True once after an edit of this editor has ended with a finished number.
+    bool TakeEnded(const QObject *editor);
+
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    void Begin(QWidget *editor, bool isTyped);
+    bool End();
+
+    QPointer<QWidget> m_editor;
+    QVariant m_value;  // of the editor when the edit began
+    QString m_text;    // the same; known when the edit began with a step
+    bool m_isTyped = false;
+    QPointer<QWidget> m_ended;
+};
