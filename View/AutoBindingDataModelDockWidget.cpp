@@ -63,6 +63,9 @@ bool CAutoBindingDataModelDockWidget::event(QEvent *event)
     case QEvent::NonClientAreaMouseButtonPress:
     case QEvent::NonClientAreaMouseButtonRelease:
         return false;
+    case QEvent::WindowActivate:
+        KeepFocusFromWandering();
+        return QDockWidget::event(event);
     default:
         return QDockWidget::event(event);
     }
@@ -151,15 +154,6 @@ void CAutoBindingDataModelDockWidget::ShowErrorBox(const QString &text)
 void CAutoBindingDataModelDockWidget::FinishEdit()
 {
     m_edits.Finish();
-}
-
-bool CAutoBindingDataModelDockWidget::BeginBusy()
-{
-    FinishEdit();
-    const QPointer<CAutoBindingDataModelDockWidget> self(this);
-    const QWidget *const window = parentWidget();
-    emit Signal_PluginIsBusy(true);
-    return self && parentWidget() == window;
 }
 
 void CAutoBindingDataModelDockWidget::ShowItemResult(const QString &title,

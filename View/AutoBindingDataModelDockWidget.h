@@ -37,6 +37,9 @@
 // slot on an editor's change must not open one, since a walk or a chain may be under way, and Qt's
 // own code of the editor: it sets m_boxesWait, and the box comes with the next turn of the loop.
 //
+// Requests. What a button asks of the target begins with BeginRequest and ends with EndRequest. In
+// between, and after it, the focus is where it was or on nothing, whatever is turned off.
+//
 // A page adds its form, its buttons and their answers:
 //
 //   class CNrContRxDockWidgetV7 : public CAutoBindingDataModelDockWidget
@@ -49,7 +52,11 @@
 //       void RequestDataModel() override;   // connect, ask the view controller
 //       ...
 //   };
-//   // on Start:  m_viewCtrl->ContRxTest(PackageMemberValue());
+//   // on Start:
+//   if (BeginRequest([this] { DisableTestControls(); }))
+//       m_viewCtrl->ContRxTest(PackageMemberValue());
+//   // its answer:
+//   EndRequest([this] { EnableTestControls(); });
 #pragma once
 
 #include <functional>
@@ -60,11 +67,13 @@
 #include <QFuture>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QPointer>
 #include <QTableWidget>
 
 #include "Model/OperationResult.h"
 #include "Support/MessageBoxMan.h"
 #include "View/EditSession.h"
+#include "View/StatusProgress.h"
 
 class CWidgetIndex;
 struct SEntryWords;
@@ -122,18 +131,33 @@ public slots:
 protected:
     bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    // When the widget with the focus is turned off, nothing has the focus: a button that got it
+    // would be pressed by the next Space.
+    bool focusNextPrevChild(bool next) override;
 
     // The walks, for a page's own actions.
     std::string PackageMemberValue();  // ends the edit under way first
     void UpdateWidget(QJsonObject update);
     void AppendWidget(QJsonObject update);
-    // Ends the edit under way, as leaving its editor does; the focus stays. First thing of a request,
-    // so that what is packaged is what the widgets show afterwards.
+    // Ends the edit under way, as leaving its editor does; the focus stays. First thing of a
+    // request, so that what is packaged is what the widgets show afterwards.
     void FinishEdit();
-    // Ends the edit under way and says that the page is busy. False when a listener has taken the page out of its window by
-    // that, as a host does that resets: nothing may be asked of the target any more, and the end of
-    // busy is said by others. GUI state is set before, since the page may be gone.
+    // How every request of a page begins and ends. BeginRequest ends the edit under way, remembers
+    // what has the focus, has turnOff bring the buttons and inputs to what they are during the
+    // request, and says busy; a progress bar comes when the answer takes long. False when a
+    // listener has taken the page out of its window by that, as a host does that resets: nothing
+    // may be asked of the target any more, and the end of busy is said by others. EndRequest has
+    // turnOn bring them back, gives the focus back, and says that the page is idle; false as above.
+    // Requests may overlap, if what they turn off does not.
+    bool BeginRequest(const std::function<void()> &turnOff);
+    bool EndRequest(const std::function<void()> &turnOn);
+    // As these, of what does not reach the target: the page does not say busy.
+    bool BeginQuietRequest(const std::function<void()> &turnOff);
+    void EndQuietRequest(const std::function<void()> &turnOn);
+    // The signal alone, of both.
     bool BeginBusy();
+    bool EndBusy();
+    CStatusProgress &Progress() { return m_progress; }
     // Opens the result box; the page may be gone when it returns.
     void ShowItemResult(const QString &title, const SEachItemOperationResult &result);
     // Shows and drops the document's record of failed patches, and adopts the document if it is
@@ -195,6 +219,10 @@ private:
         bool m_isOutermost;
     };
 
+    bool SayBusy(bool isBusy);
+    QWidget *FocusWidget() const;
+    void GiveFocusBack();
+    void KeepFocusFromWandering();
     void StartInit();
     void ShowErrorBox(const QString &text);
     void InitWidget();
@@ -216,6 +244,11 @@ private:
 
     static const SRelevanceWords kValueWords;
     static const SRelevanceWords kStatusWords;
+
+    CStatusProgress m_progress{this};
+    int m_requests = 0;         // under way
+    QPointer<QWidget> m_focus;  // what had the focus when the last request began
+    bool m_hasAsked = false;    // a request has begun
 
     const CWidgetIndex *m_index = nullptr;         // of the walk under way
     std::vector<std::function<void()>> m_sizings;  // of the tables that Init has filled

@@ -1,27 +1,17 @@
 #include "View/CalibrationDockWidget.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QDoubleSpinBox>
 #include <QHeaderView>
 #include <QJsonDocument>
-#include <QMainWindow>
-#include <QProgressBar>
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QStatusBar>
 #include <QTableWidget>
 
 #include "Model/StatusTable.h"
 #include "Support/FileDialogMan.h"
 #include "Support/Log.h"
-
-namespace {
-
-constexpr int kProgressChars = 24;  // width of the progress bar
-
-}  // namespace
 
 // What the user and the log read of a flow.
 struct CCalibrationDockWidget::SFlowWords
@@ -53,11 +43,7 @@ CCalibrationDockWidget::CCalibrationDockWidget(const SCalibrationPage &page, QWi
 {
 }
 
-// The bar stands in the window's status bar and would stay there.
-CCalibrationDockWidget::~CCalibrationDockWidget()
-{
-    delete m_progress;
-}
+CCalibrationDockWidget::~CCalibrationDockWidget() = default;
 
 void CCalibrationDockWidget::SetForm(const SCalibrationForm &form)
 {
@@ -131,8 +117,7 @@ bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &sel
 {
     if (!m_modelReady || selected.isEmpty())
         return false;
-    SetButtonsEnabled(false);
-    if (!BeginBusy())
+    if (!BeginRequest([this] { SetButtonsEnabled(false); }))
         return false;
     qCDebug(lcForm) << log;
     // Without a snapshot the user has not been to a selector, and no data were shown by one.
@@ -143,8 +128,7 @@ bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &sel
         ShowDocument((m_viewCtrl.get()->*m_page.fetch)(PackageMemberValue()));
     }
     ShowSelectionDetails();
-    SetButtonsEnabled(true);
-    emit Signal_PluginIsBusy(false);
+    EndRequest([this] { SetButtonsEnabled(true); });
     return true;
 }
 
@@ -159,13 +143,14 @@ template <typename Flow, typename... Arguments>
 void CCalibrationDockWidget::StartFlow(ECalibrationFlow kind, const Flow &flow,
                                        const Arguments &...arguments)
 {
-    SetButtonsEnabled(false);
-    if (!BeginBusy())
+    const auto turnOff = [this] {
+        SetButtonsEnabled(false);
+        m_form.contents->setEnabled(false);
+    };
+    if (!BeginRequest(turnOff))
         return;
     qCDebug(lcForm) << Words(kind).log;
     const std::string document = PackageMemberValue();
-    m_focus = isAncestorOf(QApplication::focusWidget()) ? QApplication::focusWidget() : nullptr;
-    m_form.contents->setEnabled(false);
     ShowProgress(kind, 0, 0, 0);
     connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalProgress, this,
             [this, kind](int round, int routesDone, int routesInAll) {
@@ -221,12 +206,10 @@ QString CCalibrationDockWidget::AskFile(bool isSave)
 template <typename Flow>
 void CCalibrationDockWidget::EndFlow(const Flow &flow)
 {
-    delete m_progress;
-    m_form.contents->setEnabled(true);
-    SetButtonsEnabled(true);
-    if (m_focus && !QApplication::focusWidget())
-        m_focus->setFocus();
-    emit Signal_PluginIsBusy(false);
+    EndRequest([this] {
+        m_form.contents->setEnabled(true);
+        SetButtonsEnabled(true);
+    });
     disconnect(m_viewCtrl.get(), flow.done, this, nullptr);
     disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalProgress, this, nullptr);
 }
@@ -283,18 +266,7 @@ bool CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
 void CCalibrationDockWidget::ShowProgress(ECalibrationFlow kind, int round, int routesDone,
                                           int routesInAll)
 {
-    if (auto *window = qobject_cast<QMainWindow *>(parentWidget()); window && !m_progress) {
-        m_progress = new QProgressBar;
-        m_progress->setTextVisible(false);
-        // No higher than the text beside it, or the page would move when it comes and goes.
-        const QFontMetrics text = window->statusBar()->fontMetrics();
-        m_progress->setFixedSize(kProgressChars * text.averageCharWidth(), text.height());
-        window->statusBar()->addPermanentWidget(m_progress);
-    }
-    if (m_progress) {
-        m_progress->setRange(0, routesInAll);
-        m_progress->setValue(routesDone);
-    }
+    Progress().Show(routesDone, routesInAll);
     if (routesInAll == 0)
         return;
     QString text = QLatin1String(Words(kind).running) + QLatin1String(": ");

@@ -41,14 +41,12 @@
 #include <string>
 
 #include <QList>
-#include <QPointer>
 
 #include "View/AutoBindingDataModelDockWidget.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
 class CCalibrationDockWidget;
 class QAbstractButton;
-class QProgressBar;
 
 enum class ECalibrationFlow
 {
@@ -168,6 +166,4 @@ private:
     std::string m_lastDocument;  // as it stood when the user went to a selector
     const std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
     SCalibrationForm m_form{};
-    QPointer<QProgressBar> m_progress;  // in the window's status bar, while a flow runs
-    QPointer<QWidget> m_focus;          // what had the focus when the flow began
 };

@@ -1,9 +1,30 @@
 #include "View/StartStopDockWidget.h"
 
+#include <QLabel>
 #include <QPushButton>
 
+#include "Model/MemberPath.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
+#include "View/WidgetIndex.h"
+
+namespace {
+
+const QLatin1String kRequestName("cmdIf_request_");
+
+// The widget's own flag, whatever its page's: a page is off as a whole while another is on top.
+bool IsOn(const QWidget *widget)
+{
+    return widget->isEnabledTo(widget->parentWidget());
+}
+
+// A start that failed so reached the target; what it did there is not known.
+bool MayRun(int status)
+{
+    return status == eStatusVondFailed || status == eStatusTargetFailed;
+}
+
+}  // namespace
 
 CStartStopDockWidget::CStartStopDockWidget(const SStartStopPage &page, QWidget *parent)
     : CAutoBindingDataModelDockWidget(parent), m_page(page),
@@ -16,6 +37,11 @@ void CStartStopDockWidget::SetTestButtons(QPushButton *start, QPushButton *stop)
     m_start = start;
     m_stop = stop;
     m_stop->setEnabled(false);
+}
+
+void CStartStopDockWidget::SetInputs(const QVector<QWidget *> &inputs)
+{
+    m_inputs = inputs;
 }
 
 QWidget *CStartStopDockWidget::GetRootWidget()
@@ -36,49 +62,98 @@ void CStartStopDockWidget::RequestDataModel()
 
 void CStartStopDockWidget::DisableTestControls()
 {
-    m_start->setEnabled(false);
+    m_isDisabledByHost = true;
+    ShowControls();
 }
 
 void CStartStopDockWidget::EnableTestControls()
 {
-    if (!m_stop->isEnabledTo(this))
-        m_start->setEnabled(true);
+    m_isDisabledByHost = false;
+    ShowControls();
 }
 
+// A start or a stop that is under way ends with its own answer.
 void CStartStopDockWidget::ShowTestStopped()
 {
-    m_stop->setEnabled(false);
-    ShowStep(ETestStep::Stopped);
+    m_isStopAsked = false;
+    if (m_underWay == EUnderWay::Nothing)
+        TakeStep(ETestStep::Stopped);
+    else
+        m_isRunning = false;
 }
 
-void CStartStopDockWidget::ShowStep(ETestStep step)
+void CStartStopDockWidget::TakeStep(ETestStep step)
 {
     switch (step) {
     case ETestStep::Starting:
-        m_start->setEnabled(false);
-        m_stop->setEnabled(false);
-        break;
     case ETestStep::Stopping:
-        m_stop->setEnabled(false);
+        m_underWay = step == ETestStep::Starting ? EUnderWay::Start : EUnderWay::Stop;
+        m_isStopAsked = false;
         break;
     case ETestStep::Started:
-    case ETestStep::StopFailed:
-        m_stop->setEnabled(true);
+    case ETestStep::Stopped:
+        m_isRunning = step == ETestStep::Started;
+        m_mayStartAgain = false;
+        m_underWay = EUnderWay::Nothing;
         break;
     case ETestStep::StartFailed:
-    case ETestStep::Stopped:
-        m_start->setEnabled(true);
+    case ETestStep::StopFailed:
+        m_underWay = EUnderWay::Nothing;
         break;
     }
+    ShowControls();
 }
+
+void CStartStopDockWidget::ShowControls()
+{
+    const bool mayStart = !m_isRunning || m_mayStartAgain;
+    m_start->setEnabled(IsFree() && mayStart && !m_isDisabledByHost);
+    m_stop->setEnabled(IsFree() && m_isRunning);
+    ShowInputs(m_underWay != EUnderWay::Start && !m_isRunning && !HoldsInputs());
+}
+
+void CStartStopDockWidget::LetStartAgain()
+{
+    m_mayStartAgain = true;
+}
+
+void CStartStopDockWidget::ShowInputs(bool areOn)
+{
+    if (areOn) {
+        for (const auto &input : qAsConst(m_inputsOff))
+            input.first->setEnabled(input.second);
+        m_inputsOff.clear();
+    } else if (m_inputsOff.isEmpty()) {
+        for (QWidget *input : m_inputs.isEmpty() ? RequestEditors() : m_inputs)
+            m_inputsOff.append({input, IsOn(input)});
+        for (const auto &input : qAsConst(m_inputsOff))
+            input.first->setEnabled(false);
+    }
+}
+
+// The labels among the members are the DUT's words, and follow the editors.
+QVector<QWidget *> CStartStopDockWidget::RequestEditors() const
+{
+    QVector<QWidget *> editors;
+    const CWidgetIndex index(m_rootWidget);
+    for (QWidget *widget : index.BoundWidgets()) {
+        const QString name = widget->objectName();
+        if (name.startsWith(kRequestName) && !IsCaptionName(name) &&
+            !qobject_cast<QLabel *>(widget))
+            editors.append(widget);
+    }
+    return editors;
+}
+
+void CStartStopDockWidget::PrepareStart(const std::string &) {}
 
 void CStartStopDockWidget::StartTest()
 {
     qCDebug(lcForm) << "on_m_start_clicked";
-    ShowStep(ETestStep::Starting);
-    if (!BeginBusy())
+    if (!BeginRequest([this] { TakeStep(ETestStep::Starting); }))
         return;
     const std::string document = PackageMemberValue();
+    PrepareStart(document);
     connect(ViewCtrl(), m_page.startDone, this, m_page.startSlot);
     (ViewCtrl()->*m_page.start)(document);
 }
@@ -87,21 +162,21 @@ void CStartStopDockWidget::FinishStart(const char *slot, const SEachItemOperatio
 {
     qCDebug(lcForm) << slot;
     disconnect(ViewCtrl(), m_page.startDone, this, nullptr);
-    emit Signal_PluginIsBusy(false);
-    if (result.status == eStatusSuccess) {
-        ShowStep(ETestStep::Started);
-        emit Signal_UpdateStatus(Words("start..."));
-        return;
-    }
-    ShowStep(ETestStep::StartFailed);
-    emit Signal_UpdateStatus(Words("start failed..."));
-    ShowItemResult(Words("start failed"), result);
+    const bool isSuccess = result.status == eStatusSuccess;
+    if (!isSuccess && m_isStopAsked && MayRun(result.status))
+        m_isRunning = true;
+    const bool isHere =
+        EndRequest([&] { TakeStep(isSuccess ? ETestStep::Started : ETestStep::StartFailed); });
+    emit Signal_UpdateStatus(Words(isSuccess ? "start..." : "start failed..."));
+    if (isHere)
+        StopIfAsked();
+    if (!isSuccess)
+        ShowItemResult(Words("start failed"), result);
 }
 
 void CStartStopDockWidget::StopTest()
 {
-    ShowStep(ETestStep::Stopping);
-    if (!BeginBusy())
+    if (!BeginRequest([this] { TakeStep(ETestStep::Stopping); }))
         return;
     connect(ViewCtrl(), &CQuorlinViewCtrl::Signal_TestStopDone, this, m_page.stopSlot);
     (ViewCtrl()->*m_page.stop)();
@@ -111,21 +186,27 @@ void CStartStopDockWidget::FinishStop(const char *slot, const SEachItemOperation
 {
     qCDebug(lcForm) << slot;
     disconnect(ViewCtrl(), &CQuorlinViewCtrl::Signal_TestStopDone, this, nullptr);
-    emit Signal_PluginIsBusy(false);
-    if (result.status == eStatusSuccess) {
-        ShowStep(ETestStep::Stopped);
-        emit Signal_UpdateStatus(Words("stop."));
-        return;
-    }
-    ShowStep(ETestStep::StopFailed);
-    emit Signal_UpdateStatus(Words("stop failed."));
-    ShowItemResult(Words("stop failed"), result);
+    const bool isSuccess = result.status == eStatusSuccess;
+    EndRequest([&] { TakeStep(isSuccess ? ETestStep::Stopped : ETestStep::StopFailed); });
+    emit Signal_UpdateStatus(Words(isSuccess ? "stop." : "stop failed."));
+    if (!isSuccess)
+        ShowItemResult(Words("stop failed"), result);
 }
 
 void CStartStopDockWidget::StopRunningTest()
 {
-    // The button's own state: the page is disabled as a whole while another one is in front.
-    if (m_stop->isEnabledTo(this))
+    if (m_underWay == EUnderWay::Stop)
+        return;
+    m_isStopAsked = m_underWay == EUnderWay::Start || m_isRunning;
+    StopIfAsked();
+}
+
+void CStartStopDockWidget::StopIfAsked()
+{
+    if (!m_isStopAsked || !IsFree())
+        return;
+    m_isStopAsked = false;
+    if (m_isRunning)
         StopTest();
 }
 

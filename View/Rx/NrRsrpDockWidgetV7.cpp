@@ -1,7 +1,5 @@
 #include "View/Rx/NrRsrpDockWidgetV7.h"
 
-#include <algorithm>
-
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -20,17 +18,10 @@ namespace {
 constexpr char kReportPeriod[] = "cmdIf.request.group1.memberValue.reportPeriod";
 constexpr int kShortestPeriod = 300;  // ms, also when the document has no period
 
-// The widget's own flag, whatever its page's: a page is off as a whole while another is on top.
-bool IsOn(const QWidget *widget)
-{
-    return widget->isEnabledTo(widget->parentWidget());
-}
-
 }  // namespace
 
 CNrRsrpDockWidgetV7::CNrRsrpDockWidgetV7(const SRsrpPage &page, QWidget *parent)
-    : CAutoBindingDataModelDockWidget(parent), m_page(page),
-      m_viewCtrl(std::make_unique<CQuorlinViewCtrl>())
+    : CStartStopDockWidget(page.test, parent), m_page(page)
 {
     m_reportTimer.setObjectName(QStringLiteral("reportTimer"));
     connect(&m_reportTimer, &QTimer::timeout, this, m_page.onTick);
@@ -41,11 +32,8 @@ CNrRsrpDockWidgetV7::~CNrRsrpDockWidgetV7() = default;
 void CNrRsrpDockWidgetV7::UseWidgets(const SRsrpWidgets &widgets)
 {
     m_widgets = widgets;
-    for (QWidget *group : widgets.inputGroups)
-        m_inputs.append({group, true});
-    for (QWidget *button : {widgets.start, widgets.stop, widgets.reset, widgets.clear})
-        m_inputs.append({button, true});
-    ShowIdle();
+    SetTestButtons(widgets.start, widgets.stop);
+    SetInputs(widgets.inputGroups);
 
     const auto followCarrier = [this] {
         if (m_modelReady)
@@ -58,146 +46,51 @@ void CNrRsrpDockWidgetV7::UseWidgets(const SRsrpWidgets &widgets)
             &CNrRsrpDockWidgetV7::ShapeResults);
 }
 
-QWidget *CNrRsrpDockWidgetV7::GetRootWidget()
-{
-    return this;
-}
-
-int CNrRsrpDockWidgetV7::GetModelInterface()
-{
-    return eInterfaceCmdIf;
-}
-
-void CNrRsrpDockWidgetV7::RequestDataModel()
-{
-    connect(m_viewCtrl.get(), m_page.dataModelDone, this,
-            &CNrRsrpDockWidgetV7::Slot_GetDataModelDone);
-    (m_viewCtrl.get()->*m_page.getDataModel)();
-}
-
-void CNrRsrpDockWidgetV7::DisableTestControls()
-{
-    m_widgets.start->setEnabled(false);
-}
-
-void CNrRsrpDockWidgetV7::EnableTestControls()
-{
-    if (!IsOn(m_widgets.stop))
-        m_widgets.start->setEnabled(true);
-}
-
-void CNrRsrpDockWidgetV7::ShowTestStopped()
-{
-    m_reportTimer.stop();
-    m_stopAfterReset = false;
-    ShowIdle();
-}
-
 // One answer of its kind is waited for at a time.
 template <typename... Answers>
 void CNrRsrpDockWidgetV7::Await(SRsrpPage::Signal<Answers...> signal,
                                 SRsrpPage::Slot<Answers...> slot)
 {
     StopAwaiting(signal);
-    connect(m_viewCtrl.get(), signal, this, slot);
+    connect(ViewCtrl(), signal, this, slot);
 }
 
 template <typename... Answers>
 void CNrRsrpDockWidgetV7::StopAwaiting(SRsrpPage::Signal<Answers...> signal)
 {
-    disconnect(m_viewCtrl.get(), signal, this, nullptr);
+    disconnect(ViewCtrl(), signal, this, nullptr);
 }
 
-void CNrRsrpDockWidgetV7::DisableInputs()
+void CNrRsrpDockWidgetV7::PrepareStart(const std::string &document)
 {
-    for (auto &input : m_inputs) {
-        input.second = IsOn(input.first);
-        input.first->setEnabled(false);
-    }
-}
-
-void CNrRsrpDockWidgetV7::RestoreInputs()
-{
-    for (const auto &input : qAsConst(m_inputs))
-        input.first->setEnabled(input.second);
-}
-
-bool CNrRsrpDockWidgetV7::WasOn(const QWidget *widget) const
-{
-    return std::any_of(m_inputs.begin(), m_inputs.end(), [widget](const auto &input) {
-        return input.first == widget && input.second;
-    });
-}
-
-void CNrRsrpDockWidgetV7::ShowIdle()
-{
-    for (const auto &input : qAsConst(m_inputs))
-        input.first->setEnabled(input.first != m_widgets.stop);
-}
-
-void CNrRsrpDockWidgetV7::StartTest()
-{
-    qCDebug(lcForm) << "on_m_start_clicked";
-    m_reportTimer.stop();
-    DisableInputs();
-    if (!BeginBusy())
-        return;
-    const std::string document = PackageMemberValue();
     RequestClear(document);
-    Await(m_page.testDone, m_page.onTestDone);
-    (m_viewCtrl.get()->*m_page.test)(document);
+}
+
+void CNrRsrpDockWidgetV7::TakeStep(ETestStep step)
+{
+    CStartStopDockWidget::TakeStep(step);
+    if (step == ETestStep::Started)
+        m_reportTimer.start(
+            qMax(GetJsonIntFromString(m_dataModel, QLatin1String(kReportPeriod)), kShortestPeriod));
+    else if (step != ETestStep::StartFailed && step != ETestStep::StopFailed)
+        m_reportTimer.stop();
+}
+
+void CNrRsrpDockWidgetV7::ShowControls()
+{
+    CStartStopDockWidget::ShowControls();
+    m_widgets.reset->setEnabled(IsFree());
+    m_widgets.clear->setEnabled(IsFree() && !IsTestRunning());
 }
 
 void CNrRsrpDockWidgetV7::OnTestDone(const SEachItemOperationResult &result)
 {
-    qCDebug(lcForm) << m_page.testDoneLog;
-    const int period = GetJsonIntFromString(m_dataModel, QLatin1String(kReportPeriod));
-    StopAwaiting(m_page.testDone);
-    emit Signal_PluginIsBusy(false);
-    if (result.status == eStatusSuccess) {
-        m_widgets.stop->setEnabled(true);
-        m_widgets.reset->setEnabled(true);
-        emit Signal_UpdateStatus(QStringLiteral("Rsrp start..."));
-        m_reportTimer.start(qMax(period, kShortestPeriod));
-        return;
-    }
-    RestoreInputs();
-    emit Signal_UpdateStatus(QStringLiteral("Rsrp start failed..."));
-    ShowItemResult(QStringLiteral("Rsrp start failed"), result);
-}
-
-void CNrRsrpDockWidgetV7::StopTest()
-{
-    if (!BeginBusy())
-        return;
-    DisableInputs();
-    m_reportTimer.stop();
-    Await(&CQuorlinViewCtrl::Signal_TestStopDone, m_page.onStopDone);
-    m_viewCtrl->NrTestStop();
+    FinishStart(m_page.testDoneLog, result);
 }
 
 void CNrRsrpDockWidgetV7::OnStopDone(const SEachItemOperationResult &result)
 {
-    qCDebug(lcForm) << m_page.stopDoneLog;
-    StopAwaiting(&CQuorlinViewCtrl::Signal_TestStopDone);
-    emit Signal_PluginIsBusy(false);
-    if (result.status == eStatusSuccess) {
-        ShowIdle();
-        emit Signal_UpdateStatus(QStringLiteral("Rsrp stop."));
-        return;
-    }
-    RestoreInputs();
-    emit Signal_UpdateStatus(QStringLiteral("Rsrp stop failed."));
-    ShowItemResult(QStringLiteral("Rsrp stop failed"), result);
-}
-
-// While the counters of a running test are being reset, Stop is off for a moment only.
-void CNrRsrpDockWidgetV7::TriggerStop()
-{
-    if (IsOn(m_widgets.stop))
-        StopTest();
-    else if (m_isResetting && WasOn(m_widgets.stop))
-        m_stopAfterReset = true;
+    FinishStop(m_page.stopDoneLog, result);
 }
 
 void CNrRsrpDockWidgetV7::FetchReport()
@@ -208,7 +101,7 @@ void CNrRsrpDockWidgetV7::FetchReport()
     m_isFetching = true;
     m_clearCountAtFetch = m_clearCount;
     Await(m_page.fetchDone, m_page.onFetchDone);
-    (m_viewCtrl.get()->*m_page.fetch)(m_documentText);
+    (ViewCtrl()->*m_page.fetch)(m_documentText);
 }
 
 // No box, whatever the result: a dialog at each tick would stop the run.
@@ -230,22 +123,25 @@ void CNrRsrpDockWidgetV7::OnFetchDone(const SEachItemOperationResult &result,
 
 void CNrRsrpDockWidgetV7::ResetCounter()
 {
-    DisableInputs();
-    if (!BeginBusy())
+    const auto turnOff = [this] {
+        m_isResetting = true;
+        ShowControls();
+    };
+    if (!BeginRequest(turnOff))
         return;
-    m_isResetting = true;
     Await(&CQuorlinViewCtrl::Signal_RsrpResetCounterDone, m_page.onResetDone);
-    m_viewCtrl->RsrpResetCounter();
+    ViewCtrl()->RsrpResetCounter();
 }
 
 void CNrRsrpDockWidgetV7::OnResetDone(const SEachItemOperationResult &result)
 {
     StopAwaiting(&CQuorlinViewCtrl::Signal_RsrpResetCounterDone);
-    m_isResetting = false;
-    RestoreInputs();
-    emit Signal_PluginIsBusy(false);
-    if (std::exchange(m_stopAfterReset, false))
-        TriggerStop();
+    const auto turnOn = [this] {
+        m_isResetting = false;
+        ShowControls();
+    };
+    if (EndRequest(turnOn))
+        StopIfAsked();
     if (result.status == eStatusSuccess)
         emit Signal_UpdateStatus(QStringLiteral("Reset counter done."));
     else
@@ -254,8 +150,12 @@ void CNrRsrpDockWidgetV7::OnResetDone(const SEachItemOperationResult &result)
 
 void CNrRsrpDockWidgetV7::ClearReport()
 {
-    DisableInputs();
-    m_clearDisabledInputs = true;
+    const auto turnOff = [this] {
+        m_isClearedByUser = true;
+        ShowControls();
+    };
+    if (!BeginQuietRequest(turnOff))
+        return;
     RequestClear(PackageMemberValue());
 }
 
@@ -265,7 +165,7 @@ void CNrRsrpDockWidgetV7::RequestClear(const std::string &document)
     m_isClearing = true;
     m_documentText = document;
     Await(&CQuorlinViewCtrl::Signal_RsrpClearReportDone, m_page.onClearDone);
-    m_viewCtrl->RsrpClearReport(document);
+    ViewCtrl()->RsrpClearReport(document);
 }
 
 void CNrRsrpDockWidgetV7::OnClearDone(const std::string &response)
@@ -274,8 +174,13 @@ void CNrRsrpDockWidgetV7::OnClearDone(const std::string &response)
     m_isClearing = false;
     if (AdoptReports(response))
         ShapeResults();
-    if (std::exchange(m_clearDisabledInputs, false))
-        RestoreInputs();
+    if (!m_isClearedByUser)
+        return;
+    EndQuietRequest([this] {
+        m_isClearedByUser = false;
+        ShowControls();
+    });
+    StopIfAsked();
 }
 
 // Makes the response the page's document and brings the result tables in line with it: rows that

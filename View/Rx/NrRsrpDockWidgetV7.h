@@ -1,11 +1,12 @@
 // What the two RSRP pages have in common, which is all but names: a receive test in which the
 // target keeps measuring while the page fetches its reports on a timer.
 //
-//     idle      timer stopped, Stop off
-//     starting  timer stopped, all off, busy  -> running, or idle when the target refused
-//     running   timer on; Stop and Reset Counter on
-//     stopping  timer stopped, all off, busy  -> idle; when the stop failed, Stop is on again and
-//               the timer stays off
+// A page that starts and stops, as StartStopDockWidget.h has it, and beyond that:
+//     idle      timer stopped; Reset Counter and Clear on
+//     starting  timer stopped, all off
+//     running   timer on; Reset Counter on
+//     stopping  timer stopped, all off; it stays stopped when the stop failed
+// While counters are reset or reports cleared, all is off for that moment.
 //
 // Reports. A tick asks for one report, and is skipped while an answer is on its way: a slow target
 // costs ticks, never rows. The answer is the page's document with the new rows in it; it becomes
@@ -27,20 +28,16 @@
 //   void CNrRsrpForceDockWidgetV7::on_m_start_clicked() { StartTest(); }
 #pragma once
 
-#include <memory>
 #include <string>
 
-#include <QPair>
 #include <QTimer>
 #include <QVector>
 
-#include "View/AutoBindingDataModelDockWidget.h"
-#include "ViewController/QuorlinViewCtrl.h"
+#include "View/StartStopDockWidget.h"
 
 class CNrRsrpDockWidgetV7;
 class QComboBox;
 class QLabel;
-class QPushButton;
 class QSpinBox;
 
 // What one page asks of its view controller, where the answers go, and what it writes to the log.
@@ -51,13 +48,9 @@ struct SRsrpPage
     template <typename... Answers>
     using Slot = void (CNrRsrpDockWidgetV7::*)(Answers...);
 
-    void (CQuorlinViewCtrl::*getDataModel)();
-    Signal<std::string> dataModelDone;
-
-    void (CQuorlinViewCtrl::*test)(std::string document);
-    Signal<SEachItemOperationResult> testDone;
-    Slot<SEachItemOperationResult> onTestDone;
+    SStartStopPage test;
     const char *testDoneLog;
+    const char *stopDoneLog;
 
     void (CQuorlinViewCtrl::*fetch)(std::string document);
     Signal<SEachItemOperationResult, std::string> fetchDone;
@@ -66,8 +59,6 @@ struct SRsrpPage
 
     Slot<> onTick;
     const char *tickLog;
-    Slot<SEachItemOperationResult> onStopDone;
-    const char *stopDoneLog;
     Slot<SEachItemOperationResult> onResetDone;
     Slot<std::string> onClearDone;
 };
@@ -86,19 +77,12 @@ struct SRsrpWidgets
     QVector<QTableWidget *> results;
 };
 
-class CNrRsrpDockWidgetV7 : public CAutoBindingDataModelDockWidget
+class CNrRsrpDockWidgetV7 : public CStartStopDockWidget
 {
     Q_OBJECT
 
 public:
     ~CNrRsrpDockWidgetV7() override;
-
-    QWidget *GetRootWidget() override;
-    int GetModelInterface() override;
-    void RequestDataModel() override;
-    void DisableTestControls() override;
-    void EnableTestControls() override;
-    void ShowTestStopped() override;
 
 protected:
     // The record must outlive the page.
@@ -107,11 +91,8 @@ protected:
     void UseWidgets(const SRsrpWidgets &widgets);
 
     // What the named slots of a page do.
-    void StartTest();
     void OnTestDone(const SEachItemOperationResult &result);
-    void StopTest();
     void OnStopDone(const SEachItemOperationResult &result);
-    void TriggerStop();
     void FetchReport();
     void OnFetchDone(const SEachItemOperationResult &result, const std::string &response);
     void ResetCounter();
@@ -120,13 +101,13 @@ protected:
     void OnClearDone(const std::string &response);
     void ShowUlFrequency(int dlFrequency);
 
+    void PrepareStart(const std::string &document) override;
+    void TakeStep(ETestStep step) override;
+    void ShowControls() override;
+    bool HoldsButtons() const override { return m_isResetting || m_isClearedByUser; }
+    bool HoldsInputs() const override { return HoldsButtons(); }
+
 private:
-    // Remembers which inputs and buttons are on, and turns them off; turns on what was.
-    void DisableInputs();
-    void RestoreInputs();
-    // What RestoreInputs would give the widget back.
-    bool WasOn(const QWidget *widget) const;
-    void ShowIdle();
     void RequestClear(const std::string &document);
     bool AdoptReports(const std::string &response);
     void ShapeResults();
@@ -137,15 +118,12 @@ private:
 
     const SRsrpPage &m_page;
     SRsrpWidgets m_widgets = {};
-    std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
-    QVector<QPair<QWidget *, bool>> m_inputs;  // input groups and buttons, and whether each was on
     QTimer m_reportTimer{this};
     std::string m_documentText;  // m_dataModel from Start on
     bool m_isFetching = false;
     bool m_isClearing = false;
     bool m_isResetting = false;
-    bool m_clearDisabledInputs = false;  // the clear under way is that of the button, not of Start
-    bool m_stopAfterReset = false;       // a tab change came while the counters were being reset
+    bool m_isClearedByUser = false;  // the clear under way is that of the button, not of Start
     int m_clearCount = 0;
     int m_clearCountAtFetch = 0;
 };

@@ -6,12 +6,18 @@ using Page = CNrRsrpForceDockWidgetV7;
 using Ctrl = CQuorlinViewCtrl;
 
 constexpr SRsrpPage CNrRsrpForceDockWidgetV7::kPage = {
-    &Ctrl::GetRsrpForceDataModel,
-    &Ctrl::Signal_GetRsrpForceDataModelDone,
-    &Ctrl::RsrpForceTest,
-    &Ctrl::Signal_RsrpForceTestDone,
-    static_cast<SRsrpPage::Slot<SEachItemOperationResult>>(&Page::Slot_RsrpForceTestDone),
+    {
+        "Rsrp",
+        &Ctrl::GetRsrpForceDataModel,
+        &Ctrl::Signal_GetRsrpForceDataModelDone,
+        &Ctrl::RsrpForceTest,
+        &Ctrl::Signal_RsrpForceTestDone,
+        static_cast<ResultSlot>(&Page::Slot_RsrpForceTestDone),
+        &Ctrl::NrTestStop,
+        static_cast<ResultSlot>(&Page::Slot_RsrpForceTestStopDone),
+    },
     "Slot_RsrpForceTestDone",
+    "Slot_RsrpForceTestStopDone",
     &Ctrl::RsrpForceFetchReport,
     &Ctrl::Signal_RsrpForceFetchReportDone,
     static_cast<SRsrpPage::Slot<SEachItemOperationResult, std::string>>(
@@ -19,8 +25,6 @@ constexpr SRsrpPage CNrRsrpForceDockWidgetV7::kPage = {
     "CNrRsrpForceDockWidgetV7::Slot_RsrpForceFetchReportDone()",
     static_cast<SRsrpPage::Slot<>>(&Page::Slot_RsrpRxTimerTimeout),
     "CNrRsrpForceDockWidgetV7::Slot_RsrpRxTimerTimeout()",
-    static_cast<SRsrpPage::Slot<SEachItemOperationResult>>(&Page::Slot_RsrpForceTestStopDone),
-    "Slot_RsrpForceTestStopDone",
     static_cast<SRsrpPage::Slot<SEachItemOperationResult>>(&Page::Slot_RsrpResetCounterDone),
     static_cast<SRsrpPage::Slot<std::string>>(&Page::Slot_RsrpClearReportDone),
 };
@@ -56,7 +60,7 @@ void CNrRsrpForceDockWidgetV7::Slot_RsrpForceTestDone(SEachItemOperationResult r
 
 void CNrRsrpForceDockWidgetV7::Slot_TriggerStopTest()
 {
-    TriggerStop();
+    StopRunningTest();
 }
 
 void CNrRsrpForceDockWidgetV7::on_m_start_clicked()

@@ -6,12 +6,18 @@ using Page = CNrRsrpNormalDockWidgetV7;
 using Ctrl = CQuorlinViewCtrl;
 
 constexpr SRsrpPage CNrRsrpNormalDockWidgetV7::kPage = {
-    &Ctrl::GetRsrpNormalDataModel,
-    &Ctrl::Signal_GetRsrpNormalDataModelDone,
-    &Ctrl::RsrpNormalTest,
-    &Ctrl::Signal_RsrpNormalTestDone,
-    static_cast<SRsrpPage::Slot<SEachItemOperationResult>>(&Page::Slot_RsrpNormalTestDone),
+    {
+        "Rsrp",
+        &Ctrl::GetRsrpNormalDataModel,
+        &Ctrl::Signal_GetRsrpNormalDataModelDone,
+        &Ctrl::RsrpNormalTest,
+        &Ctrl::Signal_RsrpNormalTestDone,
+        static_cast<ResultSlot>(&Page::Slot_RsrpNormalTestDone),
+        &Ctrl::NrTestStop,
+        static_cast<ResultSlot>(&Page::Slot_RsrpNormalTestStopDone),
+    },
     "Slot_RsrpNormalTestDone",
+    "Slot_RsrpNormalTestStopDone",
     &Ctrl::RsrpNormalFetchReport,
     &Ctrl::Signal_RsrpNormalFetchReportDone,
     static_cast<SRsrpPage::Slot<SEachItemOperationResult, std::string>>(
@@ -19,8 +25,6 @@ constexpr SRsrpPage CNrRsrpNormalDockWidgetV7::kPage = {
     "CNrRsrpNormalDockWidgetV7::Slot_RsrpNormalFetchReportDone()",
     static_cast<SRsrpPage::Slot<>>(&Page::Slot_RsrpRxTimerTimeout),
     "CNrRsrpNormalDockWidgetV7::Slot_RsrpRxTimerTimeout()",
-    static_cast<SRsrpPage::Slot<SEachItemOperationResult>>(&Page::Slot_RsrpNormalTestStopDone),
-    "Slot_RsrpNormalTestStopDone",
     static_cast<SRsrpPage::Slot<SEachItemOperationResult>>(&Page::Slot_RsrpResetCounterDone),
     static_cast<SRsrpPage::Slot<std::string>>(&Page::Slot_RsrpClearReportDone),
 };
@@ -57,7 +61,7 @@ void CNrRsrpNormalDockWidgetV7::Slot_RsrpNormalTestDone(SEachItemOperationResult
 
 void CNrRsrpNormalDockWidgetV7::Slot_TriggerStopTest()
 {
-    TriggerStop();
+    StopRunningTest();
 }
 
 void CNrRsrpNormalDockWidgetV7::on_m_start_clicked()

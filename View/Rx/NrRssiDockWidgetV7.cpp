@@ -93,7 +93,7 @@ void CNrRssiDockWidgetV7::FixLayout()
 void CNrRssiDockWidgetV7::on_m_start_clicked()
 {
     qCDebug(lcForm) << "on_m_start_clicked";
-    if (!BeginRequest())
+    if (!BeginAsking())
         return;
     connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiTestDone, this,
             &CNrRssiDockWidgetV7::Slot_RssiTestDone);
@@ -103,7 +103,7 @@ void CNrRssiDockWidgetV7::on_m_start_clicked()
 void CNrRssiDockWidgetV7::on_m_btnRssiSeqSrhCalculator_clicked()
 {
     qCDebug(lcForm) << "on_m_btnRssiSeqSrhCalculator_clicked";
-    if (!BeginRequest())
+    if (!BeginAsking())
         return;
     connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiGainCalculatorDone, this,
             &CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone);
@@ -115,7 +115,7 @@ void CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone(SEachItemOperationResult r
 {
     qCDebug(lcForm) << "Slot_RssiGainCalculatorDone";
     disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiGainCalculatorDone, this, nullptr);
-    EndRequest(kCalculatorWords, result, responseStr);
+    EndAsking(kCalculatorWords, result, responseStr);
 }
 
 void CNrRssiDockWidgetV7::Slot_RssiTestDone(SEachItemOperationResult result,
@@ -123,18 +123,17 @@ void CNrRssiDockWidgetV7::Slot_RssiTestDone(SEachItemOperationResult result,
 {
     qCDebug(lcForm) << "Slot_RssiTestDone";
     disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiTestDone, this, nullptr);
-    EndRequest(kTestWords, result, responseStr);
+    EndAsking(kTestWords, result, responseStr);
 }
 
-// False when nothing may be asked any more, see BeginBusy.
-bool CNrRssiDockWidgetV7::BeginRequest()
+// False when nothing may be asked any more, see BeginRequest.
+bool CNrRssiDockWidgetV7::BeginAsking()
 {
-    DisableTestControls();
-    return BeginBusy();
+    return BeginRequest([this] { DisableTestControls(); });
 }
 
-void CNrRssiDockWidgetV7::EndRequest(const SWords &words, const SEachItemOperationResult &result,
-                                     const std::string &responseStr)
+void CNrRssiDockWidgetV7::EndAsking(const SWords &words, const SEachItemOperationResult &result,
+                                    const std::string &responseStr)
 {
     const QPointer<CNrRssiDockWidgetV7> self(this);
     // A test that did not run answers no document; adopting that would cost the page its own.
@@ -143,8 +142,7 @@ void CNrRssiDockWidgetV7::EndRequest(const SWords &words, const SEachItemOperati
         UpdateWidget(response);
     if (!self)
         return;
-    EnableTestControls();
-    emit Signal_PluginIsBusy(false);
+    EndRequest([this] { EnableTestControls(); });
     if (result.status == eStatusSuccess) {
         emit Signal_UpdateStatus(QLatin1String(words.done));
         return;

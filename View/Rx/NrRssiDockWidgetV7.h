@@ -65,9 +65,9 @@ private:
     static const SWords kCalculatorWords;
 
     void FixLayout();
-    bool BeginRequest();
-    void EndRequest(const SWords &words, const SEachItemOperationResult &result,
-                    const std::string &responseStr);
+    bool BeginAsking();
+    void EndAsking(const SWords &words, const SEachItemOperationResult &result,
+                   const std::string &responseStr);
 
     std::unique_ptr<Ui::CNrRssiDockWidgetV7> m_ui;
     std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;

@@ -5,6 +5,18 @@
 #include "Model/ModelText.h"
 #include "Support/Log.h"
 
+namespace {
+
+// Nothing for the user to read in a box.
+bool IsModelGood(const QJsonObject &response)
+{
+    const QJsonObject integrity = response.value(QLatin1String("modelIntegrity")).toObject();
+    return integrity.value(QLatin1String("integrity")).toBool(true) &&
+           !response.contains(QLatin1String("emptyModel"));
+}
+
+}  // namespace
+
 CNrTxDockWidget::CNrTxDockWidget(const SStartStopPage &page, const STxReading &reading,
                                  QWidget *parent)
     : CStartStopDockWidget(page, parent), m_reading(reading)
@@ -28,9 +40,9 @@ void CNrTxDockWidget::EnableTestControls()
     m_button->setEnabled(true);
 }
 
-void CNrTxDockWidget::ShowStep(ETestStep step)
+void CNrTxDockWidget::TakeStep(ETestStep step)
 {
-    CStartStopDockWidget::ShowStep(step);
+    CStartStopDockWidget::TakeStep(step);
     if (!m_reading.restsDuringTest)
         return;
     if (step == ETestStep::Starting)
@@ -42,35 +54,41 @@ void CNrTxDockWidget::ShowStep(ETestStep step)
 void CNrTxDockWidget::StartReading()
 {
     emit Signal_UpdateStatus(QLatin1String(m_reading.startStatus));
-    if (m_reading.takesTestButtons) {
-        StartButton()->setEnabled(false);
-        StopButton()->setEnabled(false);
-    }
-    m_button->setEnabled(false);
-    m_isReading = true;
-    if (!BeginBusy())
+    const auto turnOff = [this] {
+        m_isReading = true;
+        m_button->setEnabled(false);
+        ShowControls();
+    };
+    if (!BeginRequest(turnOff))
         return;
     connect(ViewCtrl(), m_reading.done, this, m_reading.slot);
     (ViewCtrl()->*m_reading.request)(PackageMemberValue());
 }
 
+// An answer that comes again must not end the busy state of something else, nor open another box.
 void CNrTxDockWidget::FinishReading(const std::string &resultModel)
 {
+    const bool isFirst = m_isReading;
     if (!m_reading.staysConnected)
         disconnect(ViewCtrl(), m_reading.done, this, nullptr);
-    if (m_reading.takesTestButtons)
-        StartButton()->setEnabled(true);
-    m_button->setEnabled(true);
-    // An answer that comes again must not end the busy state of something else.
-    if (m_isReading) {
-        m_isReading = false;
-        emit Signal_PluginIsBusy(false);
+    bool isHere = false;
+    if (isFirst) {
+        isHere = EndRequest([this] {
+            m_isReading = false;
+            m_button->setEnabled(true);
+            if (m_reading.takesTestButtons)
+                LetStartAgain();
+            ShowControls();
+        });
     }
     emit Signal_UpdateStatus(QLatin1String(m_reading.doneStatus));
+    if (isHere)
+        StopIfAsked();
     const QJsonObject response = ModelFromText(resultModel);
     if (response.isEmpty()) {
         qCCritical(lcForm) << windowTitle() << "the answer of a reading is no document";
         return;
     }
-    UpdateWidget(response);
+    if (isFirst || IsModelGood(response))
+        UpdateWidget(response);
 }

@@ -19,9 +19,10 @@ struct STxReading
     DocumentRequest request;
     TextSignal done;
     TextSlot slot;
-    bool takesTestButtons;  // Start and Stop go off with it; the answer turns Start on
-    bool restsDuringTest;   // its button is off from Start until that failed, or Stop succeeded
-    bool staysConnected;    // no answer takes its connection down: the n-th one comes n times
+    // Start and Stop go off with it; the answer turns Start on, and Stop if a test runs.
+    bool takesTestButtons;
+    bool restsDuringTest;  // its button is off from Start until that failed, or Stop succeeded
+    bool staysConnected;   // no answer takes its connection down: the n-th one comes n times
 };
 
 class CNrTxDockWidget : public CStartStopDockWidget
@@ -42,7 +43,8 @@ protected:
     void FinishReading(const std::string &resultModel);
     bool IsReading() const { return m_isReading; }
 
-    void ShowStep(ETestStep step) override;
+    void TakeStep(ETestStep step) override;
+    bool HoldsButtons() const override { return m_isReading && m_reading.takesTestButtons; }
 
 private:
     const STxReading m_reading;

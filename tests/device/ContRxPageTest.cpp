@@ -53,7 +53,7 @@ private slots:
     void failureWithoutATextShowsTheAdvice();
     void secondTestOnTheSamePageDoesNotDoubleTheSignals();
     void tabChangeStopsARunningTest();
-    void tabChangeLeavesAStartInFlightAlone();
+    void tabChangeStopsAStartInFlight();
     void startOnAnotherGenerationSaysThatNothingRan();
     void hostCanDisableAndEnableThePages();
     void hostsDisableAndEnableLeaveTheStopOfARunningTestOn();
@@ -222,7 +222,7 @@ void ContRxPageTest::tabChangeStopsARunningTest()
     QCOMPARE(CountCalls(kStop), 1);
 }
 
-void ContRxPageTest::tabChangeLeavesAStartInFlightAlone()
+void ContRxPageTest::tabChangeStopsAStartInFlight()
 {
     CPluginSession session(Type1Profile());
     QVERIFY(session.ShowAndWait());
@@ -231,9 +231,9 @@ void ContRxPageTest::tabChangeLeavesAStartInFlightAlone()
     QVERIFY(VondSim_WaitUntilHeld(kStart, 20000));
     QVERIFY(ChangeTabs(session));
     VondSim_Release(kStart);
-    QVERIFY(session.WaitForStatus("Cont Rx start..."));
-    QCOMPARE(CountCalls(kStop), 0);
-    QCOMPARE(Enabled(session), QString("stop"));
+    QVERIFY(session.WaitForStatus("Cont Rx stop."));
+    QCOMPARE(CountCalls(kStop), 1);
+    QCOMPARE(Enabled(session), QString("start"));
 }
 
 void ContRxPageTest::startOnAnotherGenerationSaysThatNothingRan()

@@ -37,13 +37,13 @@ private slots:
     void hardwareFollowsRouteSpacingAndBandwidth();
     void startSendsTheseBytes();
     void calculateFollowsTheCarrierSearch();
-    void carrierSearchOffKeepsCalculateOffWhateverTheTestState();
+    void carrierSearchOffKeepsCalculateOffBehindAFailedStart();
     void hostTurnsCalculateOnWithoutTheCarrierSearch();
     void resultTurnsCalculateOnWithoutTheCarrierSearch();
     void carrierSearchDrivesCellIdAndDlFrequency();
     void calculateShowsTheDlFrequency();
     void calculateTakesAllButtons();
-    void resultTurnsStartOnEvenIfATransmissionRuns();
+    void resultTurnsStartOnAndLeavesARunningTransmissionsStopOn();
     void failedCalculateShowsErrorAndSaysWhy();
     void answerThatIsNoDocumentLeavesThePage();
     void secondCalculateDoesNotDoubleTheStatus();
@@ -133,16 +133,16 @@ void PuschTxForcedPageTest::calculateFollowsTheCarrierSearch()
     QCOMPARE(Enabled(session, kForced), QString("start"));
 }
 
-void PuschTxForcedPageTest::carrierSearchOffKeepsCalculateOffWhateverTheTestState()
+void PuschTxForcedPageTest::carrierSearchOffKeepsCalculateOffBehindAFailedStart()
 {
     CPluginSession session("handset", 1, kForced.className);
     QVERIFY(Searching(session));
     QVERIFY(Start(session));
+    Click(session, "enableCsr");  // off, as all that runs
     QCOMPARE(Enabled(session, kForced), QString("stop read"));
-    Click(session, "enableCsr");
-    QCOMPARE(Enabled(session, kForced), QString("stop"));
     session.Press("m_stop");
     QVERIFY(session.WaitForStatus("Pusch TX stop."));
+    Click(session, "enableCsr");
     QCOMPARE(Enabled(session, kForced), QString("start"));
     VondSim_AddFault(R"({"function": "VOND_NRf_PuschTxV7_r", "kind": "fail", "result": 7})");
     CBoxWatcher boxes;
@@ -229,14 +229,14 @@ void PuschTxForcedPageTest::calculateTakesAllButtons()
     QCOMPARE(session.busy, (QVector<bool>{true, false}));
 }
 
-void PuschTxForcedPageTest::resultTurnsStartOnEvenIfATransmissionRuns()
+void PuschTxForcedPageTest::resultTurnsStartOnAndLeavesARunningTransmissionsStopOn()
 {
     CPluginSession session("handset", 1, kForced.className);
     QVERIFY(Searching(session));
     QVERIFY(Start(session));
     QVERIFY(Calculate(session));
     QCOMPARE(QString(VondSim_RunningTest()), QString("PuschTx"));
-    QCOMPARE(Enabled(session, kForced), QString("start read"));
+    QCOMPARE(Enabled(session, kForced), QString("start stop read"));
     QCOMPARE(ResultText(session, "dlFrequency"), QString("2140000"));
 }
 

@@ -44,8 +44,8 @@ private slots:
     void tabChangeStopsTimerAndTarget();
     void tabChangeDuringAResetOfTheCountersStopsToo_data() { BothRsrpPages(); }
     void tabChangeDuringAResetOfTheCountersStopsToo();
-    void tabChangeLeavesAStartInFlightAlone_data() { BothRsrpPages(); }
-    void tabChangeLeavesAStartInFlightAlone();
+    void tabChangeStopsAStartInFlight_data() { BothRsrpPages(); }
+    void tabChangeStopsAStartInFlight();
     void runGoesOnWhileTheWindowIsHidden_data() { BothRsrpPages(); }
     void runGoesOnWhileTheWindowIsHidden();
     void resetDropsTheAnswer_data();
@@ -124,7 +124,7 @@ void RsrpLifetimeTest::tabChangeDuringAResetOfTheCountersStopsToo()
     QCOMPARE(session.busy, (QVector<bool>{true, false, true, false, true, false}));
 }
 
-void RsrpLifetimeTest::tabChangeLeavesAStartInFlightAlone()
+void RsrpLifetimeTest::tabChangeStopsAStartInFlight()
 {
     QFETCH(QString, mode);
     CRsrpSession session(mode);
@@ -135,9 +135,10 @@ void RsrpLifetimeTest::tabChangeLeavesAStartInFlightAlone()
     QVERIFY(session.ClickTab(kOtherPage));
     QVERIFY(session.ClickTab("RSRP " + mode + " Mode"));
     VondSim_Release(kRsrpStart);
-    QVERIFY(session.WaitForStatus("Rsrp start..."));
-    QCOMPARE(CountCalls(kRsrpStop), 0);
-    QCOMPARE(session.Enabled(), QString("stop reset"));
+    QVERIFY(session.WaitForStatus("Rsrp stop."));
+    QCOMPARE(CountCalls(kRsrpStop), 1);
+    QCOMPARE(session.Enabled(), QString("start reset clear rx tx"));
+    QVERIFY(!session.Find<QTimer>("reportTimer")->isActive());
 }
 
 void RsrpLifetimeTest::runGoesOnWhileTheWindowIsHidden()

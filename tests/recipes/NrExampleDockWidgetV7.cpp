@@ -42,8 +42,8 @@ void CNrExampleDockWidgetV7::EnableTestControls()
 
 void CNrExampleDockWidgetV7::on_m_start_clicked()
 {
-    DisableTestControls();
-    emit Signal_PluginIsBusy(true);
+    if (!BeginRequest([this] { DisableTestControls(); }))
+        return;
     const std::string document = PackageMemberValue();
     connect(m_viewCtrl.get(), &CExampleViewCtrl::Signal_ExampleTestDone, this,
             &CNrExampleDockWidgetV7::Slot_ExampleTestDone);
@@ -54,8 +54,7 @@ void CNrExampleDockWidgetV7::Slot_ExampleTestDone(SEachItemOperationResult resul
                                                   std::string response)
 {
     disconnect(m_viewCtrl.get(), &CExampleViewCtrl::Signal_ExampleTestDone, this, nullptr);
-    emit Signal_PluginIsBusy(false);
-    EnableTestControls();
+    EndRequest([this] { EnableTestControls(); });
     if (result.status == eStatusSuccess) {
         UpdateWidget(ModelFromText(response));
         emit Signal_UpdateStatus(QStringLiteral("Example done."));
