@@ -9,6 +9,7 @@
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
+#include "View/FormFont.h"
 #include "View/WidgetIndex.h"
 
 namespace {
@@ -183,10 +184,11 @@ QList<QWidget *> CAutoBindingDataModelDockWidget::AllWidgets() const
 
 void CAutoBindingDataModelDockWidget::SetGroupBoxFonts(const QList<QWidget *> &widgets)
 {
-    QFont font(QStringLiteral("Arial"));
-    font.setWeight(QFont::Bold);
     for (QWidget *box : widgets) {
-        if (ExactCast<QGroupBox>(box))
-            box->setFont(font);
+        if (!ExactCast<QGroupBox>(box))
+            continue;
+        QFont font = FormFont(box->parentWidget());
+        font.setWeight(QFont::Bold);
+        box->setFont(font);
     }
 }

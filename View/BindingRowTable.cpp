@@ -15,6 +15,7 @@
 #include "Support/Log.h"
 #include "View/AutoBindingDataModelDockWidget.h"
 #include "View/DataTypes.h"
+#include "View/FormFont.h"
 #include "View/TableCells.h"
 #include "View/TableGroup.h"
 #include "View/WidgetIndex.h"
@@ -61,11 +62,11 @@ Qt::Alignment AlignmentOf(const QWidget *cell)
     return Qt::AlignLeft | Qt::AlignVCenter;
 }
 
-// An item that looks like the editor.
-QTableWidgetItem *ItemOf(const QWidget *cell, const SDataType &type)
+// An item of the table that looks like the editor would.
+QTableWidgetItem *ItemOf(const QTableWidget *table, const QWidget *cell, const SDataType &type)
 {
     auto *item = new QTableWidgetItem(type.text(cell));
-    item->setFont(cell->font());
+    item->setFont(FormFont(table));
     item->setTextAlignment(AlignmentOf(cell));
     item->setFlags(item->flags() & ~Qt::ItemIsEditable);  // a result is for reading
     return item;
@@ -82,7 +83,7 @@ bool RetireRow(QTableWidget *table, int row)
         if (!type)
             continue;
         had = true;
-        QTableWidgetItem *item = ItemOf(cell, *type);
+        QTableWidgetItem *item = ItemOf(table, cell, *type);
         table->removeCellWidget(row, c);
         table->setItem(row, c, item);
     }
@@ -121,7 +122,7 @@ void PlaceCell(QTableWidget *table, int row, int column, const SDataType &type,
         SCellWish unplaced = wish;
         unplaced.parent = nullptr;
         const std::unique_ptr<QWidget> cell(type.makeCell(unplaced));
-        table->setItem(row, column, ItemOf(cell.get(), type));
+        table->setItem(row, column, ItemOf(table, cell.get(), type));
         return;
     }
     PlaceEditor(table, row, column, type.makeCell(wish));

@@ -12,6 +12,7 @@
 #include "Model/StatusTable.h"
 #include "Support/FileDialogMan.h"
 #include "Support/Log.h"
+#include "View/ScrollPane.h"
 
 // What the user and the log read of a flow.
 struct CCalibrationDockWidget::SFlowWords
@@ -283,7 +284,9 @@ void CCalibrationDockWidget::FitTable(QTableWidget *table)
     table->setMaximumSize(FitTableSize(table));
     table->setMinimumSize(table->maximumSize());
     for (QWidget *parent = table->parentWidget(); parent; parent = parent->parentWidget()) {
-        if (auto *area = qobject_cast<QScrollArea *>(parent))
+        // The page's own pane scrolls as well, but is no frame around this table.
+        if (auto *area = qobject_cast<QScrollArea *>(parent);
+            area && !qobject_cast<CScrollPane *>(area))
             area->setFixedHeight(table->maximumHeight() +
                                  area->horizontalScrollBar()->sizeHint().height());
         parent->updateGeometry();  // a covered page tells no one of its new size

@@ -2,11 +2,10 @@
 // only; everyone else asks DataTypes.h.
 #pragma once
 
-#include <QFont>
-
 #include "Model/JsonPath.h"
 #include "Support/Log.h"
 #include "View/DataTypes.h"
+#include "View/FormFont.h"
 
 // TextTypes.cpp
 SDataType ListType();
@@ -32,7 +31,7 @@ const Widget *As(const QWidget *widget)
 
 inline void SetCellFont(QWidget *cell)
 {
-    cell->setFont(QFont(QStringLiteral("Arial")));
+    cell->setFont(FormFont(cell->parentWidget()));
 }
 
 // The member's default, on the log too.

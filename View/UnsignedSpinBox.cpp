@@ -3,12 +3,14 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
+#include "View/FormFont.h"
+
 CUnsignedSpinBox::CUnsignedSpinBox(QWidget *parent, int base)
     : QLineEdit(parent), m_base(ValidBase(base))
 {
     installEventFilter(this);
     connect(this, &QLineEdit::textChanged, this, &CUnsignedSpinBox::validate);
-    setFont(QFont(QStringLiteral("Arial")));
+    setFont(FormFont(parent));
 }
 
 QString CUnsignedSpinBox::ToText(unsigned int value, int base)
