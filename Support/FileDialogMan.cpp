@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QPointer>
 
+#include "Support/FileFilter.h"
+
 // What tells the two dialogs apart.
 struct CFileDialogMan::SDialogKind
 {
@@ -15,8 +17,7 @@ struct CFileDialogMan::SDialogKind
 
 namespace {
 
-// Taken as it stands: the bar is part of the one filter, not a separator.
-constexpr char kDefaultFilter[] = "All files (*.*)|*.*";
+constexpr char kDefaultFilter[] = "INI files (*.ini)|*.ini|All files (*.*)|*.*";
 
 // The outermost window above the active one. A page may float in a window of its own and is
 // destroyed on a reset, which would take a dialog that runs as its child along.
@@ -61,11 +62,15 @@ QString CFileDialogMan::GetFileName(const SDialogKind &kind, const QString &capt
                                     const QString &filter)
 {
     const QPointer<CFileDialogMan> alive = this;
-    auto *dialog = new QFileDialog(
-        DialogParent(), caption.isEmpty() ? QString(kind.defaultCaption) : caption,
-        m_record.GetLastPath(), filter.isEmpty() ? QString(kDefaultFilter) : filter);
+    auto *dialog =
+        new QFileDialog(DialogParent(), caption.isEmpty() ? QString(kind.defaultCaption) : caption,
+                        m_record.GetLastPath());
+    const QString offered = filter.isEmpty() ? QString(kDefaultFilter) : filter;
+    dialog->setNameFilters(NameFilters(offered));
     dialog->setAcceptMode(kind.acceptMode);
     dialog->setFileMode(kind.fileMode);
+    if (kind.acceptMode == QFileDialog::AcceptSave)
+        dialog->setDefaultSuffix(DefaultSuffix(offered));
     const QString file = Ask(dialog);
     if (!alive)
         return {};

@@ -27,7 +27,9 @@ public:
     explicit CFileDialogMan(
         const QString &settingsFile = CFilePathRecordSentry::DefaultSettingsFile());
 
-    // An empty caption or filter stands for the default of the dialog.
+    // An empty caption or filter stands for the default of the dialog. A filter with a bar is one
+    // of FileFilter.h, and is translated; the dialog offers its filters in their order. A file that
+    // is to be saved gets the first filter's end when its name has none.
     QString GetSaveFileName(const QString &caption, const QString &filter);
     QString GetOpenFileName(const QString &caption, const QString &filter);
 

@@ -192,8 +192,7 @@ QString CCalibrationDockWidget::AskFile(bool isSave)
     QString file;
     {
         CFileDialogMan dialogs;
-        file = isSave ? dialogs.GetSaveFileName({}, QStringLiteral("Ini file (*.ini)|*.ini"))
-                      : dialogs.GetOpenFileName({}, {});
+        file = isSave ? dialogs.GetSaveFileName({}, {}) : dialogs.GetOpenFileName({}, {});
     }
     if (!self)
         return {};

@@ -281,8 +281,9 @@ void CalibrationFlowTest::dialogsHaveTheirCaptionsAndFilters()
     session.Press(kImport.button);
     AnswerFileDialog({}, look);
     session.Press(kExport.button);
-    QCOMPARE(seen, (QStringList{"Please choose the file to open", "All files (*.*)|*.*",
-                                "Please choose the file to save", "Ini file (*.ini)|*.ini"}));
+    QCOMPARE(seen,
+             (QStringList{"Please choose the file to open", "INI files (*.ini)", "All files (*)",
+                          "Please choose the file to save", "INI files (*.ini)", "All files (*)"}));
 }
 
 void CalibrationFlowTest::unchangedWriteLeavesTheFlashAsItWas()

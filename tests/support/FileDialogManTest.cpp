@@ -56,10 +56,12 @@ private slots:
         QFETCH(QString, caption);
         QFETCH(int, acceptMode);
         QFETCH(int, fileMode);
+        const bool isSave = acceptMode == QFileDialog::AcceptSave;
         CFileDialogMan dialogs(SettingsFile());
         InNextDialog([&](QFileDialog *dialog) {
             QCOMPARE(dialog->windowTitle(), caption);
-            QCOMPARE(dialog->nameFilters(), QStringList("All files (*.*)|*.*"));
+            QCOMPARE(dialog->nameFilters(), (QStringList{"INI files (*.ini)", "All files (*)"}));
+            QCOMPARE(dialog->defaultSuffix(), QString(isSave ? "ini" : ""));
             QCOMPARE(dialog->directory().path(), m_start);
             QCOMPARE(int(dialog->acceptMode()), acceptMode);
             QCOMPARE(int(dialog->fileMode()), fileMode);
@@ -70,15 +72,32 @@ private slots:
         QCOMPARE(m_dialogsSeen, 1);
     }
 
+    void givenCaptionAndFilterAreUsed_data()
+    {
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QStringList>("offered");
+        QTest::addColumn<QString>("suffix");
+        const auto row = [](const char *filter, const QStringList &offered, const char *suffix) {
+            QTest::newRow(filter) << filter << offered << suffix;
+        };
+        row("Ini file (*.ini)|*.ini", {"Ini file (*.ini)"}, "ini");
+        row("All files (*.*)|*.*", {"All files (*)"}, "");
+        row("Logs|*.log; *.txt|All|*.*|", {"Logs (*.log *.txt)", "All (*)"}, "log");
+        row("Logs (*.log);;All files (*)", {"Logs (*.log)", "All files (*)"}, "log");
+    }
+
     void givenCaptionAndFilterAreUsed()
     {
+        QFETCH(QString, filter);
+        QFETCH(QStringList, offered);
         CFileDialogMan dialogs(SettingsFile());
         InNextDialog([&](QFileDialog *dialog) {
             QCOMPARE(dialog->windowTitle(), QString("Export"));
-            QCOMPARE(dialog->nameFilters(), QStringList("Ini file (*.ini)|*.ini"));
+            QCOMPARE(dialog->nameFilters(), offered);
+            QTEST(dialog->defaultSuffix(), "suffix");
             dialog->reject();
         });
-        dialogs.GetSaveFileName("Export", "Ini file (*.ini)|*.ini");
+        dialogs.GetSaveFileName("Export", filter);
         QCOMPARE(m_dialogsSeen, 1);
     }
 
