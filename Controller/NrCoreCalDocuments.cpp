@@ -73,13 +73,13 @@ CNrCore::SCalView CNrCore::CalView(ECalItem item)
         const CLockSentry lock(m_viewLock);
         return m_calViews[static_cast<size_t>(item)];
     };
-    if (!m_targetLock.TryLock()) {
-        if (!m_areItemsStale.load() && last().isKnown)
-            return last();
-        m_targetLock.Lock();
-    }
+    const bool isFree = m_targetLock.TryLock();
+    if (!isFree && !m_areItemsStale.load() && last().isKnown)
+        return last();
+    const CLockSentry lock(m_targetLock);  // gives it back whatever the look throws
+    if (isFree)
+        m_targetLock.Unlock();
     LookForCalItem(item);
-    m_targetLock.Unlock();
     return last();
 }
 

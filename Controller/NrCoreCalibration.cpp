@@ -153,8 +153,14 @@ void CNrCore::RenewCalItems()
         return;
     const CLockSentry pathLoss(RecordLock(ECalItem::PathLoss));
     const CLockSentry apt(RecordLock(ECalItem::Apt));
-    m_aptProfile = std::make_unique<CMultiRatAptProfileV7>(ERadioKind::Nr);
-    m_pathLoss = std::make_unique<CMultiRatPathLossV7>(ERadioKind::Nr);
+    try {
+        auto aptProfile = std::make_unique<CMultiRatAptProfileV7>(ERadioKind::Nr);
+        m_pathLoss = std::make_unique<CMultiRatPathLossV7>(ERadioKind::Nr);
+        m_aptProfile = std::move(aptProfile);
+    } catch (...) {
+        m_areItemsStale.store(true);  // the next job must not find the last DUT's records
+        throw;
+    }
     const QStringList names = m_calItemMap.keys();
     for (const QString &name : names) {
         FindCalItem(name)->SetProgress([this, name](int round, int routesDone, int routesInAll) {
