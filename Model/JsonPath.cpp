@@ -63,9 +63,10 @@ void Rewrite(QJsonObject &object, QStringView path, const Change &change)
     *place = child;
 }
 
-bool LogMissing(QStringView segment)
+// Both ways of writing say what they miss; only a value that is replaced calls that an error.
+bool LogMissing(const char *words, QStringView segment)
 {
-    qCDebug(lcModel) << "Error: modify non-existing property" << segment.toString();
+    qCDebug(lcModel) << words << segment.toString();
     return false;
 }
 
@@ -99,7 +100,7 @@ bool ModifyJsonValue(QJsonObject &object, const QString &path, const QJsonValue 
 {
     const QStringView missing = FirstMissing(object, path);
     if (!missing.isNull()) {
-        LogMissing(missing);
+        LogMissing("Error: modify non-existing property", missing);
         if (depth == 0 && IsJsonValueValid(object.value(Split(path).head)))
             qCDebug(lcModel) << "path: " << path;
         return false;
@@ -113,7 +114,7 @@ bool InsertJsonObject(QJsonObject &object, const QString &path, const QString &k
 {
     const QStringView missing = FirstMissing(object, path);
     if (!missing.isNull())
-        return LogMissing(missing);
+        return LogMissing("modify non-existing property", missing);
     Rewrite(object, path, [&](QJsonValueRef place) {
         QJsonObject target = QJsonValue(place).toObject();
         place = QJsonValue();

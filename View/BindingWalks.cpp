@@ -47,7 +47,7 @@ constexpr SWalkWords kPackageWords = {
     "====== Packge MemberValue: objName ======",
     "====== Failed to packge: Cannot get its JSON ojbect ====== ",
     "====== Failed to packge : Not support this group type yet ======",
-    "============ [Done] Package MemberValue ============ ",
+    nullptr,  // told with the text
     true,
 };
 
@@ -155,7 +155,8 @@ void CAutoBindingDataModelDockWidget::WalkMembers(const SWalkWords &words, QJson
         if (!visit(groupType, path, widget))
             qCCritical(lcEngine) << words.unsupported;
     }
-    qCDebug(lcEngine) << words.done;
+    if (words.done)
+        qCDebug(lcEngine) << words.done;
 }
 
 void CAutoBindingDataModelDockWidget::UpdateWidget(QJsonObject update)
@@ -211,7 +212,7 @@ std::string CAutoBindingDataModelDockWidget::PackageMemberValue()
                     }
                 });
     const std::string text = ModelToText(m_dataModel);
-    qCDebug(lcEngine) << text.c_str();
+    qCDebug(lcEngine) << "============ [Done] Package MemberValue ============ " << text.c_str();
     if (++m_packageCount % kPackagesBetweenRenewals == 0)
         m_dataModel = ModelFromText(text);
     return text;

@@ -175,6 +175,20 @@ private slots:
         QCOMPARE(last->text(), QString("NA"));
     }
 
+    void packageEndsWithItsTextInItsDoneLine()
+    {
+        const CTestDocument document = MakeDocument(1, kLabel, 1);
+        CTestPage page(document);
+        page.Add<QLabel>(kMember);
+        CLogCatcher log;
+        page.Init();
+        log.Clear();
+        const std::string text = page.PackageMemberValue();
+        QVERIFY(text.size() > 2);
+        QCOMPARE(log.Debug().last(), "============ [Done] Package MemberValue ============  " +
+                                         QString::fromStdString(text));
+    }
+
     void walksFrameTheirLines_data()
     {
         QTest::addColumn<int>("walk");

@@ -32,7 +32,7 @@ TEST(JsonPathLog, FailedInsertNamesTheMissingSegment)
     QJsonObject document{{"cmdIf", QJsonObject()}};
     const LogCapture log(lcModel());
     InsertJsonObject(document, "cmdIf.request", "memberValue", "band", "n1");
-    EXPECT_TRUE(log.Holds(QtDebugMsg, "modify non-existing property \"request\""));
+    EXPECT_EQ(log.Lines(QtDebugMsg), QStringList("modify non-existing property \"request\""));
 }
 
 TEST(JsonPathLog, FailedRemoveTellsWhatIsMissingWhere)
