@@ -118,6 +118,7 @@ bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &sel
 {
     if (!m_modelReady || selected.isEmpty())
         return false;
+    m_undo.Forget();
     if (!BeginRequest([this] { SetButtonsEnabled(false); }))
         return false;
     qCDebug(lcForm) << log;
@@ -144,6 +145,7 @@ template <typename Flow, typename... Arguments>
 void CCalibrationDockWidget::StartFlow(ECalibrationFlow kind, const Flow &flow,
                                        const Arguments &...arguments)
 {
+    m_undo.Forget();
     const auto turnOff = [this] {
         SetButtonsEnabled(false);
         m_form.contents->setEnabled(false);
@@ -292,12 +294,7 @@ void CCalibrationDockWidget::FitTable(QTableWidget *table)
     }
 }
 
-void CCalibrationDockWidget::ZeroCells(QTableWidget *table)
+void CCalibrationDockWidget::ResetTables(const QString &reset, const QList<QTableWidget *> &tables)
 {
-    for (int r = 0; r < table->rowCount(); ++r) {
-        for (int c = 0; c < table->columnCount(); ++c) {
-            if (auto *cell = qobject_cast<QDoubleSpinBox *>(table->cellWidget(r, c)))
-                cell->setValue(0.0);
-        }
-    }
+    m_undo.Zero(reset, tables);
 }

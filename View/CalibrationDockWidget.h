@@ -43,6 +43,7 @@
 #include <QList>
 
 #include "View/AutoBindingDataModelDockWidget.h"
+#include "View/ResetUndo.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
 class CCalibrationDockWidget;
@@ -141,7 +142,9 @@ protected:
     // Fixes the table's size to all of its headers and cells, and that of the scroll area that it
     // stands in, if any, to the table's height.
     static void FitTable(QTableWidget *table);
-    static void ZeroCells(QTableWidget *table);
+    // For a reset button, by its name: sets all values of the tables to 0, which can be undone
+    // until the page shows other data, begins a flow or is left.
+    void ResetTables(const QString &reset, const QList<QTableWidget *> &tables);
 
 private:
     struct SFlowWords;
@@ -166,4 +169,5 @@ private:
     std::string m_lastDocument;  // as it stood when the user went to a selector
     const std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
     SCalibrationForm m_form{};
+    CResetUndo m_undo{this, [this] { FinishEdit(); }};
 };

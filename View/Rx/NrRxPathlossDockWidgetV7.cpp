@@ -30,6 +30,12 @@ constexpr int kType1Page = 0;
 constexpr int kType2Page = 1;
 constexpr int kPartialOnColumns = 8;
 
+// Tool tips of the reset button, with the tables' names on the page.
+constexpr char kType1Reset[] = "Set all values of Main Path and Diversity Path to 0";
+constexpr char kType2Reset[] =
+    "Set all values of Partial-On Pathloss and of Gain by gain Pathloss, "
+    "main and diversity, to 0";
+
 // Gains of the partial-on table, by power mode.
 constexpr char kGainInfo[] = "calDataIf.config.group1.memberProperty.scGainInfo.trait.valuePair.";
 
@@ -167,14 +173,14 @@ void CNrRxPathlossDockWidgetV7::
 
 void CNrRxPathlossDockWidgetV7::on_m_btnReset_2_clicked()
 {
-    if (IsType2(m_ui->calDataIf_config_group1_memberProperty_routeType->currentText())) {
-        ZeroCells(m_ui->calDataIf_data_group5_memberProperty_main);
-        ZeroCells(m_ui->calDataIf_data_group6_memberProperty_gain0);
-        ZeroCells(m_ui->calDataIf_data_group7_memberProperty_gain0);
-    } else {
-        ZeroCells(m_ui->calDataIf_data_group2_memberProperty_lna0);
-        ZeroCells(m_ui->calDataIf_data_group3_memberProperty_lna0);
-    }
+    const QString reset = m_ui->m_btnReset_2->text();
+    if (IsType2(m_ui->calDataIf_config_group1_memberProperty_routeType->currentText()))
+        ResetTables(reset, {m_ui->calDataIf_data_group5_memberProperty_main,
+                            m_ui->calDataIf_data_group6_memberProperty_gain0,
+                            m_ui->calDataIf_data_group7_memberProperty_gain0});
+    else
+        ResetTables(reset, {m_ui->calDataIf_data_group2_memberProperty_lna0,
+                            m_ui->calDataIf_data_group3_memberProperty_lna0});
 }
 
 void CNrRxPathlossDockWidgetV7::ShowSelectionDetails()
@@ -191,5 +197,8 @@ void CNrRxPathlossDockWidgetV7::ShowFrequency(int index)
 
 void CNrRxPathlossDockWidgetV7::ShowTables(const QString &routeType)
 {
-    m_ui->m_stackedWidget->setCurrentIndex(IsType2(routeType) ? kType2Page : kType1Page);
+    const bool isType2 = IsType2(routeType);
+    m_ui->m_stackedWidget->setCurrentIndex(isType2 ? kType2Page : kType1Page);
+    // Some of the tables that a reset zeroes may be out of sight.
+    m_ui->m_btnReset_2->setToolTip(QLatin1String(isType2 ? kType2Reset : kType1Reset));
 }

@@ -91,10 +91,11 @@ void CNrAptProfileDockWidgetV7::
 
 void CNrAptProfileDockWidgetV7::on_m_btnResetPaGain_clicked()
 {
-    ZeroCells(m_ui->calDataIf_data_group7_memberProperty_paHighPaGain);
+    ResetTables(m_ui->m_btnResetPaGain->text(),
+                {m_ui->calDataIf_data_group7_memberProperty_paHighPaGain});
 }
 
 void CNrAptProfileDockWidgetV7::on_m_btnResetPd_clicked()
 {
-    ZeroCells(m_ui->calDataIf_data_group9_memberProperty_paHighPd);
+    ResetTables(m_ui->m_btnResetPd->text(), {m_ui->calDataIf_data_group9_memberProperty_paHighPd});
 }
