@@ -7,6 +7,9 @@
 
 #include "Support/Log.h"
 #include "View/AutoBindingDataModelDockWidget.h"
+#include "View/FloatPlace.h"
+#include "View/InitCover.h"
+#include "View/NarrowTabs.h"
 
 namespace {
 
@@ -125,6 +128,7 @@ void CAutoBindingDataModelForm::WireTabBar(QObject *child)
     if (!bar)
         return;
     bar->setElideMode(Qt::ElideNone);
+    NarrowTabs(bar);
     bar->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(bar, &QTabBar::customContextMenuRequested, this,
             &CAutoBindingDataModelForm::ShowContextMenu, Qt::UniqueConnection);
@@ -147,6 +151,7 @@ void CAutoBindingDataModelForm::InitPage(const QStringList &pageList)
     QStringList failedPages;
     QPointer<CAutoBindingDataModelDockWidget> firstPage;
     CSizeHold size(this);
+    auto cover = std::make_unique<CInitCover>(this);
     for (const QString &name : pageList) {
         CAutoBindingDataModelDockWidget *page = CreatePage(name, failedPages);
         if (!page)
@@ -162,6 +167,7 @@ void CAutoBindingDataModelForm::InitPage(const QStringList &pageList)
             firstPage = page;
     }
     size.Release();
+    cover.reset();
     FinishInit(menu, firstPage, failedPages);
 }
 
@@ -240,6 +246,7 @@ void CAutoBindingDataModelForm::FinishInit(QMenu *menu, CAutoBindingDataModelDoc
     // The bar is not shown: the menu is reached as a context menu alone.
     m_pageMenuBar = std::make_unique<QMenuBar>();
     connect(menu, &QMenu::triggered, this, &CAutoBindingDataModelForm::SelectPages);
+    connect(menu, &QMenu::aboutToShow, this, &CAutoBindingDataModelForm::MarkPageOnTop);
     m_pageMenuBar->addMenu(menu);
     m_pageMenu = menu;
     for (QTabBar *bar : findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly))
@@ -265,6 +272,7 @@ void CAutoBindingDataModelForm::FinishInit(QMenu *menu, CAutoBindingDataModelDoc
                 &CAutoBindingDataModelForm::Slot_DockWidgetsTabChange);
         connect(page, &QWidget::customContextMenuRequested, this,
                 &CAutoBindingDataModelForm::ShowContextMenu);
+        FloatBeside(page);
     }
     if (firstPage)
         firstPage->raise();
@@ -296,6 +304,20 @@ void CAutoBindingDataModelForm::ShowContextMenu(const QPoint &pos)
     const auto *widget = qobject_cast<QWidget *>(sender());
     if (m_pageMenu && widget)
         m_pageMenu->exec(widget->mapToGlobal(pos));
+}
+
+// Of the docked pages, the others of a tab bar are out of sight.
+void CAutoBindingDataModelForm::MarkPageOnTop()
+{
+    QString onTop;
+    for (const CAutoBindingDataModelDockWidget *page : Pages()) {
+        if (!page->isFloating() && page->isEnabled() && !page->visibleRegion().isEmpty())
+            onTop = page->windowTitle();
+    }
+    for (QAction *action : m_pageMenu->actions()) {
+        action->setCheckable(true);
+        action->setChecked(action->text() == onTop);
+    }
 }
 
 void CAutoBindingDataModelForm::SelectPages(QAction *page)

@@ -78,6 +78,7 @@ private:
     void FinishInit(QMenu *menu, CAutoBindingDataModelDockWidget *firstPage,
                     const QStringList &failedPages);
     void WireTabBar(QObject *child);
+    void MarkPageOnTop();
     template <typename Pass>
     void RelayPageSignal(const Pass &pass);
 
