@@ -1,7 +1,7 @@
 #include "View/ScrollPane.h"
 
 #include <QApplication>
-#include <QEvent>
+#include <QResizeEvent>
 
 namespace {
 
@@ -20,10 +20,15 @@ CScrollPane::CScrollPane(QWidget *parent) : QScrollArea(parent)
             [this](QWidget *, QWidget *now) { ShowFocus(now); });
 }
 
-// Qt's own hint ends at 24 lines.
+// Qt's own hint ends at 24 lines, and knows nothing of labels that wrap.
 QSize CScrollPane::sizeHint() const
 {
-    return widget() ? widget()->sizeHint() : QScrollArea::sizeHint();
+    if (!widget())
+        return QScrollArea::sizeHint();
+    QSize size = widget()->sizeHint();
+    if (widget()->hasHeightForWidth())
+        size.setHeight(widget()->heightForWidth(width()));
+    return size;
 }
 
 QSize CScrollPane::minimumSizeHint() const
@@ -40,6 +45,13 @@ bool CScrollPane::event(QEvent *event)
     if (event->type() == QEvent::LayoutRequest)
         updateGeometry();
     return isDone;
+}
+
+void CScrollPane::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    if (event->oldSize().width() != event->size().width())
+        updateGeometry();
 }
 
 void CScrollPane::ShowFocus(QWidget *now)

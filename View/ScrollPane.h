@@ -24,6 +24,7 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void ShowFocus(QWidget *now);
