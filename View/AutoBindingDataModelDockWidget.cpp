@@ -88,6 +88,7 @@ void CAutoBindingDataModelDockWidget::StartInit()
     setStyleSheet(QStringLiteral("QGroupBox::title { color: rgb(32, 81, 124);}"));
     m_modelInterface = GetModelInterface();
     m_rootWidget = GetRootWidget();
+    m_wheel.GuardAll(AllWidgets());
     RequestDataModel();
 }
 

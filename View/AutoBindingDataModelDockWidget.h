@@ -74,6 +74,7 @@
 #include "Support/MessageBoxMan.h"
 #include "View/EditSession.h"
 #include "View/StatusProgress.h"
+#include "View/WheelGuard.h"
 
 class CWidgetIndex;
 struct SEntryWords;
@@ -253,6 +254,7 @@ private:
     const CWidgetIndex *m_index = nullptr;         // of the walk under way
     std::vector<std::function<void()>> m_sizings;  // of the tables that Init has filled
     CEditSession m_edits;
+    CWheelGuard m_wheel;
     int m_packageCount = 0;
     int m_relevanceDepth = 0;  // publishers on the stack
     int m_relevanceCount = 0;  // publications since the outermost one began

@@ -10,6 +10,7 @@
 #include "View/FloatPlace.h"
 #include "View/InitCover.h"
 #include "View/NarrowTabs.h"
+#include "View/TabOrder.h"
 
 namespace {
 
@@ -104,6 +105,11 @@ void CAutoBindingDataModelForm::RelayPageSignal(const Pass &pass)
     relay->leaving.clear();
 }
 
+bool CAutoBindingDataModelForm::focusNextPrevChild(bool next)
+{
+    return MoveFocus(this, next) || QMainWindow::focusNextPrevChild(next);
+}
+
 // A floating page docks again, so that the next show finds it in its place.
 void CAutoBindingDataModelForm::closeEvent(QCloseEvent *event)
 {
@@ -127,6 +133,7 @@ void CAutoBindingDataModelForm::WireTabBar(QObject *child)
     auto *bar = qobject_cast<QTabBar *>(child);
     if (!bar)
         return;
+    m_wheel.Guard(bar);
     bar->setElideMode(Qt::ElideNone);
     NarrowTabs(bar);
     bar->setContextMenuPolicy(Qt::CustomContextMenu);

@@ -25,6 +25,7 @@
 #include <QStringList>
 
 #include "Support/MessageBoxMan.h"
+#include "View/WheelGuard.h"
 
 class CAutoBindingDataModelDockWidget;
 
@@ -61,6 +62,7 @@ private slots:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void childEvent(QChildEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
 
     void InitPage(const QStringList &pageList);
     void RemovePages();
@@ -92,6 +94,7 @@ private:
     std::shared_ptr<SRelay> m_relay = std::make_shared<SRelay>();
     std::unique_ptr<QMenuBar> m_pageMenuBar;  // holds the menu; never attached to the window
     CMessageBoxMan m_messageBox;
+    CWheelGuard m_wheel;              // of the tab bars
     QPointer<QEventLoop> m_initLoop;  // where the init flow waits for a page
     int m_initRun = 0;  // changes when pages are removed, which ends an init flow that waits
 };

@@ -49,8 +49,10 @@ CCalibrationDockWidget::~CCalibrationDockWidget() = default;
 void CCalibrationDockWidget::SetForm(const SCalibrationForm &form)
 {
     m_form = form;
-    for (QWidget *selector : form.selectors)
+    for (QWidget *selector : form.selectors) {
         selector->installEventFilter(this);
+        CWheelGuard::Release(selector);
+    }
 }
 
 QWidget *CCalibrationDockWidget::GetRootWidget()

@@ -10,6 +10,7 @@
 #include <QSpinBox>
 
 #include "View/DbStep.h"
+#include "View/LimitTip.h"
 #include "View/UnsignedSpinBox.h"
 
 namespace {
@@ -98,8 +99,10 @@ void CEditSession::Watch(QWidget *editor)
     if (!IsEditor(editor))
         return;
     QLineEdit *text = qobject_cast<CUnsignedSpinBox *>(editor);
-    if (!text)
-        text = editor->findChild<QLineEdit *>();
+    if (auto *box = qobject_cast<QAbstractSpinBox *>(editor)) {
+        text = box->findChild<QLineEdit *>();
+        TellRefusedKeys(box);
+    }
     editor->installEventFilter(this);
     // Comes before the editor takes the new text over.
     connect(text, &QLineEdit::textEdited, this, [this, editor] { Begin(editor, true); });

@@ -30,7 +30,7 @@ class CEditSession : public QObject
     Q_OBJECT
 
 public:
-    // Another kind of widget is left alone.
+    // Another kind of widget is left alone. A key that the editor refuses shows its limits.
     void Watch(QWidget *editor);
     // Ends the edit under way, as leaving its editor does.
     void Finish();

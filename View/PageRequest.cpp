@@ -2,6 +2,7 @@
 #include <QEvent>
 
 #include "View/AutoBindingDataModelDockWidget.h"
+#include "View/TabOrder.h"
 
 // The check of what was typed may open a box, in which the page may be destroyed.
 bool CAutoBindingDataModelDockWidget::BeginQuietRequest(const std::function<void()> &turnOff)
@@ -85,5 +86,5 @@ bool CAutoBindingDataModelDockWidget::focusNextPrevChild(bool next)
     const QWidget *focus = FocusWidget();
     if (focus && !focus->isEnabled())
         return false;
-    return QDockWidget::focusNextPrevChild(next);
+    return MoveFocus(window(), next);
 }

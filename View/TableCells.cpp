@@ -3,6 +3,8 @@
 #include <QStyledItemDelegate>
 #include <QTableWidget>
 
+#include "View/TableKeys.h"
+
 namespace {
 
 // The standard delegate works out the look of the item behind an editor each time that editors are
@@ -25,6 +27,8 @@ public:
 void FillPlaces(QTableWidget *table)
 {
     table->setItemDelegate(new CCellDelegate(table));
+    if (!CTableKeys::Of(table))
+        new CTableKeys(table);
 }
 
 // A widget with a size of its own is not asked for its best one when it is shown.
@@ -32,4 +36,6 @@ void PlaceEditor(QTableWidget *table, int row, int column, QWidget *editor)
 {
     editor->resize(table->columnWidth(column), table->rowHeight(row));
     table->setCellWidget(row, column, editor);
+    if (CTableKeys *keys = CTableKeys::Of(table))
+        keys->Take(editor);
 }

@@ -1,9 +1,9 @@
 #include "View/UnsignedSpinBox.h"
 
-#include <QToolTip>
 #include <QWheelEvent>
 
 #include "View/FormFont.h"
+#include "View/LimitTip.h"
 
 CUnsignedSpinBox::CUnsignedSpinBox(QWidget *parent, int base)
     : QLineEdit(parent), m_base(ValidBase(base))
@@ -30,18 +30,19 @@ void CUnsignedSpinBox::validate(QString text)
         return;
     }
     setText(m_lastValidText);
-    QToolTip::showText(mapToGlobal(QPoint(5, 5)),
-                       QLatin1String("Range should be:") + ToText(m_minimum, m_base) +
-                           QLatin1Char('~') + ToText(m_maximum, m_base),
-                       this);
+    ShowLimitTip(this, ToText(m_minimum, m_base) + QLatin1Char('~') + ToText(m_maximum, m_base));
 }
 
 void CUnsignedSpinBox::wheelEvent(QWheelEvent *event)
 {
+    Step(event->angleDelta().y() >= 1);
+}
+
+void CUnsignedSpinBox::Step(bool isUp)
+{
     const unsigned int value = text().toUInt(nullptr, m_base);
-    const bool down = event->angleDelta().y() < 1;
-    if (value == (down ? m_minimum : m_maximum))
+    if (value == (isUp ? m_maximum : m_minimum))
         return;
     // Through the signal, so that validate decides and writes the text.
-    emit textChanged(ToText(down ? value - 1 : value + 1, m_base));
+    emit textChanged(ToText(isUp ? value + 1 : value - 1, m_base));
 }

@@ -23,6 +23,8 @@ public:
     // A number in a base, upper case. A base that is none, outside 2 to 36, counts as 10.
     static QString ToText(unsigned int value, int base);
 
+    void Step(bool isUp);
+
     int m_base;               // radix of the text
     QString m_lastValidText;  // empty until a text was accepted
     unsigned int m_maximum = 4294967295u;

@@ -4,6 +4,7 @@
 
 #include "Model/JsonPath.h"
 #include "View/CalibrationTables.h"
+#include "View/TabOrder.h"
 #include "ui_NrRxPathlossDockWidgetV7.h"
 
 namespace {
@@ -60,6 +61,8 @@ CNrRxPathlossDockWidgetV7::CNrRxPathlossDockWidgetV7(QWidget *parent)
               m_ui->calDataIf_config_group1_memberProperty_path,
               m_ui->calDataIf_config_group1_memberProperty_type2GainModeIdx}});
     m_ui->m_lblFreq->setText(QStringLiteral("0"));
+    PlaceTabBar(m_ui->calDataIf_config_group1_memberProperty_type2GainModeIdx, m_ui->m_type1Tables,
+                m_ui->calDataIf_data_group2_memberProperty_lna0);
 }
 
 CNrRxPathlossDockWidgetV7::~CNrRxPathlossDockWidgetV7() = default;

@@ -1,6 +1,7 @@
 #include "View/Tx/NrAptProfileDockWidgetV7.h"
 
 #include "View/CalibrationTables.h"
+#include "View/TabOrder.h"
 #include "ui_NrAptProfileDockWidgetV7.h"
 
 namespace {
@@ -34,6 +35,8 @@ CNrAptProfileDockWidgetV7::CNrAptProfileDockWidgetV7(QWidget *parent)
              {m_ui->calDataIf_config_group1_memberProperty_band,
               m_ui->calDataIf_config_group1_memberProperty_txRoute,
               m_ui->calDataIf_config_group1_memberProperty_aggBwRegion}});
+    PlaceTabBar(m_ui->calDataIf_data_group12_memberProperty_ulFreq, m_ui->m_tables,
+                m_ui->calDataIf_data_group7_memberProperty_paHighPaGain);
 }
 
 CNrAptProfileDockWidgetV7::~CNrAptProfileDockWidgetV7() = default;

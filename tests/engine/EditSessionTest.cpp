@@ -4,6 +4,7 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QSpinBox>
+#include <QToolTip>
 #include <QtTest>
 
 #include "View/UnsignedSpinBox.h"
@@ -249,6 +250,32 @@ private slots:
         QCOMPARE(frequency->text(), QString("35"));
         Empty(frequency);
         QCOMPARE(page.Package(kFrequency).toString(), QString("35"));
+    }
+
+    void refusedKeyShowsTheLimits()
+    {
+        SPage page;
+        page.loss->setFocus();
+        page.loss->selectAll();
+        QToolTip::hideText();
+        QTest::keyClicks(page.loss, "9");
+        QVERIFY(!QToolTip::text().startsWith("Range should be"));
+        QTest::keyClicks(page.loss, "9");
+        QCOMPARE(page.loss->text(), QString("9"));
+        QCOMPARE(QToolTip::text(), QString("Range should be:-30~30"));
+    }
+
+    void gainAboveTheWireGoesToTheLastStep()
+    {
+        CTestDocument document;
+        document.Member(kLoss, "{'trait':{'dataType':'pointRange','value':{'min':0,'max':2047,"
+                               "'decimals':5},'defaultValue':'1999.5'}}");
+        CTestPage page(document);
+        auto *gain = page.Add<QDoubleSpinBox>(kLoss);
+        page.Init();
+        QCOMPARE(page.Package(kLoss).toString(), QString("1999.50000"));  // as the document has it
+        Replace(gain, "1500");
+        QCOMPARE(page.Package(kLoss).toString(), QString("1023.96875"));
     }
 
     void editGoesWithItsEditor()

@@ -1,0 +1,20 @@
+// Where Tab and Shift+Tab go.
+//
+// The order is that of the forms. Two kinds of widgets are no controls of their own: the cells of a
+// table, which is one control (TableKeys.h), and a scroll area, whose contents are reached by their
+// own. What gets the focus is scrolled into view. GUI thread.
+//
+//   bool focusNextPrevChild(bool next) override { return MoveFocus(window(), next); }
+#pragma once
+
+class QTabWidget;
+class QWidget;
+
+// From the widget of the window that has the focus to the next one, or the previous one; false when
+// there is no other.
+bool MoveFocus(QWidget *window, bool next);
+// Puts the bar of a tab widget between two widgets of a form. A form cannot: Qt cuts the order in
+// two when it lists a tab widget and then something on one of its tabs.
+void PlaceTabBar(QWidget *before, QTabWidget *tabs, QWidget *behind);
+// In its table and in all scroll areas around it.
+void ScrollIntoView(QWidget *widget);
