@@ -8,23 +8,21 @@
 namespace {
 
 constexpr int kGap = 8;     // between the window and a page beside it, pixels
-constexpr int kShift = 40;  // shows the window's frame and tabs behind the page
+constexpr int kShift = 40;  // tells the page from its old place
 
-// Beside the window where the screen has the room, or else a step off it.
+// At the same height, so that its buttons stay on the screen and the window's status bar in sight:
+// right of the window or left of it, as far as the screen has the room. On a small screen a step
+// off its place.
 QPoint PlaceBeside(const QRect &window, const QRect &page, const QRect &screen)
 {
-    const QPoint places[] = {
-        {window.right() + kGap, page.top()},
-        {window.left() - kGap - page.width(), page.top()},
-        {page.left(), window.bottom() + kGap},
-    };
-    for (const QPoint &place : places) {
-        if (screen.contains(QRect(place, page.size())))
-            return place;
-    }
-    const bool isRoomBelow = page.top() + kShift < screen.bottom() - kShift;
+    const int right = qMin(window.right() + kGap, screen.right() - page.width());
+    if (right - page.left() >= kShift)
+        return {right, page.top()};
+    const int left = qMax(window.left() - kGap - page.width(), screen.left());
+    if (page.left() - left >= kShift)
+        return {left, page.top()};
     const bool isRoomRight = page.left() + kShift < screen.right() - kShift;
-    return page.topLeft() + QPoint(isRoomRight ? kShift : -kShift, isRoomBelow ? kShift : -kShift);
+    return page.topLeft() + QPoint(isRoomRight ? kShift : -kShift, 0);
 }
 
 }  // namespace

@@ -6,7 +6,17 @@
 
 namespace {
 
-constexpr int kNarrower = 3;
+constexpr int kNarrowest = 3;  // part of the usual room
+constexpr int kSlack = 2;      // pixels of a tab beside its name and room
+
+// What is left for each tab when the bar holds all names.
+int RoomOfTab(const QTabBar *bar)
+{
+    int names = 0;
+    for (int tab = 0; tab < bar->count(); ++tab)
+        names += bar->fontMetrics().size(Qt::TextShowMnemonic, bar->tabText(tab)).width() + kSlack;
+    return (bar->width() - names) / bar->count();
+}
 
 class CNarrowTabStyle : public QProxyStyle
 {
@@ -18,7 +28,10 @@ public:
                     const QWidget *widget) const override
     {
         const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-        return metric == PM_TabBarTabHSpace ? usual / kNarrower : usual;
+        const auto *bar = qobject_cast<const QTabBar *>(widget);
+        if (metric != PM_TabBarTabHSpace || !bar || bar->count() == 0)
+            return usual;
+        return qBound(usual / kNarrowest, RoomOfTab(bar), usual);
     }
 };
 

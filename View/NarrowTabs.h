@@ -1,5 +1,5 @@
-// A tab bar whose tabs leave a third of the usual room around their names, so that those of all
-// pages stand beside each other at the window's own width. GUI thread.
+// A tab bar whose tabs leave less room around their names, down to a third of the usual one, when
+// they would not stand beside each other otherwise. GUI thread.
 //
 //   NarrowTabs(bar);   // any number of times
 #pragma once
