@@ -85,6 +85,9 @@ CNrDataModelCapUpdater::ReadBandTables(const QJsonArray &bands) const
         byBand.Put(band, {duplex.contains(QLatin1String("TDD")) ? 1 : 0, scsList, mhzList});
         OfferDefault(tables.defaultScs, scsList);
         OfferDefault(tables.defaultMhz, mhzList);
+        // With no spacing to choose, a page asks for the list under the band and nothing.
+        if (scsList.isEmpty())
+            rbTable.Put(band + QLatin1Char(','), QJsonArray());
         for (const QJsonValue &scs : scsList) {
             const QString key = band + QLatin1Char(',') + scs.toString();
             const QJsonArray rbList = rbByBandScs.value(key).toArray();

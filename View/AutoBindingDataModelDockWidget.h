@@ -150,6 +150,10 @@ protected:
     // may be asked of the target any more, and the end of busy is said by others. EndRequest has
     // turnOn bring them back, gives the focus back, and says that the page is idle; false as above.
     // Requests may overlap, if what they turn off does not.
+    // A request that cannot do without what is chosen asks HasAllChoices first: false when a combo
+    // box of the document's request that is visible and not turned off by relevance has no current
+    // item; the first of them was named in the status line and a box then. The page may be gone.
+    bool HasAllChoices();
     bool BeginRequest(const std::function<void()> &turnOff);
     bool EndRequest(const std::function<void()> &turnOn);
     // As these, of what does not reach the target: the page does not say busy.
@@ -221,6 +225,7 @@ private:
     };
 
     bool SayBusy(bool isBusy);
+    QString FirstEmptyChoice();
     QWidget *FocusWidget() const;
     void GiveFocusBack();
     void KeepFocusFromWandering();

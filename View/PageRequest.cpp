@@ -1,8 +1,50 @@
 // The beginning and the end of a page's requests, and what becomes of the focus meanwhile.
-#include <QEvent>
+#include <QComboBox>
 
+#include "Model/JsonPath.h"
 #include "View/AutoBindingDataModelDockWidget.h"
 #include "View/TabOrder.h"
+#include "View/WidgetIndex.h"
+
+bool CAutoBindingDataModelDockWidget::HasAllChoices()
+{
+    const QPointer<CAutoBindingDataModelDockWidget> self(this);
+    FinishEdit();
+    if (!self)
+        return false;
+    const QString caption = FirstEmptyChoice();
+    if (caption.isEmpty())
+        return true;
+    const QString text = caption + QLatin1String(" is empty.");
+    emit Signal_UpdateStatus(text);
+    m_messageBox.Show(eBoxWarningAsIs, text, text, {}, {}, -1);
+    return false;
+}
+
+// The caption of the first one, in the order of the document.
+QString CAutoBindingDataModelDockWidget::FirstEmptyChoice()
+{
+    const CIndexScope index(this);
+    const QString request = AbsoluteModelPath(QStringLiteral("request"));
+    const QJsonObject groups = GetJsonValueConst(m_dataModel, request).toObject();
+    for (const QString &group : groups.keys()) {
+        const QJsonObject record = groups.value(group).toObject();
+        const QJsonObject members = record.value(QLatin1String("memberProperty")).toObject();
+        for (const QJsonValue &member : record.value(QLatin1String("memberList")).toArray()) {
+            const QString path = request + QLatin1Char('.') + group +
+                                 QLatin1String(".memberProperty.") + member.toString();
+            const auto *box = ExactCast<QComboBox>(index->Find(path));
+            const bool isAsked =
+                box && box->isVisibleTo(this) && box->isEnabledTo(box->parentWidget());
+            if (isAsked && box->currentIndex() < 0)
+                return members.value(member.toString())
+                    .toObject()
+                    .value(QLatin1String("caption"))
+                    .toString();
+        }
+    }
+    return {};
+}
 
 // The check of what was typed may open a box, in which the page may be destroyed.
 bool CAutoBindingDataModelDockWidget::BeginQuietRequest(const std::function<void()> &turnOff)

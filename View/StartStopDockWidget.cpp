@@ -150,7 +150,7 @@ void CStartStopDockWidget::PrepareStart(const std::string &) {}
 void CStartStopDockWidget::StartTest()
 {
     qCDebug(lcForm) << "on_m_start_clicked";
-    if (!BeginRequest([this] { TakeStep(ETestStep::Starting); }))
+    if (!HasAllChoices() || !BeginRequest([this] { TakeStep(ETestStep::Starting); }))
         return;
     const std::string document = PackageMemberValue();
     PrepareStart(document);

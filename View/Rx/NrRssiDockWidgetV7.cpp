@@ -129,7 +129,7 @@ void CNrRssiDockWidgetV7::Slot_RssiTestDone(SEachItemOperationResult result,
 // False when nothing may be asked any more, see BeginRequest.
 bool CNrRssiDockWidgetV7::BeginAsking()
 {
-    return BeginRequest([this] { DisableTestControls(); });
+    return HasAllChoices() && BeginRequest([this] { DisableTestControls(); });
 }
 
 void CNrRssiDockWidgetV7::EndAsking(const SWords &words, const SEachItemOperationResult &result,

@@ -27,6 +27,7 @@ STxReading DlFreqOf(const SPuschMode &mode)
         &CQuorlinViewCtrl::Signal_GetPuschTxDlFreqDone,
         mode.dlFreqSlot,
         true,
+        true,
         mode.calculateRestsDuringTest,
         mode.dlFreqStaysConnected,
     };

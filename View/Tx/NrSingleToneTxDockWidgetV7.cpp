@@ -24,6 +24,7 @@ constexpr STxReading kPdValue = {
     false,
     false,
     false,
+    false,
 };
 
 }  // namespace

@@ -53,6 +53,8 @@ void CNrTxDockWidget::TakeStep(ETestStep step)
 
 void CNrTxDockWidget::StartReading()
 {
+    if (m_reading.needsChoices && !HasAllChoices())
+        return;
     emit Signal_UpdateStatus(QLatin1String(m_reading.startStatus));
     const auto turnOff = [this] {
         m_isReading = true;

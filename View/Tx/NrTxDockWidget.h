@@ -21,6 +21,7 @@ struct STxReading
     TextSlot slot;
     // Start and Stop go off with it; the answer turns Start on, and Stop if a test runs.
     bool takesTestButtons;
+    bool needsChoices;     // asks nothing while a choice of the request is missing
     bool restsDuringTest;  // its button is off from Start until that failed, or Stop succeeded
     bool staysConnected;   // no answer takes its connection down: the n-th one comes n times
 };

@@ -48,6 +48,10 @@ private slots:
     void calculateAsksForTheCarrierThatIsSearched();
     void nthCalculateRunsItsHandlerNTimes();
     void failedCalculateShowsError();
+    void failedCalculateOpensOneBoxWhateverItsHandlers();
+    void calculateDuringATransmissionLeavesStopOn_data();
+    void calculateDuringATransmissionLeavesStopOn();
+    void stopQueuesBehindACalculate();
     void answerThatIsNoDocumentLeavesThePage();
     void everythingStandsInsideTheWindow();
 };
@@ -239,6 +243,81 @@ void PuschTxNormalPageTest::failedCalculateShowsError()
     QCOMPARE(Enabled(session, kNormal), QString("start read"));
     session.Press("m_start");
     QVERIFY(session.WaitForStatus("Pusch TX start..."));
+}
+
+void PuschTxNormalPageTest::failedCalculateOpensOneBoxWhateverItsHandlers()
+{
+    CPluginSession session("handset", 1, kNormal.className);
+    QVERIFY(Searching(session));
+    for (int calculation = 1; calculation <= 3; ++calculation) {
+        session.Press("m_btnCalculate");
+        QVERIFY(WaitUntil([&] { return session.busy.size() == 2 * calculation; }));
+    }
+    VondSim_AddFault(R"({"function": "VOND_NRf_GetDlFreqV7_r", "kind": "fail", "result": 7})");
+    CBoxWatcher boxes;
+    QSignalSpy statuses(session.Page(), SIGNAL(Signal_UpdateStatus(QString, int)));
+    session.Press("m_btnCalculate");
+    // The last handler tells the status when the box of the first one has closed.
+    QVERIFY(WaitUntil([&] { return Count(statuses, "Finish fetch DL frequence.") == 4; }));
+    VondSim_ClearFaults();
+    session.Press("m_start");
+    QVERIFY(session.WaitForStatus("Pusch TX start..."));
+    QCOMPARE(boxes.Seen().size(), 1);
+    QCOMPARE(ResultText(session, "dlFrequency"), QString("ERROR"));
+}
+
+void PuschTxNormalPageTest::calculateDuringATransmissionLeavesStopOn_data()
+{
+    QTest::addColumn<bool>("fails");
+    QTest::newRow("good") << false;
+    QTest::newRow("failed") << true;
+}
+
+// The host's Enable turns Calculate on during a transmission.
+void PuschTxNormalPageTest::calculateDuringATransmissionLeavesStopOn()
+{
+    QFETCH(bool, fails);
+    CPluginSession session("handset", 1, kNormal.className);
+    QVERIFY(Searching(session));
+    session.Press("m_start");
+    QVERIFY(session.WaitForStatus("Pusch TX start..."));
+    session->EnablePages();
+    if (fails)
+        VondSim_AddFault(R"({"function": "VOND_NRf_GetDlFreqV7_r", "kind": "fail", "result": 7})");
+    CBoxWatcher boxes;
+    VondSim_Hold(kNormal.read);
+    session.Press("m_btnCalculate");
+    QCOMPARE(Enabled(session, kNormal), QString("none"));
+    VondSim_Release(kNormal.read);
+    QVERIFY(session.WaitForStatus("Finish fetch DL frequence."));
+    QCOMPARE(Enabled(session, kNormal), QString("start stop read"));
+    // What was refused leaves what runs with its Stop.
+    QVERIFY(WaitUntil([&] { return boxes.Seen().size() == (fails ? 1 : 0); }));
+    VondSim_ClearFaults();
+    session.Press("m_start");
+    QVERIFY(session.WaitForStatus("Pusch TX start failed..."));
+    QVERIFY(session.Find<QPushButton>("m_stop")->isEnabled());
+    QVERIFY(WaitUntil([&] { return boxes.Seen().size() == (fails ? 2 : 1); }));
+    session.Press("m_stop");
+    QVERIFY(session.WaitForStatus("Pusch TX stop."));
+    QCOMPARE(QString(VondSim_RunningTest()), QString());
+    QCOMPARE(Enabled(session, kNormal), QString("start read"));
+}
+
+void PuschTxNormalPageTest::stopQueuesBehindACalculate()
+{
+    CPluginSession session("handset", 1, kNormal.className);
+    QVERIFY(Searching(session));
+    session.Press("m_start");
+    QVERIFY(session.WaitForStatus("Pusch TX start..."));
+    session->EnablePages();
+    VondSim_Hold(kNormal.read);
+    session.Press("m_btnCalculate");
+    QVERIFY(VondSim_WaitUntilHeld(kNormal.read, 20000));
+    QVERIFY(session.ClickTab("Continuous RX"));
+    VondSim_Release(kNormal.read);
+    QVERIFY(session.WaitForStatus("Pusch TX stop."));
+    QCOMPARE(QString(VondSim_RunningTest()), QString());
 }
 
 void PuschTxNormalPageTest::answerThatIsNoDocumentLeavesThePage()

@@ -48,6 +48,8 @@ class BlockLists:
             spacings = reference.scs(band.name)
             self.scs[band.name] = spacings
             self.first_scs = self.first_scs or first_of(spacings)
+            if not spacings:  # the spacing's box is empty, and so must be that of the blocks
+                self.rbs[f"{band.name},"] = []
             for scs in spacings:
                 rbs = reference.rbs(band.name, scs)
                 self.rbs[f"{band.name},{scs}"] = rbs
