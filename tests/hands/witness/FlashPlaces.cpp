@@ -1,0 +1,224 @@
+#include "tests/hands/witness/FlashPlaces.h"
+
+#include <cmath>
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QTableWidget>
+
+#include "tests/hands/witness/PageReader.h"
+
+namespace {
+
+constexpr int kSubbands = VOND_CAL_BLOCK_SUBBANDS;
+constexpr int kAllBlocks = -1;
+
+// A field of a record: bytes of a block, or of all of them.
+struct SField
+{
+    int block = kAllBlocks;
+    int offset = -1;  // none
+    int size = 2;
+    int64_t value = 0;
+};
+
+int64_t Db(const QString &text)
+{
+    return static_cast<int64_t>(std::trunc(text.toDouble() * 32));
+}
+
+SField OfSubband(const SCellKey &cell, int offset, int stride, int size, int64_t value)
+{
+    return {cell.column / kSubbands, offset + stride * (cell.column % kSubbands), size, value};
+}
+
+// The number that a name ends with.
+int Number(const QString &name)
+{
+    return name.mid(name.lastIndexOf(QRegExp("[^0-9]")) + 1).toInt();
+}
+
+SField AptLevelField(const SCellKey &cell, const QString &text)
+{
+    const int level = Number(cell.member) - 1;
+    const int at = int(offsetof(SAptBlock, level)) + int(sizeof(SAptLevel)) * level;
+    if (cell.group == "group2")
+        return {kAllBlocks, at, 1, text.toInt()};
+    if (cell.group == "group3")
+        return {kAllBlocks, at + 4, 2, text.toInt() * 32};
+    if (cell.group == "group4")
+        return {kAllBlocks, at + 6, 2, Db(text)};
+    if (cell.group == "group5")
+        return {kAllBlocks, at + 1, 1, qRound(QString(text).remove('V').toDouble() * 10)};
+    return {kAllBlocks, at + 2, 1, text.toInt()};
+}
+
+SField AptField(const SCellKey &cell, const QString &text)
+{
+    const int group = Number(cell.group);
+    const int mode = cell.member.contains("High") ? 0 : cell.member.contains("Middle") ? 1 : 2;
+    const int part = int(offsetof(SAptBlock, pa)) + int(sizeof(SAptPaPart)) * mode;
+    switch (group) {
+    case 1:
+        return {kAllBlocks, 3, 1, text.toInt()};
+    case 7:
+        return OfSubband(cell, part + 2, 2, 2, Db(text));
+    case 8:
+        return {kAllBlocks, part + 34 + 2 * cell.column, 2, Db(text)};
+    case 9:
+        return OfSubband(cell, part + 50, 2, 2, Db(text));
+    case 10:
+        return {kAllBlocks, part + 82 + 2 * cell.column, 2, Db(text)};
+    case 11:
+        if (cell.member == "normalTempIndex")
+            return {kAllBlocks, 2, 1, text.toInt()};
+        return {kAllBlocks, 86 + 2 * mode, 2, Db(text)};
+    case 12:
+        return OfSubband(cell, int(offsetof(SAptBlock, freq)), 4, 4, text.toInt());
+    default:
+        return AptLevelField(cell, text);
+    }
+}
+
+bool IsType2(const Selection &selection)
+{
+    return selection["routeType"].contains('2');
+}
+
+SField PathLossField(const Selection &selection, const SCellKey &cell, const QString &text)
+{
+    using Block1 = SMMType1PathlossBlockV7;
+    using Block2 = SMMType2PathlossBlockV7;
+    const int group = Number(cell.group);
+    const bool isType2 = IsType2(selection);
+    // Of the two kinds of routes the page stores the tables of one.
+    if (isType2 ? group == 2 || group == 3 : group > 4)
+        return {};
+    if (group == 1) {
+        const size_t at = isType2 ? offsetof(Block2, plOffset) : offsetof(Block1, plOffset);
+        return {kAllBlocks, int(at) + 2 * cell.column, 2, Db(text)};
+    }
+    if (group == 4)
+        return OfSubband(cell, int(offsetof(Block1, freq)), 4, 4, text.toInt());
+    const int half = selection["powerMode"] == "HPM" ? 2 : 0;
+    const EVondRxPath row =
+        group == 2 || group == 6 || cell.member == "main" ? EVondRxPath::Main : EVondRxPath::Div;
+    if (!isType2) {
+        const int pair = VondType1LossPair(row, Number(cell.member));
+        return OfSubband(cell, int(offsetof(Block1, loss)) + 4 * pair + half,
+                         4 * VOND_TYPE1_LOSS_PAIRS, 2, Db(text));
+    }
+    const int path = selection["path"].toInt();
+    const int pair = group == 5
+                         ? VondPartialOnPair(row, path, cell.column)
+                         : VondGainByGainPair(row, path, Number(selection["type2GainModeIdx"]),
+                                              Number(cell.member), cell.column);
+    const SCellKey subband{cell.group, cell.member, selection["freqIdx"].toInt()};
+    return OfSubband(subband, int(offsetof(Block2, loss)) + 4 * pair + half,
+                     4 * VOND_TYPE2_LOSS_PAIRS, 2, Db(text));
+}
+
+const CFlashFile::SRecord *RecordOf(const Selection &selection, const CFlashFile &flash)
+{
+    const bool isApt = selection.contains("txRoute");
+    const uint32_t kind = isApt ? eFlashApt : IsType2(selection) ? eFlashType2 : eFlashType1;
+    const uint32_t route = selection[isApt ? "txRoute" : "route"].toUInt();
+    int region = isApt ? Number(selection["aggBwRegion"]) : 0;
+    for (const CFlashFile::SRecord &record : flash.records) {
+        if (record.place.kind == kind && record.place.route == route && region-- == 0)
+            return &record;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+QString PlaceText(const FlashPlace &place)
+{
+    return QString("kind %1, route %2, %3 kHz, block %4, byte %5")
+        .arg(std::get<0>(place))
+        .arg(std::get<1>(place))
+        .arg(std::get<2>(place))
+        .arg(std::get<3>(place))
+        .arg(std::get<4>(place));
+}
+
+uint8_t ByteAt(const CFlashFile &flash, const FlashPlace &place)
+{
+    const auto &[kind, route, bandwidth, block, offset] = place;
+    for (const CFlashFile::SRecord &record : flash.records) {
+        if (record.place.kind == kind && record.place.route == route &&
+            record.place.bandwidth == bandwidth && block < record.blocks.size())
+            return static_cast<uint8_t>(record.blocks[block][offset]);
+    }
+    return 0;
+}
+
+FlashBytes Differences(const CFlashFile &was, const CFlashFile &is)
+{
+    FlashBytes bytes;
+    for (int r = 0; r < is.records.size(); ++r) {
+        const SFlashPlace &place = is.records[r].place;
+        for (int block = 0; block < is.records[r].blocks.size(); ++block) {
+            const QByteArray &before = was.records[r].blocks[block];
+            const QByteArray &after = is.records[r].blocks[block];
+            for (int at = 0; before != after && at < after.size(); ++at) {
+                if (before[at] != after[at])
+                    bytes[FlashPlace(place.kind, place.route, place.bandwidth, block, at)] =
+                        static_cast<uint8_t>(after[at]);
+            }
+        }
+    }
+    return bytes;
+}
+
+Selection SelectionOf(const QDockWidget *page)
+{
+    const QString prefix = "calDataIf_config_group1_memberProperty_";
+    Selection selection;
+    for (const QWidget *widget : page->findChildren<QWidget *>()) {
+        const QString name = widget->objectName();
+        if (name.startsWith(prefix) && !name.contains("caption"))
+            selection[name.mid(prefix.size())] = ShownValue(widget);
+    }
+    return selection;
+}
+
+QMap<SCellKey, QString> CellsOf(const QDockWidget *page, const QJsonObject &document)
+{
+    const QJsonObject data = FillFrom(page, document)["calDataIf"].toObject()["data"].toObject();
+    QMap<SCellKey, QString> cells;
+    for (const QString &group : data.keys()) {
+        const QJsonObject values = data[group].toObject()["memberValue"].toObject();
+        for (const QString &member : values.keys()) {
+            if (!values[member].isArray()) {
+                cells[{group, member, 0}] = values[member].toString();
+                continue;
+            }
+            int column = 0;
+            for (const QJsonValue &value : values[member].toArray())
+                cells[{group, member, column++}] = value.toString();
+        }
+    }
+    return cells;
+}
+
+FlashBytes BytesOf(const Selection &selection, const SCellKey &cell, const QString &text,
+                   const CFlashFile &flash)
+{
+    FlashBytes bytes;
+    const CFlashFile::SRecord *record = RecordOf(selection, flash);
+    if (!record)
+        return bytes;
+    const SField field =
+        selection.contains("txRoute") ? AptField(cell, text) : PathLossField(selection, cell, text);
+    const SFlashPlace &place = record->place;
+    for (int block = 0; field.offset >= 0 && block < record->blocks.size(); ++block) {
+        if (field.block != kAllBlocks && field.block != block)
+            continue;
+        for (int i = 0; i < field.size; ++i)
+            bytes[FlashPlace(place.kind, place.route, place.bandwidth, block, field.offset + i)] =
+                static_cast<uint8_t>(static_cast<uint64_t>(field.value) >> (8 * i));
+    }
+    return bytes;
+}
