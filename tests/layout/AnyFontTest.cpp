@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QRegularExpression>
+#include <QStatusBar>
 #include <QTest>
 
 #include "tests/common/WaitUntil.h"
@@ -78,6 +79,7 @@ void AnyFontTest::initTestCase()
 QStringList AnyFontTest::FaultsNow(const QDockWidget *page) const
 {
     QStringList faults = CutTexts(page) + Overlaps(page) + PageScrollBars(page);
+    faults += CutTexts(m_session->Window()->statusBar());
     const QSize size = m_session->Window()->size();
     if (size != kOpened)
         faults.prepend(QString("The window has %1 x %2").arg(size.width()).arg(size.height()));
