@@ -8,6 +8,7 @@
 #include "Operations/TargetLink.h"
 #include "Support/CalIniFile.h"
 #include "Support/Log.h"
+#include "Support/Threads.h"
 
 namespace {
 
@@ -19,7 +20,11 @@ const QLatin1String
 
 CNrCore &GetCore()
 {
-    static auto *const core = new CNrCore;
+    static auto *const core = [] {
+        auto *made = new CNrCore;
+        CallAtTheEnd([made] { made->StopRunningTests(); });
+        return made;
+    }();
     return *core;
 }
 
@@ -43,12 +48,16 @@ QString CNrCore::GetCalItemName(int itemId) const
     return CalItemName(static_cast<ECalItem>(itemId));
 }
 
-void CNrCore::ResetTargetCache()
+EPageId CNrCore::PageId(const QString &name) const
+{
+    return static_cast<EPageId>(m_pageMap.value(name, static_cast<int>(EPageId::ErrorPage)));
+}
+
+void CNrCore::DropCaches()
 {
     CTargetCapability::Reset();
     m_isUpdaterStale.store(true);
     m_areItemsStale.store(true);
-    m_isStop.store(false);
 }
 
 void CNrCore::WaitForTurn()

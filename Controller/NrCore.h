@@ -10,10 +10,14 @@
 // exception of GetSupportStatus, which the host asks for before the tool is shown. Each job takes
 // m_targetLock for its whole run, the emission of its answer included: the target sees one call at
 // a time and the capability caches one reader, also when a reset lets a new init flow begin while a
-// test still runs. ResetTargetCache never waits: it leaves a mark that the next job obeys. The
+// test still runs. ResetTargetCache never waits: it leaves a mark that the next job obeys. What
+// stops the tests is in front of all jobs that wait, and a calibration flow gives way to it. The
 // records of a calibration item have a lock of their own, which a flow of that item holds too: a
 // page changes its selection while the target works for another one. Signals are emitted on pool
 // threads.
+//
+// Tests that go on until a stop are known to the core from their start on, each with the handle of
+// its start (RunningTests.h): it stops them when nobody shows them any more, and no other handle's.
 //
 //   QObject::connect(&GetCore(), &CNrCore::Signal_TestDone, page, &Page::Slot_Done);
 //   GetCore().Test(GetCore().GetPageName(2), document);
@@ -31,6 +35,7 @@
 #include "Controller/NrDataModelCapUpdater.h"
 #include "Controller/NrDataModelResponseBuilder.h"
 #include "Controller/PageTable.h"
+#include "Controller/RunningTests.h"
 #include "Model/OperationResult.h"
 #include "Operations/MultiRatAptProfileV7.h"
 #include "Operations/MultiRatContRxV7.h"
@@ -42,6 +47,7 @@
 #include "Operations/TargetCapability.h"
 #include "Operations/TestStop.h"
 #include "Support/Lock.h"
+#include "Support/Turns.h"
 
 class CNrCore : public IRfCoreCalDataOperation, public IRfTest
 {
@@ -58,6 +64,8 @@ public:
     void DownloadToFlashStart(QStringList items) override;
     void LoadFromFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) override;
     void SaveToFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) override;
+    // Stops the tests that run first, on the pool. A start that has not reached the target answers
+    // 4 and does not go there any more.
     void ResetTargetCache() override;
     SRfSupportStatus GetSupportStatus() override;
 
@@ -68,6 +76,27 @@ public:
     // Stops a running test on the pool: an NR one (PUSCH, RSRP) or a multi-RAT one (single tone,
     // continuous RX).
     void TestStopStart(bool isNr);
+
+    // The same, asked for at an earlier moment: what was called off since then does not reach the
+    // target, and answers 4.
+    uint64_t Moment() const { return m_runningTests.Moment(); }
+    void Test(QString pageName, std::string document, uint64_t asked);
+    // Pool threads only. Stops the page's test, under the handle of its start; for a page without
+    // one, and for an empty name, the last test of that kind, or what runs under the current
+    // handle. A test that was stopped since the question, with all others, is not stopped again.
+    SEachItemOperationResult StopTest(bool isNr, const QString &pageName, uint64_t asked);
+
+    // RF off, in two steps. On any thread, without waiting: calls off the starts that have not
+    // reached the target, and is next at the target. On a pool thread that waits for no other job:
+    // sends both stops under the current handle and under that of each test not stopped yet. The
+    // status and text are of the first stop that failed.
+    std::shared_ptr<CTurns::CPlace> BeginRfOff();
+    SEachItemOperationResult FinishRfOff(std::shared_ptr<CTurns::CPlace> place);
+
+    // Stops what runs, on the pool, and calls off the rest; never waits.
+    void StopRunningTests();
+    // A test runs, or may run after a start that failed at the target.
+    bool HasRunningTests() const { return m_runningTests.IsAny(); }
 
     // Reads beside a test: a document in, the document with what was read out. Pool threads only;
     // each blocks on the link. On another generation the document comes back as it was, and a
@@ -102,14 +131,16 @@ signals:
     // with results, of the pages that answer with one.
     void Signal_TestDone(SEachItemOperationResult itemResult, std::string resultModel);
     void Signal_TestStopDone(SEachItemOperationResult itemResult);
+    // The first test runs, or none does any more.
+    void Signal_TestsRun(bool isAny);
 
 protected:
     friend CNrCore &GetCore();
     CNrCore();
 
     // Pool side of Test and TestStopStart.
-    void TestInternal(const QString &pageName, const std::string &document);
-    void TestStopInternal(bool isNr);
+    void TestInternal(const QString &pageName, const std::string &document, uint64_t asked);
+    void TestStopInternal(bool isNr, uint64_t asked);
 
     std::string GetDataModelV7(const QString &pageName);
     std::string LoadDataModel(const QString &pageName, const SPageRow &page,
@@ -126,13 +157,25 @@ private:
         std::array<std::optional<SMMRfRxGainInfoV7>, 2> gains;
     };
 
+    struct STestRun  // a test on its way
+    {
+        QString page;
+        uint64_t asked;
+        std::string answer;  // the document with results, of the page that answers with one
+    };
+
     SRfSupportStatus DecideSupportStatus();
     bool IsC2kModem() const;
-    // answer: the document with results, of the page that answers with one.
-    int RunTestStep(int pageId, QJsonObject document, std::string &answer);
-    template <auto Build, auto Operation, auto Run>
-    int RunCommand(QJsonObject &document, std::string &answer);
-    int RunRssiTest(QJsonObject &document, std::string &answer);
+    // ErrorPage for a name that no page has.
+    EPageId PageId(const QString &name) const;
+    int RunTestStep(STestRun &run, QJsonObject document);
+    template <auto Build, auto Operation, auto Run, EStop Kind>
+    int RunCommand(STestRun &run, QJsonObject &document);
+    int RunRssiTest(STestRun &run, QJsonObject &document);
+    // Sends one stop; its text, if it failed.
+    uint32_t SendStop(const STargetStop &stop, QString &message);
+    void QueueStops();
+    void DropCaches();
     // The document with what read has put into it, in its turn at the target; on another generation
     // read is not called.
     template <typename Read>
@@ -141,6 +184,7 @@ private:
     void StartFlow(const SCalFlow &flow, const QStringList &items,
                    std::shared_ptr<CCalIniFile> file);
     void RunFlow(const SCalFlow &flow, const QStringList &items, std::shared_ptr<CCalIniFile> file);
+    void RunFlowItems(const SCalFlow &flow, const QStringList &items, CCalIniFile *file);
     // Items without records in place of those of an earlier connection: what was read of one DUT is
     // not for the next.
     void RenewCalItems();
@@ -152,7 +196,7 @@ private:
     // The status of the move; its text is in m_errorMessage then.
     int RunCalItem(const SCalFlow &flow, const QString &name, CCalIniFile *file);
 
-    PortableCriticalSection m_targetLock;
+    CTurns m_targetLock;
     // By item, taken behind m_targetLock or without it.
     std::array<PortableCriticalSection, 2> m_recordLocks;
     PortableCriticalSection m_viewLock;  // the innermost one
@@ -160,6 +204,9 @@ private:
     CTargetCapability m_target;
     QMap<QString, int> m_pageMap;     // page name to page id
     QMap<QString, int> m_calItemMap;  // calibration item name to item id
+    CRunningTests m_runningTests{[this](bool isAny) { emit Signal_TestsRun(isAny); }};
+    std::atomic<bool> m_areStopsDue{false};  // a job is to stop what runs
+    std::atomic<bool> m_isDropDue{false};    // and then to drop the caches
     CNrTestStop m_nrTestStop;
     CNrPuschTxV7 m_puschTx;
     CMultiRatSingleToneTxV7 m_singleToneTx;

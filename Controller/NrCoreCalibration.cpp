@@ -8,12 +8,6 @@
 #include "Support/Log.h"
 #include "Support/Threads.h"
 
-namespace {
-
-constexpr int kStatusTerminated = 4;  // row of the status table
-
-}  // namespace
-
 // What differs between the flows.
 struct CNrCore::SCalFlow
 {
@@ -121,30 +115,42 @@ void CNrCore::RunFlow(const SCalFlow &flow, const QStringList &items,
                       std::shared_ptr<CCalIniFile> file)
 {
     const CLockSentry lock(m_targetLock);
+    ResetItemResults();
+    try {
+        RunFlowItems(flow, items, file.get());
+    } catch (...) {
+        qCCritical(lcCore) << flow.itemLog << "ended by an exception";
+        m_isAllSuccess = false;
+        for (const QString &item : items.mid(m_itemResults.size()))
+            AddItemResult(item, eStatusNotExecuted, {});
+    }
+    file.reset();
+    emit(this->*flow.done)(m_isAllSuccess, m_itemResults);
+    qCDebug(lcCore) << flow.endLog;
+}
+
+void CNrCore::RunFlowItems(const SCalFlow &flow, const QStringList &items, CCalIniFile *file)
+{
     RenewCalItems();
     qCDebug(lcCore) << flow.countLog << items.size();
-    ResetItemResults();
     int status = eStatusSuccess;
     for (int i = 0; i < items.size(); ++i) {
         if (m_isStop) {
             qCDebug(lcCore) << "[CNrCore] action stop()" << items[i];
             for (const QString &item : items.mid(i))
-                AddItemResult(item, kStatusTerminated, QStringLiteral("You stoped the operation."));
+                AddItemResult(item, eStatusTerminated, QStringLiteral("You stoped the operation."));
             break;
         }
         if (i == 0)
             emit Signal_FinishItemCount(0, {});
         qCDebug(lcCore) << flow.itemLog << items[i];
         if (FindCalItem(items[i]))
-            status = RunCalItem(flow, items[i], file.get());
+            status = RunCalItem(flow, items[i], file);
         if (status != eStatusSuccess)
             m_isAllSuccess = false;
         AddItemResult(items[i], status, m_errorMessage);
         emit Signal_FinishItemCount(i + 1, GetItemResult(i));
     }
-    file.reset();
-    emit(this->*flow.done)(m_isAllSuccess, m_itemResults);
-    qCDebug(lcCore) << flow.endLog;
 }
 
 void CNrCore::RenewCalItems()
@@ -165,6 +171,7 @@ void CNrCore::RenewCalItems()
     for (const QString &name : names) {
         FindCalItem(name)->SetProgress([this, name](int round, int routesDone, int routesInAll) {
             emit Signal_CalProgress(name, round, routesDone, routesInAll);
+            m_targetLock.GiveWay();  // between two rounds, to a stop of all tests
         });
     }
 }

@@ -46,7 +46,7 @@ std::string CNrCore::GetDataModel(QString pageName)
 std::string CNrCore::GetDataModelV7(const QString &pageName)
 {
     qCDebug(lcCore) << "[CNrCore] GetDataModelV7()--" << pageName;
-    const SPageRow &page = FindPage(static_cast<EPageId>(m_pageMap[pageName]));
+    const SPageRow &page = FindPage(static_cast<EPageId>(m_pageMap.value(pageName)));
     if (!page.resource) {
         qCDebug(lcCore) << "[CNrCore] GetDataModelV7()Done --" << QJsonObject();
         return ModelToText({});

@@ -72,7 +72,7 @@ std::string CNrCore::GetPdValue(std::string document)
 std::string CNrCore::GetDlFreqForPuschTx(QString pageName, std::string document)
 {
     return FillDocument(document, [this, &pageName](QJsonObject &object) {
-        const bool isNormal = m_pageMap[pageName] == static_cast<int>(EPageId::PuschTxNormal);
+        const bool isNormal = PageId(pageName) == EPageId::PuschTxNormal;
         const SNrDlFreqCmdV7 command = m_cmdBuilder.GetPuschDlFreqCmd(object, isNormal);
         SNrDlFreqCnfV7 downlink = {};
         const uint32_t status = m_puschTx.GetDlFreq(&command, &downlink);
@@ -87,7 +87,7 @@ std::string CNrCore::FetchMixRxReport(QString pageName, std::string document,
     return FillDocument(document, [&](QJsonObject &object) {
         NRfTestResult_GetMixRxReportV7 report = {};
         const uint32_t status = m_rsrp.GetMixRxReport(&report);
-        switch (static_cast<EPageId>(m_pageMap[pageName])) {
+        switch (PageId(pageName)) {
         case EPageId::RsrpForce:
             m_responseBuilder.UpdateMixRxResultV7(object, report, status == 0);
             break;

@@ -1,109 +1,101 @@
-// Tests and stops of the core.
+// Tests of the core.
 #include "Controller/NrCore.h"
 #include "Controller/PageTable.h"
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
+#include "Operations/TargetLink.h"
 #include "Support/Log.h"
 #include "Support/Threads.h"
 
-namespace {
-
-constexpr uint32_t kStopNr = 1;  // radio kind of a multi-RAT stop
-
-}  // namespace
-
 void CNrCore::Test(QString pageName, std::string document)
 {
-    StartOnPool(
-        [this, pageName, document = std::move(document)] { TestInternal(pageName, document); });
+    Test(std::move(pageName), std::move(document), Moment());
 }
 
-void CNrCore::TestInternal(const QString &pageName, const std::string &document)
+void CNrCore::Test(QString pageName, std::string document, uint64_t asked)
+{
+    StartOnPool([this, pageName, document = std::move(document), asked] {
+        TestInternal(pageName, document, asked);
+    });
+}
+
+void CNrCore::TestInternal(const QString &pageName, const std::string &document, uint64_t asked)
 {
     const CLockSentry lock(m_targetLock);
     qCDebug(lcCore) << "CNrCore::Start--> " << pageName;
     m_errorMessage.clear();
     int status = eStatusNotExecuted;
-    std::string answer;
+    STestRun run{pageName, asked, {}};
     try {
-        status = RunTestStep(m_pageMap[pageName], ModelFromText(document), answer);
+        status = RunTestStep(run, ModelFromText(document));
     } catch (...) {
         qCCritical(lcCore) << "CNrCore::Test ended by an exception" << pageName;
     }
     qCDebug(lcCore) << "CNrCore::Done--> " << pageName;
-    emit Signal_TestDone({pageName, status, m_errorMessage}, answer);
+    emit Signal_TestDone({pageName, status, m_errorMessage}, run.answer);
 }
 
 // Builds the page's command and runs the page's operation with it.
-template <auto Build, auto Operation, auto Run>
-int CNrCore::RunCommand(QJsonObject &document, std::string &)
+template <auto Build, auto Operation, auto Run, EStop Kind>
+int CNrCore::RunCommand(STestRun &run, QJsonObject &document)
 {
     const auto command = (m_cmdBuilder.*Build)(document);
+    const CTargetHandleScope handle(TargetHandle());  // the host may set another one meanwhile
+    if (!m_runningTests.Begin({run.page, {Kind, TargetHandle()}}, run.asked))
+        return eStatusTerminated;
     const uint32_t status = ((this->*Operation).*Run)(&command);
     m_errorMessage = (this->*Operation).GetErrorMessage();
     return static_cast<int>(status);
 }
 
-int CNrCore::RunTestStep(int pageId, QJsonObject document, std::string &answer)
+int CNrCore::RunTestStep(STestRun &run, QJsonObject document)
 {
     using Builder = CNrCoreCmdBuilder;
     struct SStep
     {
         EPageId page;
-        int (CNrCore::*run)(QJsonObject &document, std::string &answer);
+        int (CNrCore::*run)(STestRun &run, QJsonObject &document);
     };
     static constexpr SStep kSteps[] = {
         {EPageId::Rssi, &CNrCore::RunRssiTest},
         {EPageId::ContRx, &CNrCore::RunCommand<&Builder::GetContRxCmdV7, &CNrCore::m_contRx,
-                                               &CMultiRatContRxV7::RunContRx>},
-        {EPageId::RsrpForce,
-         &CNrCore::RunCommand<&Builder::GetRsrpForceCmdV7, &CNrCore::m_rsrp, &CNrRsrpV7::RunRsrp>},
-        {EPageId::RsrpNormal,
-         &CNrCore::RunCommand<&Builder::GetRsrpNormalCmdV7, &CNrCore::m_rsrp, &CNrRsrpV7::RunRsrp>},
+                                               &CMultiRatContRxV7::RunContRx, EStop::MultiRat>},
+        {EPageId::RsrpForce, &CNrCore::RunCommand<&Builder::GetRsrpForceCmdV7, &CNrCore::m_rsrp,
+                                                  &CNrRsrpV7::RunRsrp, EStop::Nr>},
+        {EPageId::RsrpNormal, &CNrCore::RunCommand<&Builder::GetRsrpNormalCmdV7, &CNrCore::m_rsrp,
+                                                   &CNrRsrpV7::RunRsrp, EStop::Nr>},
         {EPageId::SingleToneTx,
          &CNrCore::RunCommand<&Builder::GetSingleToneTxCmdV7, &CNrCore::m_singleToneTx,
-                              &CMultiRatSingleToneTxV7::RunSingleTone>},
+                              &CMultiRatSingleToneTxV7::RunSingleTone, EStop::MultiRat>},
         {EPageId::PuschTxForce,
          &CNrCore::RunCommand<&Builder::GetPuschTxForceCmdV7, &CNrCore::m_puschTx,
-                              &CNrPuschTxV7::RunPuschTx>},
+                              &CNrPuschTxV7::RunPuschTx, EStop::Nr>},
         {EPageId::PuschTxNormal,
          &CNrCore::RunCommand<&Builder::GetPuschTxNormalCmdV7, &CNrCore::m_puschTx,
-                              &CNrPuschTxV7::RunPuschTx>},
+                              &CNrPuschTxV7::RunPuschTx, EStop::Nr>},
     };
+    const EPageId page = PageId(run.page);
     for (const SStep &step : kSteps) {
-        if (static_cast<int>(step.page) == pageId)
-            return m_target.GetNrGeneration() == 1 ? (this->*step.run)(document, answer)
-                                                   : eStatusNotExecuted;
+        if (step.page != page)
+            continue;
+        if (m_runningTests.IsCalledOff(run.asked))
+            return eStatusTerminated;
+        return m_target.GetNrGeneration() == 1 ? (this->*step.run)(run, document)
+                                               : eStatusNotExecuted;
     }
     return eStatusNotExecuted;
 }
 
 // The one test whose answer is a document: it measures and is over.
-int CNrCore::RunRssiTest(QJsonObject &document, std::string &answer)
+int CNrCore::RunRssiTest(STestRun &run, QJsonObject &document)
 {
+    const SMMRssiCmdV7 command = m_cmdBuilder.GetRssiCmdV7(document);
+    if (m_runningTests.IsCalledOff(run.asked))
+        return eStatusTerminated;
     SMMRssiCnfV7 result = {};
-    const uint32_t status = m_rssi.RunRssi(m_cmdBuilder.GetRssiCmdV7(document), &result);
+    const uint32_t status = m_rssi.RunRssi(command, &result);
     m_errorMessage = m_rssi.GetErrorMessage();
     m_responseBuilder.UpdateRssiResultV7(document, result, status == 0);
-    answer = ModelToText(document);
+    run.answer = ModelToText(document);
     return static_cast<int>(status);
-}
-
-void CNrCore::Stop()
-{
-    emit Signal_TestStopDone({QString(), eStatusNotExecuted,
-                              QStringLiteral("Quorlin RF tool should call the new stop function")});
-}
-
-void CNrCore::TestStopStart(bool isNr)
-{
-    StartOnPool([this, isNr] { TestStopInternal(isNr); });
-}
-
-void CNrCore::TestStopInternal(bool isNr)
-{
-    const CLockSentry lock(m_targetLock);
-    const uint32_t status = isNr ? m_nrTestStop.Stop() : m_testStop.Stop(kStopNr);
-    m_errorMessage = isNr ? m_nrTestStop.GetErrorMessage() : m_testStop.GetErrorMessage();
-    emit Signal_TestStopDone({QString(), static_cast<int>(status), m_errorMessage});
 }

@@ -21,6 +21,7 @@ enum EStatusCode
     eStatusSuccess = 0,
     eStatusNotExecuted = 2,     // nothing ran
     eStatusVondFailed = 3,      // the closed library failed
+    eStatusTerminated = 4,      // called off before it reached the target
     eStatusTargetFailed = 203,  // the target answered with a failure status
 };
 

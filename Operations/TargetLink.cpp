@@ -10,6 +10,7 @@
 namespace {
 
 std::atomic<uint32_t> s_targetHandle{0};
+thread_local std::optional<uint32_t> t_ownHandle;
 
 constexpr const char *kStatusTexts[] = {
     "NL1TST_CNF_STATUS_SUCCESS",
@@ -28,7 +29,17 @@ void SetTargetHandle(uint32_t handle)
 
 uint32_t TargetHandle()
 {
-    return s_targetHandle.load(std::memory_order_relaxed);
+    return t_ownHandle.value_or(s_targetHandle.load(std::memory_order_relaxed));
+}
+
+CTargetHandleScope::CTargetHandleScope(uint32_t handle) : m_outer(t_ownHandle)
+{
+    t_ownHandle = handle;
+}
+
+CTargetHandleScope::~CTargetHandleScope()
+{
+    t_ownHandle = m_outer;
 }
 
 int ReadModemServiceType()

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include <QString>
 
@@ -18,6 +19,20 @@ constexpr int kModemServiceC2k = 3;  // service type of a C2K modem, which has n
 
 void SetTargetHandle(uint32_t handle);
 uint32_t TargetHandle();
+
+// Gives the calling thread a handle of its own for the life of a scope: that under which a test was
+// started goes to its stop.
+class CTargetHandleScope
+{
+public:
+    explicit CTargetHandleScope(uint32_t handle);
+    ~CTargetHandleScope();
+    CTargetHandleScope(const CTargetHandleScope &) = delete;
+    CTargetHandleScope &operator=(const CTargetHandleScope &) = delete;
+
+private:
+    const std::optional<uint32_t> m_outer;
+};
 
 // Service type of the active modem; 0 when the link cannot tell.
 int ReadModemServiceType();

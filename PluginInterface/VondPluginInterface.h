@@ -5,8 +5,8 @@
 //     Signal_PluginIsActivated(QString pluginName, bool isActivated)   its window shows or hides
 //     Signal_PluginIsBusy(QString pluginName, bool isBusy)             a target operation runs or
 //     ended
-// All calls are made on the GUI thread. The order of the virtual operations is part of the
-// contract.
+// All calls are made on the GUI thread, in any order and at any time, also from inside a signal.
+// The order in which the virtual operations are declared is part of the contract.
 //
 // The host supplies the target handle as the dynamic property "vondTargetHandle" (unsigned) of the
 // QCoreApplication; the plug-in takes it at every call of the interface, and 0 stands until it is
@@ -44,10 +44,13 @@ public:
     virtual void HostNotify(uint32_t) {}
 
     virtual QString GetPluginName() = 0;
-    // Forgets all that is known of the target and destroys all pages; the next show builds them
-    // anew.
+    // Stops what still runs on the target, forgets all that is known of it and destroys all pages;
+    // the next show builds them anew. Does not wait: the stop goes to the target that the test was
+    // started on, before anything is read of the next one. Deleting the plug-in stops tests too.
     virtual void ResetPlugin() = 0;
+    // Also of a window that is visible already: it gets its pages if it has none.
     virtual void ShowPlugin() = 0;
+    // Stops a running test.
     virtual void HidePlugin() = 0;
     // Can the tool run on the DUT? Blocks on the target link. Needs no window.
     virtual SPluginToolLaunchRequirement QueryLaunchRequirement() = 0;

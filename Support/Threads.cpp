@@ -4,6 +4,9 @@
 #include "Support/Threads.h"
 
 #include <cstdlib>
+#include <limits>
+#include <mutex>
+#include <vector>
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -32,9 +35,59 @@ CJobQueue &GuiCalls()
     return queue.jobs;
 }
 
+CJobQueue &UrgentJobs()
+{
+    static SQueue queue;
+    return queue.jobs;
+}
+
+// Never destroyed, as the queues.
+struct SLastCalls
+{
+    std::mutex mutex;
+    std::vector<CJobQueue::Job> calls;
+};
+
+SLastCalls &LastCalls()
+{
+    static auto *const calls = new SLastCalls;
+    return *calls;
+}
+
+void MakeLastCalls()
+{
+    std::vector<CJobQueue::Job> calls;
+    {
+        const std::lock_guard<std::mutex> lock(LastCalls().mutex);
+        calls = LastCalls().calls;
+    }
+    for (const CJobQueue::Job &call : calls)
+        call();
+}
+
+// The pool waits for its jobs when it is destroyed: by the application object, or by exit(), which
+// may be after Qt's codecs, resources and loggers have gone. What stood before the first job is
+// destroyed behind this.
+void WaitAtTheEnd()
+{
+    static const QPointer<QThreadPool> pool(QThreadPool::globalInstance());
+    [[maybe_unused]] static const int once = std::atexit([] {
+        if (!pool)
+            return;
+        MakeLastCalls();
+        pool->waitForDone();
+    });
+}
+
 void RunNextPoolJob()
 {
     PoolJobs().RunNext();
+}
+
+void RunNextUrgentJob()
+{
+    UrgentJobs().RunNext();
+    QThreadPool::globalInstance()->reserveThread();
 }
 
 void RunNextGuiCall()
@@ -48,15 +101,31 @@ QFuture<void> StartOnPool(CJobQueue::Job job)
 {
     QFuture<void> future;
     PoolJobs().Push(std::move(job), [&future] { future = QtConcurrent::run(&RunNextPoolJob); });
-    // The pool waits for its jobs when it is destroyed: by the application object, or by exit(),
-    // which may be after Qt's codecs, resources and loggers have gone. What stood before the first
-    // job is destroyed behind this.
-    static const QPointer<QThreadPool> pool(QThreadPool::globalInstance());
-    [[maybe_unused]] static const int once = std::atexit([] {
-        if (pool)
-            pool->waitForDone();
-    });
+    WaitAtTheEnd();
     return future;
+}
+
+void StartOnPoolAtOnce(CJobQueue::Job job)
+{
+    QThreadPool *const pool = QThreadPool::globalInstance();
+    if (!pool)
+        return;  // the application object has taken it along
+    UrgentJobs().Push(std::move(job), [pool] {
+        pool->start(&RunNextUrgentJob, std::numeric_limits<int>::max());
+        pool->releaseThread();  // of which there may be none: one more may run for as long
+    });
+    WaitAtTheEnd();
+}
+
+void CallAtTheEnd(CJobQueue::Job call)
+{
+    // The application object calls these before it waits for the pool.
+    [[maybe_unused]] static const bool once = [] {
+        qAddPostRoutine(&MakeLastCalls);
+        return true;
+    }();
+    const std::lock_guard<std::mutex> lock(LastCalls().mutex);
+    LastCalls().calls.push_back(std::move(call));
 }
 
 void PostToGui(CJobQueue::Job call)
@@ -71,5 +140,5 @@ void PostToGui(CJobQueue::Job call)
 
 bool IsPoolIdle()
 {
-    return PoolJobs().IsIdle();
+    return PoolJobs().IsIdle() && UrgentJobs().IsIdle();
 }

@@ -75,8 +75,11 @@ void CAutoBindingDataModelForm::RemovePages()
     if (m_initLoop)
         m_initLoop->quit();
     const QList<CAutoBindingDataModelDockWidget *> pages = Pages();
-    for (CAutoBindingDataModelDockWidget *page : pages)
+    for (CAutoBindingDataModelDockWidget *page : pages) {
         page->disconnect(this);
+        page->removeEventFilter(this);
+        m_busy.remove(page);
+    }
     for (CAutoBindingDataModelDockWidget *page : pages) {
         removeDockWidget(page);
         if (m_relay->depth == 0) {
@@ -118,6 +121,42 @@ void CAutoBindingDataModelForm::closeEvent(QCloseEvent *event)
             page->setFloating(false);
     }
     QMainWindow::closeEvent(event);
+}
+
+// Whoever runs behind the scenes runs unseen.
+void CAutoBindingDataModelForm::hideEvent(QHideEvent *event)
+{
+    QMainWindow::hideEvent(event);
+    for (CAutoBindingDataModelDockWidget *page : Pages())
+        page->Slot_TriggerStopTest();
+}
+
+// The window system closes a floating page, whatever its features. It docks when its own window is
+// through with that.
+bool CAutoBindingDataModelForm::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *page = qobject_cast<CAutoBindingDataModelDockWidget *>(watched);
+    if (event->type() == QEvent::Close && page && page->isFloating()) {
+        const auto dock = [page] {
+            page->setFloating(false);
+            page->show();
+            page->raise();
+        };
+        QMetaObject::invokeMethod(page, dock, Qt::QueuedConnection);
+        page->Slot_TriggerStopTest();
+        return false;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void CAutoBindingDataModelForm::SetBusy(const QObject *who, bool isBusy)
+{
+    if (isBusy)
+        m_busy.insert(who);
+    else
+        m_busy.remove(who);
+    if (isBusy || m_busy.isEmpty())
+        emit Signal_PluginIsBusy(isBusy);
 }
 
 // Qt makes a tab bar whenever pages come to share a place, also when the user docks them anew.
@@ -215,12 +254,9 @@ bool CAutoBindingDataModelForm::InitOnePage(CAutoBindingDataModelDockWidget *pag
             [this](const QString &text) { RelayPageSignal([&] { Slot_UpdateStatusbar(text); }); });
     connect(page, &CAutoBindingDataModelDockWidget::Signal_InitDone, this,
             &CAutoBindingDataModelForm::Slot_InitDone);
-    connect(page, &CAutoBindingDataModelDockWidget::Signal_PluginIsBusy, this, [this](bool isBusy) {
-        RelayPageSignal([&] {
-            m_busyPages += isBusy ? 1 : -1;
-            emit Signal_PluginIsBusy(isBusy);
-        });
-    });
+    connect(page, &CAutoBindingDataModelDockWidget::Signal_PluginIsBusy, this,
+            [this, page](bool isBusy) { RelayPageSignal([&] { SetBusy(page, isBusy); }); });
+    page->installEventFilter(this);
 
     QEventLoop loop;
     bool isDone = false;

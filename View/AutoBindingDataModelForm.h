@@ -4,7 +4,11 @@
 // names, creates each page through QMetaType, waits in a local event loop until that page's own
 // init flow is done, and only then creates the next, so that at most one document request is in
 // flight. The window stays disabled until the last page is ready. Only the page on top works:
-// switching tabs stops a test that runs on any page.
+// switching tabs stops a test that runs on any page, and so does the window when it hides or
+// closes. A floating page that is closed docks again, and its test is stopped.
+//
+// Busy. The window says so each time somebody in it gets busy, and that it is over when nobody is
+// any more.
 //
 // Lifetime. Pages may be removed, or the window itself destroyed, while the init flow waits (the
 // host resets or unloads the plug-in); the flow then ends without touching what is gone. A reset
@@ -22,6 +26,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QSet>
 #include <QStringList>
 
 #include "Support/MessageBoxMan.h"
@@ -63,15 +68,20 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void childEvent(QChildEvent *event) override;
     bool focusNextPrevChild(bool next) override;
+    void hideEvent(QHideEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     void InitPage(const QStringList &pageList);
     void RemovePages();
     QList<CAutoBindingDataModelDockWidget *> Pages() const;
+    // who: a page, or what else of the window works on the target. This window may be gone when it
+    // returns.
+    void SetBusy(const QObject *who, bool isBusy);
 
     bool m_isInitStarted = false;    // the page init flow was started
     int m_allInitPageCount = 0;      // names in the page list
     int m_currentInitPageCount = 0;  // pages that reported init done
-    int m_busyPages = 0;             // pages that reported busy and not yet idle
+    QSet<const QObject *> m_busy;    // who is busy
     QPointer<QMenu> m_pageMenu;      // the "View" menu of pages
 
 private:

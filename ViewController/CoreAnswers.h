@@ -8,7 +8,7 @@
 // later than a question that it is no answer to. Now() and Given() tell: what was given up to the
 // moment of the question is not for the asker.
 //
-//   connect(&answers, &CCoreAnswers::Signal_TestStopDone, this, [this, asked = answers.Now()] {
+//   connect(&answers, &CCoreAnswers::Signal_TestDone, this, [this, asked = answers.Now()] {
 //       if (CCoreAnswers::Get().Given() > asked) ...
 //   });
 #pragma once
@@ -37,7 +37,7 @@ public:
 
 signals:
     void Signal_TestDone(SEachItemOperationResult itemResult, std::string resultModel);
-    void Signal_TestStopDone(SEachItemOperationResult itemResult);
+    void Signal_TestsRun(bool isAny);
     void Signal_UploadFromFlashDone(bool isAllSuccess,
                                     QVector<SEachItemOperationResult> itemResult);
     void Signal_DownloadToFlashDone(bool isAllSuccess,

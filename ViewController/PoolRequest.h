@@ -34,26 +34,31 @@ inline SEachItemOperationResult AnswerOfNothing()
 // The answers of job go out through signal, on the GUI thread, if this object still lives then and
 // no reset came between. The job is made once and never copied: it holds a document.
 template <typename Job, typename... Answers>
+CJobQueue::Job CQuorlinViewCtrl::PoolJob(const char *internalName,
+                                         void (CQuorlinViewCtrl::*signal)(Answers...), Job job)
+{
+    return [internalName, signal, &core = GetCore(), job = std::make_shared<Job>(std::move(job)),
+            epoch = m_epoch, self = QPointer<CQuorlinViewCtrl>(this)] {
+        qCDebug(lcCore) << internalName;
+        std::tuple<Answers...> answers{AnswerOfNothing<Answers>()...};
+        try {
+            answers = (*job)(core);
+        } catch (...) {
+            qCCritical(lcCore) << internalName << "ended by an exception";
+        }
+        PostToGui([self, signal, epoch, answers = std::move(answers)] {
+            const auto emitAll = [&](const Answers &...each) { emit(self->*signal)(each...); };
+            if (self && self->m_epoch == epoch)
+                std::apply(emitAll, answers);
+        });
+    };
+}
+
+template <typename Job, typename... Answers>
 void CQuorlinViewCtrl::RunOnPool(const char *internalName,
                                  void (CQuorlinViewCtrl::*signal)(Answers...), Job job)
 {
-    CNrCore &core = GetCore();
-    m_future =
-        StartOnPool([internalName, signal, &core, job = std::make_shared<Job>(std::move(job)),
-                     epoch = m_epoch, self = QPointer<CQuorlinViewCtrl>(this)] {
-            qCDebug(lcCore) << internalName;
-            std::tuple<Answers...> answers{AnswerOfNothing<Answers>()...};
-            try {
-                answers = (*job)(core);
-            } catch (...) {
-                qCCritical(lcCore) << internalName << "ended by an exception";
-            }
-            PostToGui([self, signal, epoch, answers = std::move(answers)] {
-                const auto emitAll = [&](const Answers &...each) { emit(self->*signal)(each...); };
-                if (self && self->m_epoch == epoch)
-                    std::apply(emitAll, answers);
-            });
-        });
+    m_future = StartOnPool(PoolJob(internalName, signal, std::move(job)));
 }
 
 // The connection lives for one request: made here, taken down in the done slot. What was asked for

@@ -24,6 +24,7 @@
 
 #include "Controller/Interface/CoreInterface.h"
 #include "Model/OperationResult.h"
+#include "Support/JobQueue.h"
 
 class CCoreAnswers;
 class CNrCore;
@@ -75,9 +76,19 @@ public:
     void RsrpClearReport(std::string document);
     void RssiGainCalculator(std::string document);
 
-    // Stops: of the NR tests, and of the multi-RAT ones.
+    // Stops: of the NR tests, and of the multi-RAT ones; under the handle of the last test that was
+    // asked for here.
     void NrTestStop();
     void MultiRatTestStop();
+    // Stops every test on the target, before all that waits; starts that have not reached it answer
+    // 4.
+    void RfOff();
+    // Stops what the tool has started and not stopped, for whoever shows tests no longer; without
+    // an answer, also when this object is gone.
+    void StopRunningTests();
+    bool HasRunningTests() const;
+    // Signal_TestsRun from now on, and once for how it is now.
+    void WatchTests();
 
     // Calibration data. Upload and load answer with the document of the selected record; download
     // and save store the page's record first. A file that can't be read or written is told in the
@@ -130,6 +141,9 @@ signals:
     void Signal_RssiGainCalculatorDone(SEachItemOperationResult result, std::string response);
 
     void Signal_TestStopDone(SEachItemOperationResult result);
+    void Signal_RfOffDone(SEachItemOperationResult result);
+    // A test runs, or may run after a start that failed at the target; or none does.
+    void Signal_TestsRun(bool isAny);
 
     void Signal_AptUploadFromFlashDone(SEachItemOperationResult result,
                                        std::string resultDataModel);
@@ -156,7 +170,6 @@ private slots:
     void Slot_RsrpNormalTestDone(SEachItemOperationResult result, std::string response);
     void Slot_ContRxTestDone(SEachItemOperationResult result, std::string response);
     void Slot_RssiTestDone(SEachItemOperationResult result, std::string response);
-    void Slot_TestStopDone(SEachItemOperationResult result);
 
     void Slot_AptUploadFromFlashDone(bool result, QVector<SEachItemOperationResult> itemResult);
     void Slot_AptDownloadToFlashDone(bool result, QVector<SEachItemOperationResult> itemResult);
@@ -202,8 +215,12 @@ private:
     // Job: CNrCore & -> std::tuple<Answers...>.
     template <typename Job, typename... Answers>
     void RunOnPool(const char *internalName, void (CQuorlinViewCtrl::*signal)(Answers...), Job job);
+    template <typename Job, typename... Answers>
+    CJobQueue::Job PoolJob(const char *internalName, void (CQuorlinViewCtrl::*signal)(Answers...),
+                           Job job);
 
     QFuture<void> m_future;  // job last started; kept, never waited on
     int m_epoch = 0;         // changes with a reset
     std::string m_document;  // of the upload or load that runs, for its done slot
+    QString m_testPage;      // whose test was asked for last
 };

@@ -1,4 +1,4 @@
-// Tests and stops of the view controller: the core answers them through signals of its own.
+// Tests and stops of the view controller. The core answers tests through a signal of its own.
 #include "Controller/PageTable.h"
 #include "ViewController/PoolRequest.h"
 
@@ -6,19 +6,47 @@ void CQuorlinViewCtrl::RequestTest(const char *internalName, EPageId page, std::
                                    TestDoneSlot done)
 {
     AwaitAnswer(&CCoreAnswers::Signal_TestDone, done);
-    m_future = StartOnPool([internalName, &core = GetCore(), page, document = std::move(document)] {
-        qCDebug(lcCore) << internalName;
-        core.Test(PageName(page), document);
-    });
+    m_testPage = PageName(page);
+    CNrCore &core = GetCore();
+    m_future = StartOnPool(
+        [internalName, &core, page, document = std::move(document), asked = core.Moment()] {
+            qCDebug(lcCore) << internalName;
+            core.Test(PageName(page), document, asked);
+        });
 }
 
+// Each asker gets the answer of its own stop; the core's signal is for all of them.
 void CQuorlinViewCtrl::RequestStop(const char *internalName, bool isNr)
 {
-    AwaitAnswer(&CCoreAnswers::Signal_TestStopDone, &CQuorlinViewCtrl::Slot_TestStopDone);
-    m_future = StartOnPool([internalName, &core = GetCore(), isNr] {
-        qCDebug(lcCore) << internalName;
-        core.TestStopStart(isNr);
-    });
+    RunOnPool(internalName, &CQuorlinViewCtrl::Signal_TestStopDone,
+              [isNr, page = m_testPage, asked = GetCore().Moment()](CNrCore &core) {
+                  return std::make_tuple(core.StopTest(isNr, page, asked));
+              });
+}
+
+void CQuorlinViewCtrl::RfOff()
+{
+    StartOnPoolAtOnce(PoolJob("RfOffInternal", &CQuorlinViewCtrl::Signal_RfOffDone,
+                              [place = GetCore().BeginRfOff()](CNrCore &core) mutable {
+                                  return std::make_tuple(core.FinishRfOff(std::move(place)));
+                              }));
+}
+
+void CQuorlinViewCtrl::StopRunningTests()
+{
+    GetCore().StopRunningTests();
+}
+
+bool CQuorlinViewCtrl::HasRunningTests() const
+{
+    return GetCore().HasRunningTests();
+}
+
+void CQuorlinViewCtrl::WatchTests()
+{
+    connect(&CCoreAnswers::Get(), &CCoreAnswers::Signal_TestsRun, this,
+            &CQuorlinViewCtrl::Signal_TestsRun, Qt::UniqueConnection);
+    emit Signal_TestsRun(GetCore().HasRunningTests());
 }
 
 void CQuorlinViewCtrl::PuschTxForceTest(std::string document)
@@ -124,10 +152,4 @@ void CQuorlinViewCtrl::Slot_RssiTestDone(SEachItemOperationResult result, std::s
 {
     if (TakeAnswer(EPageId::Rssi, result))
         emit Signal_RssiTestDone(result, response);
-}
-
-void CQuorlinViewCtrl::Slot_TestStopDone(SEachItemOperationResult result)
-{
-    disconnect(&CCoreAnswers::Get(), &CCoreAnswers::Signal_TestStopDone, this, nullptr);
-    emit Signal_TestStopDone(result);
 }

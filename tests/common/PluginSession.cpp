@@ -44,8 +44,14 @@ CPluginSession::CPluginSession(const QString &profile, uint32_t handle, const QS
             SLOT(OnActivated(QString, bool)));
     connect(Object(), SIGNAL(Signal_PluginIsBusy(QString, bool)), this,
             SLOT(OnBusy(QString, bool)));
-    // The core outlives the plug-in object: what it knew of the last session's DUT must go.
+    // The core outlives the plug-in object: what it knew of the last session's DUT must go, and
+    // with it a stop of what may run there.
     m_tool->ResetPlugin();
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+    busy.clear();
+    names.clear();
+    VondSim_ClearJournal();
 }
 
 CPluginSession::~CPluginSession()

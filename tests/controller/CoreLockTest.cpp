@@ -86,7 +86,9 @@ TEST_F(CoreLockTest, ManyJobsAndResetsAtOnceAllAnswer)
     EXPECT_EQ(m_testsDone.size(), kJobs);
     EXPECT_EQ(m_stopsDone.size(), kJobs);
     for (const STestAnswer &answer : m_testsDone)
-        EXPECT_TRUE(answer.result.status == 0 || answer.result.status == 3)
+        // 4: a reset came before its turn.
+        EXPECT_TRUE(answer.result.status == 0 || answer.result.status == 3 ||
+                    answer.result.status == 4)
             << qPrintable(answer.result.message);
 }
 

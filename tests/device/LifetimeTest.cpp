@@ -83,7 +83,11 @@ private slots:
     void resetWhileTheFailureBoxIsOpen();
     void unloadWhileTheFailureBoxIsOpen();
     void answerArrivesWhileTheWindowIsHidden();
-    void showAfterAHideStopsARunningTestLikeATabChange();
+    void hideStopsARunningTestLikeATabChange();
+    void showOfAVisibleWindowBringsThePagesBackAfterAReset();
+    void showAfterAResetInTheMiddleOfTheInitFlowBringsAllPages_data();
+    void showAfterAResetInTheMiddleOfTheInitFlowBringsAllPages();
+    void resetInTheMiddleOfTheInitFlowLeavesNoWindowThatWaits();
     void hideAndShowWhileAPageComesInLeavesEachPageReachable_data();
     void hideAndShowWhileAPageComesInLeavesEachPageReachable();
 };
@@ -242,17 +246,70 @@ void LifetimeTest::answerArrivesWhileTheWindowIsHidden()
     QCOMPARE(session.busy, (QVector<bool>{true, false}));
 }
 
-void LifetimeTest::showAfterAHideStopsARunningTestLikeATabChange()
+void LifetimeTest::showOfAVisibleWindowBringsThePagesBackAfterAReset()
+{
+    CPluginSession session(Type1Profile());
+    QVERIFY(session.ShowAndWait());
+    for (int round = 0; round < 2; ++round) {
+        session->ResetPlugin();
+        QVERIFY(session.Window()->isVisible());
+        QVERIFY(session.Window()->findChildren<QDockWidget *>().isEmpty());
+        session->ShowPlugin();
+        QVERIFY(!session.Window()->isEnabled());
+        QVERIFY(session.ShowAndWait());
+        QVERIFY(HasEachPageOnce(session));
+    }
+}
+
+void LifetimeTest::showAfterAResetInTheMiddleOfTheInitFlowBringsAllPages_data()
+{
+    QTest::addColumn<bool>("isShownAtOnce");
+    QTest::newRow("at once") << true;
+    QTest::newRow("later") << false;
+}
+
+// The window stays visible all the time.
+void LifetimeTest::showAfterAResetInTheMiddleOfTheInitFlowBringsAllPages()
+{
+    QFETCH(bool, isShownAtOnce);
+    CPluginSession session(Type1Profile());
+    WhenPageWaits(session, [&] {
+        session->ResetPlugin();
+        if (isShownAtOnce)
+            session->ShowPlugin();
+    });
+    QVERIFY(session.Window()->isVisible());
+    session->ShowPlugin();
+    QVERIFY(WaitUntil(
+        [&] { return session.StatusBar() == "Init done." && session.Window()->isEnabled(); }));
+    QVERIFY(HasEachPageOnce(session));
+}
+
+void LifetimeTest::resetInTheMiddleOfTheInitFlowLeavesNoWindowThatWaits()
+{
+    CPluginSession session(Type1Profile());
+    VondSim_Hold(kCapability);
+    session->ShowPlugin();
+    QVERIFY(VondSim_WaitUntilHeld(kCapability, 20000));
+    QVERIFY(!session.Window()->isEnabled());
+    session->ResetPlugin();
+    QVERIFY(session.Window()->isEnabled());
+    QCOMPARE(session.StatusBar(), QString());
+    Finish(kCapability);
+}
+
+void LifetimeTest::hideStopsARunningTestLikeATabChange()
 {
     CPluginSession session(Type1Profile());
     QVERIFY(session.ShowAndWait());
     session.Press("m_start");
     QVERIFY(session.WaitForStatus("Cont Rx start..."));
     session->HidePlugin();
-    QCOMPARE(QString(VondSim_RunningTest()), QString("ContRx"));
-    session->ShowPlugin();
     QVERIFY(session.WaitForStatus("Cont Rx stop."));
     QCOMPARE(QString(VondSim_RunningTest()), QString());
+    session->ShowPlugin();
+    QVERIFY(EventLoopTurns());
+    QCOMPARE(CountCalls(kStop), 1);
 }
 
 void LifetimeTest::hideAndShowWhileAPageComesInLeavesEachPageReachable_data()

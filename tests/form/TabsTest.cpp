@@ -46,6 +46,9 @@ private slots:
     void switchingTabsLeavesAFloatingPageEnabledButStopsItsTest();
     void floatingThePageOnTopKeepsItEnabledAndEnablesTheNextOne();
     void closingDocksAFloatingPageAgain();
+    void closingAFloatingPageStopsItsTestAndDocksIt();
+    void hidingTheWindowStopsTheTestsOfAllPages();
+    void busyIsOverWhenNoPageIsBusy();
     void closeIsAcceptedAndReportedAsHidden();
     void destroyingTheFormWithAFloatingPageTakesThePageAlong();
 };
@@ -160,6 +163,51 @@ void TabsTest::closingDocksAFloatingPageAgain()
     QCOMPARE(form.dockWidgetArea(first), Qt::TopDockWidgetArea);
     QVERIFY(WaitUntil([&] { return TabCount(form) == 3; }));
     QCOMPARE(form.TabBars().size(), 1);
+}
+
+// The window system closes a floating page, whatever its features.
+void TabsTest::closingAFloatingPageStopsItsTestAndDocksIt()
+{
+    CFormUnderTest form;
+    QVERIFY(form.ShowAndWait(ThreePages()));
+    CTestPage *first = form.Page(kFirst);
+    first->setFloating(true);
+    QVERIFY(WaitUntil([&] { return TabCount(form) == 2; }));
+    first->isRunning = true;
+    first->close();
+    QCOMPARE(first->stops, 1);
+    QVERIFY(WaitUntil([&] { return TabCount(form) == 3; }));
+    QVERIFY(!first->isFloating());
+    QVERIFY(!first->isHidden());
+    QVERIFY(WaitUntil([&] { return first->isEnabled(); }));
+}
+
+void TabsTest::hidingTheWindowStopsTheTestsOfAllPages()
+{
+    CFormUnderTest form;
+    QVERIFY(form.ShowAndWait(ThreePages()));
+    form.Page(kFirst)->isRunning = true;
+    form.Page(kSecond)->isRunning = true;
+    form.hide();
+    QCOMPARE(form.Page(kFirst)->stops, 1);
+    QCOMPARE(form.Page(kSecond)->stops, 1);
+    QCOMPARE(form.activations, (QVector<bool>{true, false}));
+}
+
+void TabsTest::busyIsOverWhenNoPageIsBusy()
+{
+    CFormUnderTest form;
+    QVERIFY(form.ShowAndWait(ThreePages()));
+    form.Page(kFirst)->setFloating(true);
+    QVector<bool> busy;
+    connect(&form, &CAutoBindingDataModelForm::Signal_PluginIsBusy, &form,
+            [&busy](bool isBusy) { busy.append(isBusy); });
+    emit form.Page(kFirst)->Signal_PluginIsBusy(true);
+    emit form.Page(kSecond)->Signal_PluginIsBusy(true);
+    emit form.Page(kFirst)->Signal_PluginIsBusy(false);
+    QCOMPARE(busy, (QVector<bool>{true, true}));
+    emit form.Page(kSecond)->Signal_PluginIsBusy(false);
+    QCOMPARE(busy, (QVector<bool>{true, true, false}));
 }
 
 void TabsTest::closeIsAcceptedAndReportedAsHidden()

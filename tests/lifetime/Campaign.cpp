@@ -214,11 +214,13 @@ QString CCampaign::Look(const SRound &round)
     if (round.action == EAction::Unload) {
         if (failure.isEmpty() && m_tool.Session()->Window())
             failure = "the window is still there";
+        if (failure.isEmpty() && *VondSim_RunningTest())
+            failure = QString("%1 still runs").arg(VondSim_RunningTest());
         m_tool.DropSession();
         return failure;
     }
-    if (round.action == EAction::Reset)
-        m_tool.Reconnect();
+    if (failure.isEmpty() && round.action == EAction::Reset && *VondSim_RunningTest())
+        failure = QString("%1 still runs").arg(VondSim_RunningTest());
     if (failure.isEmpty() && round.action == EAction::Reset && m_tool.HasPages())
         failure = "pages are still there";
     if (failure.isEmpty() && round.action == EAction::Hide && round.request->way != EWay::Launch &&

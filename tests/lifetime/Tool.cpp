@@ -34,9 +34,7 @@ QString CTool::Prepare(const SRequest &request)
     if (request.before == EBefore::Fresh) {
         (*m_session)->ResetPlugin();
         (*m_session)->HidePlugin();
-        const QString failure = Settle();
-        Reconnect();
-        return failure;
+        return Settle();
     }
     QString failure = Show();
     QDockWidget *page = Page(request.page);
@@ -146,11 +144,6 @@ QString CTool::Settle()
                (!m_session || m_session->busy.isEmpty() || !m_session->busy.last());
     };
     return WaitUntil(isQuiet, kLongMs) ? QString() : "the tool stays busy";
-}
-
-void CTool::Reconnect()
-{
-    VondSim_SetProfileText(Type1Profile().toUtf8());
 }
 
 void CTool::Unload()

@@ -41,9 +41,6 @@ public:
     // Shows the tool and waits until all its pages are there.
     QString PrepareAnyPage();
 
-    // The DUT as it is after a new connection, with its radio idle: a reset leaves a test running.
-    void Reconnect();
-
     void Unload();
     // Forgets an unloaded session; the next request makes a new one.
     void DropSession() { m_session.reset(); }

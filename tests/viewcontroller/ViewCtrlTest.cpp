@@ -1,5 +1,6 @@
 // The view controller among others of its kind, and beside a core that is busy.
 #include <memory>
+#include <stdexcept>
 #include <vector>
 
 #include <QtTest>
@@ -24,6 +25,9 @@ private slots:
     void eachPageGetsItsOwnAnswerWhenAllAskAtOnce();
     void answerOfAnotherPagesTestIsNotTaken();
     void answerGivenBeforeTheQuestionIsNotTaken();
+    void twoThatStopAtOnceGetEachItsOwnAnswer();
+    void aStopThatThrowsAnswers();
+    void aFlowThatThrowsOutsideItsItemsAnswersForEachItem();
     void resetReturnsWhileTheTargetIsAtWork();
     void idleIsReportedOnlyWhenTheTargetIsIdle();
     void idleOfADestroyedControllerIsNotReported();
@@ -106,6 +110,64 @@ void ViewCtrlTest::answerGivenBeforeTheQuestionIsNotTaken()
     }
     Settle();
     QCOMPARE(spies.Fired().size(), 1);
+}
+
+// The first stop fails, the second does not.
+void ViewCtrlTest::twoThatStopAtOnceGetEachItsOwnAnswer()
+{
+    CQuorlinViewCtrl first, second;
+    const CSignalSpies spiesOfFirst(first), spiesOfSecond(second);
+    VondSim_AddFault(
+        R"({"function": "VOND_MMRf_TestStopV7_r", "kind": "fail", "result": 4, "nth": 1})");
+    VondSim_Hold("VOND_MMRf_TestStopV7_r");
+    first.MultiRatTestStop();
+    QVERIFY(VondSim_WaitUntilHeld("VOND_MMRf_TestStopV7_r", 20000));
+    second.NrTestStop();
+    VondSim_Release("VOND_MMRf_TestStopV7_r");
+    Settle();
+    QCOMPARE(spiesOfFirst.Fired().size(), 1);
+    QCOMPARE(spiesOfFirst.Fired()[0].arguments, QStringList("|3|Target: failure on demand"));
+    QCOMPARE(spiesOfSecond.Fired().size(), 1);
+    QCOMPARE(spiesOfSecond.Fired()[0].arguments, QStringList("|0|"));
+}
+
+// Whoever listens to the core's own signal throws inside the job.
+void ViewCtrlTest::aStopThatThrowsAnswers()
+{
+    CQuorlinViewCtrl ctrl;
+    const CSignalSpies spies(ctrl);
+    const auto thrower = connect(
+        &GetCore(), &CNrCore::Signal_TestStopDone, &GetCore(),
+        [] { throw std::runtime_error("a listener"); }, Qt::DirectConnection);
+    ctrl.NrTestStop();
+    Settle();
+    disconnect(thrower);
+    QCOMPARE(spies.Fired().size(), 1);
+    QCOMPARE(spies.Fired()[0].signal, QString("Signal_TestStopDone"));
+    QCOMPARE(spies.Fired()[0].arguments, QStringList("|2|"));
+}
+
+void ViewCtrlTest::aFlowThatThrowsOutsideItsItemsAnswersForEachItem()
+{
+    CQuorlinViewCtrl ctrl;
+    const CSignalSpies spies(ctrl);
+    const auto thrower = connect(
+        &GetCore(), &CNrCore::Signal_FinishItemCount, &GetCore(),
+        [](int count) {
+            if (count == 0)
+                throw std::runtime_error("a listener");
+        },
+        Qt::DirectConnection);
+    ctrl.PathLossDownloadToFlash("{}");
+    Settle();
+    disconnect(thrower);
+    QCOMPARE(spies.Fired().size(), 1);
+    QCOMPARE(spies.Fired()[0].signal, QString("Signal_PathLossDownloadToFlashDone"));
+    QCOMPARE(spies.Fired()[0].arguments[0].section('|', 0, 1), QString("RX PathLoss|2"));
+    // And the lock is free.
+    ctrl.NrTestStop();
+    Settle();
+    QCOMPARE(spies.Fired().size(), 2);
 }
 
 void ViewCtrlTest::resetReturnsWhileTheTargetIsAtWork()
