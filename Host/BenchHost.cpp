@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QJsonArray>
 #include <QLabel>
+#include <QMessageBox>
 #include <QTime>
 #include <QTreeWidget>
 #include <QtGlobal>
@@ -60,6 +61,8 @@ CBenchHost::CBenchHost(CPluginHandle &plugin, QWidget *parent)
     connect(&m_plugin, &CPluginHandle::Signal_Busy, this, [this](const QString &name, bool isBusy) {
         AddEvent("Busy", QString("%1: %2").arg(name, isBusy ? "on" : "off"));
         ShowState();
+        // The page turns its buttons when it has said so.
+        QMetaObject::invokeMethod(this, &CBenchHost::ShowState, Qt::QueuedConnection);
     });
     qApp->installEventFilter(this);
 }
@@ -115,7 +118,7 @@ void CBenchHost::ShowState()
 {
     const bool isBusy = m_plugin.IsBusy();
     m_ui->m_activated->setText(m_plugin.IsActivated() ? "Shown" : "Hidden");
-    m_ui->m_busy->setText(isBusy ? "Working" : "Idle");
+    m_ui->m_busy->setText(isBusy ? "Working" : IsTestRunning() ? "A test runs" : "Idle");
     // These reach the target, or let the user start a second operation on it.
     for (QPushButton *button : {m_ui->m_query, m_ui->m_reset, m_ui->m_enable})
         button->setEnabled(!isBusy);
@@ -148,11 +151,12 @@ void CBenchHost::on_m_hide_clicked()
 
 void CBenchHost::on_m_reset_clicked()
 {
+    if (!MayStopTest("A test runs on the DUT. Stop it and reset the tool?"))
+        return;
     AddEvent("Reset", {});
     m_plugin.Tool().ResetPlugin();
     if (m_plugin.IsActivated())
-        m_ui->statusbar->showMessage(
-            "The pages are gone. Hide and show the tool to have them again.");
+        m_ui->statusbar->showMessage("The pages are gone. Show the tool to have them again.");
 }
 
 void CBenchHost::on_m_disable_clicked()
@@ -169,8 +173,8 @@ void CBenchHost::on_m_enable_clicked()
 
 void CBenchHost::closeEvent(QCloseEvent *event)
 {
-    if (m_plugin.IsBusy())
-        return RefuseClose(event, "the bench host");
+    if (!MayClose(event, "the bench host"))
+        return;
     m_plugin.Tool().HidePlugin();
     event->accept();
 }
@@ -178,17 +182,37 @@ void CBenchHost::closeEvent(QCloseEvent *event)
 // The tool's window doesn't look at its busy state when it is closed: that is left to the host.
 bool CBenchHost::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Close && m_plugin.IsBusy() && watched == FindToolWindow()) {
-        RefuseClose(static_cast<QCloseEvent *>(event), "the tool");
+    if (event->type() == QEvent::Close && watched == FindToolWindow() &&
+        !MayClose(static_cast<QCloseEvent *>(event), "the tool"))
         return true;
-    }
     return QMainWindow::eventFilter(watched, event);
+}
+
+bool CBenchHost::MayClose(QCloseEvent *event, const QString &window)
+{
+    if (!m_plugin.IsBusy() &&
+        MayStopTest(QString("A test runs on the DUT. Stop it and close %1?").arg(window)))
+        return true;
+    if (m_plugin.IsBusy())
+        RefuseClose(event, window);
+    else
+        event->ignore();
+    return false;
+}
+
+bool CBenchHost::MayStopTest(const QString &question)
+{
+    return !IsTestRunning() ||
+           QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
+                                 QMessageBox::No) == QMessageBox::Yes;
 }
 
 void CBenchHost::RefuseClose(QCloseEvent *event, const QString &window)
 {
     event->ignore();
     AddEvent("Close", QString("%1: refused, the tool is busy").arg(window));
-    m_ui->statusbar->showMessage(
-        QString("The tool works on the target: %1 can be closed when it is idle.").arg(window));
+    const QString reason =
+        QString("The tool works on the target: %1 can be closed when it is idle.").arg(window);
+    m_ui->statusbar->showMessage(reason);
+    TellInTool(reason);
 }

@@ -5,8 +5,9 @@
 // and whether it works on the target, and a log of all that with times.
 //
 // While the tool is busy, the requests that would disturb the link to the target are off, and
-// neither this window nor the tool's closes: the status bar says why. Closing this window hides the
-// tool. The plug-in must be loaded and outlive the window. GUI thread.
+// neither this window nor the tool's closes: the status bars of both say why. While a test runs,
+// the user is asked before a window closes and before a reset, since both stop the test. Closing
+// this window hides the tool. The plug-in must be loaded and outlive the window. GUI thread.
 //
 //     CBenchHost host(plugin);
 //     host.show();
@@ -54,7 +55,11 @@ private:
     void FillPluginFields();
     void FillAnswer(const SPluginToolLaunchRequirement &answer);
     void ShowState();
+    // May this window, or the tool's, close? If not, the event is refused, and the reason told.
+    bool MayClose(QCloseEvent *event, const QString &window);
     void RefuseClose(QCloseEvent *event, const QString &window);
+    // Asks the user, if a test runs.
+    bool MayStopTest(const QString &question);
 
     std::unique_ptr<Ui::CBenchHost> m_ui;
     CPluginHandle &m_plugin;

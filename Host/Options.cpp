@@ -12,7 +12,8 @@ constexpr char kDescription[] =
     "Bench host: loads the Quorlin RF plug-in, queries it, and shows its window.\n"
     "\n"
     "Exit code: 0 good; 1 the demonstration failed or the tool can't run on the DUT;\n"
-    "2 wrong command line; 3 the plug-in can't be loaded.";
+    "2 wrong command line, or no such profile; 3 the plug-in can't be loaded;\n"
+    "4 there is no display.";
 
 const QCommandLineOption kHelp({"h", "help"}, "Show this help.");
 const QCommandLineOption kPlugin("plugin",

@@ -17,9 +17,10 @@
 enum EHostExit : int
 {
     HostExitGood = 0,
-    HostExitFailed = 1,    // the demonstration failed, or the tool can't run on the DUT
-    HostExitOptions = 2,   // wrong command line
-    HostExitNoPlugin = 3,  // the plug-in can't be loaded
+    HostExitFailed = 1,     // the demonstration failed, or the tool can't run on the DUT
+    HostExitOptions = 2,    // wrong command line, or no such profile
+    HostExitNoPlugin = 3,   // the plug-in can't be loaded
+    HostExitNoDisplay = 4,  // Qt finds no display
 };
 
 struct SHostOptions

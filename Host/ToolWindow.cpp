@@ -1,5 +1,7 @@
 #include "Host/ToolWindow.h"
 
+#include <algorithm>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDockWidget>
@@ -10,6 +12,7 @@
 namespace {
 
 constexpr char kToolWindowName[] = "CQuorlinForm";
+constexpr char kStopButton[] = "m_stop";
 
 }  // namespace
 
@@ -21,6 +24,24 @@ QMainWindow *FindToolWindow()
             return qobject_cast<QMainWindow *>(window);
     }
     return nullptr;
+}
+
+// The page as a whole is disabled while another one is in front.
+bool IsTestRunning()
+{
+    const QMainWindow *window = FindToolWindow();
+    const auto pages = window ? window->findChildren<QDockWidget *>() : QList<QDockWidget *>();
+    return std::any_of(pages.begin(), pages.end(), [](const QDockWidget *page) {
+        const auto *stop = page->findChild<QAbstractButton *>(QLatin1String(kStopButton));
+        return stop && stop->isEnabledTo(page);
+    });
+}
+
+void TellInTool(const QString &text)
+{
+    const QMainWindow *window = FindToolWindow();
+    if (auto *bar = window ? window->findChild<QStatusBar *>() : nullptr)
+        bar->showMessage(text);
 }
 
 bool CToolWindow::Attach()

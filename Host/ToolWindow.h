@@ -14,6 +14,12 @@
 // the plug-in is loaded.
 QMainWindow *FindToolWindow();
 
+// Does a test run on the DUT? A page of the tool tells by an enabled button "m_stop".
+bool IsTestRunning();
+
+// Shows a line in the status bar of the tool's own window.
+void TellInTool(const QString &text);
+
 class CToolWindow : public QObject
 {
     Q_OBJECT

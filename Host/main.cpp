@@ -1,6 +1,8 @@
 // The bench host: a host application for the plug-in on the engineer's desk and in tests.
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
+#include <memory>
 
 #include <QApplication>
 #include <QLoggingCategory>
@@ -9,6 +11,7 @@
 #include "Host/Demo.h"
 #include "Host/Options.h"
 #include "Host/PluginHandle.h"
+#include "Host/SimulatedDut.h"
 #include "Host/ToolWindow.h"
 
 namespace {
@@ -25,6 +28,28 @@ void Print(FILE *stream, const QString &line)
 void Complain(const QString &text)
 {
     Print(stderr, "quorlin-host: " + text);
+}
+
+QtMessageHandler s_qtMessages = nullptr;
+
+// Qt's last words before it aborts.
+void OnQtMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (type != QtFatalMsg)
+        return s_qtMessages(type, context, text);
+    Complain(text);
+    Complain("Set DISPLAY or WAYLAND_DISPLAY to a display, or QT_QPA_PLATFORM=offscreen to run "
+             "without one.");
+    std::_Exit(HostExitNoDisplay);
+}
+
+// The application object; without a display, the end of the program.
+std::unique_ptr<QApplication> MakeApplication(int &count, char **arguments)
+{
+    s_qtMessages = qInstallMessageHandler(&OnQtMessage);
+    auto application = std::make_unique<QApplication>(count, arguments);
+    qInstallMessageHandler(s_qtMessages);
+    return application;
 }
 
 int RunDemo(CBenchHost &host, CPluginHandle &plugin, const SHostOptions &options)
@@ -93,14 +118,20 @@ int main(int argc, char **argv)
                                                        : "quorlin.*.debug=false");
     // Without the options: Qt knows a "-plugin" of its own. Its settings come by environment.
     int programNameOnly = 1;
-    QApplication application(programNameOnly, argv);
-    application.setProperty("vondTargetHandle", options.handle);
+    const std::unique_ptr<QApplication> application = MakeApplication(programNameOnly, argv);
+    application->setProperty("vondTargetHandle", options.handle);
 
     CPluginHandle plugin;
     QString error;
     if (!plugin.Load(options.pluginFile, error)) {
         Complain(error);
         return HostExitNoPlugin;
+    }
+    const QStringList profiles = SimulatedProfiles();
+    if (IsUnknownProfile(options.profile, profiles)) {
+        Complain(QString("There is no profile '%1', and no file of that name. Profiles: %2.")
+                     .arg(options.profile, profiles.join(", ")));
+        return HostExitOptions;
     }
     CBenchHost host(plugin);
     host.show();

@@ -279,7 +279,9 @@ void RunningTestEndTest::closeOfAFloatingPageStopsItAndDocksThePage()
     QPointer<QDockWidget> dock = session.Page();
     dock->setFloating(true);
     QVERIFY(WaitUntil([&] { return dock->isEnabled() && dock->isWindow(); }));
-    QVERIFY(Running(session, page));
+    QVERIFY(EventLoopTurns());  // the change of pages is behind
+    session.Press("m_start");
+    QVERIFY(WaitUntil([&] { return session.Find<QPushButton>("m_stop")->isEnabled(); }));
     QVERIFY(dock->isFloating());
     dock->close();
     QVERIFY(session.WaitForStatus(page.stopped));

@@ -1,9 +1,12 @@
 // The window of the bench host, on a fake plug-in.
+#include <QDockWidget>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSet>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include "Host/BenchHost.h"
@@ -30,6 +33,8 @@ private slots:
     void RefusesToCloseWhileBusy();
     void KeepsTheToolOpenWhileBusy();
     void ClosesWhenIdleAndHidesTheTool();
+    void AsksBeforeItEndsARunningTest_data();
+    void AsksBeforeItEndsARunningTest();
     void ForgetsTheOldestEvents();
     void ReadsHandles_data();
     void ReadsHandles();
@@ -166,7 +171,7 @@ void BenchHostTest::TellsThatPagesComeBackByShowing()
     QCOMPARE(StatusText(), QString());
     m_host->ShowTool();
     Button("m_reset")->click();
-    QVERIFY2(StatusText().contains("Hide and show the tool"), qPrintable(StatusText()));
+    QVERIFY2(StatusText().contains("Show the tool"), qPrintable(StatusText()));
     Button("m_hide")->click();
     QCOMPARE(StatusText(), QString());
 }
@@ -206,6 +211,7 @@ void BenchHostTest::KeepsTheToolOpenWhileBusy()
     QCOMPARE(FindToolWindow()->isVisible(), true);
     QVERIFY2(StatusText().contains("the tool can be closed when it is idle"),
              qPrintable(StatusText()));
+    QCOMPARE(FindToolWindow()->statusBar()->currentMessage(), StatusText());
     m_plugin->Tool().Slot_PluginIsBusy(false);
     QCOMPARE(FindToolWindow()->close(), true);
 }
@@ -215,6 +221,54 @@ void BenchHostTest::ClosesWhenIdleAndHidesTheTool()
     m_host->ShowTool();
     QCOMPARE(m_host->close(), true);
     QCOMPARE(FindToolWindow()->isVisible(), false);
+}
+
+void BenchHostTest::AsksBeforeItEndsARunningTest_data()
+{
+    QTest::addColumn<QByteArray>("way");
+    for (const char *way : {"tool", "host", "reset"})
+        QTest::newRow(way) << QByteArray(way);
+}
+
+// The page that runs the test is not in front, and disabled as a whole.
+void BenchHostTest::AsksBeforeItEndsARunningTest()
+{
+    QFETCH(QByteArray, way);
+    m_host->ShowTool();
+    auto *stop = FindToolWindow()->findChild<QPushButton *>("m_stop");
+    stop->setEnabled(true);
+    FindToolWindow()->findChild<QDockWidget *>()->setEnabled(false);
+    m_plugin->Tool().Slot_PluginIsBusy(false);
+    QCOMPARE(Text("m_busy"), QString("A test runs"));
+
+    QMessageBox::StandardButton answer = QMessageBox::No;
+    QStringList questions;
+    QTimer person;
+    connect(&person, &QTimer::timeout, this, [&] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        questions << box->text();
+        box->button(answer)->click();
+    });
+    person.start(0);
+    const auto act = [&] {
+        TakeRequests();
+        if (way == "reset")
+            Button("m_reset")->click();
+        else
+            (way == "tool" ? FindToolWindow() : m_host.get())->close();
+        return way == "tool"   ? !FindToolWindow()->isVisible()
+               : way == "host" ? !m_host->isVisible()
+                               : TakeRequests().contains("reset");
+    };
+    QVERIFY(!act());
+    QCOMPARE(questions.size(), 1);
+    QVERIFY2(questions[0].startsWith("A test runs on the DUT. Stop it and "),
+             qPrintable(questions[0]));
+    answer = QMessageBox::Yes;
+    QVERIFY(act());
+    QCOMPARE(questions.size(), 2);
 }
 
 void BenchHostTest::ForgetsTheOldestEvents()

@@ -12,6 +12,7 @@ class HostDeviceTest : public QObject
 private slots:
     void DemoRunsContinuousRxOnTheHandset();
     void DemoRefusesAModemWithoutNr();
+    void RefusesAMistypedProfileAndNamesThemAll();
 };
 
 void HostDeviceTest::DemoRunsContinuousRxOnTheHandset()
@@ -33,6 +34,18 @@ void HostDeviceTest::DemoRefusesAModemWithoutNr()
     const SHostRun run = RunHost({"--demo", "--profile", "c2k"});
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.err.contains("It is C2K modem now."), qPrintable(run.err));
+}
+
+void HostDeviceTest::RefusesAMistypedProfileAndNamesThemAll()
+{
+    const SHostRun run = RunHost({"--demo", "--profile", "handsett"});
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.err.startsWith("quorlin-host: There is no profile 'handsett', and no file of that "
+                                "name. Profiles: "),
+             qPrintable(run.err));
+    for (const char *profile : {"handset", "largest", "c2k", "gen0", "no-nr", "unplugged"})
+        QVERIFY2(run.err.contains(profile), profile);
+    QCOMPARE(run.out, QString());
 }
 
 QTEST_MAIN(HostDeviceTest)

@@ -14,6 +14,7 @@ private slots:
     void HelpNeedsNoDisplayAndNamesAllOptions();
     void RefusesAWrongCommandLine_data();
     void RefusesAWrongCommandLine();
+    void SaysWhatToSetWithoutADisplay();
     void KeepsItsOptionsFromQt();
     void RefusesAMissingPlugin();
     void RefusesAFileThatIsNoPlugin();
@@ -67,6 +68,16 @@ void HostProgramTest::RefusesAWrongCommandLine()
     QCOMPARE(run.exitCode, 2);
     QVERIFY2(run.err.startsWith("quorlin-host: " + words), qPrintable(run.err));
     QCOMPARE(run.out, QString());
+}
+
+void HostProgramTest::SaysWhatToSetWithoutADisplay()
+{
+    const SHostRun run = RunHost({"--plugin", FakePlugin("FakeTool"), "--demo"},
+                                 {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"});
+    QCOMPARE(run.exitCode, 4);
+    QVERIFY2(run.err.endsWith("quorlin-host: Set DISPLAY or WAYLAND_DISPLAY to a display, or "
+                              "QT_QPA_PLATFORM=offscreen to run without one.\n"),
+             qPrintable(run.err));
 }
 
 // Qt's own option of the same name would look for a plug-in for input devices.
