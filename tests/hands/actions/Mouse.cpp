@@ -7,6 +7,9 @@
 
 namespace {
 
+// Pressed more often than others.
+constexpr char kMainButtons[] = "m_start m_stop m_btnUpload m_btnDownload";
+
 QList<QWidget *> EditorsOn(const QDockWidget *page)
 {
     QList<QWidget *> editors;
@@ -35,7 +38,12 @@ SDeed ClickEditor(CDesk &desk, CChance &chance)
 
 SDeed ClickButton(CDesk &desk, CChance &chance)
 {
-    const QList<QPushButton *> buttons = SeenOn<QPushButton>(DrawPage(desk, chance));
+    QList<QPushButton *> buttons;
+    for (QPushButton *button : SeenOn<QPushButton>(DrawPage(desk, chance))) {
+        const bool isMain = QString(kMainButtons).contains(button->objectName());
+        for (int tickets = isMain ? 3 : 1; tickets > 0; --tickets)
+            buttons.append(button);
+    }
     return buttons.isEmpty() ? SDeed{SDeed::Other, "no button"} : Clicked(desk, chance.Of(buttons));
 }
 

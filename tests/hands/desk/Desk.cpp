@@ -90,7 +90,11 @@ QString CDesk::Settle()
     if (!WaitUntil(isSettled, kLongMs))
         return "the tool stays busy";
     // As a window manager does when a box has closed.
-    if (!QApplication::activeWindow() && m_window && m_window->isVisible())
+    if (QWidget *active = QApplication::activeWindow())
+        m_active = active;
+    else if (Windows().contains(m_active))
+        Activate(m_active);
+    else if (m_window && m_window->isVisible())
         Activate(m_window);
     return m_watchdog.HasBitten() ? "the GUI thread waited for the target" : QString();
 }

@@ -88,6 +88,7 @@ private:
     CWatchdog m_watchdog;
     std::unique_ptr<CPluginSession> m_session;
     QPointer<QMainWindow> m_window;
+    QPointer<QWidget> m_active;  // window that the user was last at
     QTimer m_dialogs;
     QByteArray m_held;  // function whose gate is closed
 };
