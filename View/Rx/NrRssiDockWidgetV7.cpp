@@ -1,7 +1,9 @@
 #include "View/Rx/NrRssiDockWidgetV7.h"
 
+#include <QAbstractSpinBox>
 #include <QHeaderView>
 #include <QPointer>
+#include <QRegularExpression>
 
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
@@ -11,7 +13,8 @@
 namespace {
 
 const QLatin1String kWidestCell("-1024.00000");  // longer than any reading or frequency
-constexpr int kCellMargin = 12;                  // pixels of frame and indent around a cell's text
+const QRegularExpression kGainNames("^cmdIf_response_group1_memberProperty_path[01].*Gain");
+constexpr int kCellMargin = 12;  // pixels of frame and indent around a cell's text
 
 // Cells in the font of their page, columns as wide as the widest result: no later answer is cut
 // off.
@@ -41,6 +44,8 @@ CNrRssiDockWidgetV7::CNrRssiDockWidgetV7(QWidget *parent)
     m_ui->setupUi(this);
     connect(this, &CAutoBindingDataModelDockWidget::Signal_InitDone, this,
             &CNrRssiDockWidgetV7::FixLayout);
+    connect(this, &CAutoBindingDataModelDockWidget::Signal_InitDone, this,
+            &CNrRssiDockWidgetV7::MarkResults);
 }
 
 CNrRssiDockWidgetV7::~CNrRssiDockWidgetV7() = default;
@@ -90,6 +95,24 @@ void CNrRssiDockWidgetV7::FixLayout()
     }
 }
 
+void CNrRssiDockWidgetV7::MarkResults()
+{
+    QList<QWidget *> gains;
+    for (QAbstractSpinBox *box : findChildren<QAbstractSpinBox *>(kGainNames))
+        gains.append(box);
+    m_testMark = std::make_unique<CResultMark>(
+        this,
+        QList<QWidget *>{m_ui->cmdIf_response_group2_memberProperty_dlFrequency,
+                         m_ui->cmdIf_response_group3_memberProperty_dlFrequency},
+        gains);
+    m_calculatorMark = std::make_unique<CResultMark>(
+        this, gains + QList<QWidget *>{m_ui->cmdIf_response_group1_memberProperty_adviseDlPower,
+                                       m_ui->cmdIf_response_group1_memberProperty_gainModeP0,
+                                       m_ui->cmdIf_response_group1_memberProperty_gainModeP1});
+    m_testMark->Watch();
+    m_calculatorMark->Watch();
+}
+
 void CNrRssiDockWidgetV7::on_m_start_clicked()
 {
     qCDebug(lcForm) << "on_m_start_clicked";
@@ -97,7 +120,9 @@ void CNrRssiDockWidgetV7::on_m_start_clicked()
         return;
     connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiTestDone, this,
             &CNrRssiDockWidgetV7::Slot_RssiTestDone);
-    m_viewCtrl->RssiTest(PackageMemberValue());
+    const std::string document = PackageMemberValue();
+    m_testMark->Package();
+    m_viewCtrl->RssiTest(document);
 }
 
 void CNrRssiDockWidgetV7::on_m_btnRssiSeqSrhCalculator_clicked()
@@ -107,7 +132,9 @@ void CNrRssiDockWidgetV7::on_m_btnRssiSeqSrhCalculator_clicked()
         return;
     connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiGainCalculatorDone, this,
             &CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone);
-    m_viewCtrl->RssiGainCalculator(PackageMemberValue());
+    const std::string document = PackageMemberValue();
+    m_calculatorMark->Package();
+    m_viewCtrl->RssiGainCalculator(document);
 }
 
 void CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone(SEachItemOperationResult result,
@@ -115,7 +142,7 @@ void CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone(SEachItemOperationResult r
 {
     qCDebug(lcForm) << "Slot_RssiGainCalculatorDone";
     disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiGainCalculatorDone, this, nullptr);
-    EndAsking(kCalculatorWords, result, responseStr);
+    EndAsking(*m_calculatorMark, kCalculatorWords, result, responseStr);
 }
 
 void CNrRssiDockWidgetV7::Slot_RssiTestDone(SEachItemOperationResult result,
@@ -123,7 +150,7 @@ void CNrRssiDockWidgetV7::Slot_RssiTestDone(SEachItemOperationResult result,
 {
     qCDebug(lcForm) << "Slot_RssiTestDone";
     disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiTestDone, this, nullptr);
-    EndAsking(kTestWords, result, responseStr);
+    EndAsking(*m_testMark, kTestWords, result, responseStr);
 }
 
 // False when nothing may be asked any more, see BeginRequest.
@@ -132,7 +159,8 @@ bool CNrRssiDockWidgetV7::BeginAsking()
     return HasAllChoices() && BeginRequest([this] { DisableTestControls(); });
 }
 
-void CNrRssiDockWidgetV7::EndAsking(const SWords &words, const SEachItemOperationResult &result,
+void CNrRssiDockWidgetV7::EndAsking(CResultMark &mark, const SWords &words,
+                                    const SEachItemOperationResult &result,
                                     const std::string &responseStr)
 {
     const QPointer<CNrRssiDockWidgetV7> self(this);
@@ -142,6 +170,8 @@ void CNrRssiDockWidgetV7::EndAsking(const SWords &words, const SEachItemOperatio
         UpdateWidget(response);
     if (!self)
         return;
+    if (!response.isEmpty())
+        mark.Measured();
     EndRequest([this] { EnableTestControls(); });
     if (result.status == eStatusSuccess) {
         emit Signal_UpdateStatus(QLatin1String(words.done));

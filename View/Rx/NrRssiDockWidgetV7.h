@@ -9,6 +9,9 @@
 // that is empty, since nothing ran, leaves the page as it was. A failure is told in the status line
 // and a box; the page may be gone when the box closes.
 //
+// Results are grey while they are not of the settings shown. The gains are results of the
+// calculator, and settings of the measurement.
+//
 // The binding carries all inputs and results (NrRssiV7.json). The gains that the calculator finds
 // are inputs of the measurement; the user may edit them. Gains and RSSI are dB and dBm in steps of
 // 1/32, which the five decimals of their editors hold without loss; frequencies are kHz.
@@ -21,6 +24,7 @@
 #include <string>
 
 #include "View/AutoBindingDataModelDockWidget.h"
+#include "View/ResultMark.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
 namespace Ui {
@@ -65,10 +69,14 @@ private:
     static const SWords kCalculatorWords;
 
     void FixLayout();
+    void MarkResults();
     bool BeginAsking();
-    void EndAsking(const SWords &words, const SEachItemOperationResult &result,
+    // mark: of the results that the answer brings.
+    void EndAsking(CResultMark &mark, const SWords &words, const SEachItemOperationResult &result,
                    const std::string &responseStr);
 
     std::unique_ptr<Ui::CNrRssiDockWidgetV7> m_ui;
     std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
+    std::unique_ptr<CResultMark> m_testMark;
+    std::unique_ptr<CResultMark> m_calculatorMark;
 };

@@ -40,10 +40,11 @@ CNrPuschTxDockWidget::CNrPuschTxDockWidget(const SPuschMode &mode, QWidget *pare
 {
 }
 
-void CNrPuschTxDockWidget::SetButtons(QPushButton *start, QPushButton *stop, QPushButton *calculate)
+void CNrPuschTxDockWidget::SetButtons(QPushButton *start, QPushButton *stop, QPushButton *calculate,
+                                      QWidget *dlFrequency)
 {
     SetTestButtons(start, stop);
-    SetReadingButton(calculate);
+    SetReadingButton(calculate, dlFrequency);
     m_calculate = calculate;
     m_calculate->setEnabled(false);
 }

@@ -12,7 +12,7 @@
 //       : CNrPuschTxDockWidget(kMode, parent), m_ui(...)
 //   {
 //       m_ui->setupUi(this);
-//       SetButtons(m_ui->m_start, m_ui->m_stop, m_ui->m_btnCalculate);
+//       SetButtons(m_ui->m_start, m_ui->m_stop, m_ui->m_btnCalculate, m_ui->...dlFrequency);
 //   }
 #pragma once
 
@@ -40,7 +40,8 @@ class CNrPuschTxDockWidget : public CNrTxDockWidget
 protected:
     CNrPuschTxDockWidget(const SPuschMode &mode, QWidget *parent);
 
-    void SetButtons(QPushButton *start, QPushButton *stop, QPushButton *calculate);
+    void SetButtons(QPushButton *start, QPushButton *stop, QPushButton *calculate,
+                    QWidget *dlFrequency);
     void FollowCarrierSearch(bool checked);
 
 private:

@@ -24,7 +24,8 @@ CNrPuschTxForcedDockWidgetV7::CNrPuschTxForcedDockWidgetV7(QWidget *parent)
       m_ui(std::make_unique<Ui::CNrPuschTxForcedDockWidgetV7>())
 {
     m_ui->setupUi(this);
-    SetButtons(m_ui->m_start, m_ui->m_stop, m_ui->m_btnCalculate);
+    SetButtons(m_ui->m_start, m_ui->m_stop, m_ui->m_btnCalculate,
+               m_ui->cmdIf_response_group1_memberProperty_dlFrequency);
     m_ui->cmdIf_request_group1_memberProperty_enableCsr->setEnabled(true);
 }
 

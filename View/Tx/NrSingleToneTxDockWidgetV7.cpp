@@ -35,7 +35,7 @@ CNrSingleToneTxDockWidgetV7::CNrSingleToneTxDockWidgetV7(QWidget *parent)
 {
     m_ui->setupUi(this);
     SetTestButtons(m_ui->m_start, m_ui->m_stop);
-    SetReadingButton(m_ui->m_btnFetchPd);
+    SetReadingButton(m_ui->m_btnFetchPd, m_ui->cmdIf_response_group1_memberProperty_pdValue);
 }
 
 CNrSingleToneTxDockWidgetV7::~CNrSingleToneTxDockWidgetV7() = default;

@@ -23,9 +23,12 @@ CNrTxDockWidget::CNrTxDockWidget(const SStartStopPage &page, const STxReading &r
 {
 }
 
-void CNrTxDockWidget::SetReadingButton(QPushButton *button)
+void CNrTxDockWidget::SetReadingButton(QPushButton *button, QWidget *result)
 {
     m_button = button;
+    m_mark = std::make_unique<CResultMark>(this, QList<QWidget *>{result});
+    connect(this, &CAutoBindingDataModelDockWidget::Signal_InitDone, m_mark.get(),
+            [this] { m_mark->Watch(); });
 }
 
 void CNrTxDockWidget::DisableTestControls()
@@ -64,7 +67,9 @@ void CNrTxDockWidget::StartReading()
     if (!BeginRequest(turnOff))
         return;
     connect(ViewCtrl(), m_reading.done, this, m_reading.slot);
-    (ViewCtrl()->*m_reading.request)(PackageMemberValue());
+    const std::string document = PackageMemberValue();
+    m_mark->Package();
+    (ViewCtrl()->*m_reading.request)(document);
 }
 
 // An answer that comes again must not end the busy state of something else, nor open another box.
@@ -91,6 +96,10 @@ void CNrTxDockWidget::FinishReading(const std::string &resultModel)
         qCCritical(lcForm) << windowTitle() << "the answer of a reading is no document";
         return;
     }
-    if (isFirst || IsModelGood(response))
-        UpdateWidget(response);
+    if (!isFirst && !IsModelGood(response))
+        return;
+    const QPointer<CNrTxDockWidget> self(this);
+    UpdateWidget(response);
+    if (self)
+        m_mark->Measured();
 }

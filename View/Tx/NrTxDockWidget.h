@@ -10,6 +10,7 @@
 //   void CNrSingleToneTxDockWidgetV7::on_m_btnFetchPd_clicked() { StartReading(); }
 #pragma once
 
+#include "View/ResultMark.h"
 #include "View/StartStopDockWidget.h"
 
 struct STxReading
@@ -38,7 +39,8 @@ public:
 protected:
     CNrTxDockWidget(const SStartStopPage &page, const STxReading &reading, QWidget *parent);
 
-    void SetReadingButton(QPushButton *button);
+    // The form's button, and where its value is shown: grey while it is not of the shown settings.
+    void SetReadingButton(QPushButton *button, QWidget *result);
 
     void StartReading();
     void FinishReading(const std::string &resultModel);
@@ -50,5 +52,6 @@ protected:
 private:
     const STxReading m_reading;
     QPushButton *m_button = nullptr;
+    std::unique_ptr<CResultMark> m_mark;
     bool m_isReading = false;  // from the request to its first answer
 };
