@@ -82,7 +82,7 @@ private slots:
     void unloadWhileAPageWaitsForItsDocument();
     void resetWhileTheFailureBoxIsOpen();
     void unloadWhileTheFailureBoxIsOpen();
-    void answerArrivesWhileTheWindowIsHidden();
+    void startThatArrivesWhileTheWindowIsHiddenIsStopped();
     void hideStopsARunningTestLikeATabChange();
     void showOfAVisibleWindowBringsThePagesBackAfterAReset();
     void showAfterAResetInTheMiddleOfTheInitFlowBringsAllPages_data();
@@ -235,15 +235,16 @@ void LifetimeTest::unloadWhileTheFailureBoxIsOpen()
     QVERIFY(!QApplication::activeModalWidget());
 }
 
-void LifetimeTest::answerArrivesWhileTheWindowIsHidden()
+void LifetimeTest::startThatArrivesWhileTheWindowIsHiddenIsStopped()
 {
     CPluginSession session(Type1Profile());
     QVERIFY(HoldStart(session));
     session->HidePlugin();
     VondSim_Release(kStart);
-    QVERIFY(session.WaitForStatus("Cont Rx start..."));
-    QVERIFY(session.Find<QPushButton>("m_stop")->isEnabled());
-    QCOMPARE(session.busy, (QVector<bool>{true, false}));
+    QVERIFY(session.WaitForStatus("Cont Rx stop."));
+    QCOMPARE(QString(VondSim_RunningTest()), QString());
+    QCOMPARE(CountCalls(kStop), 1);
+    QVERIFY(WaitUntil([&] { return !session.busy.last(); }));
 }
 
 void LifetimeTest::showOfAVisibleWindowBringsThePagesBackAfterAReset()
