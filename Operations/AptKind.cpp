@@ -1,6 +1,7 @@
 #include "Operations/AptKind.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "Operations/CalBlockMove.h"
 
@@ -29,12 +30,21 @@ void Move(const Mover &mover, Record &record, Block &block)
 
 }  // namespace
 
-int SAptKind::BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place)
+// Some targets count the blocks of a route alone; their regions are all of one length then.
+SFlashBlocks SAptKind::BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place)
 {
     const SMMCalTxRowV7 *end = info.tx + std::min<int>(info.txCount, VOND_MAX_TX_ROUTES);
     const SMMCalTxRowV7 *row = std::find_if(
         info.tx, end, [&place](const SMMCalTxRowV7 &r) { return r.route == place.route; });
-    return row == end ? 0 : row->blockCount[place.region];
+    if (row == end)
+        return {SFlashBlocks::eNotListed, 0};
+    const bool isByRegion = std::any_of(std::begin(row->blockCount), std::end(row->blockCount),
+                                        [](uint16_t count) { return count != 0; });
+    if (isByRegion)
+        return {SFlashBlocks::eCounted, row->blockCount[place.region]};
+    if (row->blockTotal % place.regions != 0)
+        return {SFlashBlocks::eTotalAlone, row->blockTotal};
+    return {SFlashBlocks::eCounted, row->blockTotal / place.regions};
 }
 
 void SAptKind::Ask(SMMGetCalDataReqV7 &request, int index, const SCalEntry &entry)
@@ -53,10 +63,15 @@ void SAptKind::List(SMMSetCalDataReqV7 &request, int index, const SCalEntry &ent
     request.txCount = static_cast<uint16_t>(index + 1);
 }
 
-SCalEntry SAptKind::Entry(const SMMGetCalDataCnfV7 &answer, int index)
+SCalEntry SAptKind::Entry(const SMMGetCalDataCnfV7 &answer, int index, int order)
 {
     const SMMCalTxEntryV7 &entry = answer.tx[index];
-    return {entry.route, entry.bandwidth, entry.blockCount};
+    if (order == 0)
+        return {entry.route, entry.bandwidth, entry.blockCount};
+    SMMCalTxEntryCountFirstV7 other;
+    static_assert(sizeof other == sizeof entry);
+    std::memcpy(&other, &entry, sizeof other);
+    return {other.route, other.bandwidth, other.blockCount};
 }
 
 void SAptKind::Cut(const Record &record, int k, Block &block)

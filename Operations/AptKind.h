@@ -16,12 +16,14 @@ struct SAptKind
     static constexpr int kBlocksOfRound = VOND_CAL_TX_BLOCKS;
     static constexpr const char *kName = "TX";
 
-    static int BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place);
+    static SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place);
     static void Ask(SMMGetCalDataReqV7 &request, int index, const SCalEntry &entry);
     static void List(SMMSetCalDataReqV7 &request, int index, const SCalEntry &entry);
     static Block *Blocks(SMMSetCalDataReqV7 &request) { return request.txBlock; }
     static int EntryCount(const SMMGetCalDataCnfV7 &answer) { return answer.txCount; }
-    static SCalEntry Entry(const SMMGetCalDataCnfV7 &answer, int index);
+    static constexpr std::array<const char *, 2> kEntryOrders = {"bandwidth, count, route",
+                                                                 "count, route, bandwidth"};
+    static SCalEntry Entry(const SMMGetCalDataCnfV7 &answer, int index, int order);
     static const Block *Blocks(const SMMGetCalDataCnfV7 &answer) { return answer.txBlock; }
     static void Cut(const Record &record, int k, Block &block);
     static void Join(const Block &block, int k, Record &record);

@@ -1,6 +1,7 @@
 #include "Operations/CalItemByL1Operation.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "Operations/TargetLink.h"
@@ -35,12 +36,15 @@ uint32_t ICalItemByL1Operation::Load(const std::vector<CCalIniFile *> &files)
 
 uint32_t ICalItemByL1Operation::Save(const std::vector<CCalIniFile *> &files)
 {
-    return MoveFile(SaveCalSections, files);
+    const uint32_t code = MoveFile(SaveCalSections, files);
+    if (const SMMRfRouteTableV7 *table = FindRouteTable())
+        NotePassedOver(*table);
+    return code;
 }
 
 uint32_t ICalItemByL1Operation::MoveFile(FileMove move, const std::vector<CCalIniFile *> &files)
 {
-    m_errorMessage.clear();
+    BeginMove();
     if (std::find(files.begin(), files.end(), nullptr) != files.end())
         return Fail({kCalNoFile, QString::fromLatin1(m_words.noFile)});
     const std::string chip = ChipName();
@@ -91,6 +95,24 @@ uint32_t ICalItemByL1Operation::Fail(const SCalFault &fault)
     m_errorMessage = fault.text;
     qCDebug(lcCalibration) << "calibration move failed," << fault.code << fault.text;
     return fault.code;
+}
+
+void ICalItemByL1Operation::BeginMove()
+{
+    m_errorMessage.clear();
+    m_remarks = {};
+}
+
+void ICalItemByL1Operation::NotePassedOver(const SMMRfRouteTableV7 &table)
+{
+    for (const SPart &part : m_parts) {
+        const ECalRoute kind = part.region->Kind();
+        std::set<std::pair<int, int>> walked;
+        for (const SCalPlace &place : WalkRoutes(table, kind)) {
+            if (part.region->IsEdited(place) && walked.insert({place.route, place.region}).second)
+                m_remarks.leftOut.push_back({kind, place, ECalLeftOut::NeverFilled});
+        }
+    }
 }
 
 void ICalItemByL1Operation::TellProgress(int round, int routesDone, int routesInAll) const

@@ -10,9 +10,12 @@
 //     203  the target answered with a failure status
 // Load and save throw the std::runtime_error of CCalIniFile when a file can't be read or written.
 //
-// A record is valid once it was read from flash or a file; valid records alone are written to
-// either. Upload makes all records invalid first. Nothing is rolled back: what a failed transfer
-// has moved stays, in flash and in memory.
+// A record is valid once it was read from flash or a file, and stays so; valid records alone are
+// written to either. An upload or a load replaces the records that came in whole, and no other one.
+// Nothing is rolled back: what a failed transfer has moved stays, in flash and in memory.
+//
+// What a move left out, and what of a file is not as it may look, is told in Remarks(); the code is
+// the same with and without.
 //
 // Transfers go in rounds, since one holds a limited number of blocks; a record is never split. All
 // moves block the calling thread, run one at a time under the core's lock, and retry nothing.
@@ -48,6 +51,8 @@ public:
 
     void SetProgress(Progress progress) { m_progress = std::move(progress); }
     bool HasData() const;  // some record is valid
+    // Of the last move.
+    const SCalMoveRemarks &Remarks() const { return m_remarks; }
     // Does a file hold a section of this item, of whatever RF chip? No text is left. Throws as load
     // does; false without a route table.
     bool IsInFile(CCalIniFile &file) const;
@@ -85,6 +90,9 @@ private:
     const SMMRfRouteTableV7 *RouteTable();  // a missing one is told in the text
     std::string ChipName() const;
     uint32_t Fail(const SCalFault &fault);
+    void BeginMove();
+    // Records that a user edited, but that are not valid.
+    void NotePassedOver(const SMMRfRouteTableV7 &table);
     uint32_t MoveFile(FileMove move, const std::vector<CCalIniFile *> &files);
 
     // Walks over the routes of all parts in rounds. The code of the round that failed; 2 when none
@@ -105,4 +113,5 @@ private:
     SWords m_words;
     std::vector<SPart> m_parts;
     Progress m_progress;
+    SCalMoveRemarks m_remarks;
 };

@@ -9,9 +9,26 @@
 //           ... region.Put(request, at, place, region.BlocksToWrite(place));
 #pragma once
 
+#include <vector>
+
+#include "Operations/CalRemarks.h"
 #include "Operations/CalRounds.h"
 #include "Operations/CalRoutes.h"
 #include "Vond/VondCalRecords.h"
+
+// What the block information tells of a record in flash.
+struct SFlashBlocks
+{
+    enum EKnown
+    {
+        eCounted,  // so many blocks; 0: there is none
+        eNotListed,
+        eTotalAlone,  // so many for all regions of the route, which they don't fill evenly
+    };
+
+    EKnown known = eNotListed;
+    int count = 0;
+};
 
 class CCalRegion
 {
@@ -24,6 +41,7 @@ public:
 
     virtual bool IsValid(const SCalPlace &place) const = 0;
     virtual bool HasValid() const = 0;
+    virtual bool IsEdited(const SCalPlace &place) const = 0;  // by a user, and not valid
 
     // Download. The blocks that a record takes in a round: its own, at most 4. Trailing blocks
     // without a frequency are left out where the record would not fit into a round with them.
@@ -32,14 +50,15 @@ public:
     virtual void Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at,
                      const SCalPlace &place, int blocks) const = 0;
 
-    // Upload. Makes all records invalid and forgets what was asked for.
+    // Upload. Forgets what was asked for; records stay as they are until they come in.
     virtual void BeginUpload() = 0;
-    // The blocks that the flash holds for a record, as the target told; 0 when it knows none.
-    virtual int BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place) const = 0;
+    virtual SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info,
+                                       const SCalPlace &place) const = 0;
     // Writes a record's entry to a place that has room for it.
     virtual void Ask(SMMGetCalDataReqV7 &request, int entry, const SCalPlace &place,
                      int blocks) = 0;
-    // Copies what came of the records that were asked for. A record becomes valid with its last
-    // block; what was not asked for is logged and left out.
-    virtual void Take(const SMMGetCalDataCnfV7 &answer) = 0;
+    // Takes over what came of the records that this round asked for. A record is replaced, and
+    // valid, with its last block; one that lacks a block stays as it was and is a remark. What was
+    // not asked for is logged and left out.
+    virtual void Take(const SMMGetCalDataCnfV7 &answer, std::vector<SCalLeftOut> &leftOut) = 0;
 };

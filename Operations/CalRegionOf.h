@@ -7,15 +7,18 @@
 //       static constexpr ECalRoute kRoute = ECalRoute::Tx;
 //       static constexpr int kBlocksOfRound = VOND_CAL_TX_BLOCKS;   // entries, too
 //       static constexpr const char *kName = "TX";
-//       // Blocks that the flash holds; any number, as the target told it. 0: none.
-//       static int BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place);
+//       // Blocks that the flash holds; any number, as the target told it.
+//       static SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place);
 //       // Write entry number index, which becomes the last one.
 //       static void Ask(SMMGetCalDataReqV7 &request, int index, const SCalEntry &entry);
 //       static void List(SMMSetCalDataReqV7 &request, int index, const SCalEntry &entry);
 //       static Block *Blocks(SMMSetCalDataReqV7 &request);
 //       // The count is the target's; entries are read below kBlocksOfRound alone.
 //       static int EntryCount(const SMMGetCalDataCnfV7 &answer);
-//       static SCalEntry Entry(const SMMGetCalDataCnfV7 &answer, int index);
+//       // Field orders in which targets answer an entry, by their names in the log. With more than
+//       // one, each entry is read in the order in which it names what was asked for.
+//       static constexpr std::array<const char *, 1> kEntryOrders = {"count, route"};
+//       static SCalEntry Entry(const SMMGetCalDataCnfV7 &answer, int index, int order);
 //       static const Block *Blocks(const SMMGetCalDataCnfV7 &answer);
 //       // Block k of a record, 0 to 3: out of it, and back into it.
 //       static void Cut(const Record &record, int k, Block &block);
@@ -24,6 +27,8 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
+#include <memory>
 #include <vector>
 
 #include "Operations/CalRegion.h"
@@ -50,32 +55,45 @@ public:
     const char *Name() const override { return TKind::kName; }
     bool IsValid(const SCalPlace &place) const override { return m_store.IsValid(place); }
     bool HasValid() const override { return m_store.HasValid(); }
+    bool IsEdited(const SCalPlace &place) const override { return m_store.IsEdited(place); }
 
     int BlocksToWrite(const SCalPlace &place) const override;
     void Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at, const SCalPlace &place,
              int blocks) const override;
     void BeginUpload() override;
-    int BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place) const override
+    SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info,
+                               const SCalPlace &place) const override
     {
         return TKind::BlocksInFlash(info, place);
     }
     void Ask(SMMGetCalDataReqV7 &request, int entry, const SCalPlace &place, int blocks) override;
-    void Take(const SMMGetCalDataCnfV7 &answer) override;
+    void Take(const SMMGetCalDataCnfV7 &answer, std::vector<SCalLeftOut> &leftOut) override;
 
 private:
-    // A record that was asked for in this upload.
+    static constexpr bool kHasOrders = TKind::kEntryOrders.size() > 1;
+    static constexpr int kNoOrder = -1;
+
+    // A record that was asked for in this round.
     struct SAsked
     {
         SCalPlace place;
         int blocks = 0;
-        int read = 0;  // the index of its next block
+        int read = 0;                      // the index of its next block
+        std::unique_ptr<Record> incoming;  // what has come of it
     };
 
     SAsked *FindAsked(const SCalEntry &entry);
+    SAsked *AskedOf(const SCalEntry &entry);
+    bool NamesAsked(const SMMGetCalDataCnfV7 &answer, int index, int order);
+    void FindFirstOrder(const SMMGetCalDataCnfV7 &answer, int entries);
+    SCalEntry EntryInItsOrder(const SMMGetCalDataCnfV7 &answer, int index);
+    void TakeEntries(const SMMGetCalDataCnfV7 &answer);
     void TakeBlock(SAsked &asked, const typename TKind::Block &block);
 
     CCalStore<Record> &m_store;
     std::vector<SAsked> m_asked;
+    int m_order = kNoOrder;  // of the entry before
+    std::array<bool, TKind::kEntryOrders.size()> m_isLogged{};
 };
 
 template <typename TKind>
@@ -114,8 +132,9 @@ void CCalRegionOf<TKind>::Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPl
 template <typename TKind>
 void CCalRegionOf<TKind>::BeginUpload()
 {
-    m_store.Invalidate();
     m_asked.clear();
+    m_order = kNoOrder;
+    m_isLogged = {};
 }
 
 template <typename TKind>
@@ -123,19 +142,32 @@ void CCalRegionOf<TKind>::Ask(SMMGetCalDataReqV7 &request, int entry, const SCal
                               int blocks)
 {
     TKind::Ask(request, entry, {place.route, place.bwKhz, blocks});
-    m_asked.push_back({place, blocks, 0});
+    m_asked.push_back({place, blocks, 0, nullptr});
 }
 
 template <typename TKind>
-void CCalRegionOf<TKind>::Take(const SMMGetCalDataCnfV7 &answer)
+void CCalRegionOf<TKind>::Take(const SMMGetCalDataCnfV7 &answer, std::vector<SCalLeftOut> &leftOut)
+{
+    TakeEntries(answer);
+    for (const SAsked &asked : m_asked) {
+        if (asked.read < asked.blocks)
+            leftOut.push_back(
+                {TKind::kRoute, asked.place, ECalLeftOut::AnswerCut, asked.read, asked.blocks});
+    }
+    m_asked.clear();
+}
+
+template <typename TKind>
+void CCalRegionOf<TKind>::TakeEntries(const SMMGetCalDataCnfV7 &answer)
 {
     const int entries = std::min(TKind::EntryCount(answer), TKind::kBlocksOfRound);
     if (entries < TKind::EntryCount(answer))
         qCCritical(lcCalibration) << TKind::kName
                                   << "answer has too many entries:" << TKind::EntryCount(answer);
+    FindFirstOrder(answer, entries);
     int next = 0;  // block of the answer
     for (int i = 0; i < entries; ++i) {
-        const SCalEntry entry = TKind::Entry(answer, i);
+        const SCalEntry entry = EntryInItsOrder(answer, i);
         qCDebug(lcCalibration).noquote().nospace()
             << "[" << TKind::kName << "][confirm] data info: route = " << entry.route
             << ", blkNum = " << entry.blocks;
@@ -143,7 +175,7 @@ void CCalRegionOf<TKind>::Take(const SMMGetCalDataCnfV7 &answer)
             qCCritical(lcCalibration) << TKind::kName << "answer has too many blocks";
             return;
         }
-        SAsked *asked = FindAsked(entry);
+        SAsked *asked = AskedOf(entry);
         for (int k = 0; asked && k < entry.blocks; ++k)
             TakeBlock(*asked, TKind::Blocks(answer)[next + k]);
         next += entry.blocks;
@@ -156,11 +188,58 @@ typename CCalRegionOf<TKind>::SAsked *CCalRegionOf<TKind>::FindAsked(const SCalE
     const auto asked = std::find_if(m_asked.begin(), m_asked.end(), [&entry](const SAsked &one) {
         return one.place.route == entry.route && one.place.bwKhz == entry.bwKhz;
     });
-    if (asked != m_asked.end())
-        return &*asked;
-    qCDebug(lcCalibration) << "Can not get the bwIdx for route" << entry.route << "bw"
-                           << entry.bwKhz;
-    return nullptr;
+    // In the wrong order a bandwidth looks like a count.
+    const bool isTaken = asked != m_asked.end() && (!kHasOrders || entry.blocks <= asked->blocks);
+    return isTaken ? &*asked : nullptr;
+}
+
+template <typename TKind>
+typename CCalRegionOf<TKind>::SAsked *CCalRegionOf<TKind>::AskedOf(const SCalEntry &entry)
+{
+    SAsked *const asked = FindAsked(entry);
+    if (!asked)
+        qCDebug(lcCalibration) << "Can not get the bwIdx for route" << entry.route << "bw"
+                               << entry.bwKhz;
+    return asked;
+}
+
+template <typename TKind>
+bool CCalRegionOf<TKind>::NamesAsked(const SMMGetCalDataCnfV7 &answer, int index, int order)
+{
+    return FindAsked(TKind::Entry(answer, index, order)) != nullptr;
+}
+
+// The first entry has none before it: it goes by the first one that leaves no doubt.
+template <typename TKind>
+void CCalRegionOf<TKind>::FindFirstOrder(const SMMGetCalDataCnfV7 &answer, int entries)
+{
+    if (m_order != kNoOrder)
+        return;
+    m_order = 0;
+    for (int i = 0; kHasOrders && i < entries; ++i) {
+        const bool first = NamesAsked(answer, i, 0);
+        if (first == NamesAsked(answer, i, 1))
+            continue;
+        m_order = first ? 0 : 1;
+        return;
+    }
+}
+
+template <typename TKind>
+SCalEntry CCalRegionOf<TKind>::EntryInItsOrder(const SMMGetCalDataCnfV7 &answer, int index)
+{
+    if constexpr (kHasOrders) {
+        const bool first = NamesAsked(answer, index, 0);
+        const bool second = NamesAsked(answer, index, 1);
+        if (first != second)
+            m_order = first ? 0 : 1;
+        if ((first || second) && !m_isLogged[m_order]) {
+            m_isLogged[m_order] = true;
+            qCDebug(lcCalibration).noquote()
+                << TKind::kName << "answer entries are" << TKind::kEntryOrders[m_order];
+        }
+    }
+    return TKind::Entry(answer, index, m_order);
 }
 
 template <typename TKind>
@@ -174,14 +253,14 @@ void CCalRegionOf<TKind>::TakeBlock(SAsked &asked, const typename TKind::Block &
     qCDebug(lcCalibration).noquote().nospace()
         << "         [request] current blk data idx = " << asked.read;
     qCDebug(lcCalibration).noquote().nospace() << "         [confirm]blk_data_idx = " << asked.read;
-    Record &record = m_store.At(asked.place);
-    if (asked.read == 0) {
-        record = {};
-        record.route = asked.place.route;
+    if (!asked.incoming) {
+        asked.incoming = std::make_unique<Record>();
+        asked.incoming->route = asked.place.route;
     }
-    TKind::Join(block, asked.read, record);
-    record.blockCount = static_cast<uint32_t>(++asked.read);
+    TKind::Join(block, asked.read, *asked.incoming);
+    asked.incoming->blockCount = static_cast<uint32_t>(++asked.read);
     if (asked.read == asked.blocks) {
+        m_store.At(asked.place) = *asked.incoming;
         m_store.SetValid(asked.place);
         qCDebug(lcCalibration) << "UploadFromFlashInternal reset currblkIdx ";
     }

@@ -25,6 +25,7 @@ std::vector<SCalPlace> WalkRegions(const SMMRfRouteTableV7 &table)
     std::vector<SCalPlace> places;
     for (SCalPlace place : WalkRows(table.txRoute, table.txRouteCount)) {
         const SMMRfTxRouteV7 &route = table.txRoute[place.row];
+        place.regions = route.bwRegionCount;
         for (place.region = 0; place.region < route.bwRegionCount; ++place.region) {
             place.bwKhz = route.bwRegionKhz[place.region];
             places.push_back(place);

@@ -26,6 +26,7 @@ struct SCalPlace
     uint16_t band = 0;
     uint16_t route = 0;
     int region = 0;      // index of the bandwidth region; 0 on RX
+    int regions = 1;     // bandwidth regions of the route; 1 on RX
     uint32_t bwKhz = 0;  // upper bound of that region; 0 on RX
     int ordinal = 0;     // position of the route among the routes of its band in this table
     int row = 0;         // row of the table
@@ -34,5 +35,5 @@ struct SCalPlace
 int RouteRows(const SMMRfRouteTableV7 &table, ECalRoute kind);
 std::vector<SCalPlace> WalkRoutes(const SMMRfRouteTableV7 &table, ECalRoute kind);
 
-// "7", on TX "7 bw100000".
+// "7", on TX "7 bw100000", as the log has it.
 std::string PlaceText(const SCalPlace &place, ECalRoute kind);

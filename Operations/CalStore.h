@@ -1,8 +1,10 @@
 // Calibration records of one kind of route in memory: one for each route number, or for each route
 // number and bandwidth region, with a flag that tells whether it holds data.
 //
-// Only what was read from the target or a file is valid. A record is made, all 0, when it is first
-// asked for, and keeps its address for the life of the store. One thread at a time.
+// Only what was read from the target or a file is valid, and stays so. A record that is not valid
+// may hold what a user has edited, which a second flag tells until it becomes valid. A record is
+// made, all 0, when it is first asked for, and keeps its address for the life of the store. One
+// thread at a time.
 //
 //   CCalStore<SAptRouteBwRecord> store(VOND_MAX_BW_REGIONS);
 //   const SAptRouteBwRecord *record = store.Find(7, 0);
@@ -48,16 +50,26 @@ public:
         const auto slot = m_slots.find(Key(place));
         return slot != m_slots.end() && slot->second.valid;
     }
-    void SetValid(const SCalPlace &place) { m_slots[Key(place)].valid = true; }
+    void SetValid(const SCalPlace &place)
+    {
+        m_slots[Key(place)].valid = true;
+        m_slots[Key(place)].edited = false;
+    }
+    // Edited by a user, and never filled.
+    bool IsEdited(const SCalPlace &place) const
+    {
+        const auto slot = m_slots.find(Key(place));
+        return slot != m_slots.end() && slot->second.edited;
+    }
+    void NoteEdit(uint16_t route, int region = 0)
+    {
+        if (Has(region) && !m_slots[Key(route, region)].valid)
+            m_slots[Key(route, region)].edited = true;
+    }
     bool HasValid() const
     {
         return std::any_of(m_slots.begin(), m_slots.end(),
                            [](const auto &slot) { return slot.second.valid; });
-    }
-    void Invalidate()
-    {
-        for (auto &slot : m_slots)
-            slot.second.valid = false;
     }
 
 private:
@@ -65,6 +77,7 @@ private:
     {
         Record record = {};
         bool valid = false;
+        bool edited = false;  // without being valid
     };
 
     bool Has(int region) const { return region >= 0 && region < m_recordsOfRoute; }

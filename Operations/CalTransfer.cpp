@@ -24,7 +24,7 @@ void Clear(Record &record)
 
 uint32_t ICalItemByL1Operation::Upload()
 {
-    m_errorMessage.clear();
+    BeginMove();
     const SMMRfRouteTableV7 *table = RouteTable();
     if (!table)
         return kCalGeneralError;
@@ -49,10 +49,11 @@ uint32_t ICalItemByL1Operation::Upload()
 
 uint32_t ICalItemByL1Operation::Download()
 {
-    m_errorMessage.clear();
+    BeginMove();
     const SMMRfRouteTableV7 *table = RouteTable();
     if (!table)
         return kCalGeneralError;
+    NotePassedOver(*table);
 
     SMMSetCalDataReqV7 request;
     Clear(request);
@@ -112,12 +113,21 @@ uint32_t ICalItemByL1Operation::AskRecord(CCalRounds &rounds, int part, const SC
                                           SMMGetCalDataReqV7 &request)
 {
     CCalRegion &region = *m_parts[part].region;
-    const int blocks = region.BlocksInFlash(info, place);
+    const auto leaveOut = [&](ECalLeftOut why, int count, int most) {
+        m_remarks.leftOut.push_back({region.Kind(), place, why, count, most});
+        return kCalSuccess;
+    };
+    const SFlashBlocks held = region.BlocksInFlash(info, place);
+    const int blocks = held.count;
     const int most = std::min(VOND_CAL_MAX_BLOCKS, region.BlocksOfRound());
-    if (blocks == 0) {
+    if (held.known != SFlashBlocks::eCounted || blocks == 0) {
         qCDebug(lcCalibration).noquote() << "Failed to get Blk info in L1 data: Route"
                                          << PlaceText(place, region.Kind()).c_str();
-        return kCalSuccess;
+        if (held.known == SFlashBlocks::eNotListed)
+            return leaveOut(ECalLeftOut::NotListed, 0, 0);
+        if (held.known == SFlashBlocks::eTotalAlone)
+            return leaveOut(ECalLeftOut::TotalAlone, blocks, 0);
+        return kCalSuccess;  // there is nothing to read
     }
     qCDebug(lcCalibration).noquote().nospace()
         << m_words.uploadRoute[part] << PlaceText(place, region.Kind()).c_str();
@@ -126,7 +136,7 @@ uint32_t ICalItemByL1Operation::AskRecord(CCalRounds &rounds, int part, const SC
         qCCritical(lcCalibration).noquote().nospace()
             << region.Name() << " route " << PlaceText(place, region.Kind()).c_str() << " has "
             << blocks << " blocks in flash, more than the " << most << " that can be read";
-        return kCalSuccess;
+        return leaveOut(ECalLeftOut::TooManyBlocks, blocks, most);
     }
     if (uint32_t code = rounds.MakeRoom(part, place.route, blocks))
         return code;
@@ -148,7 +158,7 @@ uint32_t ICalItemByL1Operation::ReceiveRound(SMMGetCalDataReqV7 &request)
     if (code != kCalSuccess)
         return code;
     for (const SPart &part : m_parts)
-        part.region->Take(answer);
+        part.region->Take(answer, m_remarks.leftOut);
     return kCalSuccess;
 }
 

@@ -43,6 +43,12 @@ public:
     {
         Records<Record>(*this).Put(route, 0, record);
     }
+    // What was stored last has a user's edits: a write or export that passes it over says so.
+    template <typename Record>
+    void NoteEdit(uint16_t route)
+    {
+        Records<Record>(*this).NoteEdit(route);
+    }
 
 private:
     template <typename Record, typename Self>

@@ -16,12 +16,15 @@ void Move(const Mover &mover, Record &record, Block &block)
     mover.Whole(record.plOffset, block.plOffset);
 }
 
-int BlocksOfRoute(const SMMCalRxRowV7 (&rows)[VOND_MAX_RX_ROUTES], int count, uint16_t route)
+SFlashBlocks BlocksOfRoute(const SMMCalRxRowV7 (&rows)[VOND_MAX_RX_ROUTES], int count,
+                           uint16_t route)
 {
     const SMMCalRxRowV7 *end = rows + std::min(count, VOND_MAX_RX_ROUTES);
     const SMMCalRxRowV7 *row =
         std::find_if(rows, end, [route](const SMMCalRxRowV7 &r) { return r.route == route; });
-    return row == end ? 0 : row->blockTotal;
+    if (row == end)
+        return {SFlashBlocks::eNotListed, 0};
+    return {SFlashBlocks::eCounted, row->blockTotal};
 }
 
 SMMCalRxEntryV7 RxEntry(const SCalEntry &entry)
@@ -31,7 +34,7 @@ SMMCalRxEntryV7 RxEntry(const SCalEntry &entry)
 
 }  // namespace
 
-int SType1Kind::BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place)
+SFlashBlocks SType1Kind::BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place)
 {
     return BlocksOfRoute(info.type1, info.type1Count, place.route);
 }
@@ -48,7 +51,7 @@ void SType1Kind::List(SMMSetCalDataReqV7 &request, int index, const SCalEntry &e
     request.type1Count = static_cast<uint16_t>(index + 1);
 }
 
-SCalEntry SType1Kind::Entry(const SMMGetCalDataCnfV7 &answer, int index)
+SCalEntry SType1Kind::Entry(const SMMGetCalDataCnfV7 &answer, int index, int)
 {
     return {answer.type1[index].route, 0, answer.type1[index].blockCount};
 }
@@ -63,7 +66,7 @@ void SType1Kind::Join(const Block &block, int k, Record &record)
     Move(SBlockJoin{k}, record, block);
 }
 
-int SType2Kind::BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place)
+SFlashBlocks SType2Kind::BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place)
 {
     return BlocksOfRoute(info.type2, info.type2Count, place.route);
 }
@@ -81,7 +84,7 @@ void SType2Kind::List(SMMSetCalDataReqV7 &request, int index, const SCalEntry &e
     request.type2Count = static_cast<uint16_t>(index + 1);
 }
 
-SCalEntry SType2Kind::Entry(const SMMGetCalDataCnfV7 &answer, int index)
+SCalEntry SType2Kind::Entry(const SMMGetCalDataCnfV7 &answer, int index, int)
 {
     return {answer.type2Route[index], 0, answer.type2BlockCount[index]};
 }

@@ -16,12 +16,13 @@ struct SType1Kind
     static constexpr int kBlocksOfRound = VOND_CAL_TYPE1_BLOCKS;
     static constexpr const char *kName = "T1";
 
-    static int BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place);
+    static SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place);
     static void Ask(SMMGetCalDataReqV7 &request, int index, const SCalEntry &entry);
     static void List(SMMSetCalDataReqV7 &request, int index, const SCalEntry &entry);
     static Block *Blocks(SMMSetCalDataReqV7 &request) { return request.type1Block; }
     static int EntryCount(const SMMGetCalDataCnfV7 &answer) { return answer.type1Count; }
-    static SCalEntry Entry(const SMMGetCalDataCnfV7 &answer, int index);
+    static constexpr std::array<const char *, 1> kEntryOrders = {"count, route"};
+    static SCalEntry Entry(const SMMGetCalDataCnfV7 &answer, int index, int order);
     static const Block *Blocks(const SMMGetCalDataCnfV7 &answer) { return answer.type1Block; }
     static void Cut(const Record &record, int k, Block &block);
     static void Join(const Block &block, int k, Record &record);
@@ -35,12 +36,13 @@ struct SType2Kind
     static constexpr int kBlocksOfRound = VOND_CAL_TYPE2_BLOCKS;
     static constexpr const char *kName = "T2";
 
-    static int BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place);
+    static SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place);
     static void Ask(SMMGetCalDataReqV7 &request, int index, const SCalEntry &entry);
     static void List(SMMSetCalDataReqV7 &request, int index, const SCalEntry &entry);
     static Block *Blocks(SMMSetCalDataReqV7 &request) { return request.type2Block; }
     static int EntryCount(const SMMGetCalDataCnfV7 &answer) { return answer.type2Count; }
-    static SCalEntry Entry(const SMMGetCalDataCnfV7 &answer, int index);
+    static constexpr std::array<const char *, 1> kEntryOrders = {"count, route"};
+    static SCalEntry Entry(const SMMGetCalDataCnfV7 &answer, int index, int order);
     static const Block *Blocks(const SMMGetCalDataCnfV7 &answer) { return answer.type2Block; }
     static void Cut(const Record &record, int k, Block &block);
     static void Join(const Block &block, int k, Record &record);

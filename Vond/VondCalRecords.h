@@ -41,7 +41,7 @@ VOND_OFFSET(SMMCalRxRowV7, blockTotal, 2);
 struct SMMCalTxRowV7
 {
     uint16_t route;
-    uint16_t blockTotal;                       // sum of the regions
+    uint16_t blockTotal;                       // sum of the regions, which may all be 0
     uint16_t blockCount[VOND_MAX_BW_REGIONS];  // by bandwidth region, as in the route table
     uint8_t reserved12[4];
 };
@@ -108,6 +108,18 @@ VOND_SIZE(SMMCalTxEntryV7, 8);
 VOND_OFFSET(SMMCalTxEntryV7, bandwidth, 0);
 VOND_OFFSET(SMMCalTxEntryV7, blockCount, 4);
 VOND_OFFSET(SMMCalTxEntryV7, route, 6);
+
+// The same in an upload answer of some targets, entry by entry in the place of the other.
+struct SMMCalTxEntryCountFirstV7
+{
+    uint16_t blockCount;
+    uint16_t route;
+    uint32_t bandwidth;  // upper bound of the region, kHz
+};
+VOND_SIZE(SMMCalTxEntryCountFirstV7, 8);
+VOND_OFFSET(SMMCalTxEntryCountFirstV7, blockCount, 0);
+VOND_OFFSET(SMMCalTxEntryCountFirstV7, route, 2);
+VOND_OFFSET(SMMCalTxEntryCountFirstV7, bandwidth, 4);
 
 // Request of VOND_MMRf_GetCalDataV7_r: one round of an upload.
 struct SMMGetCalDataReqV7
