@@ -189,10 +189,13 @@ private:
     // not for the next.
     void RenewCalItems();
     ICalItemByL1Operation *FindCalItem(const QString &name);
+    void TellRemarks(const QString &name);
     // Under m_targetLock.
     void LookForCalItem(ECalItem item);
     SCalView CalView(ECalItem item);
     PortableCriticalSection &RecordLock(ECalItem item);
+    template <typename Record, typename Build, typename Walk>
+    void StorePathLoss(uint16_t route, const QJsonObject &object, Build build, Walk walk);
     // The status of the move; its text is in m_errorMessage then.
     int RunCalItem(const SCalFlow &flow, const QString &name, CCalIniFile *file);
 

@@ -1,4 +1,6 @@
 // Calibration records of the core as pages see them.
+#include "Controller/CalEdits.h"
+#include "Controller/CalWalks.h"
 #include "Controller/CommandFields.h"
 #include "Controller/LossConfig.h"
 #include "Controller/NrCore.h"
@@ -101,10 +103,13 @@ void CNrCore::SetAptCalibrationData(const std::string &document)
         return;
     const CLockSentry lock(RecordLock(ECalItem::Apt));
     const STxPlace place = ReadTxPlace(object, "SetAptCalibrationData: route ");
-    const SAptRouteBwRecord *record = m_aptProfile->GetAptCalibrationData(place.route, place.bwIdx);
-    if (record)
-        m_aptProfile->SetAptCalibrationData(place.route, place.bwIdx,
-                                            m_cmdBuilder.GetAptCmdV7(object, *record));
+    const SAptRouteBwRecord *own = m_aptProfile->GetAptCalibrationData(place.route, place.bwIdx);
+    if (!own)
+        return;
+    SAptRouteBwRecord record = m_cmdBuilder.GetAptCmdV7(object, *own);
+    m_aptProfile->SetAptCalibrationData(place.route, place.bwIdx, record);
+    if (HoldsEdits(object, [&](ICalMove &move) { MoveApt(move, record); }))
+        m_aptProfile->NoteEdit(place.route, place.bwIdx);
 }
 
 std::string CNrCore::GetPathLossCalibrationData(std::string document)
@@ -126,6 +131,19 @@ std::string CNrCore::GetPathLossCalibrationData(std::string document)
         gains);
 }
 
+template <typename Record, typename Build, typename Walk>
+void CNrCore::StorePathLoss(uint16_t route, const QJsonObject &object, Build build, Walk walk)
+{
+    const Record &own = *m_pathLoss->GetPathLossCalibrationData<Record>(route);
+    const auto record = std::make_unique<Record>((m_cmdBuilder.*build)(object, own));
+    m_pathLoss->SetPathLossCalibrationData(route, *record);
+    const SLossConfig config = ReadLossConfig(object);
+    const SLossView view{StoredPowerMode(config.powerMode).half, config.freqIdx, config.path,
+                         config.bigG};
+    if (HoldsEdits(object, [&](ICalMove &move) { walk(move, *record, view); }))
+        m_pathLoss->NoteEdit<Record>(route);
+}
+
 void CNrCore::SetPathLossCalibrationData(const std::string &document)
 {
     const QJsonObject object = ModelFromText(document);
@@ -133,13 +151,10 @@ void CNrCore::SetPathLossCalibrationData(const std::string &document)
         return;
     const CLockSentry lock(RecordLock(ECalItem::PathLoss));
     const SRxPlace place = ReadRxPlace(object);
-    const auto store = [&](auto build, const auto *record) {
-        m_pathLoss->SetPathLossCalibrationData(place.route, (m_cmdBuilder.*build)(object, *record));
-    };
     if (place.isType2)
-        store(&CNrCoreCmdBuilder::GetType2PathLossCmdV7,
-              m_pathLoss->GetPathLossCalibrationData<SMMType2PathlossByRouteV7>(place.route));
+        StorePathLoss<SMMType2PathlossByRouteV7>(
+            place.route, object, &CNrCoreCmdBuilder::GetType2PathLossCmdV7, MoveType2);
     else
-        store(&CNrCoreCmdBuilder::GetType1PathLossCmdV7,
-              m_pathLoss->GetPathLossCalibrationData<SMMType1PathlossByRouteV7>(place.route));
+        StorePathLoss<SMMType1PathlossByRouteV7>(
+            place.route, object, &CNrCoreCmdBuilder::GetType1PathLossCmdV7, MoveType1);
 }

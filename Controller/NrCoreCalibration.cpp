@@ -2,6 +2,7 @@
 #include <exception>
 
 #include "Controller/CalItemTable.h"
+#include "Controller/CalRemarkText.h"
 #include "Controller/NrCore.h"
 #include "Model/StatusTable.h"
 #include "Support/CalIniFile.h"
@@ -148,9 +149,18 @@ void CNrCore::RunFlowItems(const SCalFlow &flow, const QStringList &items, CCalI
             status = RunCalItem(flow, items[i], file);
         if (status != eStatusSuccess)
             m_isAllSuccess = false;
+        TellRemarks(items[i]);
         AddItemResult(items[i], status, m_errorMessage);
         emit Signal_FinishItemCount(i + 1, GetItemResult(i));
     }
+}
+
+void CNrCore::TellRemarks(const QString &name)
+{
+    const ICalItemByL1Operation *item = FindCalItem(name);
+    const SCalRemarks remarks = item ? CalRemarksOf(item->Remarks()) : SCalRemarks();
+    if (!remarks.IsEmpty())
+        emit Signal_CalRemarks(name, remarks);
 }
 
 void CNrCore::RenewCalItems()

@@ -12,13 +12,25 @@
 #include "Model/StatusTable.h"
 #include "Support/FileDialogMan.h"
 #include "Support/Log.h"
+#include "View/CalibrationRemarks.h"
 #include "View/ScrollPane.h"
+
+namespace {
+
+// Events of a selector. It may keep the focus while the page changes, by a button that takes none.
+bool MayComeBeforeAChange(QEvent::Type type)
+{
+    return type == QEvent::FocusIn || type == QEvent::Wheel || type == QEvent::KeyPress ||
+           type == QEvent::MouseButtonPress;
+}
+
+}  // namespace
 
 // What the user and the log read of a flow.
 struct CCalibrationDockWidget::SFlowWords
 {
     const char *log;
-    const char *running;  // in front of how far it is
+    const char *running;  // in front of how far it is, and over what it left out
     const char *done;
     const char *failed;  // with a point behind it in the status bar
 };
@@ -102,7 +114,7 @@ bool CCalibrationDockWidget::eventFilter(QObject *object, QEvent *event)
 {
     if (!m_modelReady)
         return true;
-    if (event->type() == QEvent::FocusIn || event->type() == QEvent::Wheel) {
+    if (MayComeBeforeAChange(event->type())) {
         TakeSnapshot();
         ShowSelectionDetails();
     }
@@ -156,6 +168,9 @@ void CCalibrationDockWidget::StartFlow(ECalibrationFlow kind, const Flow &flow,
         return;
     qCDebug(lcForm) << Words(kind).log;
     const std::string document = PackageMemberValue();
+    m_remarks = {};
+    connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalRemarks, this,
+            [this](const SCalRemarks &remarks) { m_remarks = remarks; });
     ShowProgress(kind, 0, 0, 0);
     connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalProgress, this,
             [this, kind](int round, int routesDone, int routesInAll) {
@@ -216,6 +231,7 @@ void CCalibrationDockWidget::EndFlow(const Flow &flow)
     });
     disconnect(m_viewCtrl.get(), flow.done, this, nullptr);
     disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalProgress, this, nullptr);
+    disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalRemarks, this, nullptr);
 }
 
 void CCalibrationDockWidget::EndFlow(ECalibrationFlow flow)
@@ -239,32 +255,44 @@ void CCalibrationDockWidget::EndFlow(ECalibrationFlow flow)
 bool CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
                                         const SEachItemOperationResult &result)
 {
-    EndFlow(flow);
-    const SFlowWords &words = Words(flow);
-    if (result.status == eStatusSuccess) {
-        emit Signal_UpdateStatus(QLatin1String(words.done));
-        return true;
-    }
-    emit Signal_UpdateStatus(QLatin1String(words.failed) + QLatin1Char('.'));
-    ShowItemResult(QLatin1String(words.failed), result);
-    return false;
+    return FinishFlow(flow, result, (m_viewCtrl.get()->*m_page.fetch)(PackageMemberValue()));
 }
 
+// Whatever has ended the flow, it may have changed what memory holds.
 bool CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
                                         const SEachItemOperationResult &result,
                                         const std::string &document)
 {
-    if (result.status != eStatusSuccess)
-        return FinishFlow(flow, result);
     const QPointer<CCalibrationDockWidget> self(this);
     EndFlow(flow);
-    ShowDocument(document);
     if (!self)
         return false;
+    {
+        const QScopedValueRollback<bool> boxesWait(m_boxesWait, true);
+        ShowDocument(document);
+    }
     TakeSnapshot();
     ShowSelectionDetails();
-    emit Signal_UpdateStatus(QLatin1String(Words(flow).done));
-    return self;
+    const bool isDone = result.status == eStatusSuccess;
+    const SFlowWords &words = Words(flow);
+    emit Signal_UpdateStatus(isDone ? QString(QLatin1String(words.done))
+                                    : QLatin1String(words.failed) + QLatin1Char('.'));
+    ShowOutcome(words, result, std::exchange(m_remarks, {}));
+    return self && isDone;
+}
+
+// The page may be gone when a box has closed.
+void CCalibrationDockWidget::ShowOutcome(const SFlowWords &words,
+                                         const SEachItemOperationResult &result,
+                                         const SCalRemarks &remarks)
+{
+    const QPointer<CCalibrationDockWidget> self(this);
+    if (result.status != eStatusSuccess)
+        ShowItemResult(QLatin1String(words.failed), result);
+    if (!self || remarks.IsEmpty())
+        return;
+    const SRemarkBox box = RemarkBox(result.itemName, remarks);
+    m_messageBox.Show(eBoxWarningAsIs, QLatin1String(words.running), box.text, {}, box.detail, -1);
 }
 
 void CCalibrationDockWidget::ShowProgress(ECalibrationFlow kind, int round, int routesDone,

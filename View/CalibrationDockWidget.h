@@ -3,14 +3,17 @@
 // Four buttons start a flow: Read (flash to page), Write (page to flash), Import (file to page) and
 // Export (page to file). A flow moves the data of all routes. While it runs the page is disabled,
 // the status bar tells how far it is, and a progress bar moves beside it. Each ends in one answer:
-// a status line, and the result box when it failed.
+// a status line, the result box when it failed, and one more box when it left something out.
 //
 // A page shows one selection at a time (band, route, power mode and so on). The core's copy holds
 // the rest, so a change of selection stores what was shown and shows what is there instead. The
 // selector's signal comes when the widgets name the new selection already. So the page takes a
 // snapshot, the document under the old selection, when the user goes to a selector: with the focus,
-// or with the wheel, which turns a selector that has no focus too. Read and Import take one as
-// well, since a selector may have kept the focus meanwhile.
+// or with the wheel, which turns a selector that has no focus too, or with a key or a click there.
+//
+// Whatever ends a flow, good or bad, the page then shows what the core's copy holds under the
+// selection, valid or not, and takes that as its snapshot: only what the user changes after that is
+// an edit.
 //
 // Until the page has its document, and while a result is being shown, its selectors get no events.
 //
@@ -18,7 +21,7 @@
 // operations below.
 //
 // Errors. A result other than success ends in the result box, a cancelled file dialog in a warning;
-// both are the last thing that happens: the page may be gone when the box has closed.
+// boxes are the last thing that happens: the page may be gone when one has closed.
 //
 // Threads. GUI thread. An answer's connection lives for one flow. Storing and fetching a selection
 // works on the core's copy and does not wait for the target.
@@ -157,9 +160,11 @@ private:
     // The file that the user chooses; empty when the dialog was cancelled, which has been said
     // then.
     QString AskFile(bool isSave);
+    void ShowOutcome(const SFlowWords &words, const SEachItemOperationResult &result,
+                     const SCalRemarks &remarks);
     void SetButtonsEnabled(bool isEnabled);
     void TakeSnapshot();
-    // The page may be gone when it returns.
+    // The page may be gone when it returns, unless boxes wait.
     void ShowDocument(const std::string &document);
     // round: the transfer under way, 0 for a file; routesInAll: 0 while that is not known yet.
     void ShowProgress(ECalibrationFlow kind, int round, int routesDone, int routesInAll);
@@ -170,4 +175,5 @@ private:
     const std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
     SCalibrationForm m_form{};
     CResetUndo m_undo{this, [this] { FinishEdit(); }};
+    SCalRemarks m_remarks;  // of the flow that runs
 };

@@ -22,6 +22,7 @@ CCoreAnswers::CCoreAnswers()
     PassOn(&Cal::Signal_SaveToFileDone, &CCoreAnswers::Signal_SaveToFileDone);
     PassOn(&Cal::Signal_LoadFromFileDone, &CCoreAnswers::Signal_LoadFromFileDone);
     PassOn(&Cal::Signal_CalProgress, &CCoreAnswers::Signal_CalProgress);
+    PassOn(&Cal::Signal_CalRemarks, &CCoreAnswers::Signal_CalRemarks);
 }
 
 // The connection is never taken down, so that no pool thread meets it half gone.

@@ -20,6 +20,7 @@
 #include <QString>
 #include <QVector>
 
+#include "Model/CalRemarks.h"
 #include "Model/OperationResult.h"
 
 class CNrCore;
@@ -45,6 +46,7 @@ signals:
     void Signal_SaveToFileDone(bool isAllSuccess, QVector<SEachItemOperationResult> itemResult);
     void Signal_LoadFromFileDone(bool isAllSuccess, QVector<SEachItemOperationResult> itemResult);
     void Signal_CalProgress(QString item, int round, int routesDone, int routesInAll);
+    void Signal_CalRemarks(QString item, SCalRemarks remarks);
 
 private:
     CCoreAnswers();

@@ -23,6 +23,7 @@
 #include <QStringList>
 
 #include "Controller/Interface/CoreInterface.h"
+#include "Model/CalRemarks.h"
 #include "Model/OperationResult.h"
 #include "Support/JobQueue.h"
 
@@ -159,6 +160,9 @@ signals:
     // How far the calibration request is. round: the transfer under way, from 1 on; 0 while a file
     // is read or written.
     void Signal_CalProgress(int round, int routesDone, int routesInAll);
+    // What there is to say of the calibration request beside its result; before its answer, if at
+    // all.
+    void Signal_CalRemarks(SCalRemarks remarks);
 
     void Signal_Idle();
 

@@ -108,6 +108,12 @@ void CQuorlinViewCtrl::AwaitFlow(const SCalRequest &request)
                     if (item == name)
                         emit self->Signal_CalProgress(round, routesDone, routesInAll);
                 });
+    AwaitAnswer(&CCoreAnswers::Signal_CalRemarks,
+                [name = CalItemName(request.item.id)](CQuorlinViewCtrl *self, const QString &item,
+                                                      const SCalRemarks &remarks) {
+                    if (item == name)
+                        emit self->Signal_CalRemarks(remarks);
+                });
 }
 
 void CQuorlinViewCtrl::RequestFlow(ECalRequest id, std::string document, File file)
@@ -149,6 +155,7 @@ void CQuorlinViewCtrl::PassFlowAnswer(ECalRequest id,
     CCoreAnswers &core = CCoreAnswers::Get();
     disconnect(&core, request.flow.coreDone, this, nullptr);
     disconnect(&core, &CCoreAnswers::Signal_CalProgress, this, nullptr);
+    disconnect(&core, &CCoreAnswers::Signal_CalRemarks, this, nullptr);
     if (request.result) {
         emit(this->*request.result)(answer);
         return;

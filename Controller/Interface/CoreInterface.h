@@ -6,7 +6,8 @@
 // Calibration flows. A flow moves the data of some items, one after another, between the target's
 // flash, memory and a file; a failed item does not end it. It starts on any thread, returns at once
 // and answers once, on a pool thread, with a result for each item. An item name that is unknown
-// moves nothing and repeats the status before it, 0 at the start.
+// moves nothing and repeats the status before it, 0 at the start. What a move left out is told in a
+// signal of its own before the answer.
 //
 //   connect(&core, &IRfCoreCalDataOperation::Signal_UploadFromFlashDone, page, &Page::Slot_Done);
 //   core.UploadFromFlashStart({core.GetCalItemName(1)});
@@ -23,6 +24,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include "Model/CalRemarks.h"
 #include "Model/OperationResult.h"
 
 class CCalIniFile;
@@ -107,6 +109,9 @@ signals:
     // How far an item's move is. round: the transfer under way, from 1 on; 0 while a file is read
     // or written. routesDone counts rows of the route tables.
     void Signal_CalProgress(QString item, int round, int routesDone, int routesInAll);
+    // What there is to say of an item's move beside its result, whatever that is; comes before the
+    // flow's answer, and not at all when there is nothing.
+    void Signal_CalRemarks(QString item, SCalRemarks remarks);
 
 protected:
     // Results of the flow that runs, or of the last one.

@@ -1,0 +1,19 @@
+// The box text of a calibration flow's remarks.
+//
+// Records with one reason stand together, in the order in which they came; values have a line each.
+// A long list of records goes into the box's details, and the text has its beginning. Pure
+// function.
+//
+//   const SRemarkBox box = RemarkBox("RX PathLoss", remarks);
+//   m_messageBox.Show(eBoxWarningAsIs, title, box.text, {}, box.detail, -1);
+#pragma once
+
+#include "Model/CalRemarks.h"
+
+struct SRemarkBox
+{
+    QString text;
+    QString detail;  // empty where the text has all
+};
+
+SRemarkBox RemarkBox(const QString &item, const SCalRemarks &remarks);
