@@ -23,6 +23,10 @@ public:
     // One text, or two of a number beyond limits that follow another member.
     QStringList Shown(const QString &text) const;
 
+    const QString &DataType() const { return m_dataType; }
+    // Limits or options as the document has them; undefined: none are known.
+    const QJsonValue &Entry() const { return m_entry; }
+
 private:
     QString m_dataType;
     bool m_isSubscriber = false;

@@ -190,6 +190,8 @@ private:
     void RenewCalItems();
     ICalItemByL1Operation *FindCalItem(const QString &name);
     void TellRemarks(const QString &name);
+    // Of the item's page; the capability reads are cached.
+    std::unique_ptr<ICalPageLimits> PageLimits(const QString &name);
     // Under m_targetLock.
     void LookForCalItem(ECalItem item);
     SCalView CalView(ECalItem item);

@@ -2,8 +2,10 @@
 #include <exception>
 
 #include "Controller/CalItemTable.h"
+#include "Controller/CalPageLimits.h"
 #include "Controller/CalRemarkText.h"
 #include "Controller/NrCore.h"
+#include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/CalIniFile.h"
 #include "Support/Log.h"
@@ -18,6 +20,7 @@ struct CNrCore::SCalFlow
     const char *endLog;
     uint32_t (*move)(ICalItemByL1Operation &item, CCalIniFile *file);
     uint32_t thrownStatus;  // of a move that ended by an exception
+    bool looksAtValues;     // those of a file, against what the item's page shows
     void (IRfCoreCalDataOperation::*done)(bool, QVector<SEachItemOperationResult>);
 
     static const SCalFlow kUpload, kDownload, kLoad, kSave;
@@ -30,6 +33,7 @@ const CNrCore::SCalFlow CNrCore::SCalFlow::kUpload = {
     "[CNrCore]UploadFromFlashInternal()--",
     [](ICalItemByL1Operation &item, CCalIniFile *) { return item.UploadFromFlash(); },
     kCalGeneralError,
+    false,
     &IRfCoreCalDataOperation::Signal_UploadFromFlashDone,
 };
 
@@ -40,6 +44,7 @@ const CNrCore::SCalFlow CNrCore::SCalFlow::kDownload = {
     "[CNrCore]DownloadToFlashInternal()--",
     [](ICalItemByL1Operation &item, CCalIniFile *) { return item.DownloadToFlash(); },
     kCalGeneralError,
+    false,
     &IRfCoreCalDataOperation::Signal_DownloadToFlashDone,
 };
 
@@ -50,6 +55,7 @@ const CNrCore::SCalFlow CNrCore::SCalFlow::kLoad = {
     "[CNrCore] LoadFromFileInternal---",
     [](ICalItemByL1Operation &item, CCalIniFile *file) { return item.LoadFromFile(file); },
     kCalNoFile,
+    true,
     &IRfCoreCalDataOperation::Signal_LoadFromFileDone,
 };
 
@@ -60,6 +66,7 @@ const CNrCore::SCalFlow CNrCore::SCalFlow::kSave = {
     "[CNrCore] SaveToFileInternal---",
     [](ICalItemByL1Operation &item, CCalIniFile *file) { return item.SaveToFile(file); },
     kCalNoFile,
+    false,
     &IRfCoreCalDataOperation::Signal_SaveToFileDone,
 };
 
@@ -196,11 +203,22 @@ ICalItemByL1Operation *CNrCore::FindCalItem(const QString &name)
     return m_aptProfile.get();
 }
 
+// A calibration page bears its item's name.
+std::unique_ptr<ICalPageLimits> CNrCore::PageLimits(const QString &name)
+{
+    const SPageRow &page = FindPage(static_cast<EPageId>(m_pageMap.value(name)));
+    return std::make_unique<CCalPageLimits>(
+        ModelFromText(LoadDataModel(name, page, QString::fromLatin1(page.resource))));
+}
+
 int CNrCore::RunCalItem(const SCalFlow &flow, const QString &name, CCalIniFile *file)
 {
     const CLockSentry lock(RecordLock(static_cast<ECalItem>(m_calItemMap.value(name))));
     ICalItemByL1Operation &item = *FindCalItem(name);
     try {
+        const std::unique_ptr<ICalPageLimits> limits =
+            flow.looksAtValues ? PageLimits(name) : nullptr;
+        item.SetPageLimits(limits.get());
         const uint32_t status = flow.move(item, file);
         m_errorMessage = item.GetErrorMessage();
         return static_cast<int>(status);

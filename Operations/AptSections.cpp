@@ -64,15 +64,18 @@ std::vector<std::string> CAptSections::SectionsOf(ERadioKind kind, const SCalPla
     return {FormText(kFurther[form], {band, std::to_string(place.ordinal), region})};
 }
 
-SCalFault CAptSections::Read(const SCalPlace &place, const CalFileSections &sections)
+SCalFault CAptSections::Read(const SCalPlace &place, const CalFileSections &sections,
+                             CCalValueWatch &watch)
 {
     Record record = m_store.At(place);
-    if (const char *failure = ReadKeys(*sections[0], kKeys, EAbsentKey::Default, record))
+    watch.BeginRecord(Kind(), place, &record);
+    if (const char *failure = ReadKeys(*sections[0], kKeys, EAbsentKey::Default, record, watch))
         return {kCalFileProblem, QString::fromLatin1(failure)};
     // The section belongs to its route by its name; a number in it can't send it elsewhere.
     record.band = place.band;
     record.route = place.route;
     record.blockCount = FileBlockCount(record.freq);
+    watch.EndRecord();
     m_store.At(place) = record;
     m_store.SetValid(place);
     return {};

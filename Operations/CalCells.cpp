@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <limits>
 
+#include "Operations/CalValueWatch.h"
+
 namespace {
 
 constexpr int kUnitsADb = 32;
@@ -39,10 +41,12 @@ std::errc Parse(std::string_view text, T &value)
     return std::from_chars(text.data(), text.data() + text.size(), value).ec;
 }
 
-int64_t ParseNumber(std::string_view text)
+int64_t ParseNumber(std::string_view text, bool &isNumber)
 {
     int64_t value = 0;
-    if (Parse(text, value) == std::errc::result_out_of_range)
+    const std::errc outcome = Parse(text, value);
+    isNumber = outcome != std::errc::invalid_argument;
+    if (outcome == std::errc::result_out_of_range)
         value = Trimmed(text)[0] == '-' ? std::numeric_limits<int64_t>::min()
                                         : std::numeric_limits<int64_t>::max();
     return value;
@@ -88,10 +92,10 @@ bool TakePlainDb(std::string_view &list, int64_t &value)
     return true;
 }
 
-int64_t ParseDb(std::string_view text)
+int64_t ParseDb(std::string_view text, bool &isNumber)
 {
     double value = 0;
-    Parse(text, value);
+    isNumber = Parse(text, value) == std::errc() && !std::isnan(value);
     return std::isnan(value) ? 0 : Scaled(value, kUnitsADb);
 }
 
@@ -200,6 +204,11 @@ int64_t CCalCell::Get() const
     return std::visit([](const auto *field) { return static_cast<int64_t>(*field); }, m_field);
 }
 
+const void *CCalCell::Address() const
+{
+    return std::visit([](const auto *field) { return static_cast<const void *>(field); }, m_field);
+}
+
 void CCalCell::Set(int64_t value)
 {
     std::visit([value](auto *field) { SetHeld(*field, value); }, m_field);
@@ -223,19 +232,25 @@ void CCalCells::AppendTo(std::string &text, ECalValue kind) const
     text.resize(before + static_cast<size_t>(end - begin));
 }
 
-const char *CCalCells::Read(std::string_view text, ECalValue kind) const
+const char *CCalCells::Read(std::string_view text, ECalValue kind, CCalValueWatch *watch) const
 {
     return std::visit(
         [&](auto *first) -> const char * {
             std::string_view item;
             for (size_t i = 0; i < m_count; ++i) {
                 int64_t value = 0;
+                bool isNumber = true;
+                const std::string_view rest = text;
                 const bool plain = kind == ECalValue::Db && TakePlainDb(text, value);
                 if (!plain && TakeListItem(text, item)) {
-                    if (const char *failure = ParseCalValue(kind, item, value))
+                    if (const char *failure = ParseCalValue(kind, item, value, &isNumber))
                         return failure;
                 }
-                SetHeld(FieldAt(first, i, m_distance), value);
+                auto &field = FieldAt(first, i, m_distance);
+                SetHeld(field, value);
+                if (watch && !rest.empty())
+                    watch->See(CCalCell(field), Trimmed(rest.substr(0, rest.find(','))), kind,
+                               value, isNumber);
             }
             return nullptr;
         },
@@ -248,15 +263,18 @@ void AppendCalValue(std::string &text, ECalValue kind, int64_t value, bool lone)
     text.append(buffer, PutValue(buffer, kind, value, lone));
 }
 
-const char *ParseCalValue(ECalValue kind, std::string_view text, int64_t &value)
+const char *ParseCalValue(ECalValue kind, std::string_view text, int64_t &value, bool *isNumber)
 {
     value = 0;
+    bool isAny = true;
+    bool &outcome = isNumber ? *isNumber : isAny;
+    outcome = true;
     switch (kind) {
     case ECalValue::Number:
-        value = ParseNumber(text);
+        value = ParseNumber(text, outcome);
         break;
     case ECalValue::Db:
-        value = ParseDb(text);
+        value = ParseDb(text, outcome);
         break;
     case ECalValue::Volt:
         return ParseVolt(text, value);

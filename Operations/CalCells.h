@@ -38,11 +38,14 @@ public:
     }
 
     int64_t Get() const;
+    const void *Address() const;
     void Set(int64_t value);  // held to the range of the field
 
 private:
     std::variant<uint8_t *, uint16_t *, int16_t *, uint32_t *> m_field;
 };
+
+class CCalValueWatch;
 
 // The fields of a record that one value of a file holds: a lone one, or a list of fields that lie
 // at equal distances.
@@ -71,7 +74,8 @@ public:
     // Appends the values of the fields as one value of a file.
     void AppendTo(std::string &text, ECalValue kind) const;
     // Null, or the words of the failure; the fields before the failed one are set then.
-    const char *Read(std::string_view text, ECalValue kind) const;
+    // watch, if any, sees each value.
+    const char *Read(std::string_view text, ECalValue kind, CCalValueWatch *watch = nullptr) const;
 
 private:
     template <typename T>
@@ -92,5 +96,6 @@ private:
 
 // Appends a value as text; lone: it is no part of a list.
 void AppendCalValue(std::string &text, ECalValue kind, int64_t value, bool lone);
-// Null, or the words of the failure.
-const char *ParseCalValue(ECalValue kind, std::string_view text, int64_t &value);
+// Null, or the words of the failure. isNumber: false for a text that counts as 0.
+const char *ParseCalValue(ECalValue kind, std::string_view text, int64_t &value,
+                          bool *isNumber = nullptr);

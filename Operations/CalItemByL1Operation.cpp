@@ -59,9 +59,14 @@ uint32_t ICalItemByL1Operation::MoveFile(FileMove move, const std::vector<CCalIn
         routesInAll += RouteRows(*table, m_parts[i].sections->Kind());
     }
     constexpr int kNoRound = 0;
-    const SCalFileContext context{*table, m_target, m_kind, chip, [&](int routesDone) {
-                                      TellProgress(kNoRound, routesDone, routesInAll);
-                                  }};
+    CCalValueWatch watch(m_limits, m_remarks);
+    const SCalFileContext context{
+        *table,
+        m_target,
+        m_kind,
+        chip,
+        [&](int routesDone) { TellProgress(kNoRound, routesDone, routesInAll); },
+        watch};
     const SCalFault fault = move(parts, context);
     if (fault)
         return Fail(fault);

@@ -34,6 +34,7 @@
 
 #include "Operations/CalRegion.h"
 #include "Operations/CalSections.h"
+#include "Operations/CalValueWatch.h"
 #include "Operations/GeneralOperation.h"
 
 class ICalItemByL1Operation : public IGeneralOperation
@@ -49,6 +50,9 @@ public:
     virtual uint32_t LoadFromFile(CCalIniFile *file) = 0;
     virtual uint32_t SaveToFile(CCalIniFile *file) = 0;
 
+    // What the item's page shows, for the remarks of the loads from now on; null: not known.
+    // Outlives them.
+    void SetPageLimits(ICalPageLimits *limits) { m_limits = limits; }
     void SetProgress(Progress progress) { m_progress = std::move(progress); }
     bool HasData() const;  // some record is valid
     // Of the last move.
@@ -114,4 +118,5 @@ private:
     std::vector<SPart> m_parts;
     Progress m_progress;
     SCalMoveRemarks m_remarks;
+    ICalPageLimits *m_limits = nullptr;
 };

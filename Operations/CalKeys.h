@@ -11,6 +11,7 @@
 #include <string>
 
 #include "Operations/CalCells.h"
+#include "Operations/CalValueWatch.h"
 #include "Support/IniSection.h"
 
 template <typename Record>
@@ -52,21 +53,25 @@ void WriteKeys(CIniSection &section, const SCalKey<Record> (&keys)[keyCount], Re
     }
 }
 
-// Null, or the words of the failure; the record is half read then.
+// Null, or the words of the failure; the record is half read then. watch sees what the file has.
 template <typename Record, size_t keyCount>
 const char *ReadKeys(const CIniSection &section, const SCalKey<Record> (&keys)[keyCount],
-                     EAbsentKey absent, Record &record)
+                     EAbsentKey absent, Record &record, CCalValueWatch &watch)
 {
     std::string buffer;
     for (const SCalKey<Record> &key : keys) {
         for (int row = 0; row < key.rows; ++row) {
             std::string_view text;
-            if (!section.Find(KeyText(key, row, buffer), text)) {
+            const std::string_view keyText = KeyText(key, row, buffer);
+            const bool isInFile = section.Find(keyText, text);
+            watch.BeginKey(section.Name(), keyText);
+            if (!isInFile) {
                 if (absent == EAbsentKey::Keep)
                     continue;
                 text = key.absent;
             }
-            if (const char *failure = key.cells(record, row).Read(text, key.kind))
+            if (const char *failure =
+                    key.cells(record, row).Read(text, key.kind, isInFile ? &watch : nullptr))
                 return failure;
         }
     }

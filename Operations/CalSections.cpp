@@ -134,7 +134,8 @@ SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
         return fault;
     for (const SStop &stop : stops) {
         LogStop("Read ", stop);
-        if (SCalFault fault = stop.part->sections->Read(stop.place, SectionsInFile(stop)))
+        if (SCalFault fault =
+                stop.part->sections->Read(stop.place, SectionsInFile(stop), context.watch))
             return fault;
         context.onDone(stop.routesDone);
     }

@@ -29,6 +29,7 @@
 #include "Support/IniSection.h"
 
 class CCalIniFile;
+class CCalValueWatch;
 
 // The sections of a record as a file has them, in the order of their names; empty where it has
 // none.
@@ -57,7 +58,8 @@ public:
                             ECalAccess access) = 0;
     // Takes a record over from those of its sections that the file has, and makes it valid. On a
     // failure the record stays as it was.
-    virtual SCalFault Read(const SCalPlace &place, const CalFileSections &sections) = 0;
+    virtual SCalFault Read(const SCalPlace &place, const CalFileSections &sections,
+                           CCalValueWatch &watch) = 0;
     // Writes the keys behind the chip's name. index: of the section among those of the record.
     virtual void Write(CIniSection &section, const SCalPlace &place, int index) = 0;
 };
@@ -76,6 +78,7 @@ struct SCalFileContext
     ERadioKind kind;
     std::string chip;                            // name of the target's RF chip
     std::function<void(int routesDone)> onDone;  // told behind each record; never empty
+    CCalValueWatch &watch;                       // of a load
 };
 
 // Does a file hold a section of a record, of whatever RF chip?

@@ -82,12 +82,13 @@ bool IsWritten(const Record &record, const SGainKey &key, int path)
 
 template <typename Record>
 SCalFault ReadGains(const CIniSection &section, const std::vector<SGainKey> &keys, int path,
-                    Record &record)
+                    Record &record, CCalValueWatch &watch)
 {
     for (const SGainKey &key : keys) {
         std::string_view text;
         if (section.Find(key.key, text)) {
-            LossCells(record, key, path).Read(text, ECalValue::Db);
+            watch.BeginKey(section.Name(), key.key);
+            LossCells(record, key, path).Read(text, ECalValue::Db, &watch);
         } else if (key.use == EGainKey::Required) {
             return {
                 kCalIncomplete,
@@ -146,22 +147,25 @@ SCalFault CPathLossSections<Record>::Begin(const CTargetCapability &target, ERad
 }
 
 template <typename Record>
-SCalFault CPathLossSections<Record>::Read(const SCalPlace &place, const CalFileSections &sections)
+SCalFault CPathLossSections<Record>::Read(const SCalPlace &place, const CalFileSections &sections,
+                                          CCalValueWatch &watch)
 {
     const auto record = std::make_unique<Record>(m_store.At(place));
+    watch.BeginRecord(Kind(), place, record.get());
     EAbsentKey absent = EAbsentKey::Default;
     for (int path = 0; path < kPaths; ++path) {
         if (!sections[path])
             continue;
-        ReadKeys(*sections[path], kKeys<Record>, absent, *record);
+        ReadKeys(*sections[path], kKeys<Record>, absent, *record, watch);
         absent = EAbsentKey::Keep;
-        if (SCalFault fault = ReadGains(*sections[path], m_gainKeys, path, *record))
+        if (SCalFault fault = ReadGains(*sections[path], m_gainKeys, path, *record, watch))
             return fault;
     }
     // The sections belong to their route by their name; a number in them can't send them elsewhere.
     record->band = place.band;
     record->route = place.route;
     record->blockCount = FileBlockCount(record->freq);
+    watch.EndRecord();
     m_store.At(place) = *record;
     m_store.SetValid(place);
     return {};

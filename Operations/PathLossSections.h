@@ -25,7 +25,8 @@ public:
     std::vector<std::string> SectionsOf(ERadioKind kind, const SCalPlace &place) const override;
     bool IsValid(const SCalPlace &place) const override { return m_store.IsValid(place); }
     SCalFault Begin(const CTargetCapability &target, ERadioKind kind, ECalAccess access) override;
-    SCalFault Read(const SCalPlace &place, const CalFileSections &sections) override;
+    SCalFault Read(const SCalPlace &place, const CalFileSections &sections,
+                   CCalValueWatch &watch) override;
     void Write(CIniSection &section, const SCalPlace &place, int index) override;
 
 private:
