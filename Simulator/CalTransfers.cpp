@@ -3,6 +3,7 @@
 #include "Simulator/CalSections.h"
 
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 #include <utility>
 
@@ -113,6 +114,19 @@ uint16_t FillRxRows(const SFlashImage &image, const std::vector<SProfileRxRoute>
     return static_cast<uint16_t>(routes.size());
 }
 
+SMMCalTxEntryV7 TxEntry(const SMMCalTxRequestEntryV7 &wanted, int index, ETxEntries order)
+{
+    SMMCalTxEntryV7 entry = {wanted.bandwidth, wanted.blockCount, wanted.route};
+    const bool isTurned =
+        order == ETxEntries::InTurn ? index % 2 != 0 : order == ETxEntries::CountFirst;
+    if (isTurned) {
+        const SMMCalTxEntryCountFirstV7 turned = {wanted.blockCount, wanted.route,
+                                                  wanted.bandwidth};
+        std::memcpy(&entry, &turned, sizeof entry);
+    }
+    return entry;
+}
+
 }  // namespace
 
 SVerdict AnswerCalBlkInfo(const SProfile &profile, CFlash &flash, uint32_t radioKind,
@@ -159,7 +173,7 @@ void AnswerCalData(const SProfile &profile, CFlash &flash, const SMMGetCalDataRe
     }
     answer.txCount = request.txCount;
     for (int i = 0; i < request.txCount; ++i)
-        answer.tx[i] = {request.tx[i].bandwidth, request.tx[i].blockCount, request.tx[i].route};
+        answer.tx[i] = TxEntry(request.tx[i], i, profile.calibration.txEntries);
     CopyBlocks(image, round.type1, answer.type1Block);
     CopyBlocks(image, round.type2, answer.type2Block);
     CopyBlocks(image, round.tx, answer.txBlock);

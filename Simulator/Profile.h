@@ -110,10 +110,19 @@ struct SProfileSubbands
     std::map<uint16_t, int> byBand;
 };
 
-// What the flash holds when no file brings it.
+// Field order of the TX entries in an upload answer.
+enum class ETxEntries
+{
+    BandwidthFirst,
+    CountFirst,
+    InTurn,  // the one and the other, entry by entry
+};
+
+// What the flash holds when no file brings it, and how it is told.
 struct SProfileCalibration
 {
     uint32_t seed = 1;
+    ETxEntries txEntries = ETxEntries::BandwidthFirst;
     SProfileSubbands tx;
     SProfileSubbands rxType1;
     SProfileSubbands rxType2;
