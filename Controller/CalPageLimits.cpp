@@ -11,6 +11,10 @@ namespace {
 
 constexpr int64_t kUnitsADb = 32;
 
+// A route may stand on several bands, and the document has the limits of one of them: a record's
+// own frequencies are no mistake of the file.
+constexpr SCalShown kAnyFrequency{0, UINT32_MAX};
+
 // Where a record has its frequencies, and the losses, which have the limits of the first subband.
 struct SLayout
 {
@@ -101,27 +105,6 @@ private:
     std::unordered_map<size_t, SCalShown> &m_fields;
 };
 
-class CFrequencyFinder : public ICalMove
-{
-public:
-    explicit CFrequencyFinder(const QJsonObject &document) : m_document(document) {}
-
-    void Field(const SCalField &) override {}
-    void Frequencies(const SCalFrequencies &frequencies) override
-    {
-        const QString member = QString::fromLatin1(frequencies.member);
-        m_shown = ShownBy(CCalEditor(m_document, PropertyPath(frequencies.group, member)),
-                          ECalText::Number);
-        if (m_shown)
-            m_shown->isZeroFree = true;
-    }
-    const std::optional<SCalShown> &Shown() const { return m_shown; }
-
-private:
-    const QJsonObject &m_document;
-    std::optional<SCalShown> m_shown;
-};
-
 // All that the page of a kind of record shows, selection by selection; of type 2 the first subband.
 void WalkAll(ICalMove &move, ECalRoute kind, void *record)
 {
@@ -138,22 +121,6 @@ void WalkAll(ICalMove &move, ECalRoute kind, void *record)
                           {half, 0, path, bigG});
         }
     }
-}
-
-// As packaged by a page that has the route selected.
-QJsonObject WithRoute(QJsonObject document, uint16_t route)
-{
-    QJsonObject cal = document.value(QLatin1String("calDataIf")).toObject();
-    QJsonObject config = cal.value(QLatin1String("config")).toObject();
-    QJsonObject group = config.value(QLatin1String("group1")).toObject();
-    QJsonObject values = group.value(QLatin1String("memberValue")).toObject();
-    for (const char *member : {"route", "txRoute"})
-        values.insert(QLatin1String(member), QString::number(route));
-    group.insert(QLatin1String("memberValue"), values);
-    config.insert(QLatin1String("group1"), group);
-    cal.insert(QLatin1String("config"), config);
-    document.insert(QLatin1String("calDataIf"), cal);
-    return document;
 }
 
 // Room for a record of any kind, to be walked over.
@@ -174,24 +141,11 @@ const CCalPageLimits::Fields &CCalPageLimits::FieldsOf(ECalRoute kind)
     return place->second;
 }
 
-const SCalShown *CCalPageLimits::FrequencyOf(ECalRoute kind, uint16_t route)
-{
-    const auto [place, isNew] = m_frequencies.try_emplace({kind, route});
-    if (isNew) {
-        const auto room = std::make_unique<Room>();
-        const QJsonObject document = WithRoute(m_document, route);
-        CFrequencyFinder finder(document);
-        WalkAll(finder, kind, room.get());
-        place->second = finder.Shown();
-    }
-    return place->second ? &*place->second : nullptr;
-}
-
-const SCalShown *CCalPageLimits::Of(ECalRoute kind, const SCalPlace &place, size_t offset)
+const SCalShown *CCalPageLimits::Of(ECalRoute kind, const SCalPlace &, size_t offset)
 {
     const SLayout layout = LayoutOf(kind);
     if (offset >= layout.freq && offset < layout.freq + VOND_CAL_MAX_SUBBANDS * sizeof(uint32_t))
-        return FrequencyOf(kind, place.route);
+        return &kAnyFrequency;
     const size_t losses = layout.lossOfSubband * VOND_CAL_MAX_SUBBANDS;
     if (offset >= layout.loss && offset < layout.loss + losses)
         offset = layout.loss + (offset - layout.loss) % layout.lossOfSubband;

@@ -1,7 +1,7 @@
 // What a calibration page's editors can show of a record, by field, from the page's document.
 //
-// The walks of the page tell which member stands for which field. Frequencies go by their route;
-// the limits of all else are those of the member. Reads the document alone. One thread.
+// The walks of the page tell which member stands for which field. Frequencies
+// have the limits of their field alone. Reads the document alone. One thread.
 //
 //   CCalPageLimits limits(document);
 //   item.SetPageLimits(&limits);
@@ -26,9 +26,7 @@ private:
     using Fields = std::unordered_map<size_t, SCalShown>;
 
     const Fields &FieldsOf(ECalRoute kind);
-    const SCalShown *FrequencyOf(ECalRoute kind, uint16_t route);
 
     const QJsonObject m_document;
     std::map<ECalRoute, Fields> m_fields;
-    std::map<std::pair<ECalRoute, uint16_t>, std::optional<SCalShown>> m_frequencies;
 };

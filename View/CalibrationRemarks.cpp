@@ -27,13 +27,14 @@ QString Heading(const QString &item, const SCalRemarks &remarks)
     return text;
 }
 
-QStringList Lines(const QVector<SCalRemark> &rows)
+// isJoined: rows with one reason stand together.
+QStringList Lines(const QVector<SCalRemark> &rows, bool isJoined)
 {
     QStringList lines;
     QStringList together;
     for (int i = 0; i < rows.size(); ++i) {
         together.append(rows[i].what);
-        if (i + 1 < rows.size() && rows[i + 1].why == rows[i].why)
+        if (isJoined && i + 1 < rows.size() && rows[i + 1].why == rows[i].why)
             continue;
         lines.append(together.join(QLatin1String(", ")) + QLatin1String(": ") + rows[i].why);
         together.clear();
@@ -45,13 +46,14 @@ QStringList Lines(const QVector<SCalRemark> &rows)
 
 SRemarkBox RemarkBox(const QString &item, const SCalRemarks &remarks)
 {
+    const bool isJoined = remarks.kind != eRemarkOddValue;
     QStringList lines = {Heading(item, remarks)};
-    lines += Lines(remarks.rows.mid(0, kRowsOfText));
+    lines += Lines(remarks.rows.mid(0, kRowsOfText), isJoined);
     SRemarkBox box;
     if (remarks.rows.size() > kRowsOfText) {
         lines.append(QStringLiteral("... and %1 more, see the details.")
                          .arg(remarks.rows.size() - kRowsOfText));
-        box.detail = Lines(remarks.rows).join(QLatin1Char('\n'));
+        box.detail = Lines(remarks.rows, isJoined).join(QLatin1Char('\n'));
     }
     box.text = lines.join(QLatin1Char('\n'));
     return box;
