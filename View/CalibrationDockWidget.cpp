@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QDoubleSpinBox>
+#include <QEvent>
 #include <QHeaderView>
 #include <QJsonDocument>
 #include <QScopedValueRollback>
