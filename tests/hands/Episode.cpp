@@ -52,6 +52,7 @@ QString CEpisode::Prepare()
     if (!WriteFlash())
         return "the DUT does not write its flash";
     const QString failure = m_desk->Show();
+    m_nextCall = VondSim_CallCount();
     m_rules.push_back(std::make_unique<CCommandRule>(*m_desk, *m_commands));
     m_rules.push_back(std::make_unique<CFlashRule>(*m_desk, *m_commands, flash));
     m_rules.push_back(std::make_unique<CHandsRule>(*m_desk));
@@ -92,11 +93,11 @@ bool CEpisode::Do(bool isVerbose)
         rule->Before(action.kind);
     const SDeed deed = action.act(*m_desk, m_chance);
     ++m_counts.deeds;
-    m_done.append(deed.words);
-    if (isVerbose)
-        std::printf("%d %s\n", m_counts.deeds, qPrintable(deed.words));
     m_failure = deed.failure.isEmpty() ? m_desk->Settle() : deed.failure;
     m_ruleName = "idle";
+    m_done.append(deed.words + NewCalls());
+    if (isVerbose)
+        std::printf("%d %s\n", m_counts.deeds, qPrintable(m_done.last()));
     for (const auto &rule : m_rules) {
         const QString failure = rule->After(deed);
         if (!m_failure.isEmpty() || failure.isEmpty() || m_skipped.contains(rule->Name()))
@@ -105,6 +106,16 @@ bool CEpisode::Do(bool isVerbose)
         m_ruleName = rule->Name();
     }
     return m_failure.isEmpty();
+}
+
+// " -> ContRxV7": what has reached the DUT since the last deed.
+QString CEpisode::NewCalls()
+{
+    QStringList calls;
+    SVondSimCall call;
+    for (; VondSim_GetCall(m_nextCall, &call) == 0; ++m_nextCall)
+        calls.append(QString(call.function).section('_', 2, 2));
+    return calls.isEmpty() ? QString() : " -> " + calls.join(", ");
 }
 
 QString CEpisode::Report() const

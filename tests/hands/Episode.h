@@ -37,6 +37,7 @@ public:
 private:
     QString Prepare();
     bool Do(bool isVerbose);
+    QString NewCalls();
 
     const QString m_title;
     const int m_deeds;
@@ -46,7 +47,8 @@ private:
     std::unique_ptr<CDutCommands> m_commands;
     std::vector<std::unique_ptr<IRule>> m_rules;
     QStringList m_skipped;
-    QStringList m_done;  // words of the deeds
+    QStringList m_done;       // words of the deeds
+    uint32_t m_nextCall = 0;  // of the journal
     QString m_ruleName;
     QString m_failure;
     SCounts m_counts;
