@@ -3,10 +3,13 @@
 #include <QKeySequence>
 #include <QLabel>
 
+#include "tests/common/WaitUntil.h"
 #include "tests/hands/actions/Actions.h"
 #include "tests/hands/witness/PageReader.h"
 
 namespace {
+
+constexpr int kClickMs = 5000;  // ends the wait for a click that does not come
 
 constexpr Qt::Key kNumberKeys[] = {
     Qt::Key_0,     Qt::Key_1,      Qt::Key_2,         Qt::Key_5,         Qt::Key_9,
@@ -45,6 +48,17 @@ QList<QChar> MnemonicsOn(const QWidget *window)
     return letters;
 }
 
+bool IsAnyDown(CDesk &desk)
+{
+    for (const QWidget *window : desk.Windows()) {
+        for (const QAbstractButton *button : window->findChildren<QAbstractButton *>()) {
+            if (button->isDown())
+                return true;
+        }
+    }
+    return false;
+}
+
 }  // namespace
 
 SDeed TypeKeys(CDesk &desk, CChance &chance)
@@ -80,5 +94,7 @@ SDeed PressMnemonic(CDesk &desk, CChance &chance)
     const QChar letter = chance.Of(letters);
     const SDeed deed{SDeed::Shortcut, QString("press Alt+%1 at %2").arg(letter).arg(FocusName())};
     desk.Key(window, static_cast<Qt::Key>(letter.unicode()), Qt::AltModifier);
+    // The button stays down for a moment and is clicked then.
+    WaitUntil([&desk] { return !IsAnyDown(desk); }, kClickMs);
     return deed;
 }

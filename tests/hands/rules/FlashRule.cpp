@@ -201,7 +201,11 @@ QString CFlashRule::CheckShown(const SPageState &state) const
 {
     if (!state.memory.isRead)
         return {};
+    bool isUlEnd = false;  // the page shows UL frequencies up to the first 0
     for (auto cell = state.cells.begin(); cell != state.cells.end(); ++cell) {
+        isUlEnd = cell.key().member == "ulFreq" && (isUlEnd || cell.value() == "0");
+        if (isUlEnd)
+            continue;
         for (const auto &[place, value] :
              BytesOf(state.selection, cell.key(), cell.value(), m_flash)) {
             const auto edited = state.memory.certain.find(place);
