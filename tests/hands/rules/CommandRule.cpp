@@ -45,7 +45,7 @@ CCommandRule::CCommandRule(CDesk &desk, const CDutCommands &commands)
 void CCommandRule::OnBusy(QDockWidget *page, bool isBusy)
 {
     if (isBusy)
-        m_shown.append({page->objectName(), m_commands.Fill(page), Unfinished(page)});
+        m_shown.append({page, page->objectName(), m_commands.Fill(page), Unfinished(page)});
 }
 
 QString CCommandRule::After(const SDeed &)
@@ -92,8 +92,8 @@ QString CCommandRule::CheckShown(const SShown &shown) const
 {
     if (!shown.unfinished.isEmpty())
         return "in the middle of an edit: " + shown.unfinished;
-    const QDockWidget *page = m_desk.Page(shown.className);
-    if (!m_desk.IsQuiet() || !page || m_shown.size() != 1)
+    const QDockWidget *page = shown.page;
+    if (!m_desk.IsQuiet() || !m_desk.Pages().contains(shown.page) || m_shown.size() != 1)
         return {};
     const QString differences =
         Differences(RequestPart(shown.filled), RequestPart(m_commands.Fill(page)));

@@ -26,6 +26,7 @@ private:
     // What a page showed as it went busy.
     struct SShown
     {
+        QPointer<QDockWidget> page;
         QString className;
         QJsonObject filled;
         QString unfinished;

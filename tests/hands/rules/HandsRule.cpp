@@ -26,7 +26,9 @@ QString CHandsRule::After(const SDeed &deed)
     if (deed.kind == SDeed::Wheel)
         return CheckWheel(deed.target);
     const QWidget *focus = QApplication::focusWidget();
-    if (deed.kind == SDeed::Shortcut && m_isRequest && m_front == m_desk.FrontPage() && focus &&
+    const bool takesKeys =
+        focus && (IsEditor(focus) || qobject_cast<const QAbstractButton *>(focus));
+    if (deed.kind == SDeed::Shortcut && m_isRequest && m_front == m_desk.FrontPage() && takesKeys &&
         focus != m_focus)
         return QString("a request moved the focus from %1 to %2").arg(m_focusName, NameOf(focus));
     return {};
