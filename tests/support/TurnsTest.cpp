@@ -29,9 +29,10 @@ protected:
     }
     std::future<void> Takes(std::shared_ptr<CTurns::CPlace> place, const std::string &name)
     {
-        return std::async(std::launch::async, [this, name, place = std::move(place)] {
+        return std::async(std::launch::async, [this, name, place = std::move(place)]() mutable {
             place->Take();
             m_order.push_back(name);
+            place.reset();  // the future would keep it, and the turn with it
         });
     }
     bool IsFree()
