@@ -214,11 +214,16 @@ QString CCampaign::Look(const SRound &round)
     if (round.action == EAction::Unload) {
         if (failure.isEmpty() && m_tool.Session()->Window())
             failure = "the window is still there";
-        if (failure.isEmpty() && *VondSim_RunningTest())
+        // A stop that met the fault of the request's own is made up for by the next session.
+        if (failure.isEmpty() && round.moment != EMoment::Box && *VondSim_RunningTest())
             failure = QString("%1 still runs").arg(VondSim_RunningTest());
         m_tool.DropSession();
         return failure;
     }
+    // The reset's stop met the fault of the request's own.
+    if (round.action == EAction::Reset && round.moment == EMoment::Box &&
+        round.request->before == EBefore::Running && failure.isEmpty())
+        failure = m_tool.RfOff();
     if (failure.isEmpty() && round.action == EAction::Reset && *VondSim_RunningTest())
         failure = QString("%1 still runs").arg(VondSim_RunningTest());
     if (failure.isEmpty() && round.action == EAction::Reset && m_tool.HasPages())

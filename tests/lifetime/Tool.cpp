@@ -146,6 +146,16 @@ QString CTool::Settle()
     return WaitUntil(isQuiet, kLongMs) ? QString() : "the tool stays busy";
 }
 
+QString CTool::RfOff()
+{
+    auto *button = m_session->Window()->findChild<QPushButton *>("m_rfOff");
+    QTest::mouseClick(button, Qt::LeftButton);
+    const QString failure = Settle();
+    if (!failure.isEmpty())
+        return failure;
+    return m_session->StatusBar() == "RF off." ? QString() : m_session->StatusBar();
+}
+
 void CTool::Unload()
 {
     if (!m_session)

@@ -41,6 +41,9 @@ public:
     // Shows the tool and waits until all its pages are there.
     QString PrepareAnyPage();
 
+    // Stops every test on the DUT by the window's own button. Why not, if not.
+    QString RfOff();
+
     void Unload();
     // Forgets an unloaded session; the next request makes a new one.
     void DropSession() { m_session.reset(); }
