@@ -13,6 +13,7 @@ private slots:
     void startSendsTheseBytes();
     void stopIsOfKindOne();
     void editedValuesReachTheCommand();
+    void gainsAreEnteredInTheStepsOfTheCommand();
 };
 
 void ContRxCommandTest::startSendsTheseBytes_data()
@@ -104,6 +105,30 @@ void ContRxCommandTest::editedValuesReachTheCommand()
     const QByteArray bytes = JournalOf("VOND_MMRf_ContRxV7_r")[0].request;
     QCOMPARE(bytes.mid(24, 4).toHex(), QByteArray("0100c008"));  // 1/32 dB and 70 dB
     QCOMPARE(bytes.mid(36, 4).toHex(), QByteArray("004c1d00"));  // 1920000 kHz
+}
+
+void ContRxCommandTest::gainsAreEnteredInTheStepsOfTheCommand()
+{
+    CPluginSession session(Type2Profile());
+    QVERIFY(session.ShowAndWait());
+    Choose(session, "routeType", "Type2");
+    Choose(session, "calType", "Simultaneously");
+    for (const char *gain :
+         {"path0MainRfGain", "path0DivRfGain", "path1MainRfGain", "path1DivRfGain"}) {
+        auto *box = session.Find<QDoubleSpinBox>(MemberName(gain));
+        box->setFocus(Qt::TabFocusReason);
+        box->selectAll();
+        QTest::keyClicks(box, "60.03125");
+        QCOMPARE(box->text(), QString("60.03125"));
+    }
+    session.Press("m_start");
+    QVERIFY(session.WaitForStatus("Cont Rx start..."));
+    for (const char *gain :
+         {"path0MainRfGain", "path0DivRfGain", "path1MainRfGain", "path1DivRfGain"})
+        QCOMPARE(session.Find<QDoubleSpinBox>(MemberName(gain))->text(), QString("60.03125"));
+    // 60.03125 dB is 1921/32 (0781).
+    QCOMPARE(JournalOf("VOND_MMRf_ContRxV7_r")[0].request.mid(28, 8).toHex(),
+             QByteArray("8107810781078107"));
 }
 
 QTEST_MAIN(ContRxCommandTest)

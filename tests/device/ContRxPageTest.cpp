@@ -77,7 +77,8 @@ void ContRxPageTest::pageShowsItsDocument()
     QCOMPARE(session.Find<QComboBox>(MemberName("rxRoute"))->currentText(), QString("1"));
     QCOMPARE(session.Find<QComboBox>(MemberName("calType"))->currentText(),
              QString("Partial-On Path0"));
-    QCOMPARE(session.Find<QDoubleSpinBox>(MemberName("path1DivRfGain"))->text(), QString("60.10"));
+    QCOMPARE(session.Find<QDoubleSpinBox>(MemberName("path1DivRfGain"))->text(),
+             QString("60.10000"));
     QCOMPARE(session.Find<QSpinBox>(MemberName("path1DivGainIdx"))->value(), 16);
     QCOMPARE(session.Find<QLabel>(MemberName("dlFrequency_caption"))->text(),
              QString("DL Freq.(1kHz)"));
