@@ -38,6 +38,18 @@ QComboBox *Box(const CPluginSession &session, const QString &member)
     return session.Find<QComboBox>("cmdIf_request_group1_memberProperty_" + member);
 }
 
+// What Start sends for n1 on a page as it comes; empty when it fails.
+QByteArray BytesOfStart(const QString &page, const QString &started, const char *command)
+{
+    CPluginSession session(Profile(false), 1, page);
+    if (!session.ShowAndWait())
+        return {};
+    session.Press("m_start");
+    if (!session.WaitForStatus(started) || JournalOf(command).size() != 1)
+        return {};
+    return JournalOf(command)[0].request;
+}
+
 }  // namespace
 
 class EmptyChoiceTest : public QObject
@@ -59,17 +71,21 @@ void EmptyChoiceTest::bandThatTheTablesLackOffersNothingAndSendsNothing_data()
     QTest::addColumn<QString>("bandwidth");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("started");
+    QTest::addColumn<QByteArray>("command");
     const auto add = [](const char *page, const char *scs, const char *rb, const char *text,
-                        const char *started) {
-        QTest::newRow(page) << page << scs << rb << text << started;
+                        const char *started, const char *command) {
+        QTest::newRow(page) << page << scs << rb << text << started << QByteArray(command);
     };
     add("CNrPuschTxForcedDockWidgetV7", "txScs", "ulBandwidth", "SCS is empty.",
-        "Pusch TX start...");
+        "Pusch TX start...", "VOND_NRf_PuschTxV7_r");
     add("CNrPuschTxNormalDockWidgetV7", "txScs", "ulBandwidth", "SCS is empty.",
-        "Pusch TX start...");
-    add("CNrRsrpForceDockWidgetV7", "rxScs", "dlBandwidth", "SCS is empty.", "Rsrp start...");
-    add("CNrRsrpNormalDockWidgetV7", "rxScs", "dlBandwidth", "SCS is empty.", "Rsrp start...");
-    add("CNrContRxDockWidgetV7", "dlBw", "dlBw", "DL Bandwidth is empty.", "Cont Rx start...");
+        "Pusch TX start...", "VOND_NRf_PuschTxV7_r");
+    add("CNrRsrpForceDockWidgetV7", "rxScs", "dlBandwidth", "SCS is empty.", "Rsrp start...",
+        "VOND_NRf_RsrpV7_r");
+    add("CNrRsrpNormalDockWidgetV7", "rxScs", "dlBandwidth", "SCS is empty.", "Rsrp start...",
+        "VOND_NRf_RsrpV7_r");
+    add("CNrContRxDockWidgetV7", "dlBw", "dlBw", "DL Bandwidth is empty.", "Cont Rx start...",
+        "VOND_MMRf_ContRxV7_r");
 }
 
 void EmptyChoiceTest::bandThatTheTablesLackOffersNothingAndSendsNothing()
@@ -79,6 +95,9 @@ void EmptyChoiceTest::bandThatTheTablesLackOffersNothingAndSendsNothing()
     QFETCH(QString, bandwidth);
     QFETCH(QString, text);
     QFETCH(QString, started);
+    QFETCH(QByteArray, command);
+    const QByteArray bytesOfN1 = BytesOfStart(page, started, command);
+    QVERIFY(!bytesOfN1.isEmpty());
     CPluginSession session(Profile(false), 1, page);
     QVERIFY(session.ShowAndWait());
     const QString rbOfN1 = Box(session, bandwidth)->currentText();
@@ -107,6 +126,8 @@ void EmptyChoiceTest::bandThatTheTablesLackOffersNothingAndSendsNothing()
     session.Press("m_start");
     QVERIFY(session.WaitForStatus(started));
     QCOMPARE(boxes.Seen().size(), 1);
+    QCOMPARE(JournalOf(command).size(), 1);
+    QCOMPARE(JournalOf(command)[0].request.toHex(), bytesOfN1.toHex());
 }
 
 void EmptyChoiceTest::calculateSendsNothingEither()
