@@ -44,6 +44,29 @@ SRxPlace ReadRxPlace(const QJsonObject &document)
     return place;
 }
 
+// Holds a lock for the life of a scope, if it was free.
+class CLockAttempt
+{
+public:
+    explicit CLockAttempt(CLockableObject &lockable)
+        : m_lockable(lockable), m_isHeld(lockable.TryLock())
+    {
+    }
+    ~CLockAttempt()
+    {
+        if (m_isHeld)
+            m_lockable.Unlock();
+    }
+    CLockAttempt(const CLockAttempt &) = delete;
+    CLockAttempt &operator=(const CLockAttempt &) = delete;
+
+    bool IsHeld() const { return m_isHeld; }
+
+private:
+    CLockableObject &m_lockable;
+    const bool m_isHeld;
+};
+
 }  // namespace
 
 PortableCriticalSection &CNrCore::RecordLock(ECalItem item)
@@ -75,12 +98,10 @@ CNrCore::SCalView CNrCore::CalView(ECalItem item)
         const CLockSentry lock(m_viewLock);
         return m_calViews[static_cast<size_t>(item)];
     };
-    const bool isFree = m_targetLock.TryLock();
-    if (!isFree && !m_areItemsStale.load() && last().isKnown)
+    const CLockAttempt attempt(m_targetLock);
+    if (!attempt.IsHeld() && !m_areItemsStale.load() && last().isKnown)
         return last();
-    const CLockSentry lock(m_targetLock);  // gives it back whatever the look throws
-    if (isFree)
-        m_targetLock.Unlock();
+    const CLockSentry lock(m_targetLock);  // waits only when the attempt failed
     LookForCalItem(item);
     return last();
 }
