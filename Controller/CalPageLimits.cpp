@@ -3,16 +3,17 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <optional>
 
 #include "Controller/CalEditor.h"
 #include "Controller/CalWalks.h"
+#include "Model/JsonPath.h"
 
 namespace {
 
 constexpr int64_t kUnitsADb = 32;
 
-// A route may stand on several bands, and the document has the limits of one of them: a record's
-// own frequencies are no mistake of the file.
+// Where the document has no limits that are surely the route's.
 constexpr SCalShown kAnyFrequency{0, UINT32_MAX};
 
 // Where a record has its frequencies, and the losses, which have the limits of the first subband.
@@ -105,6 +106,27 @@ private:
     std::unordered_map<size_t, SCalShown> &m_fields;
 };
 
+class CFrequencyFinder : public ICalMove
+{
+public:
+    explicit CFrequencyFinder(const QJsonObject &document) : m_document(document) {}
+
+    void Field(const SCalField &) override {}
+    void Frequencies(const SCalFrequencies &frequencies) override
+    {
+        const QString member = QString::fromLatin1(frequencies.member);
+        m_shown = ShownBy(CCalEditor(m_document, PropertyPath(frequencies.group, member)),
+                          ECalText::Number);
+        if (m_shown)
+            m_shown->isZeroFree = true;
+    }
+    const std::optional<SCalShown> &Shown() const { return m_shown; }
+
+private:
+    const QJsonObject &m_document;
+    std::optional<SCalShown> m_shown;
+};
+
 // All that the page of a kind of record shows, selection by selection; of type 2 the first subband.
 void WalkAll(ICalMove &move, ECalRoute kind, void *record)
 {
@@ -121,6 +143,42 @@ void WalkAll(ICalMove &move, ECalRoute kind, void *record)
                           {half, 0, path, bigG});
         }
     }
+}
+
+constexpr const char *kRouteMembers[] = {"route", "txRoute"};  // a page has one of them
+
+// As packaged by a page that has the route selected.
+QJsonObject WithRoute(QJsonObject document, uint16_t route)
+{
+    QJsonObject cal = document.value(QLatin1String("calDataIf")).toObject();
+    QJsonObject config = cal.value(QLatin1String("config")).toObject();
+    QJsonObject group = config.value(QLatin1String("group1")).toObject();
+    QJsonObject values = group.value(QLatin1String("memberValue")).toObject();
+    for (const char *member : kRouteMembers)
+        values.insert(QLatin1String(member), QString::number(route));
+    group.insert(QLatin1String("memberValue"), values);
+    config.insert(QLatin1String("group1"), group);
+    cal.insert(QLatin1String("config"), config);
+    document.insert(QLatin1String("calDataIf"), cal);
+    return document;
+}
+
+// The bands on which the page offers each route. Its entries are of a band, or of a band and a
+// type of route ("n77,Type2").
+std::map<uint16_t, std::set<QString>> BandsOfRoutes(const QJsonObject &document)
+{
+    std::map<uint16_t, std::set<QString>> bands;
+    for (const char *member : kRouteMembers) {
+        const QString path = PropertyPath("calDataIf.config.group1", QLatin1String(member));
+        const QJsonObject entries =
+            GetJsonValueConst(document, path + QLatin1String(".trait.valuePair")).toObject();
+        for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
+            for (const QJsonValue &route : entry.value().toArray())
+                bands[route.toString().toUShort()].insert(
+                    entry.key().section(QLatin1Char(','), 0, 0));
+        }
+    }
+    return bands;
 }
 
 // Room for a record of any kind, to be walked over.
@@ -141,11 +199,30 @@ const CCalPageLimits::Fields &CCalPageLimits::FieldsOf(ECalRoute kind)
     return place->second;
 }
 
-const SCalShown *CCalPageLimits::Of(ECalRoute kind, const SCalPlace &, size_t offset)
+CCalPageLimits::CCalPageLimits(const QJsonObject &document)
+    : m_document(document), m_bandsOfRoutes(BandsOfRoutes(document))
+{
+}
+
+const SCalShown &CCalPageLimits::FrequencyOf(ECalRoute kind, uint16_t route)
+{
+    const auto [place, isNew] = m_frequencies.try_emplace(route, kAnyFrequency);
+    const auto bands = m_bandsOfRoutes.find(route);
+    if (isNew && bands != m_bandsOfRoutes.end() && bands->second.size() == 1) {
+        const auto room = std::make_unique<Room>();
+        const QJsonObject document = WithRoute(m_document, route);
+        CFrequencyFinder finder(document);
+        WalkAll(finder, kind, room.get());
+        place->second = finder.Shown().value_or(kAnyFrequency);
+    }
+    return place->second;
+}
+
+const SCalShown *CCalPageLimits::Of(ECalRoute kind, const SCalPlace &place, size_t offset)
 {
     const SLayout layout = LayoutOf(kind);
     if (offset >= layout.freq && offset < layout.freq + VOND_CAL_MAX_SUBBANDS * sizeof(uint32_t))
-        return &kAnyFrequency;
+        return &FrequencyOf(kind, place.route);
     const size_t losses = layout.lossOfSubband * VOND_CAL_MAX_SUBBANDS;
     if (offset >= layout.loss && offset < layout.loss + losses)
         offset = layout.loss + (offset - layout.loss) % layout.lossOfSubband;

@@ -27,6 +27,10 @@ private slots:
     void visitedPageWithoutEditsIsNotNamed();
     void importNamesValuesThatAreNoNumbersOrBeyondThePage();
     void importWithManyOddValuesNamesTheFirstTen();
+    void importNamesFrequenciesBeyondThoseOfTheirRoute_data();
+    void importNamesFrequenciesBeyondThoseOfTheirRoute();
+    void ownExportGivesNoRemark_data();
+    void ownExportGivesNoRemark();
     void dutThatNamesTheCountFirstIsReadAsWell_data();
     void dutThatNamesTheCountFirstIsReadAsWell();
     void resetInTheBoxEndsWithThePageGone();
@@ -177,6 +181,74 @@ void CalibrationRemarksTest::importWithManyOddValuesNamesTheFirstTen()
     QVERIFY2(lines[0].endsWith("The first 10:"), qPrintable(lines[0]));
     QCOMPARE(lines[1], QString("[NR n1 BW0 TPC] Pa mode map: \"3\" in the file, 3 in memory, "
                                "nothing on the page"));
+}
+
+void CalibrationRemarksTest::importNamesFrequenciesBeyondThoseOfTheirRoute_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QByteArray>("section");
+    QTest::addColumn<QByteArray>("key");
+    QTest::addColumn<QString>("limit");  // none: the route stands on n77, too
+    QTest::newRow("path loss") << kPathLossPage << QByteArray("NR n1 RXD loss")
+                               << QByteArray("DL Frequency(1KHz)") << "2170000";
+    QTest::newRow("path loss, of two bands")
+        << kPathLossPage << QByteArray("NR n78 RXD loss") << QByteArray("DL Frequency(1KHz)") << "";
+    QTest::newRow("APT") << kAptPage << QByteArray("NR n1 BW0 TPC")
+                         << QByteArray("Tx compensation pa gain frequency(1KHz)") << "1980000";
+}
+
+void CalibrationRemarksTest::importNamesFrequenciesBeyondThoseOfTheirRoute()
+{
+    QFETCH(QString, page);
+    QFETCH(QByteArray, section);
+    QFETCH(QByteArray, key);
+    QFETCH(QString, limit);
+    QTemporaryDir folder;
+    CCalibrationSession session(page);
+    QVERIFY(session.ShowAndWait());
+    QVERIFY(session.Run(kRead));
+    const QString path = folder.filePath("cal.ini");
+    QVERIFY(session.Run(kExport, path));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QByteArray text = file.readAll();
+    const int head = text.indexOf('[' + section + ']');
+    const int value = text.indexOf('=', text.indexOf("\r\n" + key, head)) + 2;
+    QVERIFY(head >= 0 && value > head);
+    text.replace(value, text.indexOf(',', value) - value, "9000000");
+    file.seek(0);
+    file.resize(0);
+    file.write(text);
+    file.close();
+    const QVector<SSeenBox> boxes = Run(session, kImport, path);
+    QCOMPARE(session.StatusBar(), QString(kImport.done));
+    QCOMPARE(boxes.size(), limit.isEmpty() ? 0 : 1);
+    if (limit.isEmpty())
+        return;
+    QCOMPARE(boxes[0].text.split('\n').mid(1),
+             QStringList(QString("[%1] %2: \"9000000\" in the file, 9000000 in memory, %3 on the "
+                                 "page")
+                             .arg(QString(section), QString(key), limit)));
+}
+
+void CalibrationRemarksTest::ownExportGivesNoRemark_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::newRow("path loss") << kPathLossPage;
+    QTest::newRow("APT") << kAptPage;
+}
+
+void CalibrationRemarksTest::ownExportGivesNoRemark()
+{
+    QFETCH(QString, page);
+    QTemporaryDir folder;
+    CCalibrationSession session(page);
+    QVERIFY(session.ShowAndWait());
+    QVERIFY(session.Run(kRead));
+    const QString path = folder.filePath("cal.ini");
+    QVERIFY(session.Run(kExport, path));
+    QVERIFY(Run(session, kImport, path).isEmpty());
+    QCOMPARE(session.StatusBar(), QString(kImport.done));
 }
 
 void CalibrationRemarksTest::dutThatNamesTheCountFirstIsReadAsWell_data()
