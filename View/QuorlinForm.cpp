@@ -6,6 +6,7 @@
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
 #include "View/AutoBindingDataModelDockWidget.h"
+#include "View/FormFont.h"
 #include "ui_QuorlinForm.h"
 
 namespace {
@@ -49,6 +50,7 @@ void CQuorlinForm::AddRfOff()
     m_rfOff->setObjectName(QStringLiteral("m_rfOff"));
     m_rfOff->setToolTip(QStringLiteral("Stops every test on the DUT"));
     m_rfOff->setFocusPolicy(Qt::TabFocus);  // a click leaves the focus to the page
+    m_rfOff->setFont(FormFont(this));  // its style sheet keeps the form's away
     m_rfOff->setFixedHeight(m_rfOff->fontMetrics().height() + kButtonRim);
     Highlight(false);
     statusBar()->addPermanentWidget(m_rfOff);

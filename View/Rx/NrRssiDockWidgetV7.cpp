@@ -102,13 +102,13 @@ void CNrRssiDockWidgetV7::MarkResults()
         gains.append(box);
     m_testMark = std::make_unique<CResultMark>(
         this,
-        QList<QWidget *>{m_ui->cmdIf_response_group2_memberProperty_dlFrequency,
+        QList<QWidget *>{m_ui->cmdIf_response_group1_memberProperty_gainModeP0,
+                         m_ui->cmdIf_response_group1_memberProperty_gainModeP1,
+                         m_ui->cmdIf_response_group2_memberProperty_dlFrequency,
                          m_ui->cmdIf_response_group3_memberProperty_dlFrequency},
         gains);
     m_calculatorMark = std::make_unique<CResultMark>(
-        this, gains + QList<QWidget *>{m_ui->cmdIf_response_group1_memberProperty_adviseDlPower,
-                                       m_ui->cmdIf_response_group1_memberProperty_gainModeP0,
-                                       m_ui->cmdIf_response_group1_memberProperty_gainModeP1});
+        this, gains + QList<QWidget *>{m_ui->cmdIf_response_group1_memberProperty_adviseDlPower});
     m_testMark->Watch();
     m_calculatorMark->Watch();
 }

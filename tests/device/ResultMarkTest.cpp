@@ -68,15 +68,16 @@ void ResultMarkTest::rssiAndGainsAreGreyEachByItself()
     };
     const auto *gain = session.Find("cmdIf_response_group1_memberProperty_path0MainRfGain");
     const auto *power = session.Find("cmdIf_response_group1_memberProperty_adviseDlPower");
-    QVERIFY(IsGrey(rssi()) && IsGrey(gain) && IsGrey(power));
+    const auto *mode = session.Find("cmdIf_response_group1_memberProperty_gainModeP0");
+    QVERIFY(IsGrey(rssi()) && IsGrey(mode) && IsGrey(gain) && IsGrey(power));
     session.Press("m_btnRssiSeqSrhCalculator");
     QVERIFY(session.WaitForStatus("Fetch Gain info done"));
-    QVERIFY(IsGrey(rssi()) && !IsGrey(gain) && !IsGrey(power));
+    QVERIFY(IsGrey(rssi()) && IsGrey(mode) && !IsGrey(gain) && !IsGrey(power));
     session.Press("m_start");
     QVERIFY(session.WaitForStatus("Fetch RSSI done"));
-    QVERIFY(!IsGrey(rssi()) && !IsGrey(gain) && !IsGrey(power));
+    QVERIFY(!IsGrey(rssi()) && !IsGrey(mode) && !IsGrey(gain) && !IsGrey(power));
     Turn(session, "band", Qt::Key_Down);
-    QVERIFY(IsGrey(rssi()) && IsGrey(gain) && IsGrey(power));
+    QVERIFY(IsGrey(rssi()) && IsGrey(mode) && IsGrey(gain) && IsGrey(power));
 }
 
 void ResultMarkTest::dlFrequencyThatWasTakenBackIsGrey()

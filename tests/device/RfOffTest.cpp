@@ -99,6 +99,7 @@ void RfOffTest::standsAtTheEndOfTheStatusBar()
     QCOMPARE(button->text(), QString("RF &Off"));
     QCOMPARE(button->toolTip(), QString("Stops every test on the DUT"));
     QVERIFY(button->isVisible());
+    QCOMPARE(button->font().family(), session.Window()->statusBar()->font().family());
     VondSim_Hold(kReadCall);
     session.Press(kRead.button);
     QVERIFY(VondSim_WaitUntilHeld(kReadCall, 20000));
