@@ -1,6 +1,7 @@
 #include "View/QuorlinForm.h"
 
 #include <QPushButton>
+#include <QScreen>
 
 #include "Model/OperationResult.h"
 #include "Model/StatusTable.h"
@@ -11,6 +12,7 @@
 
 namespace {
 
+constexpr int kTitleBar = 30;  // pixels that desktops put around a window's height, about
 constexpr int kButtonRim = 6;  // pixels above and below the text: no more than the bar has room for
 constexpr char kButtonStyle[] =
     "QPushButton { border: 1px solid palette(mid); border-radius: 3px; padding: 0 12px; }"
@@ -50,7 +52,7 @@ void CQuorlinForm::AddRfOff()
     m_rfOff->setObjectName(QStringLiteral("m_rfOff"));
     m_rfOff->setToolTip(QStringLiteral("Stops every test on the DUT"));
     m_rfOff->setFocusPolicy(Qt::TabFocus);  // a click leaves the focus to the page
-    m_rfOff->setFont(FormFont(this));  // its style sheet keeps the form's away
+    m_rfOff->setFont(FormFont(this));       // its style sheet keeps the form's away
     m_rfOff->setFixedHeight(m_rfOff->fontMetrics().height() + kButtonRim);
     Highlight(false);
     statusBar()->addPermanentWidget(m_rfOff);
@@ -97,9 +99,20 @@ void CQuorlinForm::SetTargetHandle(uint32_t handle)
 void CQuorlinForm::setVisible(bool isVisible)
 {
     const QPointer<CQuorlinForm> self(this);
+    if (isVisible && !m_wasShown)
+        FitScreen();
     CAutoBindingDataModelForm::setVisible(isVisible);
     if (self && isVisible && this->isVisible())
         StartInit();
+}
+
+// The status bar, and RF Off in it, are on the screen from the start. A screen that is narrower
+// than the form is none that it could fit: it keeps its size there.
+void CQuorlinForm::FitScreen()
+{
+    const QSize room = screen()->availableSize() - QSize(0, kTitleBar);
+    if (isWindow() && width() <= room.width() && height() > room.height())
+        resize(width(), room.height());
 }
 
 void CQuorlinForm::showEvent(QShowEvent *)

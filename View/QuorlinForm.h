@@ -54,6 +54,7 @@ protected:
 
 private:
     void AddRfOff();
+    void FitScreen();
     void RfOff();
     void ShowRfOff(const SEachItemOperationResult &result);
     void Highlight(bool isOn);
