@@ -207,8 +207,10 @@ void CCalibrationDockWidget::on_m_btnSave_clicked()
 
 QString CCalibrationDockWidget::AskFile(bool isSave)
 {
-    FinishEdit();
     const QPointer<CCalibrationDockWidget> self(this);
+    FinishEdit();
+    if (!self)
+        return {};
     QString file;
     {
         CFileDialogMan dialogs;

@@ -102,6 +102,12 @@ void CResultMark::Measured()
     Show();
 }
 
+void CResultMark::Forget()
+{
+    m_measured.clear();
+    Show();
+}
+
 void CResultMark::Show()
 {
     const bool isOfShown = IsOfShownSettings();

@@ -9,6 +9,7 @@
 //   m_mark->Watch();      // the document is in place
 //   m_mark->Package();    // the request goes out
 //   m_mark->Measured();   // its answer is shown
+//   m_mark->Forget();     // or it has failed, and what is shown is no result
 #pragma once
 
 #include <QHash>
@@ -29,6 +30,7 @@ public:
     void Watch();
     void Package();
     void Measured();
+    void Forget();
 
 private:
     void Show();

@@ -170,10 +170,13 @@ void CNrRssiDockWidgetV7::EndAsking(CResultMark &mark, const SWords &words,
         UpdateWidget(response);
     if (!self)
         return;
-    if (!response.isEmpty())
+    const bool isSuccess = result.status == eStatusSuccess;
+    if (isSuccess && !response.isEmpty())
         mark.Measured();
+    else
+        mark.Forget();
     EndRequest([this] { EnableTestControls(); });
-    if (result.status == eStatusSuccess) {
+    if (isSuccess) {
         emit Signal_UpdateStatus(QLatin1String(words.done));
         return;
     }

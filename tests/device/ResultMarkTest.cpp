@@ -6,7 +6,9 @@
 #include <QTableWidget>
 #include <QtTest>
 
+#include "tests/common/BoxWatcher.h"
 #include "tests/common/PluginSession.h"
+#include "tests/common/SimJournal.h"
 #include "tests/common/WaitUntil.h"
 
 namespace {
@@ -35,6 +37,7 @@ private slots:
     void readingIsGreyUntilItIsOfTheShownSettings();
     void rssiAndGainsAreGreyEachByItself();
     void dlFrequencyThatWasTakenBackIsGrey();
+    void whatAFailedRequestLeavesIsGrey();
 };
 
 void ResultMarkTest::readingIsGreyUntilItIsOfTheShownSettings()
@@ -96,6 +99,27 @@ void ResultMarkTest::dlFrequencyThatWasTakenBackIsGrey()
     QVERIFY(WaitUntil([&] { return !IsGrey(result); }));
     click();
     QVERIFY(IsGrey(result));
+}
+
+// The gains of a failed search are numbers, too.
+void ResultMarkTest::whatAFailedRequestLeavesIsGrey()
+{
+    CPluginSession session("handset", 1, "CNrRssiDockWidgetV7");
+    QVERIFY(session.ShowAndWait());
+    const auto *gain = session.Find("cmdIf_response_group1_memberProperty_path0MainRfGain");
+    const auto *power = session.Find("cmdIf_response_group1_memberProperty_adviseDlPower");
+    session.Press("m_btnRssiSeqSrhCalculator");
+    QVERIFY(session.WaitForStatus("Fetch Gain info done"));
+    QVERIFY(!IsGrey(gain) && !IsGrey(power));
+    VondSim_AddFault(R"({"function": "VOND_MMRf_GainSearchV7_r", "kind": "fail", "result": 7})");
+    CBoxWatcher boxes;
+    session.Press("m_btnRssiSeqSrhCalculator");
+    QVERIFY(WaitUntil([&] { return boxes.Seen().size() == 1; }));
+    QVERIFY(IsGrey(gain) && IsGrey(power));
+    VondSim_ClearFaults();
+    session.Press("m_btnRssiSeqSrhCalculator");
+    QVERIFY(session.WaitForStatus("Fetch Gain info done"));
+    QVERIFY(!IsGrey(gain) && !IsGrey(power));
 }
 
 QTEST_MAIN(ResultMarkTest)
