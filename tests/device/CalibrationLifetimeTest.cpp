@@ -97,6 +97,8 @@ private slots:
     void unloadClosesAnOpenFileDialogAndStartsNothing();
     void pageMayGoWhileTheBoxThatASelectionHasCausedIsOpen_data();
     void pageMayGoWhileTheBoxThatASelectionHasCausedIsOpen();
+    void pageMayGoInEitherBoxOfAFailedFlow_data();
+    void pageMayGoInEitherBoxOfAFailedFlow();
 
 private:
     QString File() const { return m_folder->filePath("cal.ini"); }
@@ -343,6 +345,49 @@ void CalibrationLifetimeTest::pageMayGoWhileTheBoxThatASelectionHasCausedIsOpen(
     QVERIFY(!QApplication::activeModalWidget());
     QVERIFY(isUnload ? !session.Window()
                      : session.Window()->findChildren<QDockWidget *>().isEmpty());
+}
+
+void CalibrationLifetimeTest::pageMayGoInEitherBoxOfAFailedFlow_data()
+{
+    QTest::addColumn<int>("box");
+    QTest::addColumn<bool>("isUnload");
+    QTest::newRow("result, reset") << 1 << false;
+    QTest::newRow("result, unload") << 1 << true;
+    QTest::newRow("left out, reset") << 2 << false;
+    QTest::newRow("left out, unload") << 2 << true;
+}
+
+void CalibrationLifetimeTest::pageMayGoInEitherBoxOfAFailedFlow()
+{
+    QFETCH(int, box);
+    QFETCH(bool, isUnload);
+    CCalibrationSession session(kPathLossPage);
+    QVERIFY(session.ShowAndWait());
+    // The first type 1 row is of route 80, and no round comes in.
+    VondSim_AddFault(QString(R"({"function": "%1", "kind": "bytes", "offset": 6, "hex": "5000"})")
+                         .arg(kBlockCall)
+                         .toUtf8());
+    VondSim_AddFault(
+        QString(R"({"function": "%1", "kind": "fail", "result": 4})").arg(kReadCall).toUtf8());
+    CBoxWatcher boxes;
+    boxes.onBox = [&] {
+        if (boxes.Seen().size() != box)
+            return;
+        if (isUnload)
+            session.Unload();
+        else
+            session->ResetPlugin();
+    };
+    session.Press(kRead.button);
+    QVERIFY(WaitUntil([&] { return boxes.Seen().size() == box; }));
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+    QCOMPARE(boxes.Seen().size(), box);  // no further one of a page that is gone
+    QCOMPARE(boxes.Seen()[0].title, QString(kRead.failed));
+    if (box == 2)
+        QCOMPARE(boxes.Seen()[1].title, QString("Read data from target"));
+    QVERIFY(!QApplication::activeModalWidget());
+    QVERIFY(isUnload ? !session.Window() : !session.Page());
 }
 
 QTEST_MAIN(CalibrationLifetimeTest)
