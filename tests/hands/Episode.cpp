@@ -97,7 +97,7 @@ bool CEpisode::Do(bool isVerbose)
     m_ruleName = "idle";
     m_done.append(deed.words + NewCalls());
     if (isVerbose)
-        std::printf("%d %s\n", m_counts.deeds, qPrintable(m_done.last()));
+        std::fprintf(stderr, "%d %s\n", m_counts.deeds, qPrintable(m_done.last()));
     for (const auto &rule : m_rules) {
         const QString failure = rule->After(deed);
         if (!m_failure.isEmpty() || failure.isEmpty() || m_skipped.contains(rule->Name()))

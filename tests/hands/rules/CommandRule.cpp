@@ -45,7 +45,7 @@ CCommandRule::CCommandRule(CDesk &desk, const CDutCommands &commands)
 void CCommandRule::OnBusy(QDockWidget *page, bool isBusy)
 {
     if (isBusy)
-        m_shown.append({page, page->objectName(), m_commands.Fill(page), Unfinished(page)});
+        m_shown.append({page, page->objectName(), m_commands.Fill(page), Unfinished(page), m_deed});
 }
 
 QString CCommandRule::After(const SDeed &)
@@ -56,6 +56,7 @@ QString CCommandRule::After(const SDeed &)
         failure = CheckCall(m_next, call.function);
     if (m_desk.IsQuiet())
         m_shown.clear();
+    ++m_deed;
     return failure;
 }
 

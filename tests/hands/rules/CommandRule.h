@@ -30,6 +30,7 @@ private:
         QString className;
         QJsonObject filled;
         QString unfinished;
+        int deed;  // in which it did; what comes later the user may have changed
     };
 
     QString CheckCall(uint32_t index, const char *function);
@@ -39,5 +40,6 @@ private:
     const CDutCommands &m_commands;
     QVector<SShown> m_shown;  // since the tool was quiet
     uint32_t m_next = 0;      // call of the journal
-    int m_count = 0;          // commands compared
+    int m_deed = 0;
+    int m_count = 0;  // commands compared
 };

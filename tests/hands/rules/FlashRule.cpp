@@ -123,6 +123,14 @@ QString CFlashRule::CheckChanges(const CFlashFile &now) const
 {
     if (now.records.size() != m_flash.records.size())
         return "the flash has other records";
+    for (int r = 0; r < now.records.size(); ++r) {
+        const int blocks = now.records[r].blocks.size();
+        if (blocks != m_flash.records[r].blocks.size())
+            return QString("route %1 has %2 blocks instead of %3")
+                .arg(now.records[r].place.route)
+                .arg(blocks)
+                .arg(m_flash.records[r].blocks.size());
+    }
     for (const auto &[place, value] : Differences(m_flash, now)) {
         const SMemory &memory = m_pages[kCalPages[std::get<0>(place) == eFlashApt]].memory;
         const auto found = memory.possible.find(place);
