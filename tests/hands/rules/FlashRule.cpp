@@ -12,6 +12,17 @@ bool IsOfPage(const QString &page, const FlashPlace &place)
     return (page == kCalPages[1]) == (std::get<0>(place) == eFlashApt);
 }
 
+// A file's frequencies that fill their blocks exactly stand for one block more.
+bool IsGrownByImport(const CFlashFile::SRecord &record, int blocks)
+{
+    const bool isApt = record.place.kind == eFlashApt;
+    const size_t list = isApt ? offsetof(SAptBlock, freq) : offsetof(SMMType1PathlossBlockV7, freq);
+    const int last = int(list) + 4 * (VOND_CAL_BLOCK_SUBBANDS - 1);
+    uint32_t frequency = 0;
+    std::memcpy(&frequency, record.blocks.last().constData() + last, sizeof frequency);
+    return blocks == record.blocks.size() + 1 && frequency != 0;
+}
+
 }  // namespace
 
 CFlashRule::CFlashRule(CDesk &desk, const CDutCommands &commands, const QString &flashFile)
@@ -125,7 +136,8 @@ QString CFlashRule::CheckChanges(const CFlashFile &now) const
         return "the flash has other records";
     for (int r = 0; r < now.records.size(); ++r) {
         const int blocks = now.records[r].blocks.size();
-        if (blocks != m_flash.records[r].blocks.size())
+        if (blocks != m_flash.records[r].blocks.size() &&
+            !IsGrownByImport(m_flash.records[r], blocks))
             return QString("route %1 has %2 blocks instead of %3")
                 .arg(now.records[r].place.route)
                 .arg(blocks)

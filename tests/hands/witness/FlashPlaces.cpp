@@ -159,7 +159,8 @@ FlashBytes Differences(const CFlashFile &was, const CFlashFile &is)
     FlashBytes bytes;
     for (int r = 0; r < is.records.size(); ++r) {
         const SFlashPlace &place = is.records[r].place;
-        for (int block = 0; block < is.records[r].blocks.size(); ++block) {
+        for (int block = 0; block < qMin(was.records[r].blocks.size(), is.records[r].blocks.size());
+             ++block) {
             const QByteArray &before = was.records[r].blocks[block];
             const QByteArray &after = is.records[r].blocks[block];
             for (int at = 0; before != after && at < after.size(); ++at) {
