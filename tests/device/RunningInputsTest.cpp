@@ -52,8 +52,7 @@ void RunningInputsTest::inputsAreOffWhileATestRuns_data()
     QTest::addColumn<QString>("test");
     QTest::addColumn<QString>("disabled");  // by relevance
     QTest::newRow("continuous RX") << "CNrContRxDockWidgetV7"
-                                   << "Cont Rx"
-                                   << QString();
+                                   << "Cont Rx" << QString();
     QTest::newRow("single tone") << "CNrSingleToneTxDockWidgetV7"
                                  << "Single Tone Tx" << QString();
     QTest::newRow("forced") << "CNrPuschTxForcedDockWidgetV7"
