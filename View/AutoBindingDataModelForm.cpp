@@ -138,8 +138,8 @@ bool CAutoBindingDataModelForm::eventFilter(QObject *watched, QEvent *event)
     auto *page = qobject_cast<CAutoBindingDataModelDockWidget *>(watched);
     if (event->type() == QEvent::Close && page && page->isFloating()) {
         const auto dock = [page] {
+            page->show();  // a page that docks unseen loses its fonts and its grey
             page->setFloating(false);
-            page->show();
             page->raise();
         };
         QMetaObject::invokeMethod(page, dock, Qt::QueuedConnection);

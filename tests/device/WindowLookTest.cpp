@@ -6,6 +6,7 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QToolButton>
+#include <QWindow>
 #include <QtTest>
 
 #include "tests/common/BoxWatcher.h"
@@ -52,6 +53,7 @@ private slots:
     void nothingIsPaintedOfPagesThatAreBeingBuilt();
     void allTabsFitTheDefaultWidth();
     void floatedPageStandsBesideItsOldPlace();
+    void closedFloatingPageDocksWithTheSameLook();
     void pageMenuMarksThePageOnTop();
 };
 
@@ -95,6 +97,23 @@ void WindowLookTest::floatedPageStandsBesideItsOldPlace()
     }));
     const QRect now = page->frameGeometry();
     QVERIFY(page->screen()->availableGeometry().contains(now.topLeft()));
+}
+
+void WindowLookTest::closedFloatingPageDocksWithTheSameLook()
+{
+    CPluginSession session("handset", 1, "CNrSingleToneTxDockWidgetV7");
+    QVERIFY(session.ShowAndWait());
+    const QWidget *editor = session.Find("cmdIf_request_group1_memberProperty_ulFrequency");
+    const QWidget *result = session.Find("cmdIf_response_group1_memberProperty_pdValue");
+    const QFont font = editor->font();
+    const QColor color = result->palette().color(QPalette::WindowText);
+    QDockWidget *page = session.Page();
+    page->setFloating(true);
+    QVERIFY(WaitUntil([&] { return page->isVisible(); }));
+    QVERIFY(page->windowHandle()->close());
+    QVERIFY(WaitUntil([&] { return page->isVisible() && !page->isFloating(); }));
+    QCOMPARE(editor->font(), font);
+    QCOMPARE(result->palette().color(QPalette::WindowText), color);
 }
 
 void WindowLookTest::pageMenuMarksThePageOnTop()
