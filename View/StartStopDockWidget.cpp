@@ -72,14 +72,17 @@ void CStartStopDockWidget::EnableTestControls()
     ShowControls();
 }
 
-// A start or a stop that is under way ends with its own answer.
+// A start or a stop that is under way ends with its own answer. A start may have been asked for
+// since: its page's stop is still due.
 void CStartStopDockWidget::ShowTestStopped()
 {
-    m_isStopAsked = false;
-    if (m_underWay == EUnderWay::Nothing)
-        TakeStep(ETestStep::Stopped);
-    else
+    if (m_underWay != EUnderWay::Nothing) {
         m_isRunning = false;
+        return;
+    }
+    m_isStopAsked = false;
+    if (m_isRunning)
+        TakeStep(ETestStep::Stopped);
 }
 
 void CStartStopDockWidget::TakeStep(ETestStep step)

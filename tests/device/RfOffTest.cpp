@@ -72,6 +72,8 @@ private slots:
     void leavesTheFocusWhereItIs();
     void isSentUnderTheCurrentHandleAndThatOfTheTest();
     void comesNextAndAStartThatWaitsIsTerminated();
+    void aStartAskedForAfterItIsStoppedWhenItsPageGoes();
+    void leavesCalculateAsItWas();
     void comesBetweenTheRoundsOfACalibrationFlow();
     void isHighlightedAfterAStartThatTimedOutOrWasNoise_data();
     void isHighlightedAfterAStartThatTimedOutOrWasNoise();
@@ -246,6 +248,38 @@ void RfOffTest::comesNextAndAStartThatWaitsIsTerminated()
     QVERIFY(!floating->findChild<QPushButton *>("m_stop")->isEnabled());
     QVERIFY(docked->findChild<QPushButton *>("m_start")->isEnabled());
     QVERIFY(!docked->findChild<QPushButton *>("m_stop")->isEnabled());
+}
+
+// The answer of RF Off comes while the start and the stop of its page wait.
+void RfOffTest::aStartAskedForAfterItIsStoppedWhenItsPageGoes()
+{
+    CPluginSession session("handset", 1, kSingleTone.className);
+    QVERIFY(session.ShowAndWait());
+    VondSim_ClearJournal();
+    VondSim_Hold(kNrStop);
+    Click(Button(session));
+    QVERIFY(VondSim_WaitUntilHeld(kNrStop, 20000));
+    VondSim_Hold(kSingleTone.start);
+    session.Press("m_start");
+    QVERIFY(session.ClickTab("Continuous RX"));
+    VondSim_Release(kNrStop);
+    QVERIFY(session.WaitForStatus("RF off."));
+    VondSim_Release(kSingleTone.start);
+    QVERIFY(session.WaitForStatus(Status(kSingleTone, "stop.")));
+    QCOMPARE(StartsAndStops(),
+             (QStringList{Stop(kNrStop), Stop(kMmStop), Stop(kSingleTone.start), Stop(kMmStop)}));
+    QCOMPARE(QString(VondSim_RunningTest()), QString());
+}
+
+// No test of the page ran: its Calculate waits for the carrier search still.
+void RfOffTest::leavesCalculateAsItWas()
+{
+    CPluginSession session("handset", 1, kNormal.className);
+    QVERIFY(session.ShowAndWait());
+    QCOMPARE(Enabled(session, kNormal), QString("start"));
+    Click(Button(session));
+    QVERIFY(session.WaitForStatus("RF off."));
+    QCOMPARE(Enabled(session, kNormal), QString("start"));
 }
 
 void RfOffTest::comesBetweenTheRoundsOfACalibrationFlow()
