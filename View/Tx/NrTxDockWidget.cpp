@@ -40,7 +40,7 @@ void CNrTxDockWidget::DisableTestControls()
 void CNrTxDockWidget::EnableTestControls()
 {
     CStartStopDockWidget::EnableTestControls();
-    m_button->setEnabled(true);
+    m_button->setEnabled(!m_isReading);
 }
 
 void CNrTxDockWidget::TakeStep(ETestStep step)

@@ -55,6 +55,8 @@ private slots:
     void secondStopOfTheHostDoesNothing();
     void hostsDisableAndEnableLeaveTheStopOfARunningTestOn_data() { AddPages(); }
     void hostsDisableAndEnableLeaveTheStopOfARunningTestOn();
+    void hostsEnableLetsNoReadingBeginDuringAnother_data() { AddPages(); }
+    void hostsEnableLetsNoReadingBeginDuringAnother();
     void secondTestOnTheSamePageDoesNotDoubleTheSignals_data() { AddPages(); }
     void secondTestOnTheSamePageDoesNotDoubleTheSignals();
 
@@ -275,6 +277,23 @@ void TxStartStopTest::hostsDisableAndEnableLeaveTheStopOfARunningTestOn()
     QCOMPARE(Enabled(session, page), QString("stop"));
     session->EnablePages();
     QCOMPARE(Enabled(session, page), QString("stop read"));
+}
+
+void TxStartStopTest::hostsEnableLetsNoReadingBeginDuringAnother()
+{
+    QFETCH(STxPage, page);
+    CPluginSession session("handset", 1, page.className);
+    QVERIFY(Running(session, page));
+    session->EnablePages();
+    VondSim_Hold(page.read);
+    session.Press(page.button);
+    QVERIFY(VondSim_WaitUntilHeld(page.read, 20000));
+    session->DisablePages();
+    session->EnablePages();
+    QVERIFY(!session.Find<QPushButton>(page.button)->isEnabled());
+    VondSim_Release(page.read);
+    QVERIFY(session.WaitForStatus(page.readDone));
+    QVERIFY(session.Find<QPushButton>(page.button)->isEnabled());
 }
 
 void TxStartStopTest::secondTestOnTheSamePageDoesNotDoubleTheSignals()
