@@ -127,8 +127,21 @@ void CAutoBindingDataModelForm::closeEvent(QCloseEvent *event)
 void CAutoBindingDataModelForm::hideEvent(QHideEvent *event)
 {
     QMainWindow::hideEvent(event);
-    for (CAutoBindingDataModelDockWidget *page : Pages())
+    StopTests();
+}
+
+// A page that stops says so, and the host may reset in that: it stops the tests of the pages that
+// leave, so these have nothing to stop any more.
+bool CAutoBindingDataModelForm::StopTests()
+{
+    const QPointer<CAutoBindingDataModelForm> self(this);
+    const int run = m_initRun;
+    for (CAutoBindingDataModelDockWidget *page : Pages()) {
         page->Slot_TriggerStopTest();
+        if (!self || run != m_initRun)
+            return false;
+    }
+    return true;
 }
 
 // The window system closes a floating page, whatever its features. It docks when its own window is
@@ -336,10 +349,10 @@ void CAutoBindingDataModelForm::Slot_DockWidgetsTabChange(bool value)
     if (!top || !value)
         return;
     qCDebug(lcForm) << top->windowTitle() << " Slot_DockWidgetsTabChange() from " << windowTitle();
-    for (CAutoBindingDataModelDockWidget *page : Pages()) {
-        page->Slot_TriggerStopTest();
+    if (!StopTests())
+        return;
+    for (CAutoBindingDataModelDockWidget *page : Pages())
         page->setEnabled(page == top || page->isFloating());
-    }
 }
 
 void CAutoBindingDataModelForm::ShowContextMenu(const QPoint &pos)

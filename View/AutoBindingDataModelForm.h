@@ -89,6 +89,8 @@ private:
     bool InitOnePage(CAutoBindingDataModelDockWidget *page);
     void FinishInit(QMenu *menu, CAutoBindingDataModelDockWidget *firstPage,
                     const QStringList &failedPages);
+    // False when the pages were removed in the course of it.
+    bool StopTests();
     void WireTabBar(QObject *child);
     void MarkPageOnTop();
     template <typename Pass>

@@ -55,6 +55,7 @@ private slots:
     void resetFromInsideThePageMenusSlot();
     void resetFromInsideTheStatusLineOfAPageThatIsBeingShown();
     void resetFromInsideTheStopThatATabChangeCauses();
+    void resetFromInsideAStopLeavesTheOtherPagesAlone();
     void resetWhileTheBoxOfFailedPagesIsOpen();
     void formMayBeDestroyedWhileAPageWaits();
     void formMayBeDestroyedFromInsideAPagesSlot();
@@ -212,6 +213,22 @@ void ResetTest::resetFromInsideTheStopThatATabChangeCauses()
     connect(&form, &CAutoBindingDataModelForm::Signal_PluginIsBusy, &form,
             [&form] { form.ResetPages(); });
     form.ChooseTab(kSecond);
+    QVERIFY(WaitUntil([] { return PageLog().filter(": gone").size() == 3; }));
+    QCOMPARE(PageLog().filter(": stop").size(), 1);
+}
+
+// The reset stops their tests, under the handles of their starts.
+void ResetTest::resetFromInsideAStopLeavesTheOtherPagesAlone()
+{
+    CFormUnderTest form;
+    QVERIFY(form.ShowAndWait(ThreePages()));
+    for (const char *name : {kFirst, kSecond}) {
+        form.Page(name)->isRunning = true;
+        form.Page(name)->announcesStop = true;
+    }
+    connect(&form, &CAutoBindingDataModelForm::Signal_PluginIsBusy, &form,
+            [&form] { form.ResetPages(); });
+    form.hide();
     QVERIFY(WaitUntil([] { return PageLog().filter(": gone").size() == 3; }));
     QCOMPARE(PageLog().filter(": stop").size(), 1);
 }
