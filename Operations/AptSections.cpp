@@ -74,7 +74,8 @@ SCalFault CAptSections::Read(const SCalPlace &place, const CalFileSections &sect
     // The section belongs to its route by its name; a number in it can't send it elsewhere.
     record.band = place.band;
     record.route = place.route;
-    record.blockCount = FileBlockCount(record.freq);
+    record.blockCount =
+        ImportedBlockCount(record, m_store.IsValid(place) ? &m_store.At(place) : nullptr);
     watch.EndRecord();
     m_store.At(place) = record;
     m_store.SetValid(place);

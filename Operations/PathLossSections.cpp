@@ -164,7 +164,8 @@ SCalFault CPathLossSections<Record>::Read(const SCalPlace &place, const CalFileS
     // The sections belong to their route by their name; a number in them can't send them elsewhere.
     record->band = place.band;
     record->route = place.route;
-    record->blockCount = FileBlockCount(record->freq);
+    record->blockCount =
+        ImportedBlockCount(*record, m_store.IsValid(place) ? &m_store.At(place) : nullptr);
     watch.EndRecord();
     m_store.At(place) = *record;
     m_store.SetValid(place);

@@ -265,6 +265,19 @@ TEST_F(AptFileTest, FrequenciesBeforeTheFirstZeroSetTheBlocks)
     EXPECT_TRUE(log.Holds(QtDebugMsg, "section blk count 4"));
 }
 
+TEST_F(AptFileTest, FrequenciesThatTheRecordHasLeaveItsBlocks)
+{
+    const QByteArray section = "[NR n1 BW0 TPC]\nTx compensation pa gain frequency(1KHz) = " +
+                               QByteArray("1920000,").repeated(32) + "0\n";
+    ASSERT_EQ(LoadText(m_item, section), kDone);
+    SAptRouteBwRecord record = Record(1, 0);
+    ASSERT_EQ(record.blockCount, 3u);
+    record.blockCount = 2;  // as a DUT says whose blocks are full
+    m_item.SetAptCalibrationData(1, 0, record);
+    ASSERT_EQ(LoadText(m_item, section), kDone);
+    EXPECT_EQ(Record(1, 0).blockCount, 2u) << "the next Write would send a block of zeros";
+}
+
 TEST_F(AptFileTest, NumberOfARouteInTheFileCannotMoveItsSection)
 {
     ASSERT_EQ(LoadText(m_item, "[NR n1 BW0 TPC]\nRoute = 9\nTemperature Index = 1\n"), kDone);

@@ -12,7 +12,8 @@ bool IsOfPage(const QString &page, const FlashPlace &place)
     return (page == kCalPages[1]) == (std::get<0>(place) == eFlashApt);
 }
 
-// A file's frequencies that fill their blocks exactly stand for one block more.
+// A file's frequencies that fill their blocks exactly stand for one block more, unless the record
+// has been read.
 bool IsGrownByImport(const CFlashFile::SRecord &record, int blocks)
 {
     const bool isApt = record.place.kind == eFlashApt;
@@ -136,8 +137,10 @@ QString CFlashRule::CheckChanges(const CFlashFile &now) const
         return "the flash has other records";
     for (int r = 0; r < now.records.size(); ++r) {
         const int blocks = now.records[r].blocks.size();
-        if (blocks != m_flash.records[r].blocks.size() &&
-            !IsGrownByImport(m_flash.records[r], blocks))
+        const bool isApt = now.records[r].place.kind == eFlashApt;
+        const bool mayGrow =
+            m_pages[kCalPages[isApt]].memory.mayGrow && IsGrownByImport(m_flash.records[r], blocks);
+        if (blocks != m_flash.records[r].blocks.size() && !mayGrow)
             return QString("route %1 has %2 blocks instead of %3")
                 .arg(now.records[r].place.route)
                 .arg(blocks)
@@ -199,6 +202,7 @@ void CFlashRule::Import(const QString &className, SPageState &state, bool isGood
     SMemory &memory = state.memory;
     const SExport &file = state.file;
     memory.certain.clear();
+    memory.mayGrow = memory.mayGrow || !memory.isRead;
     memory.isRead = isGood && file.memory.isRead;
     if (memory.isRead)
         memory.possible.clear();

@@ -35,8 +35,9 @@ private:
     struct SMemory
     {
         std::map<FlashPlace, std::set<uint8_t>> possible;
-        FlashBytes certain;   // in records that the last Read or Import has filled
-        bool isRead = false;  // all records are, and nothing has failed since
+        FlashBytes certain;    // in records that the last Read or Import has filled
+        bool isRead = false;   // all records are, and nothing has failed since
+        bool mayGrow = false;  // a file has come to records that no Read had filled
     };
     struct SExport
     {
