@@ -28,6 +28,9 @@ QString CHandsRule::After(const SDeed &deed)
     const QWidget *focus = QApplication::focusWidget();
     const bool takesKeys =
         focus && (IsEditor(focus) || qobject_cast<const QAbstractButton *>(focus));
+    // A table that gets the focus back hands it to a cell of its own.
+    if (m_focus && focus && m_focus->isAncestorOf(focus))
+        return {};
     if (deed.kind == SDeed::Shortcut && m_isRequest && m_front == m_desk.FrontPage() && takesKeys &&
         focus != m_focus)
         return QString("a request moved the focus from %1 to %2").arg(m_focusName, NameOf(focus));
