@@ -76,8 +76,10 @@ endfunction()
 
 # What every test runs with. The sanitizers' settings belong here, so that a test by hand and one in CI
 # look at the same. One font alone, so that sizes are alike on every machine, whatever is installed there.
+# A hung test is ended by ctest's time limit, which knows its label; QtTest's own is shorter.
 set(QUORLIN_TEST_ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen"
+    "QTEST_FUNCTION_TIMEOUT=600000"
     "FONTCONFIG_FILE=${PROJECT_SOURCE_DIR}/tests/fonts/dejavu-sans.conf"
     "QT_LOGGING_RULES=quorlin.*.debug=false"
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"

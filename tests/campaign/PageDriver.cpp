@@ -119,8 +119,6 @@ void CPageDriver::Act(const SRequest &request)
     m_session.Window()->findChild<QStatusBar *>()->clearMessage();
     m_boxesBefore = m_boxes.Seen().size();
     m_busyBefore = m_session.busy.size();
-    if (request.voice == EVoice::ModelBox)
-        ++m_repeats;
     switch (request.way) {
     case EWay::Tick:
         QMetaObject::invokeMethod(m_session.Page(), request.trigger);
@@ -189,12 +187,13 @@ QString CPageDriver::Shown(const char *widget) const
     return label ? label->text() : QString("no label");
 }
 
-QString CPageDriver::DiffersInBoxes(const SRequest &request, const SWords &words) const
+QString CPageDriver::DiffersInBoxes(const SWords &words) const
 {
-    const QVector<SSeenBox> seen = m_boxes.Seen().mid(m_boxesBefore);
-    const bool isRepeated =
-        request.voice == EVoice::ModelBox && qstrcmp(m_page.name, kRepeating) == 0;
-    const int wanted = !words.hasBox ? 0 : isRepeated ? m_repeats : 1;
+    QVector<SSeenBox> seen = m_boxes.Seen().mid(m_boxesBefore);
+    // A Read of noise says besides which routes it has left out.
+    if (seen.size() == 2 && words.isAnyText && seen.last().title + " failed" == words.title)
+        seen.removeLast();
+    const int wanted = words.hasBox ? 1 : 0;
     if (seen.size() != wanted)
         return QString("%1 boxes, not %2").arg(seen.size()).arg(wanted);
     for (const SSeenBox &box : seen) {
@@ -216,7 +215,7 @@ QString CPageDriver::Differs(const SRequest &request, const SWords &words) const
         return "not answered";
     if (m_session.StatusBar() != words.status)
         return "status line: " + m_session.StatusBar();
-    const QString boxes = DiffersInBoxes(request, words);
+    const QString boxes = DiffersInBoxes(words);
     if (!boxes.isEmpty())
         return boxes;
     if (Enabled() != words.enabled)

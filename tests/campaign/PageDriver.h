@@ -62,7 +62,7 @@ private:
     QString Enabled() const;
     int Rows() const;  // of all tables
     QString Shown(const char *widget) const;
-    QString DiffersInBoxes(const SRequest &request, const SWords &words) const;
+    QString DiffersInBoxes(const SWords &words) const;
     bool RunWell(const SRequest &request);
     const SRequest &StartOrStop(EState state) const;
 
@@ -75,5 +75,4 @@ private:
     int m_files = 0;        // written so far
     int m_boxesBefore = 0;  // boxes and busy signals before the request
     int m_busyBefore = 0;
-    int m_repeats = 0;  // how often a page has been asked that answers again and again
 };

@@ -149,7 +149,7 @@ const SPage kPages[] = {
          kToneButtons, kTone, true),
     Page("PUSCH TX forced", "tx", "CNrPuschTxForcedDockWidgetV7", "Forced PUSCH TX ", kHandset,
          kPuschButtons, kPuschForced, true),
-    Page(kRepeating, "tx", "CNrPuschTxNormalDockWidgetV7", "Normal PUSCH TX ", kHandset,
+    Page("PUSCH TX normal", "tx", "CNrPuschTxNormalDockWidgetV7", "Normal PUSCH TX ", kHandset,
          kPuschButtons, kPuschNormal, true),
     Page("RX path loss", "cal", "CNrRxPathlossDockWidgetV7", "RX Pathloss", kHandset, kCalButtons,
          kFlows, false),

@@ -65,8 +65,5 @@ struct SPage
     bool hasTest;
 };
 
-// The page whose n-th Calculate is answered n times, box and all.
-constexpr char kRepeating[] = "PUSCH TX normal";
-
 extern const SPage kPages[];
 extern const int kPageCount;
