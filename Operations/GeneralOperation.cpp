@@ -1,6 +1,6 @@
 #include "Operations/GeneralOperation.h"
 
-#include "Operations/TargetLink.h"
+#include "Operations/link/TargetLink.h"
 #include "Support/Log.h"
 
 namespace {

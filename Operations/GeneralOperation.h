@@ -19,7 +19,7 @@
 #include <QObject>
 #include <QString>
 
-#include "Operations/TargetCapability.h"
+#include "Operations/capability/TargetCapability.h"
 
 class IGeneralOperation : public QObject
 {

@@ -9,7 +9,7 @@
 #include <QObject>
 
 #include "PluginInterface/VondPluginInterface.h"
-#include "View/QuorlinForm.h"
+#include "View/form/QuorlinForm.h"
 
 class QuorlinPluginInterface : public QObject, public VondPluginInterface
 {

@@ -3,7 +3,7 @@
 #include <tuple>
 #include <utility>
 
-#include "Controller/NrCore.h"
+#include "Controller/core/NrCore.h"
 #include "Support/Threads.h"
 
 CCoreAnswers &CCoreAnswers::Get()

@@ -12,7 +12,7 @@
 
 #include <QPointer>
 
-#include "Controller/NrCore.h"
+#include "Controller/core/NrCore.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
 #include "Support/Threads.h"

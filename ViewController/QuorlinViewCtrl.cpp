@@ -1,6 +1,6 @@
 #include "ViewController/QuorlinViewCtrl.h"
 
-#include "Controller/PageTable.h"
+#include "Controller/core/PageTable.h"
 #include "ViewController/PoolRequest.h"
 
 void CQuorlinViewCtrl::SetTargetHandle(uint32_t handle)

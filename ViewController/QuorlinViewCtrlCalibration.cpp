@@ -2,7 +2,7 @@
 // of their own, and the records of the pages.
 #include <exception>
 
-#include "Controller/CalItemTable.h"
+#include "Controller/core/CalItemTable.h"
 #include "Support/CalIniFile.h"
 #include "ViewController/PoolRequest.h"
 

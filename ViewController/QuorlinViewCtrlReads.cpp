@@ -1,5 +1,5 @@
 // Reads beside a test: a page's document goes to the core, and comes back with what was read.
-#include "Controller/PageTable.h"
+#include "Controller/core/PageTable.h"
 #include "ViewController/PoolRequest.h"
 
 void CQuorlinViewCtrl::RequestDlFreq(EPageId page, std::string document)

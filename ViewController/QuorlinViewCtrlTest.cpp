@@ -1,5 +1,5 @@
 // Tests and stops of the view controller. The core answers tests through a signal of its own.
-#include "Controller/PageTable.h"
+#include "Controller/core/PageTable.h"
 #include "ViewController/PoolRequest.h"
 
 void CQuorlinViewCtrl::RequestTest(const char *internalName, EPageId page, std::string document,

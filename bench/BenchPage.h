@@ -3,7 +3,7 @@
 
 #include <QTableWidget>
 
-#include "View/AutoBindingDataModelDockWidget.h"
+#include "View/engine/AutoBindingDataModelDockWidget.h"
 
 class CBenchPage : public CAutoBindingDataModelDockWidget
 {

@@ -21,9 +21,9 @@
 #include <SimpleIni.h>
 #include <unistd.h>
 
-#include "Operations/MultiRatAptProfileV7.h"
-#include "Operations/MultiRatPathLossV7.h"
-#include "Operations/TargetCapability.h"
+#include "Operations/calibration/MultiRatAptProfileV7.h"
+#include "Operations/calibration/MultiRatPathLossV7.h"
+#include "Operations/capability/TargetCapability.h"
 #include "Simulator/VondSim.h"
 #include "Support/CalIniFile.h"
 #include "Support/WideText.h"

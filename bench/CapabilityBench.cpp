@@ -3,10 +3,10 @@
 #include <QFile>
 #include <benchmark/benchmark.h>
 
-#include "Controller/DocumentWriter.h"
-#include "Controller/HwLabels.h"
-#include "Controller/NrDataModelCapUpdater.h"
-#include "Controller/PageTable.h"
+#include "Controller/capability/DocumentWriter.h"
+#include "Controller/capability/HwLabels.h"
+#include "Controller/capability/NrDataModelCapUpdater.h"
+#include "Controller/core/PageTable.h"
 #include "Model/ModelResources.h"
 #include "Model/ModelText.h"
 #include "Simulator/VondSim.h"
@@ -71,7 +71,7 @@ void StepEntries(benchmark::State &state)
 }
 BENCHMARK(StepEntries)->Arg(5000)->Arg(20000)->Arg(80000)->Unit(benchmark::kMillisecond);
 
-// By page id, see Controller/PageTable.h.
+// By page id, see Controller/core/PageTable.h.
 void EachPage(benchmark::internal::Benchmark *benchmark)
 {
     for (const int id : {0, 2, 4, 5, 6, 7, 8, 9, 13})

@@ -2,7 +2,7 @@
 #include <QJsonObject>
 #include <benchmark/benchmark.h>
 
-#include "Controller/NrCoreCmdBuilder.h"
+#include "Controller/commands/NrCoreCmdBuilder.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <QThreadPool>
 #include <benchmark/benchmark.h>
 
-#include "Controller/NrDataModelResponseBuilder.h"
+#include "Controller/responses/NrDataModelResponseBuilder.h"
 #include "Model/ModelResources.h"
 #include "Model/ModelText.h"
 #include "Simulator/VondSim.h"

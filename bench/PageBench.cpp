@@ -6,7 +6,7 @@
 
 #include "Model/ModelText.h"
 #include "View/Rx/NrContRxDockWidgetV7.h"
-#include "View/WidgetIndex.h"
+#include "View/engine/WidgetIndex.h"
 #include "bench/BenchPage.h"
 
 namespace {

@@ -8,11 +8,11 @@
 #include <QtConcurrent>
 #include <benchmark/benchmark.h>
 
-#include "Controller/NrDataModelCapUpdater.h"
-#include "Controller/PageTable.h"
+#include "Controller/capability/NrDataModelCapUpdater.h"
+#include "Controller/core/PageTable.h"
 #include "Model/ModelResources.h"
 #include "Model/ModelText.h"
-#include "Operations/TargetCapability.h"
+#include "Operations/capability/TargetCapability.h"
 #include "PluginInterface/QuorlinPluginInterface.h"
 #include "Simulator/VondSim.h"
 #include "View/Rx/NrContRxDockWidgetV7.h"

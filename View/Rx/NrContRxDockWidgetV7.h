@@ -6,7 +6,7 @@
 
 #include <memory>
 
-#include "View/StartStopDockWidget.h"
+#include "View/pages/StartStopDockWidget.h"
 
 namespace Ui {
 class CNrContRxDockWidgetV7;

@@ -11,7 +11,7 @@
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
-#include "View/TableGroup.h"
+#include "View/engine/TableGroup.h"
 
 namespace {
 

@@ -33,7 +33,7 @@
 #include <QTimer>
 #include <QVector>
 
-#include "View/StartStopDockWidget.h"
+#include "View/pages/StartStopDockWidget.h"
 
 class CNrRsrpDockWidgetV7;
 class QComboBox;

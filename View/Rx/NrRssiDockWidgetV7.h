@@ -23,8 +23,8 @@
 #include <memory>
 #include <string>
 
-#include "View/AutoBindingDataModelDockWidget.h"
-#include "View/ResultMark.h"
+#include "View/engine/AutoBindingDataModelDockWidget.h"
+#include "View/pages/ResultMark.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
 namespace Ui {

@@ -3,8 +3,8 @@
 #include <QSpinBox>
 
 #include "Model/JsonPath.h"
-#include "View/CalibrationTables.h"
-#include "View/TabOrder.h"
+#include "View/editors/TabOrder.h"
+#include "View/pages/CalibrationTables.h"
 #include "ui_NrRxPathlossDockWidgetV7.h"
 
 namespace {

@@ -11,7 +11,7 @@
 
 #include <memory>
 
-#include "View/CalibrationDockWidget.h"
+#include "View/pages/CalibrationDockWidget.h"
 
 namespace Ui {
 class CNrRxPathlossDockWidgetV7;

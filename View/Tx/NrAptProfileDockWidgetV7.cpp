@@ -1,7 +1,7 @@
 #include "View/Tx/NrAptProfileDockWidgetV7.h"
 
-#include "View/CalibrationTables.h"
-#include "View/TabOrder.h"
+#include "View/editors/TabOrder.h"
+#include "View/pages/CalibrationTables.h"
 #include "ui_NrAptProfileDockWidgetV7.h"
 
 namespace {

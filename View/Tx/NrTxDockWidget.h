@@ -10,8 +10,8 @@
 //   void CNrSingleToneTxDockWidgetV7::on_m_btnFetchPd_clicked() { StartReading(); }
 #pragma once
 
-#include "View/ResultMark.h"
-#include "View/StartStopDockWidget.h"
+#include "View/pages/ResultMark.h"
+#include "View/pages/StartStopDockWidget.h"
 
 struct STxReading
 {

@@ -15,7 +15,7 @@
 
 #include <QString>
 
-#include "Simulator/Functions.h"
+#include "Simulator/door/Functions.h"
 
 enum class EFault
 {

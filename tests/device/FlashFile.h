@@ -1,7 +1,7 @@
 // The simulated DUT's flash file, as records: what tests of the way to the flash compare.
 //
-// Layout as of Simulator/FlashFile.cpp: a head with a checksum of all behind it, then each record
-// with its blocks as on the wire.
+// Layout as of Simulator/flash/FlashFile.cpp: a head with a checksum of all behind it, then each
+// record with its blocks as on the wire.
 //
 //   CFlashFile before(path);
 //   ... edit, Write ...

@@ -1,7 +1,7 @@
 // modelcheck's rows of data types say what the engine's say.
 #include <gtest/gtest.h>
 
-#include "View/DataTypes.h"
+#include "View/engine/DataTypes.h"
 #include "tools/modelcheck/FormatTypes.h"
 
 namespace {

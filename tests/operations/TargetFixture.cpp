@@ -1,6 +1,6 @@
 #include "tests/operations/TargetFixture.h"
 
-#include "Operations/TargetLink.h"
+#include "Operations/link/TargetLink.h"
 
 namespace {
 

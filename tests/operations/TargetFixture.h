@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Operations/TargetCapability.h"
+#include "Operations/capability/TargetCapability.h"
 #include "tests/common/SimJournal.h"
 
 constexpr uint32_t kHandle = 0x5A17;

@@ -1,6 +1,6 @@
 #include "tests/recipes/ExamplePdValue.h"
 
-#include "Operations/TargetLink.h"
+#include "Operations/link/TargetLink.h"
 #include "Vond/VondCore.h"
 
 uint32_t CExamplePdValue::Read(uint32_t kind, int16_t &value)

@@ -7,7 +7,7 @@
 
 #include <memory>
 
-#include "View/AutoBindingDataModelDockWidget.h"
+#include "View/engine/AutoBindingDataModelDockWidget.h"
 #include "tests/recipes/ExampleViewCtrl.h"
 
 namespace Ui {

@@ -2,8 +2,8 @@
 // member that costs no line of code, a target operation.
 #include <QtTest>
 
-#include "Operations/TargetLink.h"
-#include "View/QuorlinForm.h"
+#include "Operations/link/TargetLink.h"
+#include "View/form/QuorlinForm.h"
 #include "Vond/VondCore.h"
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/GoodCommands.h"

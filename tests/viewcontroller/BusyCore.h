@@ -9,7 +9,7 @@
 
 #include <QCoreApplication>
 
-#include "Controller/NrCore.h"
+#include "Controller/core/NrCore.h"
 #include "Simulator/VondSim.h"
 #include "Support/Threads.h"
 #include "tests/common/PoolJobs.h"

@@ -12,7 +12,7 @@
 #include <QVariant>
 #include <QVector>
 
-#include "Controller/NrCore.h"
+#include "Controller/core/NrCore.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
 struct SRequest

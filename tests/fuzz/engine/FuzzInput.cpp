@@ -1,6 +1,6 @@
 #include "tests/fuzz/engine/FuzzInput.h"
 
-#include "View/AutoBindingDataModelDockWidget.h"
+#include "View/engine/AutoBindingDataModelDockWidget.h"
 #include "tests/fuzz/common/JsonMutator.h"
 
 namespace {

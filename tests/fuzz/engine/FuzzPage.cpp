@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 
-#include "View/UnsignedSpinBox.h"
+#include "View/editors/UnsignedSpinBox.h"
 
 namespace {
 

@@ -13,7 +13,7 @@
 
 #include <QVector>
 
-#include "View/AutoBindingDataModelDockWidget.h"
+#include "View/engine/AutoBindingDataModelDockWidget.h"
 
 class CFuzzPage : public CAutoBindingDataModelDockWidget
 {

@@ -10,9 +10,9 @@
 #include "Model/JsonPath.h"
 #include "Model/MemberPath.h"
 #include "Model/ModelText.h"
-#include "View/DataTypes.h"
-#include "View/TableGroup.h"
-#include "View/WidgetIndex.h"
+#include "View/engine/DataTypes.h"
+#include "View/engine/TableGroup.h"
+#include "View/engine/WidgetIndex.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 #include "tests/fuzz/engine/FuzzPage.h"
 

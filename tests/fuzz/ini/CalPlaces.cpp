@@ -7,7 +7,7 @@
 #include <tuple>
 #include <type_traits>
 
-#include "Operations/TargetCapability.h"
+#include "Operations/capability/TargetCapability.h"
 
 namespace {
 

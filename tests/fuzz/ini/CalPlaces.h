@@ -12,8 +12,8 @@
 
 #include <QByteArray>
 
-#include "Operations/MultiRatAptProfileV7.h"
-#include "Operations/MultiRatPathLossV7.h"
+#include "Operations/calibration/MultiRatAptProfileV7.h"
+#include "Operations/calibration/MultiRatPathLossV7.h"
 
 struct SRecordPlace
 {

@@ -7,8 +7,8 @@
 #include <QCoreApplication>
 #include <QLoggingCategory>
 
-#include "Operations/TargetCapability.h"
-#include "Operations/TargetLink.h"
+#include "Operations/capability/TargetCapability.h"
+#include "Operations/link/TargetLink.h"
 #include "Simulator/VondSim.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 #include "tests/fuzz/ini/LoadRules.h"

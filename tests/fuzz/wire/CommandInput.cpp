@@ -7,7 +7,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include "Operations/TargetCapability.h"
+#include "Operations/capability/TargetCapability.h"
 #include "tests/fuzz/common/JsonMutator.h"
 #include "tests/fuzz/wire/FuzzAnswers.h"
 #include "tests/fuzz/wire/FuzzPages.h"

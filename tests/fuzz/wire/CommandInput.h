@@ -17,7 +17,7 @@
 #include <QByteArray>
 #include <QJsonObject>
 
-#include "Controller/PageTable.h"
+#include "Controller/core/PageTable.h"
 
 // Takes the documents of all pages and DUTs; once, before the first input.
 void TakeBaseDocuments();

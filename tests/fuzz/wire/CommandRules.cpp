@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <memory>
 
-#include "Controller/CommandConversions.h"
-#include "Controller/LossConfig.h"
-#include "Controller/NrCoreCmdBuilder.h"
+#include "Controller/calibration/LossConfig.h"
+#include "Controller/commands/NrCoreCmdBuilder.h"
+#include "Controller/fields/CommandConversions.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 
 namespace {

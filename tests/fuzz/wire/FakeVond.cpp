@@ -4,7 +4,7 @@
 // badly it has answered before.
 #include <algorithm>
 
-#include "Operations/TargetLink.h"
+#include "Operations/link/TargetLink.h"
 #include "Vond/VondApp.h"
 #include "Vond/VondCore.h"
 #include "tests/fuzz/common/FuzzTarget.h"

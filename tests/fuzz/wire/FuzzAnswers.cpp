@@ -7,7 +7,7 @@
 
 #include <dlfcn.h>
 
-#include "Operations/TargetCapability.h"
+#include "Operations/capability/TargetCapability.h"
 #include "Simulator/VondSim.h"
 #include "Vond/VondCore.h"
 #include "tests/fuzz/common/FuzzTarget.h"

@@ -5,9 +5,9 @@
 #include <QFile>
 #include <QJsonDocument>
 
-#include "Controller/NrDataModelCapUpdater.h"
+#include "Controller/capability/NrDataModelCapUpdater.h"
 #include "Model/ModelResources.h"
-#include "tests/controller/CalPages.h"
+#include "tests/controller/calibration/CalPages.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 
 EPageId PageOf(const QString &name)

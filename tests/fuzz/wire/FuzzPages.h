@@ -7,7 +7,7 @@
 
 #include <QJsonObject>
 
-#include "Controller/PageTable.h"
+#include "Controller/core/PageTable.h"
 
 // The pages that have a document.
 constexpr EPageId kFuzzPages[] = {

@@ -10,13 +10,13 @@
 #include <QTemporaryDir>
 #include <QThreadPool>
 
-#include "Controller/NrCore.h"
+#include "Controller/core/NrCore.h"
 #include "Model/JsonPath.h"
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/CalIniFile.h"
 #include "Support/Threads.h"
-#include "tests/capability/WrittenPaths.h"
+#include "tests/controller/capability/WrittenPaths.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 #include "tests/fuzz/wire/FuzzPages.h"
 

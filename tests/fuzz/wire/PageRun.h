@@ -13,7 +13,7 @@
 
 #include <QJsonObject>
 
-#include "Controller/PageTable.h"
+#include "Controller/core/PageTable.h"
 
 class CPageRun
 {

@@ -14,7 +14,7 @@
 
 #include <QByteArray>
 
-#include "Controller/PageTable.h"
+#include "Controller/core/PageTable.h"
 
 struct SRecordChange
 {

@@ -5,10 +5,10 @@
 
 #include <QJsonArray>
 
-#include "Controller/NrCoreCmdBuilder.h"
-#include "Controller/NrDataModelResponseBuilder.h"
+#include "Controller/commands/NrCoreCmdBuilder.h"
+#include "Controller/responses/NrDataModelResponseBuilder.h"
 #include "Model/ModelText.h"
-#include "tests/controller/CalPages.h"
+#include "tests/controller/calibration/CalPages.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 
 namespace {

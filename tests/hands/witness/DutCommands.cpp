@@ -3,8 +3,8 @@
 #include <QFile>
 #include <QJsonDocument>
 
-#include "Controller/NrDataModelCapUpdater.h"
-#include "Controller/PageTable.h"
+#include "Controller/capability/NrDataModelCapUpdater.h"
+#include "Controller/core/PageTable.h"
 #include "Model/ModelResources.h"
 #include "tests/hands/witness/PageReader.h"
 

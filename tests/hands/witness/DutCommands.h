@@ -14,7 +14,7 @@
 #include <QMap>
 #include <QVector>
 
-#include "Controller/NrCoreCmdBuilder.h"
+#include "Controller/commands/NrCoreCmdBuilder.h"
 
 struct SCommandRow
 {

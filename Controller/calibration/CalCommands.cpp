@@ -1,0 +1,38 @@
+// Calibration halves of the command builder: what a page shows goes back into the record.
+#include "Controller/calibration/CalWalks.h"
+#include "Controller/calibration/LossConfig.h"
+#include "Controller/commands/NrCoreCmdBuilder.h"
+#include "Controller/fields/CommandConversions.h"
+#include "Support/Log.h"
+
+SAptRouteBwRecord CNrCoreCmdBuilder::GetAptCmdV7(QJsonObject document,
+                                                 SAptRouteBwRecord record) const
+{
+    CCalFill fill(document);
+    MoveApt(fill, record);
+    return record;
+}
+
+SMMType1PathlossByRouteV7
+CNrCoreCmdBuilder::GetType1PathLossCmdV7(const QJsonObject &document,
+                                         SMMType1PathlossByRouteV7 record) const
+{
+    const SLossConfig config = ReadLossConfig(document);
+    qCDebug(lcCommand) << "GetType1PathLossCmdV7: powerMode:" << config.powerMode;
+    CCalFill fill(document);
+    MoveType1(fill, record, {StoredPowerMode(config.powerMode).half});
+    return record;
+}
+
+SMMType2PathlossByRouteV7
+CNrCoreCmdBuilder::GetType2PathLossCmdV7(const QJsonObject &document,
+                                         SMMType2PathlossByRouteV7 record) const
+{
+    const SLossConfig config = ReadLossConfig(document);
+    // The words of the response, which users' log filters know for both.
+    LogType2Config(config);
+    CCalFill fill(document);
+    MoveType2(fill, record,
+              {StoredPowerMode(config.powerMode).half, config.freqIdx, config.path, config.bigG});
+    return record;
+}

@@ -1,0 +1,86 @@
+// Calibration halves of the response builder: a record goes into the document for the page to show.
+#include "Controller/calibration/CalWalks.h"
+#include "Controller/calibration/LossConfig.h"
+#include "Controller/responses/NrDataModelResponseBuilder.h"
+#include "Model/ModelText.h"
+
+namespace {
+
+constexpr char kNoCaption[] = "NA";  // of a gain slot that no gain mode uses
+
+// Captions of the gain slots: the set gains in row order.
+QStringList SlotCaptions(const SMMRfRxGainInfoV7 &gains)
+{
+    QStringList captions;
+    for (int bigG = 0; bigG < VOND_GAIN_ROWS; ++bigG) {
+        for (int smallG = 0; smallG < VOND_GAIN_COLUMNS; ++smallG) {
+            if (gains.t1[bigG][smallG] == 1)
+                captions.append(QStringLiteral("G%1,g%2").arg(bigG).arg(smallG));
+        }
+    }
+    while (captions.size() < VOND_LOSS_GAIN_SLOTS)
+        captions.append(QString::fromLatin1(kNoCaption));
+    return captions;
+}
+
+}  // namespace
+
+std::string CNrDataModelResponseBuilder::GetAptDataModelV7(QJsonObject document,
+                                                           SAptRouteBwRecord record) const
+{
+    CCalShow show(document);
+    MoveApt(show, record);
+    return ModelToText(document);
+}
+
+const SMMRfRxGainInfoV7 *CNrDataModelResponseBuilder::GainsFor(const QJsonObject &document) const
+{
+    return m_target.GetSupportRxGainInfoV7(
+        ERadioKind::Nr, ShownPowerMode(ReadLossConfig(document).powerMode).gainMode);
+}
+
+std::string
+CNrDataModelResponseBuilder::GetType1PathLossDataModelV7(QJsonObject document,
+                                                         SMMType1PathlossByRouteV7 record) const
+{
+    return ShowType1PathLoss(document, record, GainsFor(document));
+}
+
+std::string
+CNrDataModelResponseBuilder::GetType2PathLossDataModelV7(QJsonObject document,
+                                                         SMMType2PathlossByRouteV7 record) const
+{
+    return ShowType2PathLoss(document, record, GainsFor(document));
+}
+
+std::string CNrDataModelResponseBuilder::ShowType1PathLoss(QJsonObject document,
+                                                           SMMType1PathlossByRouteV7 record,
+                                                           const SMMRfRxGainInfoV7 *gains) const
+{
+    const SPowerMode &mode = ShownPowerMode(ReadLossConfig(document).powerMode);
+    SLossView view{mode.half};
+    view.hasGains = gains != nullptr;
+    if (gains)
+        view.captions = SlotCaptions(*gains);
+    CCalShow show(document);
+    MoveType1(show, record, view);
+    if (!gains)
+        show.Fail(QString::fromLatin1(mode.noGains));
+    return ModelToText(document);
+}
+
+// Without the supported gains nobody can tell which gain a column stands for.
+std::string CNrDataModelResponseBuilder::ShowType2PathLoss(QJsonObject document,
+                                                           SMMType2PathlossByRouteV7 record,
+                                                           const SMMRfRxGainInfoV7 *gains) const
+{
+    const SLossConfig config = ReadLossConfig(document);
+    LogType2Config(config);
+    const SPowerMode &mode = ShownPowerMode(config.powerMode);
+    CCalShow show(document);
+    MoveType2(show, record,
+              {mode.half, config.freqIdx, config.path, config.bigG, {}, gains != nullptr});
+    if (!gains)
+        show.Fail(QStringLiteral("Get gain info failed"));
+    return ModelToText(document);
+}

@@ -1,0 +1,35 @@
+// The selection of a path loss page, and what a power mode stands for.
+//
+// Pure functions, any thread.
+//
+//   const SLossConfig config = ReadLossConfig(document);
+//   ShownPowerMode(config.powerMode).half;   // &SMMLossPair::hpm for "HPM"
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+
+#include "Operations/calibration/CalRecords.h"
+
+struct SLossConfig
+{
+    QString powerMode;  // "HPM" or "LPM"
+    int path;           // SRX path
+    int bigG;           // number of the gain mode "G0" to "G6"
+    int freqIdx;        // subband
+};
+
+// The packaged selection; a text that is no number counts as 0.
+SLossConfig ReadLossConfig(const QJsonObject &document);
+void LogType2Config(const SLossConfig &config);
+
+struct SPowerMode
+{
+    uint32_t gainMode;  // of the supported gains
+    int16_t SMMLossPair::*half;
+    const char *noGains;  // message of a failed read of the supported gains
+};
+// The mode that a page's losses go to; any text without "LPM" means HPM.
+const SPowerMode &StoredPowerMode(const QString &text);
+// The mode that a page is shown; any text without an "H" means LPM.
+const SPowerMode &ShownPowerMode(const QString &text);

@@ -1,0 +1,231 @@
+// The core: the one object that knows the target.
+//
+// A process-wide singleton, created on first use from the GUI thread and reached through GetCore().
+// It is never destroyed: a host may call exit() while a job is with the target. It decides whether
+// the tool runs on this DUT, supplies each page's document, turns a page's document into a command,
+// a target call and a result, and moves calibration data between flash, memory, files and
+// documents.
+//
+// Threads. Everything that reaches the target blocks, so it is called on pool threads, with the one
+// exception of GetSupportStatus, which the host asks for before the tool is shown. Each job takes
+// m_targetLock for its whole run, the emission of its answer included: the target sees one call at
+// a time and the capability caches one reader, also when a reset lets a new init flow begin while a
+// test still runs. ResetTargetCache never waits: it leaves a mark that the next job obeys. What
+// stops the tests is in front of all jobs that wait, and a calibration flow gives way to it. The
+// records of a calibration item have a lock of their own, which a flow of that item holds too: a
+// page changes its selection while the target works for another one. Signals are emitted on pool
+// threads.
+//
+// Tests that go on until a stop are known to the core from their start on, each with the handle of
+// its start (RunningTests.h): it stops them when nobody shows them any more, and no other handle's.
+//
+//   QObject::connect(&GetCore(), &CNrCore::Signal_TestDone, page, &Page::Slot_Done);
+//   GetCore().Test(GetCore().GetPageName(2), document);
+#pragma once
+
+#include <array>
+#include <atomic>
+#include <optional>
+
+#include <QMap>
+
+#include "Controller/Interface/CoreInterface.h"
+#include "Controller/capability/NrDataModelCapUpdater.h"
+#include "Controller/commands/NrCoreCmdBuilder.h"
+#include "Controller/core/CalItemTable.h"
+#include "Controller/core/PageTable.h"
+#include "Controller/core/RunningTests.h"
+#include "Controller/responses/NrDataModelResponseBuilder.h"
+#include "Model/OperationResult.h"
+#include "Operations/calibration/MultiRatAptProfileV7.h"
+#include "Operations/calibration/MultiRatPathLossV7.h"
+#include "Operations/capability/TargetCapability.h"
+#include "Operations/tests/MultiRatContRxV7.h"
+#include "Operations/tests/MultiRatRssiV7.h"
+#include "Operations/tests/MultiRatSingleToneTxV7.h"
+#include "Operations/tests/NrPuschTxV7.h"
+#include "Operations/tests/NrRsrpV7.h"
+#include "Operations/tests/TestStop.h"
+#include "Support/Lock.h"
+#include "Support/Turns.h"
+
+class CNrCore : public IRfCoreCalDataOperation, public IRfTest
+{
+    Q_OBJECT
+
+public:
+    // The host's target handle, for all calls to the target from now on. Creates no core. Any
+    // thread.
+    static void SetTargetHandle(uint32_t handle);
+
+    void GetAllCalItem(QStringList &out) override;
+    void GetCalItemInFile(QStringList &out, CCalIniFile *file) override;
+    void UploadFromFlashStart(QStringList items) override;
+    void DownloadToFlashStart(QStringList items) override;
+    void LoadFromFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) override;
+    void SaveToFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) override;
+    // Stops the tests that run first, on the pool. A start that has not reached the target answers
+    // 4 and does not go there any more.
+    void ResetTargetCache() override;
+    SRfSupportStatus GetSupportStatus() override;
+
+    QStringList GetAllSupportPage() override;
+    std::string GetDataModel(QString pageName) override;
+    void Test(QString pageName, std::string document) override;
+    void Stop() override;
+    // Stops a running test on the pool: an NR one (PUSCH, RSRP) or a multi-RAT one (single tone,
+    // continuous RX).
+    void TestStopStart(bool isNr);
+
+    // The same, asked for at an earlier moment: what was called off since then does not reach the
+    // target, and answers 4.
+    uint64_t Moment() const { return m_runningTests.Moment(); }
+    void Test(QString pageName, std::string document, uint64_t asked);
+    // Pool threads only. Stops the page's test, under the handle of its start; for a page without
+    // one, and for an empty name, the last test of that kind, or what runs under the current
+    // handle. A test that was stopped since the question, with all others, is not stopped again.
+    SEachItemOperationResult StopTest(bool isNr, const QString &pageName, uint64_t asked);
+
+    // RF off, in two steps. On any thread, without waiting: calls off the starts that have not
+    // reached the target, and is next at the target. On a pool thread that waits for no other job:
+    // sends both stops under the current handle and under that of each test not stopped yet. The
+    // status and text are of the first stop that failed.
+    std::shared_ptr<CTurns::CPlace> BeginRfOff();
+    SEachItemOperationResult FinishRfOff(std::shared_ptr<CTurns::CPlace> place);
+
+    // Stops what runs, on the pool, and calls off the rest; never waits.
+    void StopRunningTests();
+    // A test runs, or may run after a start that failed at the target.
+    bool HasRunningTests() const { return m_runningTests.IsAny(); }
+
+    // Reads beside a test: a document in, the document with what was read out. Pool threads only;
+    // each blocks on the link. On another generation the document comes back as it was, and a
+    // result has status 2.
+    std::string GetPdValue(std::string document);
+    std::string GetDlFreqForPuschTx(QString pageName, std::string document);
+    std::string FetchMixRxReport(QString pageName, std::string document,
+                                 SEachItemOperationResult &result);
+    SEachItemOperationResult ResetMixRxCounter();
+    std::string ClearMixRxReport(std::string document);
+    std::string RssiGainCalculate(std::string document, SEachItemOperationResult &result);
+
+    // The record of the route that a packaged calibration document selects, between the item's
+    // memory and the document: Get answers with the document filled, Set stores what the page
+    // shows. Storing makes no record valid. On another generation Get answers with an empty text
+    // and Set does nothing. Any thread; they work on what is in memory and wait for no job but a
+    // flow of their own item, once the page has its document.
+    std::string GetAptCalibrationData(std::string document);
+    void SetAptCalibrationData(const std::string &document);
+    std::string GetPathLossCalibrationData(std::string document);
+    void SetPathLossCalibrationData(const std::string &document);
+
+    // Returns when the job that runs has ended. Pool threads only.
+    void WaitForTurn();
+
+    // Name of a page id or item id; ids are positions of their tables and are not checked.
+    QString GetPageName(int pageId) const;
+    QString GetCalItemName(int itemId) const;
+
+signals:
+    // status 0 means started: a continuous test goes on until a stop. resultModel is the document
+    // with results, of the pages that answer with one.
+    void Signal_TestDone(SEachItemOperationResult itemResult, std::string resultModel);
+    void Signal_TestStopDone(SEachItemOperationResult itemResult);
+    // The first test runs, or none does any more.
+    void Signal_TestsRun(bool isAny);
+
+protected:
+    friend CNrCore &GetCore();
+    CNrCore();
+
+    // Pool side of Test and TestStopStart.
+    void TestInternal(const QString &pageName, const std::string &document, uint64_t asked);
+    void TestStopInternal(bool isNr, uint64_t asked);
+
+    std::string GetDataModelV7(const QString &pageName);
+    std::string LoadDataModel(const QString &pageName, const SPageRow &page,
+                              const QString &resource);
+
+private:
+    struct SCalFlow;  // one of the four moves
+    // What storing and showing the records of an item takes of the capability.
+    struct SCalView
+    {
+        bool isKnown = false;
+        int generation = 0;
+        // Supported gains by power mode, of path loss; none when the read failed.
+        std::array<std::optional<SMMRfRxGainInfoV7>, 2> gains;
+    };
+
+    struct STestRun  // a test on its way
+    {
+        QString page;
+        uint64_t asked;
+        std::string answer;  // the document with results, of the page that answers with one
+    };
+
+    SRfSupportStatus DecideSupportStatus();
+    bool IsC2kModem() const;
+    // ErrorPage for a name that no page has.
+    EPageId PageId(const QString &name) const;
+    int RunTestStep(STestRun &run, QJsonObject document);
+    template <auto Build, auto Operation, auto Run, EStop Kind>
+    int RunCommand(STestRun &run, QJsonObject &document);
+    int RunRssiTest(STestRun &run, QJsonObject &document);
+    // Sends one stop; its text, if it failed.
+    uint32_t SendStop(const STargetStop &stop, QString &message);
+    void QueueStops();
+    void DropCaches();
+    // The document with what read has put into it, in its turn at the target; on another generation
+    // read is not called.
+    template <typename Read>
+    std::string FillDocument(const std::string &document, Read read);
+
+    void StartFlow(const SCalFlow &flow, const QStringList &items,
+                   std::shared_ptr<CCalIniFile> file);
+    void RunFlow(const SCalFlow &flow, const QStringList &items, std::shared_ptr<CCalIniFile> file);
+    void RunFlowItems(const SCalFlow &flow, const QStringList &items, CCalIniFile *file);
+    // Items without records in place of those of an earlier connection: what was read of one DUT is
+    // not for the next.
+    void RenewCalItems();
+    ICalItemByL1Operation *FindCalItem(const QString &name);
+    void TellRemarks(const QString &name);
+    // Of the item's page; the capability reads are cached.
+    std::unique_ptr<ICalPageLimits> PageLimits(const QString &name);
+    // Under m_targetLock.
+    void LookForCalItem(ECalItem item);
+    SCalView CalView(ECalItem item);
+    PortableCriticalSection &RecordLock(ECalItem item);
+    template <typename Record, typename Build, typename Walk>
+    void StorePathLoss(uint16_t route, const QJsonObject &object, Build build, Walk walk);
+    // The status of the move; its text is in m_errorMessage then.
+    int RunCalItem(const SCalFlow &flow, const QString &name, CCalIniFile *file);
+
+    CTurns m_targetLock;
+    // By item, taken behind m_targetLock or without it.
+    std::array<PortableCriticalSection, 2> m_recordLocks;
+    PortableCriticalSection m_viewLock;  // the innermost one
+    std::array<SCalView, 2> m_calViews;  // by item
+    CTargetCapability m_target;
+    QMap<QString, int> m_pageMap;     // page name to page id
+    QMap<QString, int> m_calItemMap;  // calibration item name to item id
+    CRunningTests m_runningTests{[this](bool isAny) { emit Signal_TestsRun(isAny); }};
+    std::atomic<bool> m_areStopsDue{false};  // a job is to stop what runs
+    std::atomic<bool> m_isDropDue{false};    // and then to drop the caches
+    CNrTestStop m_nrTestStop;
+    CNrPuschTxV7 m_puschTx;
+    CMultiRatSingleToneTxV7 m_singleToneTx;
+    CNrRsrpV7 m_rsrp;
+    CMultiRatContRxV7 m_contRx;
+    CMultiRatTestStopV7 m_testStop;
+    CMultiRatRssiV7 m_rssi;
+    std::unique_ptr<CMultiRatAptProfileV7> m_aptProfile;
+    std::unique_ptr<CMultiRatPathLossV7> m_pathLoss;
+    std::atomic<bool> m_areItemsStale{true};  // their records are of an earlier connection
+    CNrDataModelCapUpdater m_capUpdater;
+    std::atomic<bool> m_isUpdaterStale{true};  // its caches are of an earlier connection
+    CNrCoreCmdBuilder m_cmdBuilder;
+    CNrDataModelResponseBuilder m_responseBuilder;
+};
+
+CNrCore &GetCore();

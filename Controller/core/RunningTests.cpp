@@ -1,0 +1,86 @@
+#include "Controller/core/RunningTests.h"
+
+#include <algorithm>
+
+CRunningTests::CRunningTests(std::function<void(bool)> onChange) : m_onChange(std::move(onChange))
+{
+}
+
+uint64_t CRunningTests::Moment() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_callOffs;
+}
+
+bool CRunningTests::CallOff()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    ++m_callOffs;
+    return !m_tests.empty();
+}
+
+bool CRunningTests::IsCalledOff(uint64_t asked) const
+{
+    return asked != Moment();
+}
+
+bool CRunningTests::Begin(const SRunningTest &test, uint64_t asked)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (asked != m_callOffs)
+            return false;
+        m_tests.erase(std::remove_if(m_tests.begin(), m_tests.end(),
+                                     [&](const SRunningTest &other) {
+                                         return other.page == test.page && other.stop == test.stop;
+                                     }),
+                      m_tests.end());
+        m_tests.push_back(test);
+        if (m_tests.size() > 1)
+            return true;
+    }
+    m_onChange(true);
+    return true;
+}
+
+void CRunningTests::End(const STargetStop &stop)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        const auto left =
+            std::remove_if(m_tests.begin(), m_tests.end(),
+                           [&](const SRunningTest &test) { return test.stop == stop; });
+        if (left == m_tests.end())
+            return;
+        m_tests.erase(left, m_tests.end());
+        if (!m_tests.empty())
+            return;
+    }
+    m_onChange(false);
+}
+
+bool CRunningTests::IsAny() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return !m_tests.empty();
+}
+
+std::optional<uint32_t> CRunningTests::HandleOf(EStop kind, const QString &page) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto found = std::find_if(m_tests.rbegin(), m_tests.rend(), [&](const auto &test) {
+        return test.stop.kind == kind && (page.isEmpty() || test.page == page);
+    });
+    return found == m_tests.rend() ? std::nullopt : std::optional(found->stop.handle);
+}
+
+std::vector<STargetStop> CRunningTests::Stops() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    std::vector<STargetStop> stops;
+    for (const SRunningTest &test : m_tests) {
+        if (std::find(stops.begin(), stops.end(), test.stop) == stops.end())
+            stops.push_back(test.stop);
+    }
+    return stops;
+}

@@ -1,9 +1,0 @@
-#include "Operations/MultiRatContRxV7.h"
-
-#include "Operations/TargetLink.h"
-#include "Vond/VondCore.h"
-
-uint32_t CMultiRatContRxV7::RunContRx(const SMMContRxCmdV7 *command)
-{
-    return Finish(VOND_MMRf_ContRxV7_r(TargetHandle(), kTargetTimeoutMs, command));
-}

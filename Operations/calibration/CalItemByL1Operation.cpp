@@ -1,0 +1,127 @@
+#include "Operations/calibration/CalItemByL1Operation.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+#include "Operations/link/TargetLink.h"
+#include "Support/Log.h"
+#include "Vond/VondCore.h"
+
+ICalItemByL1Operation::ICalItemByL1Operation(ERadioKind kind, SWords words,
+                                             std::vector<SPart> parts)
+    : m_kind(kind), m_words(words), m_parts(std::move(parts))
+{
+}
+
+bool ICalItemByL1Operation::HasData() const
+{
+    return std::any_of(m_parts.begin(), m_parts.end(),
+                       [](const SPart &part) { return part.region->HasValid(); });
+}
+
+bool ICalItemByL1Operation::IsInFile(CCalIniFile &file) const
+{
+    const SMMRfRouteTableV7 *table = FindRouteTable();
+    std::vector<SCalFilePart> parts;
+    for (const SPart &part : m_parts)
+        parts.push_back({part.sections, &file});
+    return table && HasCalSections(parts, *table, m_kind);
+}
+
+uint32_t ICalItemByL1Operation::Load(const std::vector<CCalIniFile *> &files)
+{
+    return MoveFile(LoadCalSections, files);
+}
+
+uint32_t ICalItemByL1Operation::Save(const std::vector<CCalIniFile *> &files)
+{
+    const uint32_t code = MoveFile(SaveCalSections, files);
+    if (const SMMRfRouteTableV7 *table = FindRouteTable())
+        NotePassedOver(*table);
+    return code;
+}
+
+uint32_t ICalItemByL1Operation::MoveFile(FileMove move, const std::vector<CCalIniFile *> &files)
+{
+    BeginMove();
+    if (std::find(files.begin(), files.end(), nullptr) != files.end())
+        return Fail({kCalNoFile, QString::fromLatin1(m_words.noFile)});
+    const std::string chip = ChipName();
+    const SMMRfRouteTableV7 *table = RouteTable();
+    if (!table)
+        return kCalGeneralError;
+
+    std::vector<SCalFilePart> parts;
+    int routesInAll = 0;
+    for (size_t i = 0; i < m_parts.size(); ++i) {
+        parts.push_back({m_parts[i].sections, files[i]});
+        routesInAll += RouteRows(*table, m_parts[i].sections->Kind());
+    }
+    constexpr int kNoRound = 0;
+    CCalValueWatch watch(m_limits, m_remarks);
+    const SCalFileContext context{
+        *table,
+        m_target,
+        m_kind,
+        chip,
+        [&](int routesDone) { TellProgress(kNoRound, routesDone, routesInAll); },
+        watch};
+    const SCalFault fault = move(parts, context);
+    if (fault)
+        return Fail(fault);
+    TellProgress(kNoRound, routesInAll, routesInAll);
+    return kCalSuccess;
+}
+
+const SMMRfRouteTableV7 *ICalItemByL1Operation::FindRouteTable() const
+{
+    return m_kind == ERadioKind::Lte ? m_target.GetRouteTableLte() : m_target.GetRouteTableNr();
+}
+
+const SMMRfRouteTableV7 *ICalItemByL1Operation::RouteTable()
+{
+    const SMMRfRouteTableV7 *table = FindRouteTable();
+    if (!table)
+        m_errorMessage = QString::fromLatin1(kNoRouteInfo);
+    return table;
+}
+
+// As a file can hold it: without blanks at its ends.
+std::string ICalItemByL1Operation::ChipName() const
+{
+    const char *name = m_kind == ERadioKind::Lte ? VOND_ERf_GetChipIdName(m_target.GetRfChipIdLte())
+                                                 : VOND_NRf_GetChipIdName(m_target.GetRfChipIdNr());
+    return QString::fromUtf8(name).trimmed().toStdString();
+}
+
+uint32_t ICalItemByL1Operation::Fail(const SCalFault &fault)
+{
+    m_errorMessage = fault.text;
+    qCDebug(lcCalibration) << "calibration move failed," << fault.code << fault.text;
+    return fault.code;
+}
+
+void ICalItemByL1Operation::BeginMove()
+{
+    m_errorMessage.clear();
+    m_remarks = {};
+}
+
+void ICalItemByL1Operation::NotePassedOver(const SMMRfRouteTableV7 &table)
+{
+    for (const SPart &part : m_parts) {
+        const ECalRoute kind = part.region->Kind();
+        std::set<std::pair<int, int>> walked;
+        for (const SCalPlace &place : WalkRoutes(table, kind)) {
+            if (part.region->IsEdited(place) && walked.insert({place.route, place.region}).second)
+                m_remarks.leftOut.push_back({kind, place, ECalLeftOut::NeverFilled});
+        }
+    }
+}
+
+void ICalItemByL1Operation::TellProgress(int round, int routesDone, int routesInAll) const
+{
+    if (m_progress)
+        m_progress(round, routesDone, routesInAll);
+}

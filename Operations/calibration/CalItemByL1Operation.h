@@ -1,0 +1,122 @@
+// Base of the calibration items: data that is held in memory for every route and moves between the
+// target's flash, INI files and the pages.
+//
+// Every move answers with a code of CalResult.h and leaves its text, empty where the code says all:
+//     0    done
+//     1    there is no route table, or a record could not be sent
+//     2    nothing to move: no valid record on download, no data in flash on upload
+//     3    the closed library failed
+//     50, 51, 52, 53, 200  see CalSections.h
+//     203  the target answered with a failure status
+// Load and save throw the std::runtime_error of CCalIniFile when a file can't be read or written.
+//
+// A record is valid once it was read from flash or a file, and stays so; valid records alone are
+// written to either. An upload or a load replaces the records that came in whole, and no other one.
+// Nothing is rolled back: what a failed transfer has moved stays, in flash and in memory.
+//
+// What a move left out, and what of a file is not as it may look, is told in Remarks(); the code is
+// the same with and without.
+//
+// Transfers go in rounds, since one holds a limited number of blocks; a record is never split. All
+// moves block the calling thread, run one at a time under the core's lock, and retry nothing.
+//
+//   CMultiRatAptProfileV7 item(ERadioKind::Nr);
+//   item.SetProgress([](int round, int routesDone, int routesInAll) { ... });
+//   if (item.UploadFromFlash() != kCalSuccess)
+//       ... item.GetErrorMessage()
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <QStringList>
+
+#include "Operations/GeneralOperation.h"
+#include "Operations/calibration/CalRegion.h"
+#include "Operations/calibration/CalSections.h"
+#include "Operations/calibration/CalValueWatch.h"
+
+class ICalItemByL1Operation : public IGeneralOperation
+{
+public:
+    // Told on the thread of the move. round: the transfer under way, from 1 on; 0 while a file is
+    // read or written. routesDone: rows of the route tables that are behind; the last call of a
+    // good move has all of them.
+    using Progress = std::function<void(int round, int routesDone, int routesInAll)>;
+
+    virtual uint32_t UploadFromFlash() = 0;
+    virtual uint32_t DownloadToFlash() = 0;
+    virtual uint32_t LoadFromFile(CCalIniFile *file) = 0;
+    virtual uint32_t SaveToFile(CCalIniFile *file) = 0;
+
+    // What the item's page shows, for the remarks of the loads from now on; null: not known.
+    // Outlives them.
+    void SetPageLimits(ICalPageLimits *limits) { m_limits = limits; }
+    void SetProgress(Progress progress) { m_progress = std::move(progress); }
+    bool HasData() const;  // some record is valid
+    // Of the last move.
+    const SCalMoveRemarks &Remarks() const { return m_remarks; }
+    // Does a file hold a section of this item, of whatever RF chip? No text is left. Throws as load
+    // does; false without a route table.
+    bool IsInFile(CCalIniFile &file) const;
+
+protected:
+    // One kind of route of the item; both are the item's own and outlive it.
+    struct SPart
+    {
+        CCalRegion *region;
+        CCalSections *sections;
+    };
+    // What differs between the items.
+    struct SWords
+    {
+        const char *uploadRoute[2];                   // log line of a route, by part
+        const char *noBlockInfo;                      // text in front of the library's
+        const char *noFile;                           // text of a null file
+        QString (*verdict)(const SMMCalVerdictV7 &);  // text of a refused round
+    };
+
+    ICalItemByL1Operation(ERadioKind kind, SWords words, std::vector<SPart> parts);
+
+    uint32_t Upload();
+    uint32_t Download();
+    // A file for each part, in their order.
+    uint32_t Load(const std::vector<CCalIniFile *> &files);
+    uint32_t Save(const std::vector<CCalIniFile *> &files);
+
+private:
+    using FileMove = SCalFault (*)(const std::vector<SCalFilePart> &, const SCalFileContext &);
+    using SendRound = std::function<uint32_t()>;
+    using MoveRecord = std::function<uint32_t(CCalRounds &, int part, const SCalPlace &)>;
+
+    const SMMRfRouteTableV7 *FindRouteTable() const;
+    const SMMRfRouteTableV7 *RouteTable();  // a missing one is told in the text
+    std::string ChipName() const;
+    uint32_t Fail(const SCalFault &fault);
+    void BeginMove();
+    // Records that a user edited, but that are not valid.
+    void NotePassedOver(const SMMRfRouteTableV7 &table);
+    uint32_t MoveFile(FileMove move, const std::vector<CCalIniFile *> &files);
+
+    // Walks over the routes of all parts in rounds. The code of the round that failed; 2 when none
+    // went out.
+    uint32_t MoveRounds(const SMMRfRouteTableV7 &table, const char *startWords,
+                        const SendRound &send, const MoveRecord &move);
+    uint32_t AskRecord(CCalRounds &rounds, int part, const SCalPlace &place,
+                       const SMMCalBlkInfoCnfV7 &info, SMMGetCalDataReqV7 &request);
+    uint32_t ReceiveRound(SMMGetCalDataReqV7 &request);
+    uint32_t WriteRecord(CCalRounds &rounds, int part, const SCalPlace &place,
+                         SMMSetCalDataReqV7 &request, QStringList &refused);
+    uint32_t WriteRound(SMMSetCalDataReqV7 &request);
+    // The code of a round: the verdict counts before the result.
+    uint32_t FinishRound(const SMMCalVerdictV7 &verdict, int32_t result);
+    void TellProgress(int round, int routesDone, int routesInAll) const;
+
+    ERadioKind m_kind;
+    SWords m_words;
+    std::vector<SPart> m_parts;
+    Progress m_progress;
+    SCalMoveRemarks m_remarks;
+    ICalPageLimits *m_limits = nullptr;
+};

@@ -1,0 +1,64 @@
+// One kind of route as it passes to and from the target's flash: type 1, type 2 or TX, each with a
+// region of its own in the transfer records.
+//
+// This is what the transfers of an item see; CCalRegionOf fills it for a kind of route. A transfer
+// is one thread's; the records of the store belong to it while it runs.
+//
+//   for (const SCalPlace &place : WalkRoutes(table, region.Kind()))
+//       if (region.IsValid(place))
+//           ... region.Put(request, at, place, region.BlocksToWrite(place));
+#pragma once
+
+#include <vector>
+
+#include "Operations/calibration/CalRemarks.h"
+#include "Operations/calibration/CalRounds.h"
+#include "Operations/calibration/CalRoutes.h"
+#include "Vond/VondCalRecords.h"
+
+// What the block information tells of a record in flash.
+struct SFlashBlocks
+{
+    enum EKnown
+    {
+        eCounted,  // so many blocks; 0: there is none
+        eNotListed,
+        eTotalAlone,  // so many for all regions of the route, which they don't fill evenly
+    };
+
+    EKnown known = eNotListed;
+    int count = 0;
+};
+
+class CCalRegion
+{
+public:
+    virtual ~CCalRegion() = default;
+
+    virtual ECalRoute Kind() const = 0;
+    virtual int BlocksOfRound() const = 0;
+    virtual const char *Name() const = 0;  // "T1", "T2", "TX"
+
+    virtual bool IsValid(const SCalPlace &place) const = 0;
+    virtual bool HasValid() const = 0;
+    virtual bool IsEdited(const SCalPlace &place) const = 0;  // by a user, and not valid
+
+    // Download. The blocks that a record takes in a round: its own, at most 4. Trailing blocks
+    // without a frequency are left out where the record would not fit into a round with them.
+    virtual int BlocksToWrite(const SCalPlace &place) const = 0;
+    // Writes a record's entry and blocks to a place that has room for them.
+    virtual void Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at,
+                     const SCalPlace &place, int blocks) const = 0;
+
+    // Upload. Forgets what was asked for; records stay as they are until they come in.
+    virtual void BeginUpload() = 0;
+    virtual SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info,
+                                       const SCalPlace &place) const = 0;
+    // Writes a record's entry to a place that has room for it.
+    virtual void Ask(SMMGetCalDataReqV7 &request, int entry, const SCalPlace &place,
+                     int blocks) = 0;
+    // Takes over what came of the records that this round asked for. A record is replaced, and
+    // valid, with its last block; one that lacks a block stays as it was and is a remark. What was
+    // not asked for is logged and left out.
+    virtual void Take(const SMMGetCalDataCnfV7 &answer, std::vector<SCalLeftOut> &leftOut) = 0;
+};

@@ -1,0 +1,267 @@
+// CCalRegion for a kind of route, which tells its differences as types and static functions:
+//
+//   struct STxKind
+//   {
+//       using Record = SAptRouteBwRecord;
+//       using Block = SAptBlock;
+//       static constexpr ECalRoute kRoute = ECalRoute::Tx;
+//       static constexpr int kBlocksOfRound = VOND_CAL_TX_BLOCKS;   // entries, too
+//       static constexpr const char *kName = "TX";
+//       // Blocks that the flash holds; any number, as the target told it.
+//       static SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place);
+//       // Write entry number index, which becomes the last one.
+//       static void Ask(SMMGetCalDataReqV7 &request, int index, const SCalEntry &entry);
+//       static void List(SMMSetCalDataReqV7 &request, int index, const SCalEntry &entry);
+//       static Block *Blocks(SMMSetCalDataReqV7 &request);
+//       // The count is the target's; entries are read below kBlocksOfRound alone.
+//       static int EntryCount(const SMMGetCalDataCnfV7 &answer);
+//       // Field orders in which targets answer an entry, by their names in the log. With more than
+//       // one, each entry is read in the order in which it names what was asked for.
+//       static constexpr std::array<const char *, 1> kEntryOrders = {"count, route"};
+//       static SCalEntry Entry(const SMMGetCalDataCnfV7 &answer, int index, int order);
+//       static const Block *Blocks(const SMMGetCalDataCnfV7 &answer);
+//       // Block k of a record, 0 to 3: out of it, and back into it.
+//       static void Cut(const Record &record, int k, Block &block);
+//       static void Join(const Block &block, int k, Record &record);
+//   };
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <vector>
+
+#include "Operations/calibration/CalRegion.h"
+#include "Operations/calibration/CalStore.h"
+#include "Support/Log.h"
+
+struct SCalEntry
+{
+    uint16_t route = 0;
+    uint32_t bwKhz = 0;  // 0 on RX
+    int blocks = 0;
+};
+
+template <typename TKind>
+class CCalRegionOf : public CCalRegion
+{
+public:
+    using Record = typename TKind::Record;
+
+    explicit CCalRegionOf(CCalStore<Record> &store) : m_store(store) {}
+
+    ECalRoute Kind() const override { return TKind::kRoute; }
+    int BlocksOfRound() const override { return TKind::kBlocksOfRound; }
+    const char *Name() const override { return TKind::kName; }
+    bool IsValid(const SCalPlace &place) const override { return m_store.IsValid(place); }
+    bool HasValid() const override { return m_store.HasValid(); }
+    bool IsEdited(const SCalPlace &place) const override { return m_store.IsEdited(place); }
+
+    int BlocksToWrite(const SCalPlace &place) const override;
+    void Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at, const SCalPlace &place,
+             int blocks) const override;
+    void BeginUpload() override;
+    SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info,
+                               const SCalPlace &place) const override
+    {
+        return TKind::BlocksInFlash(info, place);
+    }
+    void Ask(SMMGetCalDataReqV7 &request, int entry, const SCalPlace &place, int blocks) override;
+    void Take(const SMMGetCalDataCnfV7 &answer, std::vector<SCalLeftOut> &leftOut) override;
+
+private:
+    static constexpr bool kHasOrders = TKind::kEntryOrders.size() > 1;
+    static constexpr int kNoOrder = -1;
+
+    // A record that was asked for in this round.
+    struct SAsked
+    {
+        SCalPlace place;
+        int blocks = 0;
+        int read = 0;                      // the index of its next block
+        std::unique_ptr<Record> incoming;  // what has come of it
+    };
+
+    SAsked *FindAsked(const SCalEntry &entry);
+    SAsked *AskedOf(const SCalEntry &entry);
+    bool NamesAsked(const SMMGetCalDataCnfV7 &answer, int index, int order);
+    void FindFirstOrder(const SMMGetCalDataCnfV7 &answer, int entries);
+    SCalEntry EntryInItsOrder(const SMMGetCalDataCnfV7 &answer, int index);
+    void TakeEntries(const SMMGetCalDataCnfV7 &answer);
+    void TakeBlock(SAsked &asked, const typename TKind::Block &block);
+
+    CCalStore<Record> &m_store;
+    std::vector<SAsked> m_asked;
+    int m_order = kNoOrder;  // of the entry before
+    std::array<bool, TKind::kEntryOrders.size()> m_isLogged{};
+};
+
+template <typename TKind>
+int CCalRegionOf<TKind>::BlocksToWrite(const SCalPlace &place) const
+{
+    const Record &record = *m_store.Find(place.route, place.region);
+    int blocks = static_cast<int>(std::min<uint32_t>(record.blockCount, VOND_CAL_MAX_BLOCKS));
+    if (blocks <= TKind::kBlocksOfRound)
+        return blocks;
+    const auto isEmpty = [&record](int block) {
+        const uint32_t *first = record.freq + block * VOND_CAL_BLOCK_SUBBANDS;
+        return std::all_of(first, first + VOND_CAL_BLOCK_SUBBANDS,
+                           [](uint32_t freq) { return freq == 0; });
+    };
+    while (blocks > 1 && isEmpty(blocks - 1))
+        --blocks;
+    return blocks;
+}
+
+template <typename TKind>
+void CCalRegionOf<TKind>::Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at,
+                              const SCalPlace &place, int blocks) const
+{
+    const Record &record = *m_store.Find(place.route, place.region);
+    qCDebug(lcCalibration).noquote().nospace()
+        << "[" << TKind::kName << "][request] data info: route = " << place.route
+        << ", blknum = " << blocks;
+    TKind::List(request, at.entry, {place.route, place.bwKhz, blocks});
+    for (int k = 0; k < blocks; ++k) {
+        qCDebug(lcCalibration).noquote().nospace()
+            << "         [request] current blk data idx = " << k << ", band = " << record.band;
+        TKind::Cut(record, k, TKind::Blocks(request)[at.block + k]);
+    }
+}
+
+template <typename TKind>
+void CCalRegionOf<TKind>::BeginUpload()
+{
+    m_asked.clear();
+    m_order = kNoOrder;
+    m_isLogged = {};
+}
+
+template <typename TKind>
+void CCalRegionOf<TKind>::Ask(SMMGetCalDataReqV7 &request, int entry, const SCalPlace &place,
+                              int blocks)
+{
+    TKind::Ask(request, entry, {place.route, place.bwKhz, blocks});
+    m_asked.push_back({place, blocks, 0, nullptr});
+}
+
+template <typename TKind>
+void CCalRegionOf<TKind>::Take(const SMMGetCalDataCnfV7 &answer, std::vector<SCalLeftOut> &leftOut)
+{
+    TakeEntries(answer);
+    for (const SAsked &asked : m_asked) {
+        if (asked.read < asked.blocks)
+            leftOut.push_back(
+                {TKind::kRoute, asked.place, ECalLeftOut::AnswerCut, asked.read, asked.blocks});
+    }
+    m_asked.clear();
+}
+
+template <typename TKind>
+void CCalRegionOf<TKind>::TakeEntries(const SMMGetCalDataCnfV7 &answer)
+{
+    const int entries = std::min(TKind::EntryCount(answer), TKind::kBlocksOfRound);
+    if (entries < TKind::EntryCount(answer))
+        qCCritical(lcCalibration) << TKind::kName
+                                  << "answer has too many entries:" << TKind::EntryCount(answer);
+    FindFirstOrder(answer, entries);
+    int next = 0;  // block of the answer
+    for (int i = 0; i < entries; ++i) {
+        const SCalEntry entry = EntryInItsOrder(answer, i);
+        qCDebug(lcCalibration).noquote().nospace()
+            << "[" << TKind::kName << "][confirm] data info: route = " << entry.route
+            << ", blkNum = " << entry.blocks;
+        if (entry.blocks > TKind::kBlocksOfRound - next) {
+            qCCritical(lcCalibration) << TKind::kName << "answer has too many blocks";
+            return;
+        }
+        SAsked *asked = AskedOf(entry);
+        for (int k = 0; asked && k < entry.blocks; ++k)
+            TakeBlock(*asked, TKind::Blocks(answer)[next + k]);
+        next += entry.blocks;
+    }
+}
+
+template <typename TKind>
+typename CCalRegionOf<TKind>::SAsked *CCalRegionOf<TKind>::FindAsked(const SCalEntry &entry)
+{
+    const auto asked = std::find_if(m_asked.begin(), m_asked.end(), [&entry](const SAsked &one) {
+        return one.place.route == entry.route && one.place.bwKhz == entry.bwKhz;
+    });
+    // In the wrong order a bandwidth looks like a count.
+    const bool isTaken = asked != m_asked.end() && (!kHasOrders || entry.blocks <= asked->blocks);
+    return isTaken ? &*asked : nullptr;
+}
+
+template <typename TKind>
+typename CCalRegionOf<TKind>::SAsked *CCalRegionOf<TKind>::AskedOf(const SCalEntry &entry)
+{
+    SAsked *const asked = FindAsked(entry);
+    if (!asked)
+        qCDebug(lcCalibration) << "Can not get the bwIdx for route" << entry.route << "bw"
+                               << entry.bwKhz;
+    return asked;
+}
+
+template <typename TKind>
+bool CCalRegionOf<TKind>::NamesAsked(const SMMGetCalDataCnfV7 &answer, int index, int order)
+{
+    return FindAsked(TKind::Entry(answer, index, order)) != nullptr;
+}
+
+// The first entry has none before it: it goes by the first one that leaves no doubt.
+template <typename TKind>
+void CCalRegionOf<TKind>::FindFirstOrder(const SMMGetCalDataCnfV7 &answer, int entries)
+{
+    if (m_order != kNoOrder)
+        return;
+    m_order = 0;
+    for (int i = 0; kHasOrders && i < entries; ++i) {
+        const bool first = NamesAsked(answer, i, 0);
+        if (first == NamesAsked(answer, i, 1))
+            continue;
+        m_order = first ? 0 : 1;
+        return;
+    }
+}
+
+template <typename TKind>
+SCalEntry CCalRegionOf<TKind>::EntryInItsOrder(const SMMGetCalDataCnfV7 &answer, int index)
+{
+    if constexpr (kHasOrders) {
+        const bool first = NamesAsked(answer, index, 0);
+        const bool second = NamesAsked(answer, index, 1);
+        if (first != second)
+            m_order = first ? 0 : 1;
+        if ((first || second) && !m_isLogged[m_order]) {
+            m_isLogged[m_order] = true;
+            qCDebug(lcCalibration).noquote()
+                << TKind::kName << "answer entries are" << TKind::kEntryOrders[m_order];
+        }
+    }
+    return TKind::Entry(answer, index, m_order);
+}
+
+template <typename TKind>
+void CCalRegionOf<TKind>::TakeBlock(SAsked &asked, const typename TKind::Block &block)
+{
+    if (asked.read == asked.blocks) {
+        qCCritical(lcCalibration) << TKind::kName << "answer has a block too many for route"
+                                  << asked.place.route;
+        return;
+    }
+    qCDebug(lcCalibration).noquote().nospace()
+        << "         [request] current blk data idx = " << asked.read;
+    qCDebug(lcCalibration).noquote().nospace() << "         [confirm]blk_data_idx = " << asked.read;
+    if (!asked.incoming) {
+        asked.incoming = std::make_unique<Record>();
+        asked.incoming->route = asked.place.route;
+    }
+    TKind::Join(block, asked.read, *asked.incoming);
+    asked.incoming->blockCount = static_cast<uint32_t>(++asked.read);
+    if (asked.read == asked.blocks) {
+        m_store.At(asked.place) = *asked.incoming;
+        m_store.SetValid(asked.place);
+        qCDebug(lcCalibration) << "UploadFromFlashInternal reset currblkIdx ";
+    }
+}

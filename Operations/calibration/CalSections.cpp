@@ -1,0 +1,173 @@
+#include "Operations/calibration/CalSections.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <tuple>
+
+#include "Operations/calibration/CalKeys.h"
+#include "Support/CalIniFile.h"
+#include "Support/Log.h"
+
+namespace {
+
+constexpr char kChipKey[] = "RF Chip ID";
+
+// A record of the walk, with its sections.
+struct SStop
+{
+    const SCalFilePart *part = nullptr;
+    SCalPlace place;
+    std::vector<std::string> sections;
+    std::vector<bool> present;  // of each section, in the file
+    int routesDone = 0;         // behind this record
+};
+
+std::vector<SStop> Walk(const std::vector<SCalFilePart> &parts, const SMMRfRouteTableV7 &table,
+                        ERadioKind kind)
+{
+    std::vector<SStop> stops;
+    int rowsBefore = 0;
+    for (const SCalFilePart &part : parts) {
+        const ECalRoute route = part.sections->Kind();
+        for (const SCalPlace &place : WalkRoutes(table, route)) {
+            stops.push_back({&part,
+                             place,
+                             part.sections->SectionsOf(kind, place),
+                             {},
+                             rowsBefore + place.row + 1});
+        }
+        rowsBefore += RouteRows(table, route);
+    }
+    return stops;
+}
+
+// Leaves the records that have a section in their file.
+void KeepPresent(std::vector<SStop> &stops)
+{
+    for (SStop &stop : stops) {
+        for (const std::string &section : stop.sections)
+            stop.present.push_back(stop.part->file->HasSection(section));
+    }
+    const auto isAbsent = [](const SStop &stop) {
+        return std::find(stop.present.begin(), stop.present.end(), true) == stop.present.end();
+    };
+    stops.erase(std::remove_if(stops.begin(), stops.end(), isAbsent), stops.end());
+}
+
+// A route that stands on several bands has one record, which carries the first of them that the
+// file tells of.
+void GiveSharedRecordsOneBand(std::vector<SStop> &stops)
+{
+    std::map<std::tuple<const SCalFilePart *, uint16_t, int>, uint16_t> bands;
+    for (SStop &stop : stops) {
+        const auto key = std::make_tuple(stop.part, stop.place.route, stop.place.region);
+        stop.place.band = bands.try_emplace(key, stop.place.band).first->second;
+    }
+}
+
+bool IsOfChip(const SStop &stop, const std::string &chip)
+{
+    for (size_t i = 0; i < stop.sections.size(); ++i) {
+        if (stop.present[i] &&
+            stop.part->file->ReadString(stop.sections[i], kChipKey, chip) != chip)
+            return false;
+    }
+    return true;
+}
+
+CalFileSections SectionsInFile(const SStop &stop)
+{
+    CalFileSections sections(stop.sections.size());
+    for (size_t i = 0; i < sections.size(); ++i) {
+        if (stop.present[i])
+            sections[i] = stop.part->file->ReadSection(stop.sections[i]);
+    }
+    return sections;
+}
+
+// Readies each kind of route that the walk still holds.
+SCalFault Begin(const std::vector<SCalFilePart> &parts, const std::vector<SStop> &stops,
+                const SCalFileContext &context, ECalAccess access)
+{
+    for (const SCalFilePart &part : parts) {
+        const bool isUsed = std::any_of(stops.begin(), stops.end(),
+                                        [&](const SStop &stop) { return stop.part == &part; });
+        if (!isUsed)
+            continue;
+        if (SCalFault fault = part.sections->Begin(context.target, context.kind, access))
+            return fault;
+    }
+    return {};
+}
+
+void LogStop(const char *verb, const SStop &stop)
+{
+    qCDebug(lcCalibration).noquote().nospace()
+        << verb << stop.part->sections->Name()
+        << "file: " << QString::fromStdString(stop.sections.front())
+        << ", route = " << stop.place.route;
+}
+
+}  // namespace
+
+bool HasCalSections(const std::vector<SCalFilePart> &parts, const SMMRfRouteTableV7 &table,
+                    ERadioKind kind)
+{
+    std::vector<SStop> stops = Walk(parts, table, kind);
+    KeepPresent(stops);
+    return !stops.empty();
+}
+
+SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFileContext &context)
+{
+    std::vector<SStop> stops = Walk(parts, context.table, context.kind);
+    KeepPresent(stops);
+    GiveSharedRecordsOneBand(stops);
+    if (stops.empty())
+        return {kCalNoData, {}};
+    for (const SStop &stop : stops) {
+        if (!IsOfChip(stop, context.chip))
+            return {kCalChipMismatch, {}};
+    }
+    if (SCalFault fault = Begin(parts, stops, context, ECalAccess::Read))
+        return fault;
+    for (const SStop &stop : stops) {
+        LogStop("Read ", stop);
+        if (SCalFault fault =
+                stop.part->sections->Read(stop.place, SectionsInFile(stop), context.watch))
+            return fault;
+        context.onDone(stop.routesDone);
+    }
+    return {};
+}
+
+SCalFault SaveCalSections(const std::vector<SCalFilePart> &parts, const SCalFileContext &context)
+{
+    std::vector<SStop> stops = Walk(parts, context.table, context.kind);
+    const auto isInvalid = [](const SStop &stop) {
+        return !stop.part->sections->IsValid(stop.place);
+    };
+    stops.erase(std::remove_if(stops.begin(), stops.end(), isInvalid), stops.end());
+    // A batch that is left half written saves, too: all that can fail comes before the first write.
+    if (SCalFault fault = Begin(parts, stops, context, ECalAccess::Write))
+        return fault;
+
+    std::vector<std::unique_ptr<CCalIniFile::CBatch>> batches;
+    batches.reserve(parts.size());
+    for (const SCalFilePart &part : parts)
+        batches.push_back(std::make_unique<CCalIniFile::CBatch>(*part.file));
+    for (const SStop &stop : stops) {
+        LogStop("Write ", stop);
+        for (size_t i = 0; i < stop.sections.size(); ++i) {
+            CIniSection section(stop.sections[i]);
+            section.Key(kChipKey) += context.chip;
+            stop.part->sections->Write(section, stop.place, static_cast<int>(i));
+            stop.part->file->WriteSection(std::move(section));
+        }
+        context.onDone(stop.routesDone);
+    }
+    for (const auto &batch : batches)
+        batch->Commit();
+    return {};
+}

@@ -1,0 +1,78 @@
+#include "Operations/calibration/CalValueWatch.h"
+
+#include <algorithm>
+
+namespace {
+
+// Band and route, which a record has of its section's name and not of the values in it.
+constexpr ptrdiff_t kHead = 4;
+
+std::string TextOf(ECalValue kind, int64_t value)
+{
+    std::string text;
+    constexpr bool kIsLone = false;
+    AppendCalValue(text, kind, value, kIsLone);
+    return text;
+}
+
+}  // namespace
+
+void CCalValueWatch::BeginRecord(ECalRoute kind, const SCalPlace &place, const void *record)
+{
+    m_kind = kind;
+    m_place = place;
+    m_record = static_cast<const char *>(record);
+    m_count = 0;
+    m_seen.clear();
+}
+
+void CCalValueWatch::BeginKey(const std::string &section, std::string_view key)
+{
+    m_section = &section;
+    m_key = key;
+}
+
+void CCalValueWatch::See(CCalCell cell, std::string_view text, ECalValue kind, int64_t value,
+                         bool isNumber)
+{
+    const ptrdiff_t offset = static_cast<const char *>(cell.Address()) - m_record;
+    if (offset < kHead)
+        return;
+    const SCalShown *shown =
+        m_limits ? m_limits->Of(m_kind, m_place, static_cast<size_t>(offset)) : nullptr;
+    const bool isShown = !shown || (shown->isZeroFree && value == 0) ||
+                         (value >= shown->least && value <= shown->most);
+    if (isNumber && isShown)
+        return;
+    ++m_count;
+    if (m_remarks.oddValues.size() + m_seen.size() >= SCalMoveRemarks::kOddValuesKept)
+        return;
+    m_seen.push_back({{*m_section, std::string(m_key), std::string(text), {}, {}, shown != nullptr},
+                      cell,
+                      kind,
+                      shown});
+}
+
+void CCalValueWatch::EndRecord()
+{
+    m_remarks.oddValueCount += m_count;
+    for (SSeen &seen : m_seen) {
+        const int64_t value = seen.cell.Get();
+        seen.value.memory = TextOf(seen.kind, value);
+        seen.value.page = PageText(seen, value);
+        m_remarks.oddValues.push_back(std::move(seen.value));
+    }
+    m_count = 0;
+    m_seen.clear();
+}
+
+std::string CCalValueWatch::PageText(const SSeen &seen, int64_t value)
+{
+    if (!seen.shown)
+        return {};
+    const SCalShown &shown = *seen.shown;
+    if (shown.isList && (value < shown.least || value > shown.most))
+        return {};
+    const int64_t held = std::clamp(value, shown.least, shown.most);
+    return TextOf(seen.kind, held / shown.unit * shown.unit);
+}

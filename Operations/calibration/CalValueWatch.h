@@ -1,0 +1,76 @@
+// Watches the values of a file as a load reads them: which are no numbers, and which the page can't
+// show.
+//
+// A value is odd when its text is no number, or its number is beyond what the page's editor of the
+// field shows. The record takes it as it would without this. What the pages show is the core's to
+// know. Values of a record count once the record is taken over. One thread, the worker's.
+//
+//   CCalValueWatch watch(limits, remarks);
+//   watch.BeginRecord(ECalRoute::Tx, place, &record);
+//   watch.BeginKey(section, "Temperature Index");
+//   CCalCells(record.normalTempIndex).Read(text, ECalValue::Number, &watch);
+//   watch.EndRecord();
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "Operations/calibration/CalCells.h"
+#include "Operations/calibration/CalRemarks.h"
+
+// What the page's editor of a field shows, in the units of the record.
+struct SCalShown
+{
+    int64_t least;
+    int64_t most;
+    bool isList = false;      // shows nothing beyond, where others stop at their limits
+    int64_t unit = 1;         // shows whole multiples alone
+    bool isZeroFree = false;  // 0 stands for an unused place
+};
+
+class ICalPageLimits
+{
+public:
+    virtual ~ICalPageLimits() = default;
+    // Of the field that lies so many bytes behind the start of a record; null: not on the page.
+    virtual const SCalShown *Of(ECalRoute kind, const SCalPlace &place, size_t offset) = 0;
+};
+
+class CCalValueWatch
+{
+public:
+    // limits: null where none are known.
+    CCalValueWatch(ICalPageLimits *limits, SCalMoveRemarks &remarks)
+        : m_limits(limits), m_remarks(remarks)
+    {
+    }
+
+    void BeginRecord(ECalRoute kind, const SCalPlace &place, const void *record);
+    void BeginKey(const std::string &section, std::string_view key);
+    // value: before it is held to the range of its field.
+    void See(CCalCell cell, std::string_view text, ECalValue kind, int64_t value, bool isNumber);
+    // The record is complete and about to be taken over.
+    void EndRecord();
+
+private:
+    struct SSeen
+    {
+        SCalOddValue value;
+        CCalCell cell;
+        ECalValue kind;
+        const SCalShown *shown;
+    };
+
+    static std::string PageText(const SSeen &seen, int64_t value);
+
+    ICalPageLimits *m_limits;
+    SCalMoveRemarks &m_remarks;
+    ECalRoute m_kind = ECalRoute::Tx;
+    SCalPlace m_place;
+    const char *m_record = nullptr;
+    const std::string *m_section = nullptr;
+    std::string_view m_key;
+    int m_count = 0;  // of the record
+    std::vector<SSeen> m_seen;
+};

@@ -1,0 +1,38 @@
+// RX path loss records in INI files: two sections for each route, one of the main path and one of
+// the diversity path.
+//
+// Both hold the frequencies and the temperature offset; where they differ, diversity counts, and
+// where one lacks a key, the other's stands. The gain keys follow the target's capability. A
+// section that lacks the key of a supported mode is not complete; losses that no key stands for
+// stay as they were in memory. Contract: CCalSections.
+//
+//   CPathLossSections<SMMType1PathlossByRouteV7> sections(store);
+#pragma once
+
+#include "Operations/calibration/CalRecords.h"
+#include "Operations/calibration/CalSections.h"
+#include "Operations/calibration/CalStore.h"
+#include "Operations/calibration/PathLossGains.h"
+
+template <typename Record>
+class CPathLossSections : public CCalSections
+{
+public:
+    explicit CPathLossSections(CCalStore<Record> &store) : m_store(store) {}
+
+    ECalRoute Kind() const override;
+    const char *Name() const override;
+    std::vector<std::string> SectionsOf(ERadioKind kind, const SCalPlace &place) const override;
+    bool IsValid(const SCalPlace &place) const override { return m_store.IsValid(place); }
+    SCalFault Begin(const CTargetCapability &target, ERadioKind kind, ECalAccess access) override;
+    SCalFault Read(const SCalPlace &place, const CalFileSections &sections,
+                   CCalValueWatch &watch) override;
+    void Write(CIniSection &section, const SCalPlace &place, int index) override;
+
+private:
+    CCalStore<Record> &m_store;
+    std::vector<SGainKey> m_gainKeys;
+};
+
+extern template class CPathLossSections<SMMType1PathlossByRouteV7>;
+extern template class CPathLossSections<SMMType2PathlossByRouteV7>;

@@ -1,0 +1,122 @@
+#include "Simulator/door/Journal.h"
+
+#include "Simulator/door/Results.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <utility>
+
+namespace {
+
+constexpr std::size_t MOST_BYTES = 64 * 1024 * 1024;
+
+std::size_t BytesOf(const SJournalEntry &entry)
+{
+    return sizeof(entry) + entry.request.size() + entry.answer.size();
+}
+
+void AppendHex(std::string &line, const std::vector<uint8_t> &bytes)
+{
+    static constexpr char DIGITS[] = "0123456789abcdef";
+    for (const uint8_t byte : bytes) {
+        line += DIGITS[byte >> 4];
+        line += DIGITS[byte & 15];
+    }
+}
+
+}  // namespace
+
+CJournal::CJournal(const std::string &path)
+{
+    if (path.empty())
+        return;
+    m_file.open(path, std::ios::trunc);
+    if (!m_file)
+        std::fprintf(stderr, "VondSim: journal %s cannot be written\n", path.c_str());
+}
+
+void CJournal::Append(SJournalEntry entry)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_file.is_open())
+        WriteLine(entry);
+    m_bytes += BytesOf(entry);
+    m_entries.push_back(std::move(entry));
+    while (m_bytes > MOST_BYTES) {
+        m_bytes -= BytesOf(m_entries.front());
+        m_entries.pop_front();
+        ++m_gone;
+    }
+}
+
+void CJournal::Clear()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_entries.clear();
+    m_gone = 0;
+    m_bytes = 0;
+}
+
+uint32_t CJournal::Count() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_gone + static_cast<uint32_t>(m_entries.size());
+}
+
+const SJournalEntry *CJournal::Find(uint32_t index) const
+{
+    const uint32_t place = index - m_gone;
+    return index >= m_gone && place < m_entries.size() ? &m_entries[place] : nullptr;
+}
+
+bool CJournal::Get(uint32_t index, SVondSimCall &call) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const SJournalEntry *const entry = Find(index);
+    if (entry == nullptr)
+        return false;
+    call = {};
+    entry->function->name.copy(call.function, sizeof(call.function) - 1);
+    call.handle = entry->handle;
+    call.timeoutMs = entry->timeoutMs;
+    call.result = entry->result;
+    call.status = entry->status;
+    call.durationNs = entry->durationNs;
+    call.requestSize = static_cast<uint32_t>(entry->request.size());
+    call.answerSize = static_cast<uint32_t>(entry->answer.size());
+    return true;
+}
+
+uint32_t CJournal::Copy(uint32_t index, std::vector<uint8_t> SJournalEntry::*part, void *bytes,
+                        uint32_t size) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const SJournalEntry *const entry = Find(index);
+    if (entry == nullptr)
+        return 0;
+    const std::vector<uint8_t> &source = entry->*part;
+    const std::size_t count = std::min<std::size_t>(source.size(), size);
+    if (bytes != nullptr && count > 0)
+        std::memcpy(bytes, source.data(), count);
+    return static_cast<uint32_t>(source.size());
+}
+
+void CJournal::WriteLine(const SJournalEntry &entry)
+{
+    // Function names and result texts are this library's own and need no escapes.
+    std::string line = "{\"index\":" + std::to_string(m_lines++) + ",\"function\":\"";
+    line += entry.function->name;
+    line += "\",\"handle\":" + std::to_string(entry.handle);
+    line += ",\"timeout\":" + std::to_string(entry.timeoutMs);
+    line += ",\"request\":\"";
+    AppendHex(line, entry.request);
+    line += "\",\"answer\":\"";
+    AppendHex(line, entry.answer);
+    line += "\",\"result\":" + std::to_string(entry.result);
+    line += ",\"text\":\"";
+    line += ResultText(entry.result);
+    line += "\",\"status\":" + std::to_string(entry.status);
+    line += ",\"durationNs\":" + std::to_string(entry.durationNs) + "}\n";
+    m_file << line << std::flush;
+}

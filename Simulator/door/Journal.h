@@ -1,0 +1,60 @@
+// The journal: every call in the order in which the calls ended, in memory and, when
+// VOND_SIM_JOURNAL names a file, as one JSON line each. All functions may be called from any
+// thread.
+//
+// The file is emptied when the journal opens and flushed with each line. Its keys are told in
+// Simulator/README.md. Clearing the journal leaves the file as it is. Memory is bounded, so that a
+// run may last for days: beyond 64 MiB the oldest calls go, while the numbers of the others stay.
+// The file keeps everything.
+#pragma once
+
+#include "Simulator/VondSim.h"
+#include "Simulator/door/Functions.h"
+
+#include <cstdint>
+#include <deque>
+#include <fstream>
+#include <mutex>
+#include <string>
+#include <vector>
+
+struct SJournalEntry
+{
+    const SFunction *function = nullptr;
+    uint32_t handle = 0;
+    uint32_t timeoutMs = 0;
+    int32_t result = 0;
+    uint32_t status = 0;
+    uint64_t durationNs = 0;
+    std::vector<uint8_t> request;
+    std::vector<uint8_t> answer;
+};
+
+class CJournal
+{
+public:
+    // An empty path: no file. A file that cannot be written costs one line on stderr.
+    explicit CJournal(const std::string &path);
+
+    void Append(SJournalEntry entry);
+    void Clear();
+    // Calls since the last clear, those that have gone too.
+    uint32_t Count() const;
+    // False behind the last entry, and for one that has gone.
+    bool Get(uint32_t index, SVondSimCall &call) const;
+    // Copies at most size bytes of the entry's request or answer; returns the full length.
+    uint32_t Copy(uint32_t index, std::vector<uint8_t> SJournalEntry::*part, void *bytes,
+                  uint32_t size) const;
+
+private:
+    void WriteLine(const SJournalEntry &entry);
+    // Null where Get is false.
+    const SJournalEntry *Find(uint32_t index) const;
+
+    mutable std::mutex m_mutex;
+    std::deque<SJournalEntry> m_entries;
+    uint32_t m_gone = 0;      // entries dropped from the front
+    std::size_t m_bytes = 0;  // of the entries in memory
+    std::ofstream m_file;
+    uint64_t m_lines = 0;
+};

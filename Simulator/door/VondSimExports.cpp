@@ -1,0 +1,133 @@
+// The simulated DUT's own C interface.
+
+#include "Simulator/VondSim.h"
+
+#include "Simulator/door/Simulator.h"
+#include "Simulator/profile/BuiltinProfiles.h"
+
+#include <cstdio>
+#include <exception>
+#include <string>
+
+namespace {
+
+// Runs a job that may throw: 0, or -1 with one line on stderr.
+template <class Job>
+int32_t Guarded(const char *consequence, const Job &job)
+{
+    try {
+        job();
+        return 0;
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "VondSim: %s%s\n", error.what(), consequence);
+    }
+    return -1;
+}
+
+constexpr char UNPLUGGED[] = "; the DUT is unplugged";
+
+std::string TextOf(const char *text)
+{
+    return text != nullptr ? text : "";
+}
+
+const SFunction *Known(const char *function)
+{
+    const SFunction *row = FindFunction(TextOf(function));
+    if (row == nullptr)
+        std::fprintf(stderr, "VondSim: \"%s\" is an unknown function\n", TextOf(function).c_str());
+    return row;
+}
+
+}  // namespace
+
+#pragma GCC visibility push(default)
+extern "C" {
+
+int32_t VondSim_SetProfile(const char *nameOrPath)
+{
+    return Guarded(UNPLUGGED, [&] { CSimulator::Instance().SetProfile(TextOf(nameOrPath)); });
+}
+
+int32_t VondSim_SetProfileText(const char *json)
+{
+    return Guarded(UNPLUGGED, [&] { CSimulator::Instance().SetProfileText(TextOf(json)); });
+}
+
+const char *VondSim_ProfileName(uint32_t index)
+{
+    const SBuiltinProfile *profile = BuiltinProfile(index);
+    return profile != nullptr ? profile->name : nullptr;
+}
+
+const char *VondSim_ProfileText(void)
+{
+    return CSimulator::Instance().ProfileText();
+}
+
+void VondSim_Reset(void)
+{
+    CSimulator::Instance().Reset();
+}
+
+int32_t VondSim_AddFault(const char *json)
+{
+    return Guarded("", [&] { CSimulator::Instance().AddFault(TextOf(json)); });
+}
+
+void VondSim_ClearFaults(void)
+{
+    CSimulator::Instance().ClearFaults();
+}
+
+void VondSim_Hold(const char *function)
+{
+    if (const SFunction *row = Known(function))
+        CSimulator::Instance().Gates().Hold(row->id);
+}
+
+void VondSim_Release(const char *function)
+{
+    if (const SFunction *row = Known(function))
+        CSimulator::Instance().Gates().Release(row->id);
+}
+
+int32_t VondSim_WaitUntilHeld(const char *function, uint32_t timeoutMs)
+{
+    const SFunction *row = Known(function);
+    const std::chrono::milliseconds timeout(timeoutMs);
+    return row != nullptr && CSimulator::Instance().Gates().WaitUntilHeld(row->id, timeout) ? 1 : 0;
+}
+
+const char *VondSim_RunningTest(void)
+{
+    return CSimulator::Instance().RunningTest();
+}
+
+uint32_t VondSim_CallCount(void)
+{
+    return CSimulator::Instance().Journal().Count();
+}
+
+int32_t VondSim_GetCall(uint32_t index, SVondSimCall *call)
+{
+    return call != nullptr && CSimulator::Instance().Journal().Get(index, *call) ? 0 : -1;
+}
+
+uint32_t VondSim_GetRequest(uint32_t index, void *bytes, uint32_t size)
+{
+    return CSimulator::Instance().Journal().Copy(index, &SJournalEntry::request, bytes, size);
+}
+
+uint32_t VondSim_GetAnswer(uint32_t index, void *bytes, uint32_t size)
+{
+    return CSimulator::Instance().Journal().Copy(index, &SJournalEntry::answer, bytes, size);
+}
+
+void VondSim_ClearJournal(void)
+{
+    CSimulator::Instance().Journal().Clear();
+}
+
+}  // extern "C"
+#pragma GCC visibility pop

@@ -1,0 +1,87 @@
+// The three kinds of calibration data, each known by its block: type 1 and type 2 path loss, APT.
+//
+// What differs between the kinds stands here; what works on a record of any kind is a template over
+// the block. A record is the blocks of one route, and of one bandwidth region for APT. The wire
+// names a record by route and bandwidth alone, so a route that stands on several bands has one
+// record; its blocks carry any one of its bands.
+//
+//   for (const SCalPlace &place : CalPlaces<SAptBlock>(profile))
+//       if (place.key == key) ...
+#pragma once
+
+#include "Simulator/profile/Profile.h"
+#include "Vond/VondCalRecords.h"
+
+#include <string>
+#include <vector>
+
+struct SCalKey
+{
+    uint16_t route = 0;
+    uint32_t bandwidth = 0;  // upper bound of the region, kHz; 0 for the path loss kinds
+
+    bool operator==(const SCalKey &other) const
+    {
+        return route == other.route && bandwidth == other.bandwidth;
+    }
+    bool operator<(const SCalKey &other) const
+    {
+        return route != other.route ? route < other.route : bandwidth < other.bandwidth;
+    }
+};
+
+// A row of the route tables, and of its regions for APT, as it stands on one band.
+struct SCalPlace
+{
+    SCalKey key;
+    uint16_t band = 0;
+    int region = 0;      // index in the route's list, 0 for the path loss kinds
+    SFreqLimits limits;  // of the route where it has some, otherwise of the band
+};
+
+template <class Block>
+struct SCalKind;
+
+template <>
+struct SCalKind<SMMType1PathlossBlockV7>
+{
+    static constexpr uint32_t ID = 1;
+    static constexpr int BLOCKS_OF_ROUND = VOND_CAL_TYPE1_BLOCKS;
+    static constexpr int BLOCKS_OF_RECORD = VOND_CAL_MAX_BLOCKS;
+    static constexpr auto TEXT = &SMMCalVerdictV7::type1Text;
+    static constexpr auto RULE = &SProfileCalibration::rxType1;
+};
+
+template <>
+struct SCalKind<SMMType2PathlossBlockV7>
+{
+    static constexpr uint32_t ID = 2;
+    static constexpr int BLOCKS_OF_ROUND = VOND_CAL_TYPE2_BLOCKS;
+    static constexpr int BLOCKS_OF_RECORD = VOND_CAL_TYPE2_BLOCKS;  // more fit in no round
+    static constexpr auto TEXT = &SMMCalVerdictV7::type2Text;
+    static constexpr auto RULE = &SProfileCalibration::rxType2;
+};
+
+template <>
+struct SCalKind<SAptBlock>
+{
+    static constexpr uint32_t ID = 3;
+    static constexpr int BLOCKS_OF_ROUND = VOND_CAL_TX_BLOCKS;
+    static constexpr int BLOCKS_OF_RECORD = VOND_CAL_MAX_BLOCKS;
+    static constexpr auto TEXT = &SMMCalVerdictV7::txText;
+    static constexpr auto RULE = &SProfileCalibration::tx;
+};
+
+// All places of a kind in the order of the route table.
+template <class Block>
+std::vector<SCalPlace> CalPlaces(const SProfile &profile);
+
+// Why the DUT does not take the record, in at most 63 bytes; empty when it does. The block count
+// must be within the record's, each block on a band of the route, each frequency 0 or within the
+// limits there.
+template <class Block>
+std::string CheckCalRecord(const SProfile &profile, const SCalKey &key, const Block *blocks,
+                           int count);
+// The same for the name of a record and its block count alone.
+template <class Block>
+std::string CheckCalKey(const SProfile &profile, const SCalKey &key, int count);

@@ -1,0 +1,18 @@
+// The calibration functions: what the flash holds, one round of an upload, one of a download.
+//
+// A round that breaks the layout is refused by status 0 in the answer, with the reason in the text
+// of each kind that broke it, and success as the result; a download then changes nothing. No locks;
+// the file of the flash is written before a download is answered.
+#pragma once
+
+#include "Simulator/door/Results.h"
+#include "Simulator/flash/Flash.h"
+
+// One row for each row of the route tables, in their order. Radio kind 0 is the LTE side, of which
+// the simulated DUT has nothing to tell.
+SVerdict AnswerCalBlkInfo(const SProfile &profile, CFlash &flash, uint32_t radioKind,
+                          SMMCalBlkInfoCnfV7 &answer);
+void AnswerCalData(const SProfile &profile, CFlash &flash, const SMMGetCalDataReqV7 &request,
+                   SMMGetCalDataCnfV7 &answer);
+void StoreCalData(const SProfile &profile, CFlash &flash, const SMMSetCalDataReqV7 &request,
+                  SMMSetCalDataCnfV7 &answer);

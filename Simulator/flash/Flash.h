@@ -1,0 +1,58 @@
+// The flash of the simulated DUT: the calibration records of all routes, and the file that keeps
+// them when VOND_SIM_FLASH names one.
+//
+// The records come from the file or, without a usable one, from the profile's "calibration" rule;
+// both happen at the first call that needs them, so that a DUT nobody calibrates costs nothing. A
+// file that cannot be used costs one line on stderr. No lock: the owner keeps calls apart.
+//
+//   CFlash flash("/tmp/dut.flash");
+//   SFlashImage &image = flash.Image(profile);
+//   image.Table<SAptBlock>()[{7, 100000}] = blocks;
+//   if (!flash.Keep()) ...   // the file could not be written
+#pragma once
+
+#include "Simulator/flash/CalKinds.h"
+
+#include <map>
+#include <string>
+#include <tuple>
+#include <vector>
+
+template <class Block>
+using FlashTable = std::map<SCalKey, std::vector<Block>>;
+
+struct SFlashImage
+{
+    std::tuple<FlashTable<SMMType1PathlossBlockV7>, FlashTable<SMMType2PathlossBlockV7>,
+               FlashTable<SAptBlock>>
+        tables;
+
+    template <class Block>
+    FlashTable<Block> &Table()
+    {
+        return std::get<FlashTable<Block>>(tables);
+    }
+    template <class Block>
+    const FlashTable<Block> &Table() const
+    {
+        return std::get<FlashTable<Block>>(tables);
+    }
+};
+
+class CFlash
+{
+public:
+    // An empty path: no file.
+    explicit CFlash(std::string path = {});
+
+    // A record for every place of the profile, a DUT that was never calibrated has empty ones. The
+    // profile must stay the same.
+    SFlashImage &Image(const SProfile &profile);
+    // Writes the image to the file, whole or not at all. False, and a line on stderr: it failed.
+    bool Keep() const;
+
+private:
+    std::string m_path;
+    bool m_filled = false;
+    SFlashImage m_image;
+};

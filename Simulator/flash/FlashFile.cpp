@@ -1,0 +1,179 @@
+#include "Simulator/flash/FlashFile.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <sstream>
+#include <utility>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr char MAGIC[16] = {'V', 'o', 'n', 'd', 'S', 'i', 'm', ' ',
+                            'f', 'l', 'a', 's', 'h', ' ', '1', '\n'};
+
+constexpr char OTHER_DUT[] = "is the flash of another DUT";
+
+struct SHead
+{
+    char magic[sizeof(MAGIC)];
+    uint64_t checksum;  // of everything behind the head
+};
+VOND_SIZE(SHead, 24);
+
+struct SRecordHead
+{
+    uint32_t kind;  // SCalKind::ID
+    uint32_t route;
+    uint32_t bandwidth;  // kHz
+    uint32_t blockCount;
+};
+VOND_SIZE(SRecordHead, 16);
+
+// FNV-1a.
+uint64_t Checksum(const std::string &bytes, std::size_t from)
+{
+    uint64_t sum = 0xcbf29ce484222325u;
+    for (std::size_t i = from; i < bytes.size(); ++i)
+        sum = (sum ^ static_cast<uint8_t>(bytes[i])) * 0x100000001b3u;
+    return sum;
+}
+
+template <class Record>
+void Append(std::string &bytes, const Record &record)
+{
+    bytes.append(reinterpret_cast<const char *>(&record), sizeof(record));
+}
+
+template <class Block>
+void AppendTable(std::string &bytes, const FlashTable<Block> &table)
+{
+    for (const auto &[key, blocks] : table) {
+        Append(bytes, SRecordHead{SCalKind<Block>::ID, key.route, key.bandwidth,
+                                  static_cast<uint32_t>(blocks.size())});
+        for (const Block &block : blocks)
+            Append(bytes, block);
+    }
+}
+
+// Takes records off the front of a file's bytes.
+class CReader
+{
+public:
+    CReader(const std::string &bytes, std::size_t from) : m_bytes(bytes), m_at(from) {}
+
+    bool AtEnd() const { return m_at == m_bytes.size(); }
+
+    template <class Record>
+    Record Take()
+    {
+        if (m_bytes.size() - m_at < sizeof(Record))
+            throw std::runtime_error("ends too early");
+        Record record;
+        std::memcpy(&record, m_bytes.data() + m_at, sizeof(record));
+        m_at += sizeof(record);
+        return record;
+    }
+
+private:
+    const std::string &m_bytes;
+    std::size_t m_at;
+};
+
+// The table in the file has the records of this one, in the same order.
+template <class Block>
+void ReadTable(CReader &reader, const SProfile &profile, FlashTable<Block> &table)
+{
+    for (auto &[key, blocks] : table) {
+        const auto head = reader.Take<SRecordHead>();
+        if (head.kind != SCalKind<Block>::ID || head.route != key.route ||
+            head.bandwidth != key.bandwidth ||
+            head.blockCount > static_cast<uint32_t>(SCalKind<Block>::BLOCKS_OF_RECORD))
+            throw CForeignFile(OTHER_DUT);
+        blocks.clear();
+        for (uint32_t i = 0; i < head.blockCount; ++i)
+            blocks.push_back(reader.Take<Block>());
+        const std::string reason =
+            CheckCalRecord(profile, key, blocks.data(), static_cast<int>(blocks.size()));
+        if (!reason.empty())
+            throw CForeignFile(std::string(OTHER_DUT) + " (" + reason + ")");
+    }
+}
+
+// Empty: no such file.
+std::string ReadWhole(const std::string &path)
+{
+    struct stat status;
+    if (stat(path.c_str(), &status) != 0) {
+        if (errno == ENOENT)
+            return {};
+        throw CForeignFile(std::strerror(errno));
+    }
+    if (!S_ISREG(status.st_mode))
+        throw CForeignFile("is no file");
+    std::ifstream file(path, std::ios::binary);
+    char magic[sizeof(MAGIC)] = {};
+    file.read(magic, sizeof(magic));
+    if (!file.is_open() || file.bad())
+        throw CForeignFile("cannot be read");
+    if (status.st_size == 0)
+        return {};
+    if (file.gcount() != sizeof(magic) || std::memcmp(magic, MAGIC, sizeof(magic)) != 0)
+        throw CForeignFile("is no flash of a simulated DUT");
+    std::ostringstream bytes;
+    file.seekg(0);
+    bytes << file.rdbuf();
+    if (!file || !bytes)
+        throw std::runtime_error("cannot be read");
+    return bytes.str();
+}
+
+void WriteWhole(const std::string &path, const std::string &bytes)
+{
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    if (!file)
+        throw std::runtime_error("cannot be written");
+}
+
+}  // namespace
+
+void LoadFlash(const std::string &path, const SProfile &profile, SFlashImage &image)
+{
+    const std::string bytes = ReadWhole(path);
+    if (bytes.empty())
+        return;
+    CReader reader(bytes, 0);
+    if (reader.Take<SHead>().checksum != Checksum(bytes, sizeof(SHead)))
+        throw std::runtime_error("is damaged");
+    SFlashImage read = image;
+    std::apply([&](auto &...table) { (ReadTable(reader, profile, table), ...); }, read.tables);
+    if (!reader.AtEnd())
+        throw CForeignFile(OTHER_DUT);
+    image = std::move(read);
+}
+
+void SaveFlash(const std::string &path, const SFlashImage &image)
+{
+    std::string bytes(sizeof(SHead), '\0');
+    std::apply([&](const auto &...table) { (AppendTable(bytes, table), ...); }, image.tables);
+    SHead head = {};
+    std::copy(std::begin(MAGIC), std::end(MAGIC), head.magic);
+    head.checksum = Checksum(bytes, sizeof(SHead));
+    std::memcpy(bytes.data(), &head, sizeof(head));
+
+    const std::string fresh = path + "." + std::to_string(getpid()) + ".new";
+    try {
+        WriteWhole(fresh, bytes);
+        if (std::rename(fresh.c_str(), path.c_str()) != 0)
+            throw std::runtime_error("cannot be replaced");
+    } catch (...) {
+        std::remove(fresh.c_str());
+        throw;
+    }
+}

@@ -1,0 +1,257 @@
+#include "Simulator/flash/FlashFill.h"
+
+#include "Simulator/radio/Noise.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// One for each 5 MHz, where the profile does not say.
+constexpr uint32_t SUBBAND_KHZ = 5000;
+constexpr uint8_t NORMAL_TEMPERATURE = 3;
+
+// A PA control level; unused ones have no mode and the lowest voltage.
+struct SLevel
+{
+    uint8_t mode;
+    uint8_t decivolts;
+    uint8_t usage256Qam;
+    int16_t prfDb;
+    double gainDb;
+};
+
+constexpr int LEVELS_IN_USE = 8;
+constexpr SLevel LEVELS[VOND_APT_LEVELS] = {
+    {0, 34, 1, 26, 28.0}, {0, 30, 1, 24, 27.5}, {0, 26, 1, 21, 27.0}, {1, 22, 1, 18, 18.0},
+    {1, 18, 0, 15, 17.5}, {1, 14, 0, 11, 17.0}, {2, 10, 0, 7, 6.0},   {2, 7, 0, 2, 5.5},
+    {0, 5, 0, 0, 0.0},    {0, 5, 0, 0, 0.0},
+};
+
+// By PA mode, dB.
+constexpr double PA_GAIN_DB[VOND_APT_PA_MODES] = {28.0, 18.0, 6.0};
+constexpr double DETECTOR_DB[VOND_APT_PA_MODES] = {12.0, 4.5, -6.0};
+constexpr double COUPLER_LOSS_DB[VOND_APT_PA_MODES] = {25.0, 25.25, 25.75};
+
+constexpr double PA_GAIN_TILT_DB = 2.5;  // what the PA loses from the lower limit to the upper
+constexpr double PATH_LOSS_TILT_DB = 1.5;
+
+int16_t Steps(double db)
+{
+    return static_cast<int16_t>(std::lround(db * 32.0));
+}
+
+// The places of a record's subbands: in the middle of equal parts, on the NR-ARFCN raster.
+std::vector<uint32_t> Frequencies(const SFreqLimits &limits, int count)
+{
+    std::vector<uint32_t> frequencies;
+    for (int i = 0; i < count; ++i) {
+        const uint64_t width = limits.high - limits.low;
+        const uint64_t step = width * (2 * static_cast<uint64_t>(i) + 1) / (2u * uint64_t(count));
+        const uint32_t exact = limits.low + static_cast<uint32_t>(step);
+        uint32_t onRaster = exact;
+        while (onRaster > limits.low && !IsOnRaster(onRaster))
+            --onRaster;
+        frequencies.push_back(IsOnRaster(onRaster) ? onRaster : exact);
+    }
+    return frequencies;
+}
+
+template <class Block>
+int SubbandCount(const SProfile &profile, const SCalPlace &place)
+{
+    const int most = SCalKind<Block>::BLOCKS_OF_RECORD * VOND_CAL_BLOCK_SUBBANDS;
+    const SProfileSubbands &rule = profile.calibration.*SCalKind<Block>::RULE;
+    const auto found = rule.byBand.find(place.band);
+    if (found != rule.byBand.end())
+        return found->second;
+    if (rule.fallback)
+        return *rule.fallback;
+    const uint32_t parts = (place.limits.high - place.limits.low) / SUBBAND_KHZ;
+    return static_cast<int>(std::clamp(parts, 1u, static_cast<uint32_t>(most)));
+}
+
+// A record's own chance, which no other record shifts.
+template <class Block>
+CNoise NoiseOf(const SProfile &profile, const SCalPlace &place)
+{
+    const uint64_t name = (uint64_t(SCalKind<Block>::ID) << 48) ^
+                          (uint64_t(place.key.bandwidth) << 16) ^ place.key.route;
+    return CNoise(name * 0x2545f4914f6cdd1du + profile.calibration.seed);
+}
+
+// Where a subband lies between the first and the last, 0 to 1.
+double Position(std::size_t subband, std::size_t count)
+{
+    return count > 1 ? double(subband) / double(count - 1) : 0.0;
+}
+
+// Empty blocks with their frequencies; write(block, subband of the block, position) fills the rest
+// of each subband.
+template <class Block, class Write>
+std::vector<Block> Blocks(const std::vector<uint32_t> &frequencies, const Block &head,
+                          const Write &write)
+{
+    const std::size_t size = VOND_CAL_BLOCK_SUBBANDS;
+    std::vector<Block> blocks((frequencies.size() + size - 1) / size, head);
+    for (std::size_t i = 0; i < frequencies.size(); ++i) {
+        blocks[i / size].freq[i % size] = frequencies[i];
+        write(blocks[i / size], i % size, Position(i, frequencies.size()));
+    }
+    return blocks;
+}
+
+std::vector<SAptBlock> Record(const SProfile &profile, const SCalPlace &place,
+                              const std::vector<uint32_t> &frequencies, const SAptBlock *)
+{
+    CNoise noise = NoiseOf<SAptBlock>(profile, place);
+    const double own = noise.Bell() - 0.25 * place.region;
+    SAptBlock head = {};
+    head.band = place.band;
+    head.normalTempIndex = NORMAL_TEMPERATURE;
+    head.paControlLevel = LEVELS_IN_USE;
+    head.paModeCount = VOND_APT_PA_MODES;
+    for (int i = 0; i < VOND_APT_LEVELS; ++i) {
+        const SLevel &level = LEVELS[i];
+        const double gain = i < LEVELS_IN_USE ? level.gainDb + own : 0.0;
+        head.level[i] = {level.mode, level.decivolts,    level.usage256Qam,
+                         0,          Steps(level.prfDb), Steps(gain)};
+    }
+    for (int mode = 0; mode < VOND_APT_PA_MODES; ++mode) {
+        SAptPaPart &part = head.pa[mode];
+        head.couplerLoss[mode] = Steps(COUPLER_LOSS_DB[mode] + 0.2 * noise.Bell());
+        part.prfIndex = static_cast<uint8_t>(mode);
+        for (int t = 0; t < VOND_CAL_TEMPERATURES; ++t) {
+            part.paGainTempOffset[t] = Steps((NORMAL_TEMPERATURE - t) * (0.35 + 0.05 * mode));
+            part.powerDetectorTempOffset[t] = Steps((t - NORMAL_TEMPERATURE) * 0.125);
+        }
+    }
+    return Blocks(frequencies, head, [&](SAptBlock &block, std::size_t i, double position) {
+        for (int mode = 0; mode < VOND_APT_PA_MODES; ++mode) {
+            block.pa[mode].paGain[i] = Steps(PA_GAIN_DB[mode] + own - PA_GAIN_TILT_DB * position);
+            block.pa[mode].powerDetector[i] =
+                Steps(DETECTOR_DB[mode] + 0.5 * position + 0.1 * noise.Bell());
+        }
+    });
+}
+
+// The losses of a route at its lowest subband: one value for each pair and power mode that the gain
+// tables allow. The others stay 0, as nobody calibrates what the receiver never sets.
+struct SLoss
+{
+    int pair;
+    int16_t SMMLossPair::*mode;
+    double db;
+};
+
+struct SPowerMode
+{
+    int16_t SMMLossPair::*half;
+    double extraDb;
+};
+
+// In the order of the profile's gain tables.
+constexpr SPowerMode POWER_MODES[VOND_RX_POWER_MODES] = {{&SMMLossPair::hpm, 0.0},
+                                                         {&SMMLossPair::lpm, 0.3}};
+constexpr EVondRxPath RX_PATHS[] = {EVondRxPath::Main, EVondRxPath::Div};
+
+// The gain modes that have a slot, in slot order.
+std::vector<std::pair<int, int>> Slots(const SMMRfRxGainInfoV7 &gain)
+{
+    std::vector<std::pair<int, int>> slots;
+    for (int bigG = 0; bigG < VOND_GAIN_ROWS; ++bigG) {
+        for (int smallG = 0; smallG < VOND_GAIN_COLUMNS; ++smallG) {
+            if (gain.t1[bigG][smallG] == 1 && slots.size() < std::size_t(VOND_LOSS_GAIN_SLOTS))
+                slots.emplace_back(bigG, smallG);
+        }
+    }
+    return slots;
+}
+
+double LossDb(CNoise &noise, const SPowerMode &mode, EVondRxPath path, int slot, int srxPath)
+{
+    return 1.0 + mode.extraDb + 0.4 * static_cast<int>(path) + 0.2 * slot + 0.35 * srxPath +
+           0.25 * noise.Bell();
+}
+
+// The losses in one power mode of a type 1 route: those of the slots.
+void AddLosses(const SMMRfRxGainInfoV7 &gain, const SPowerMode &mode, CNoise &noise,
+               std::vector<SLoss> &losses, const SMMType1PathlossBlockV7 *)
+{
+    const int slots = static_cast<int>(Slots(gain).size());
+    for (const EVondRxPath path : RX_PATHS) {
+        for (int slot = 0; slot < slots; ++slot)
+            losses.push_back(
+                {VondType1LossPair(path, slot), mode.half, LossDb(noise, mode, path, slot, 0)});
+    }
+}
+
+// Of a type 2 route on one SRX path: those of the slots, and for each slot's gain those beside each
+// gain of the other SRX path that can run together with it.
+void AddLossesOf(int srx, EVondRxPath path, const SMMRfRxGainInfoV7 &gain, const SPowerMode &mode,
+                 CNoise &noise, std::vector<SLoss> &losses)
+{
+    int slot = 0;
+    for (const auto &[bigG, smallG] : Slots(gain)) {
+        losses.push_back(
+            {VondPartialOnPair(path, srx, slot), mode.half, LossDb(noise, mode, path, slot, srx)});
+        for (int sub = 0; sub < VOND_SUB_GAINS; ++sub) {
+            const uint8_t together =
+                srx == 0 ? gain.t2[bigG][smallG][sub] : gain.t2[bigG][sub][smallG];
+            if (together == 1)
+                losses.push_back({VondGainByGainPair(path, srx, bigG, smallG, sub), mode.half,
+                                  0.5 + LossDb(noise, mode, path, slot, srx)});
+        }
+        ++slot;
+    }
+}
+
+void AddLosses(const SMMRfRxGainInfoV7 &gain, const SPowerMode &mode, CNoise &noise,
+               std::vector<SLoss> &losses, const SMMType2PathlossBlockV7 *)
+{
+    for (const EVondRxPath path : RX_PATHS) {
+        for (int srx = 0; srx < VOND_SRX_PATHS; ++srx)
+            AddLossesOf(srx, path, gain, mode, noise, losses);
+    }
+}
+
+template <class Block>
+std::vector<Block> Record(const SProfile &profile, const SCalPlace &place,
+                          const std::vector<uint32_t> &frequencies, const Block *kind)
+{
+    CNoise noise = NoiseOf<Block>(profile, place);
+    std::vector<SLoss> losses;
+    for (int mode = 0; mode < VOND_RX_POWER_MODES; ++mode)
+        AddLosses(profile.gain[mode], POWER_MODES[mode], noise, losses, kind);
+    Block head = {};
+    head.band = place.band;
+    for (int t = 0; t < VOND_CAL_TEMPERATURES; ++t)
+        head.plOffset[t] = Steps((t - NORMAL_TEMPERATURE) * 0.125);
+    return Blocks(frequencies, head, [&](Block &block, std::size_t i, double position) {
+        for (const SLoss &loss : losses)
+            block.loss[i][loss.pair].*loss.mode = Steps(loss.db + PATH_LOSS_TILT_DB * position);
+    });
+}
+
+// A route that stands on several bands is calibrated on the first.
+template <class Block>
+void FillTable(const SProfile &profile, FlashTable<Block> &table)
+{
+    for (const SCalPlace &place : CalPlaces<Block>(profile)) {
+        if (table.count(place.key) != 0)
+            continue;
+        const std::vector<uint32_t> frequencies =
+            Frequencies(place.limits, SubbandCount<Block>(profile, place));
+        const Block *const kind = nullptr;
+        table[place.key] = Record(profile, place, frequencies, kind);
+    }
+}
+
+}  // namespace
+
+SFlashImage CalibratedFlash(const SProfile &profile)
+{
+    SFlashImage image;
+    std::apply([&](auto &...table) { (FillTable(profile, table), ...); }, image.tables);
+    return image;
+}

@@ -1,0 +1,9 @@
+// The profile's "calibration" key: what the DUT's flash holds when no file brings it. Used by
+// ParseProfile alone; failures are std::runtime_error that name the place.
+#pragma once
+
+#include "Simulator/profile/JsonReader.h"
+#include "Simulator/profile/Profile.h"
+
+// A missing key, in it or whole, leaves the defaults of SProfileCalibration.
+void ReadCalibration(CJsonReader &reader, SProfile &profile);

@@ -1,0 +1,118 @@
+#include "Simulator/radio/Receiver.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "Vond/VondGainRecords.h"
+
+namespace {
+
+constexpr double NOISE_DENSITY = -174.0;  // dBm/Hz, kT at 290 K
+constexpr double ADC_NOISE = -80.0;       // dBm at the ADC: 72 dB below its full scale
+constexpr double EDGE_LOSS = 1.5;         // dB, of the filter at its edges
+constexpr double BEST_RF_GAIN = 45.0;     // dB; the gain's residual error grows away from it
+constexpr double GAIN_ERROR = 0.02;       // dB a dB
+constexpr double KNEE = 3.0;              // sharpness of the limiter
+
+// Blocks at the rate of 5 %: the reference channel's -1 dB and 2.5 dB of implementation margin, as
+// 3GPP TS 38.101-1 reckons reference sensitivity.
+constexpr double SENSITIVITY_RATIO = 1.5;
+constexpr double HALF_FALL = 1.0;     // dB from 5 % to 50 %, and from there to 95 %
+constexpr double LOG_ODDS_5 = 2.944;  // ln(0.95 / 0.05)
+
+double Milliwatt(double dBm)
+{
+    return std::pow(10.0, dBm / 10.0);
+}
+
+double DBm(double milliwatt)
+{
+    return 10.0 * std::log10(milliwatt);
+}
+
+// Rapp's limiter: straight up to about 5 dB below full scale, flat above it.
+double Limited(double power, double fullScale)
+{
+    return power -
+           10.0 / KNEE * std::log10(1.0 + std::pow(10.0, KNEE * (power - fullScale) / 10.0));
+}
+
+// At the ADC, with its own noise.
+double AtAdc(double power, double rfGain)
+{
+    return Limited(PowerSum(power + rfGain, ADC_NOISE), ADC_FULL_SCALE);
+}
+
+}  // namespace
+
+double PowerSum(double one, double other)
+{
+    return DBm(Milliwatt(one) + Milliwatt(other));
+}
+
+double ThermalNoise(double bandwidthHz, double noiseFigure)
+{
+    return NOISE_DENSITY + 10.0 * std::log10(bandwidthHz) + noiseFigure;
+}
+
+double FilterLoss(uint32_t kHz, const SFreqLimits &range)
+{
+    const double half = (double(range.high) - range.low) / 2.0;
+    if (half <= 0.0)
+        return 0.0;
+    const double off = (double(kHz) - range.low) / half - 1.0;
+    return EDGE_LOSS * off * off;
+}
+
+double RfGainOf(uint8_t elna, uint8_t mode, bool lowPower)
+{
+    return 60.0 - 8.0 * elna - 2.5 * mode - (lowPower ? LOW_POWER_LOSS : 0.0);
+}
+
+SGainMode NearestMode(double rfGain, bool lowPower)
+{
+    SGainMode nearest;
+    double distance = 1e9;
+    for (uint8_t elna = 0; elna <= VOND_HIGHEST_ELNA_MODE; ++elna) {
+        for (uint8_t mode = 0; mode <= VOND_HIGHEST_GAIN_MODE; ++mode) {
+            const double off = std::fabs(rfGain - RfGainOf(elna, mode, lowPower));
+            if (off < distance) {
+                distance = off;
+                nearest = {elna, mode};
+            }
+        }
+    }
+    return nearest;
+}
+
+uint8_t GainIndex(uint8_t elna, uint8_t mode)
+{
+    return static_cast<uint8_t>(std::min<int>(3 * elna + mode, VOND_HIGHEST_GAIN_IDX));
+}
+
+double ReadingOf(double power, double rfGain, double digitalGain)
+{
+    const double word = Limited(AtAdc(power, rfGain) + digitalGain, ADC_FULL_SCALE + DIGITAL_LIFT);
+    return word - digitalGain - rfGain + GAIN_ERROR * (rfGain - BEST_RF_GAIN);
+}
+
+SReception Receive(double signal, double noise, bool lowPower)
+{
+    const double input = PowerSum(signal, noise);
+    const double lowest = RfGainOf(VOND_HIGHEST_ELNA_MODE, VOND_HIGHEST_GAIN_MODE, lowPower);
+    const double gain = std::clamp(ADC_TARGET - input, lowest, RfGainOf(0, 0, lowPower));
+    SReception reception;
+    reception.total = Limited(input + gain, ADC_FULL_SCALE) - gain;
+    const double compression = input - reception.total;
+    reception.signal = signal - compression;
+    // What the limiter takes off comes back as distortion.
+    const double lost = Milliwatt(input) - Milliwatt(reception.total);
+    reception.ratio = reception.signal - DBm(Milliwatt(noise - compression) + std::max(lost, 0.0));
+    return reception;
+}
+
+double BlockErrorRate(double ratio)
+{
+    const double middle = SENSITIVITY_RATIO - HALF_FALL;
+    return 1.0 / (1.0 + std::exp(LOG_ODDS_5 / HALF_FALL * (ratio - middle)));
+}

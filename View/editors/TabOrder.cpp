@@ -1,0 +1,86 @@
+#include "View/editors/TabOrder.h"
+
+#include <QHeaderView>
+#include <QScrollArea>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTableWidget>
+
+#include "View/editors/TableKeys.h"
+#include "View/engine/WidgetIndex.h"
+
+namespace {
+
+// The table that a widget is a cell of; null when it is none.
+QTableWidget *TableOf(const QWidget *widget)
+{
+    for (QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto *table = qobject_cast<QTableWidget *>(parent); table && CTableKeys::Of(table))
+            return table;
+        if (parent->isWindow())
+            return nullptr;
+    }
+    return nullptr;
+}
+
+// The cell that a table hands the focus on to, or else the widget itself.
+QWidget *Target(QWidget *widget)
+{
+    const CTableKeys *keys = CTableKeys::Of(widget);
+    QWidget *cell = keys ? keys->Entry() : nullptr;
+    return cell ? cell : widget;
+}
+
+bool IsStop(const QWidget *widget, const QWidget *target, const QWidget *window)
+{
+    return widget != window && widget->window() == window && widget->isEnabled() &&
+           widget->isVisible() && (target->focusPolicy() & Qt::TabFocus) && !widget->focusProxy() &&
+           !IsExactClass(widget, "QScrollArea") && !TableOf(widget);
+}
+
+}  // namespace
+
+bool MoveFocus(QWidget *window, bool next)
+{
+    QWidget *from = window->focusWidget() ? window->focusWidget() : window;
+    if (QTableWidget *table = TableOf(from))
+        from = table;
+    const auto step = [next](const QWidget *widget) {
+        return next ? widget->nextInFocusChain() : widget->previousInFocusChain();
+    };
+    for (QWidget *widget = step(from); widget != from; widget = step(widget)) {
+        QWidget *const target = Target(widget);
+        if (!IsStop(widget, target, window))
+            continue;
+        target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        ScrollIntoView(target);
+        return true;
+    }
+    return false;
+}
+
+void PlaceTabBar(QWidget *before, QTabWidget *tabs, QWidget *behind)
+{
+    QWidget::setTabOrder(before, tabs->tabBar());
+    QWidget::setTabOrder(tabs->tabBar(), behind);
+}
+
+void ScrollIntoView(QWidget *widget)
+{
+    int captions = 0;
+    if (QTableWidget *table = TableOf(widget)) {
+        table->scrollTo(table->indexAt(widget->geometry().center()));
+        // They may stand pinned above the cells.
+        captions = table->verticalHeader()->isVisible() ? table->verticalHeader()->width() : 0;
+    }
+    for (QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
+        auto *area = qobject_cast<QScrollArea *>(parent);
+        if (!area || !area->widget() || !area->widget()->isAncestorOf(widget))
+            continue;
+        const QPoint center = widget->mapTo(area->widget(), widget->rect().center());
+        const QSize room = area->viewport()->size() / 2;
+        area->ensureVisible(center.x(), center.y(),
+                            qMin(widget->width() / 2 + captions, room.width()),
+                            qMin(widget->height() / 2, room.height()));
+    }
+}

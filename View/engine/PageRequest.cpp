@@ -1,0 +1,132 @@
+// The beginning and the end of a page's requests, and what becomes of the focus meanwhile.
+#include <QComboBox>
+
+#include "Model/JsonPath.h"
+#include "View/editors/TabOrder.h"
+#include "View/engine/AutoBindingDataModelDockWidget.h"
+#include "View/engine/WidgetIndex.h"
+
+bool CAutoBindingDataModelDockWidget::HasAllChoices()
+{
+    const QPointer<CAutoBindingDataModelDockWidget> self(this);
+    FinishEdit();
+    if (!self)
+        return false;
+    const QString caption = FirstEmptyChoice();
+    if (caption.isEmpty())
+        return true;
+    const QString text = caption + QLatin1String(" is empty.");
+    emit Signal_UpdateStatus(text);
+    m_messageBox.Show(eBoxWarningAsIs, text, text, {}, {}, -1);
+    return false;
+}
+
+// The caption of the first one, in the order of the document.
+QString CAutoBindingDataModelDockWidget::FirstEmptyChoice()
+{
+    const CIndexScope index(this);
+    const QString request = AbsoluteModelPath(QStringLiteral("request"));
+    const QJsonObject groups = GetJsonValueConst(m_dataModel, request).toObject();
+    for (const QString &group : groups.keys()) {
+        const QJsonObject record = groups.value(group).toObject();
+        const QJsonObject members = record.value(QLatin1String("memberProperty")).toObject();
+        for (const QJsonValue &member : record.value(QLatin1String("memberList")).toArray()) {
+            const QString path = request + QLatin1Char('.') + group +
+                                 QLatin1String(".memberProperty.") + member.toString();
+            const auto *box = ExactCast<QComboBox>(index->Find(path));
+            const bool isAsked =
+                box && box->isVisibleTo(this) && box->isEnabledTo(box->parentWidget());
+            if (isAsked && box->currentIndex() < 0)
+                return members.value(member.toString())
+                    .toObject()
+                    .value(QLatin1String("caption"))
+                    .toString();
+        }
+    }
+    return {};
+}
+
+// The check of what was typed may open a box, in which the page may be destroyed.
+bool CAutoBindingDataModelDockWidget::BeginQuietRequest(const std::function<void()> &turnOff)
+{
+    const QPointer<CAutoBindingDataModelDockWidget> self(this);
+    FinishEdit();
+    if (!self)
+        return false;
+    QWidget *focus = FocusWidget();
+    if (focus || m_requests == 0)
+        m_focus = focus;
+    m_hasAsked = true;
+    ++m_requests;
+    turnOff();
+    m_progress.Await();
+    return true;
+}
+
+void CAutoBindingDataModelDockWidget::EndQuietRequest(const std::function<void()> &turnOn)
+{
+    turnOn();
+    GiveFocusBack();
+    if (m_requests > 0 && --m_requests == 0)
+        m_progress.End();
+}
+
+bool CAutoBindingDataModelDockWidget::BeginRequest(const std::function<void()> &turnOff)
+{
+    return BeginQuietRequest(turnOff) && BeginBusy();
+}
+
+bool CAutoBindingDataModelDockWidget::EndRequest(const std::function<void()> &turnOn)
+{
+    EndQuietRequest(turnOn);
+    return EndBusy();
+}
+
+bool CAutoBindingDataModelDockWidget::BeginBusy()
+{
+    return SayBusy(true);
+}
+
+bool CAutoBindingDataModelDockWidget::EndBusy()
+{
+    return SayBusy(false);
+}
+
+bool CAutoBindingDataModelDockWidget::SayBusy(bool isBusy)
+{
+    const QPointer<CAutoBindingDataModelDockWidget> self(this);
+    const QWidget *const window = parentWidget();
+    emit Signal_PluginIsBusy(isBusy);
+    return self && parentWidget() == window;
+}
+
+// What has the focus in the page's window, if it is the page's own.
+QWidget *CAutoBindingDataModelDockWidget::FocusWidget() const
+{
+    QWidget *focus = window()->focusWidget();
+    return isAncestorOf(focus) ? focus : nullptr;
+}
+
+// Only from nothing: the user may have gone elsewhere meanwhile. What is still off, as the inputs
+// of a running test are, does not get it.
+void CAutoBindingDataModelDockWidget::GiveFocusBack()
+{
+    if (m_focus && m_focus->isEnabled() && m_focus->isVisible() && !window()->focusWidget())
+        m_focus->setFocus(Qt::OtherFocusReason);
+}
+
+// Qt gives the focus to the first control of a window that becomes active, as behind a box, when
+// nothing has it. The page itself takes no keys.
+void CAutoBindingDataModelDockWidget::KeepFocusFromWandering()
+{
+    if (m_hasAsked && isEnabled() && !window()->focusWidget())
+        setFocus(Qt::OtherFocusReason);
+}
+
+bool CAutoBindingDataModelDockWidget::focusNextPrevChild(bool next)
+{
+    const QWidget *focus = FocusWidget();
+    if (focus && !focus->isEnabled())
+        return false;
+    return MoveFocus(window(), next);
+}

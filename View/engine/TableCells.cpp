@@ -1,0 +1,41 @@
+#include "View/engine/TableCells.h"
+
+#include <QStyledItemDelegate>
+#include <QTableWidget>
+
+#include "View/editors/TableKeys.h"
+
+namespace {
+
+// The standard delegate works out the look of the item behind an editor each time that editors are
+// placed, for every editor of the table.
+class CCellDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                              const QModelIndex &) const override
+    {
+        if (editor->geometry() != option.rect)
+            editor->setGeometry(option.rect);
+    }
+};
+
+}  // namespace
+
+void FillPlaces(QTableWidget *table)
+{
+    table->setItemDelegate(new CCellDelegate(table));
+    if (!CTableKeys::Of(table))
+        new CTableKeys(table);
+}
+
+// A widget with a size of its own is not asked for its best one when it is shown.
+void PlaceEditor(QTableWidget *table, int row, int column, QWidget *editor)
+{
+    editor->resize(table->columnWidth(column), table->rowHeight(row));
+    table->setCellWidget(row, column, editor);
+    if (CTableKeys *keys = CTableKeys::Of(table))
+        keys->Take(editor);
+}

@@ -1,0 +1,34 @@
+#include "View/engine/WidgetIndex.h"
+
+#include <QAbstractItemView>
+
+#include "Model/MemberPath.h"
+
+CWidgetIndex::CWidgetIndex(const QWidget *root)
+{
+    if (root)
+        Add(root);
+}
+
+void CWidgetIndex::Add(const QObject *parent)
+{
+    for (QObject *child : parent->children()) {
+        if (!child->isWidgetType())
+            continue;
+        const QString name = child->objectName();
+        if (IsBoundName(name)) {
+            auto *widget = static_cast<QWidget *>(child);
+            const QString path = PathFromObjectName(name);
+            m_bound.append(widget);
+            if (!m_byPath.contains(path))
+                m_byPath.insert(path, widget);
+        }
+        if (!qobject_cast<QAbstractItemView *>(child))
+            Add(child);
+    }
+}
+
+bool IsExactClass(const QWidget *widget, const char *className)
+{
+    return qstrcmp(widget->metaObject()->className(), className) == 0;
+}

@@ -1,0 +1,196 @@
+#include "View/form/QuorlinForm.h"
+
+#include <QPushButton>
+#include <QScreen>
+
+#include "Model/OperationResult.h"
+#include "Model/StatusTable.h"
+#include "Support/Log.h"
+#include "View/editors/FormFont.h"
+#include "View/engine/AutoBindingDataModelDockWidget.h"
+#include "ui_QuorlinForm.h"
+
+namespace {
+
+constexpr int kTitleBar = 30;  // pixels that desktops put around a window's height, about
+constexpr int kButtonRim = 6;  // pixels above and below the text: no more than the bar has room for
+constexpr char kButtonStyle[] =
+    "QPushButton { border: 1px solid palette(mid); border-radius: 3px; padding: 0 12px; }"
+    "QPushButton:pressed { background-color: palette(mid); }"
+    "QPushButton:focus { border-color: palette(highlight); }";
+constexpr char kHighlightedStyle[] =
+    "QPushButton { background-color: #c62828; color: white; font-weight: bold; }"
+    "QPushButton:pressed { background-color: #8e0000; }";
+
+}  // namespace
+
+CQuorlinForm::CQuorlinForm(PageTypeRegistrar registerPageTypes)
+    : m_ui(std::make_unique<Ui::CQuorlinForm>())
+{
+    m_ui->setupUi(this);
+    delete takeCentralWidget();  // the window lives from dock widgets alone
+    RegisterOperationResultTypes();
+    registerPageTypes();
+    AddRfOff();
+    connect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_Idle, this, [this] {
+        if (--m_idleReports == 0)
+            SetBusy(&m_viewCtrl, false);
+    });
+    connect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_RfOffDone, this, &CQuorlinForm::ShowRfOff);
+    connect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_TestsRun, this, &CQuorlinForm::Highlight);
+}
+
+CQuorlinForm::~CQuorlinForm()
+{
+    if (m_wasShown)
+        m_viewCtrl.StopRunningTests();
+}
+
+void CQuorlinForm::AddRfOff()
+{
+    m_rfOff = new QPushButton(QStringLiteral("RF &Off"));
+    m_rfOff->setObjectName(QStringLiteral("m_rfOff"));
+    m_rfOff->setToolTip(QStringLiteral("Stops every test on the DUT"));
+    m_rfOff->setFocusPolicy(Qt::TabFocus);  // a click leaves the focus to the page
+    m_rfOff->setFont(FormFont(this));       // its style sheet keeps the form's away
+    m_rfOff->setFixedHeight(m_rfOff->fontMetrics().height() + kButtonRim);
+    Highlight(false);
+    statusBar()->addPermanentWidget(m_rfOff);
+    connect(m_rfOff, &QPushButton::clicked, this, &CQuorlinForm::RfOff);
+}
+
+void CQuorlinForm::Highlight(bool isOn)
+{
+    m_rfOff->setProperty("isHighlighted", isOn);
+    m_rfOff->setStyleSheet(QLatin1String(kButtonStyle) +
+                           QLatin1String(isOn ? kHighlightedStyle : ""));
+}
+
+// On its way before anybody hears of it.
+void CQuorlinForm::RfOff()
+{
+    qCDebug(lcForm) << "RF off";
+    ++m_rfOffs;
+    m_viewCtrl.RfOff();
+    SetBusy(m_rfOff, true);
+}
+
+void CQuorlinForm::ShowRfOff(const SEachItemOperationResult &result)
+{
+    if (result.status == eStatusSuccess) {
+        for (CAutoBindingDataModelDockWidget *page : Pages())
+            page->ShowTestStopped();
+        Slot_UpdateStatusbar(QStringLiteral("RF off."));
+    } else {
+        Slot_UpdateStatusbar(
+            QLatin1String("RF off failed: ") +
+            (result.message.isEmpty() ? LookupStatus(result.status).text : result.message));
+    }
+    if (--m_rfOffs == 0)
+        SetBusy(m_rfOff, false);
+}
+
+void CQuorlinForm::SetTargetHandle(uint32_t handle)
+{
+    CQuorlinViewCtrl::SetTargetHandle(handle);
+}
+
+// No show event comes to a window that is visible already.
+void CQuorlinForm::setVisible(bool isVisible)
+{
+    const QPointer<CQuorlinForm> self(this);
+    if (isVisible && !m_wasShown)
+        FitScreen();
+    CAutoBindingDataModelForm::setVisible(isVisible);
+    if (self && isVisible && this->isVisible())
+        StartInit();
+}
+
+// The status bar, and RF Off in it, are on the screen from the start. A screen that is narrower
+// than the form is none that it could fit: it keeps its size there.
+void CQuorlinForm::FitScreen()
+{
+    const QSize room = screen()->availableSize() - QSize(0, kTitleBar);
+    if (isWindow() && width() <= room.width() && height() > room.height())
+        resize(width(), room.height());
+}
+
+void CQuorlinForm::showEvent(QShowEvent *)
+{
+    qCDebug(lcForm) << "CQuorlinForm::showEvent";
+    const QPointer<CQuorlinForm> self(this);
+    emit Signal_PluginIsActivated(true);
+    if (self)
+        StartInit();
+}
+
+void CQuorlinForm::StartInit()
+{
+    if (m_isInitStarted)
+        return;
+    setEnabled(false);
+    Slot_UpdateStatusbar(QStringLiteral("Please to wait the init flow..."));
+    qCDebug(lcForm) << "CQuorlinForm::showEvent start";
+    connect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_GetInitPageListDone, this,
+            &CQuorlinForm::Slot_GetInitPageListDone, Qt::UniqueConnection);
+    m_viewCtrl.GetInitPageList();
+    m_isInitStarted = true;
+    m_wasShown = true;
+    m_viewCtrl.WatchTests();
+}
+
+void CQuorlinForm::hideEvent(QHideEvent *event)
+{
+    const QPointer<CQuorlinForm> self(this);
+    CAutoBindingDataModelForm::hideEvent(event);
+    if (self)
+        emit Signal_PluginIsActivated(false);
+}
+
+void CQuorlinForm::Slot_GetInitPageListDone(QStringList pageList)
+{
+    disconnect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_GetInitPageListDone, this,
+               &CQuorlinForm::Slot_GetInitPageListDone);
+    InitPage(pageList);
+}
+
+void CQuorlinForm::Slot_UpdateStatusbar(QString str)
+{
+    statusBar()->showMessage(str, 0);
+}
+
+void CQuorlinForm::ResetPages()
+{
+    const bool isBusy = !m_busy.isEmpty();
+    const bool isStopping = m_viewCtrl.HasRunningTests();
+    m_viewCtrl.ResetTargetCache();
+    RemovePages();
+    m_isInitStarted = false;
+    m_rfOffs = 0;
+    // An init flow that this has ended leaves no window behind that waits for its end.
+    if (!isEnabled()) {
+        setEnabled(true);
+        statusBar()->clearMessage();
+    }
+    // Who was busy can no longer say that it is done; the target's own end counts.
+    if (!isBusy && !isStopping)
+        return;
+    m_busy = {&m_viewCtrl};
+    ++m_idleReports;
+    m_viewCtrl.ReportIdle();
+    if (!isBusy)
+        SetBusy(&m_viewCtrl, true);
+}
+
+bool CQuorlinForm::QueryPluginSupport(QString &reason)
+{
+    const SRfSupportStatus support = m_viewCtrl.GetSupportStatus();
+    const bool isSupported = support.status == eSupported;
+    reason = isSupported ? QString() : support.message;
+    return isSupported;
+}
+
+bool CQuorlinForm::QueryPluginState()
+{
+    return false;
+}

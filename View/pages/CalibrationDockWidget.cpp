@@ -1,0 +1,333 @@
+#include "View/pages/CalibrationDockWidget.h"
+
+#include <QAbstractButton>
+#include <QDoubleSpinBox>
+#include <QEvent>
+#include <QHeaderView>
+#include <QJsonDocument>
+#include <QScopedValueRollback>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTableWidget>
+
+#include "Model/StatusTable.h"
+#include "Support/FileDialogMan.h"
+#include "Support/Log.h"
+#include "View/pages/CalibrationRemarks.h"
+#include "View/pages/ScrollPane.h"
+
+namespace {
+
+// Events of a selector. It may keep the focus while the page changes, by a button that takes none.
+bool MayComeBeforeAChange(QEvent::Type type)
+{
+    return type == QEvent::FocusIn || type == QEvent::Wheel || type == QEvent::KeyPress ||
+           type == QEvent::MouseButtonPress;
+}
+
+}  // namespace
+
+// What the user and the log read of a flow.
+struct CCalibrationDockWidget::SFlowWords
+{
+    const char *log;
+    const char *running;  // in front of how far it is, and over what it left out
+    const char *done;
+    const char *failed;  // with a point behind it in the status bar
+};
+
+const CCalibrationDockWidget::SFlowWords &CCalibrationDockWidget::Words(ECalibrationFlow flow)
+{
+    static constexpr SFlowWords kWords[] = {
+        {"on_m_btnUploadFromFlash_clicked", "Read data from target",
+         "Read data from target successfully.", "Read data from target failed"},
+        {"on_m_btnDownloadToFlash_clicked", "Write data to target",
+         "Write data to target successfully.", "Write data to target failed"},
+        {"on_m_btnLoadFromFile_clicked", "Import data from file",
+         "Import data from file successfully.", "Import data from file failed"},
+        {"on_m_btnSaveToFile_clicked", "Export data to file", "Export data to file successfully.",
+         "Export data to file failed"},
+    };
+    return kWords[static_cast<int>(flow)];
+}
+
+CCalibrationDockWidget::CCalibrationDockWidget(const SCalibrationPage &page, QWidget *parent)
+    : CAutoBindingDataModelDockWidget(parent), m_page(page),
+      m_viewCtrl(std::make_unique<CQuorlinViewCtrl>())
+{
+}
+
+CCalibrationDockWidget::~CCalibrationDockWidget() = default;
+
+void CCalibrationDockWidget::SetForm(const SCalibrationForm &form)
+{
+    m_form = form;
+    for (QWidget *selector : form.selectors) {
+        selector->installEventFilter(this);
+        CWheelGuard::Release(selector);
+    }
+}
+
+QWidget *CCalibrationDockWidget::GetRootWidget()
+{
+    return this;
+}
+
+int CCalibrationDockWidget::GetModelInterface()
+{
+    return eInterfaceCalDataIf;
+}
+
+void CCalibrationDockWidget::RequestDataModel()
+{
+    connect(this, &CCalibrationDockWidget::Signal_InitDone, this,
+            &CCalibrationDockWidget::Slot_InitDone);
+    connect(m_viewCtrl.get(), m_page.dataModelDone, this,
+            &CCalibrationDockWidget::Slot_GetDataModelDone);
+    (m_viewCtrl.get()->*m_page.getDataModel)();
+}
+
+void CCalibrationDockWidget::Slot_InitDone()
+{
+    disconnect(this, &CCalibrationDockWidget::Signal_InitDone, this,
+               &CCalibrationDockWidget::Slot_InitDone);
+}
+
+void CCalibrationDockWidget::DisableTestControls()
+{
+    SetButtonsEnabled(false);
+}
+
+void CCalibrationDockWidget::EnableTestControls()
+{
+    SetButtonsEnabled(true);
+}
+
+void CCalibrationDockWidget::Slot_TriggerStopTest() {}
+
+void CCalibrationDockWidget::SetButtonsEnabled(bool isEnabled)
+{
+    for (QAbstractButton *button : m_form.buttons)
+        button->setEnabled(isEnabled);
+}
+
+bool CCalibrationDockWidget::eventFilter(QObject *object, QEvent *event)
+{
+    if (!m_modelReady)
+        return true;
+    if (MayComeBeforeAChange(event->type())) {
+        TakeSnapshot();
+        ShowSelectionDetails();
+    }
+    return QObject::eventFilter(object, event);
+}
+
+void CCalibrationDockWidget::TakeSnapshot()
+{
+    m_lastDocument = PackageMemberValue();
+}
+
+void CCalibrationDockWidget::ShowSelectionDetails() {}
+
+bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &selected)
+{
+    if (!m_modelReady || selected.isEmpty())
+        return false;
+    m_undo.Forget();
+    if (!BeginRequest([this] { SetButtonsEnabled(false); }))
+        return false;
+    qCDebug(lcForm) << log;
+    // Without a snapshot the user has not been to a selector, and no data were shown by one.
+    if (!m_lastDocument.empty())
+        (m_viewCtrl.get()->*m_page.store)(m_lastDocument);
+    {
+        const QScopedValueRollback<bool> boxesWait(m_boxesWait, true);
+        ShowDocument((m_viewCtrl.get()->*m_page.fetch)(PackageMemberValue()));
+    }
+    ShowSelectionDetails();
+    EndRequest([this] { SetButtonsEnabled(true); });
+    return true;
+}
+
+// A DUT of another generation gives no document; the page then keeps what it has.
+void CCalibrationDockWidget::ShowDocument(const std::string &document)
+{
+    if (!document.empty())
+        UpdateWidget(QJsonDocument::fromJson(QByteArray::fromStdString(document)).object());
+}
+
+template <typename Flow, typename... Arguments>
+void CCalibrationDockWidget::StartFlow(ECalibrationFlow kind, const Flow &flow,
+                                       const Arguments &...arguments)
+{
+    m_undo.Forget();
+    const auto turnOff = [this] {
+        SetButtonsEnabled(false);
+        m_form.contents->setEnabled(false);
+    };
+    if (!BeginRequest(turnOff))
+        return;
+    qCDebug(lcForm) << Words(kind).log;
+    const std::string document = PackageMemberValue();
+    m_remarks = {};
+    connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalRemarks, this,
+            [this](const SCalRemarks &remarks) { m_remarks = remarks; });
+    ShowProgress(kind, 0, 0, 0);
+    connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalProgress, this,
+            [this, kind](int round, int routesDone, int routesInAll) {
+                ShowProgress(kind, round, routesDone, routesInAll);
+            });
+    connect(m_viewCtrl.get(), flow.done, this, flow.slot);
+    (m_viewCtrl.get()->*flow.request)(document, arguments...);
+}
+
+void CCalibrationDockWidget::on_m_btnUpload_clicked()
+{
+    StartFlow(ECalibrationFlow::Upload, m_page.upload);
+}
+
+void CCalibrationDockWidget::on_m_btnDownload_clicked()
+{
+    StartFlow(ECalibrationFlow::Download, m_page.download);
+}
+
+void CCalibrationDockWidget::on_m_btnLoad_clicked()
+{
+    const QString file = AskFile(false);
+    if (!file.isEmpty())
+        StartFlow(ECalibrationFlow::Load, m_page.load, file);
+}
+
+void CCalibrationDockWidget::on_m_btnSave_clicked()
+{
+    const QString file = AskFile(true);
+    if (!file.isEmpty())
+        StartFlow(ECalibrationFlow::Save, m_page.save, file);
+}
+
+QString CCalibrationDockWidget::AskFile(bool isSave)
+{
+    const QPointer<CCalibrationDockWidget> self(this);
+    FinishEdit();
+    if (!self)
+        return {};
+    QString file;
+    {
+        CFileDialogMan dialogs;
+        file = isSave ? dialogs.GetSaveFileName({}, {}) : dialogs.GetOpenFileName({}, {});
+    }
+    if (!self)
+        return {};
+    if (file.isEmpty())
+        m_messageBox.Show(eBoxWarning,
+                          isSave ? QStringLiteral("Save file") : QStringLiteral("Open file"),
+                          QStringLiteral("Please choose the Cal/Ini file..."), {}, {}, -1);
+    return file;
+}
+
+template <typename Flow>
+void CCalibrationDockWidget::EndFlow(const Flow &flow)
+{
+    EndRequest([this] {
+        m_form.contents->setEnabled(true);
+        SetButtonsEnabled(true);
+    });
+    disconnect(m_viewCtrl.get(), flow.done, this, nullptr);
+    disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalProgress, this, nullptr);
+    disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalRemarks, this, nullptr);
+}
+
+void CCalibrationDockWidget::EndFlow(ECalibrationFlow flow)
+{
+    switch (flow) {
+    case ECalibrationFlow::Upload:
+        EndFlow(m_page.upload);
+        break;
+    case ECalibrationFlow::Download:
+        EndFlow(m_page.download);
+        break;
+    case ECalibrationFlow::Load:
+        EndFlow(m_page.load);
+        break;
+    case ECalibrationFlow::Save:
+        EndFlow(m_page.save);
+        break;
+    }
+}
+
+bool CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
+                                        const SEachItemOperationResult &result)
+{
+    return FinishFlow(flow, result, (m_viewCtrl.get()->*m_page.fetch)(PackageMemberValue()));
+}
+
+// Whatever has ended the flow, it may have changed what memory holds.
+bool CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
+                                        const SEachItemOperationResult &result,
+                                        const std::string &document)
+{
+    const QPointer<CCalibrationDockWidget> self(this);
+    EndFlow(flow);
+    if (!self)
+        return false;
+    {
+        const QScopedValueRollback<bool> boxesWait(m_boxesWait, true);
+        ShowDocument(document);
+    }
+    TakeSnapshot();
+    ShowSelectionDetails();
+    const bool isDone = result.status == eStatusSuccess;
+    const SFlowWords &words = Words(flow);
+    emit Signal_UpdateStatus(isDone ? QString(QLatin1String(words.done))
+                                    : QLatin1String(words.failed) + QLatin1Char('.'));
+    ShowOutcome(words, result, std::exchange(m_remarks, {}));
+    return self && isDone;
+}
+
+// The page may be gone when a box has closed.
+void CCalibrationDockWidget::ShowOutcome(const SFlowWords &words,
+                                         const SEachItemOperationResult &result,
+                                         const SCalRemarks &remarks)
+{
+    const QPointer<CCalibrationDockWidget> self(this);
+    if (result.status != eStatusSuccess)
+        ShowItemResult(QLatin1String(words.failed), result);
+    if (!self || remarks.IsEmpty())
+        return;
+    const SRemarkBox box = RemarkBox(result.itemName, remarks);
+    m_messageBox.Show(eBoxWarningAsIs, QLatin1String(words.running), box.text, {}, box.detail, -1);
+}
+
+void CCalibrationDockWidget::ShowProgress(ECalibrationFlow kind, int round, int routesDone,
+                                          int routesInAll)
+{
+    Progress().Show(routesDone, routesInAll);
+    if (routesInAll == 0)
+        return;
+    QString text = QLatin1String(Words(kind).running) + QLatin1String(": ");
+    if (round > 0)
+        text += QStringLiteral("round %1, ").arg(round);
+    emit Signal_UpdateStatus(text +
+                             QStringLiteral("%1 of %2 routes").arg(routesDone).arg(routesInAll));
+}
+
+void CCalibrationDockWidget::FitTable(QTableWidget *table)
+{
+    table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table->doItemsLayout();  // the headers of a table on a covered page have no geometry yet
+    table->setMaximumSize(FitTableSize(table));
+    table->setMinimumSize(table->maximumSize());
+    for (QWidget *parent = table->parentWidget(); parent; parent = parent->parentWidget()) {
+        // The page's own pane scrolls as well, but is no frame around this table.
+        if (auto *area = qobject_cast<QScrollArea *>(parent);
+            area && !qobject_cast<CScrollPane *>(area))
+            area->setFixedHeight(table->maximumHeight() +
+                                 area->horizontalScrollBar()->sizeHint().height());
+        parent->updateGeometry();  // a covered page tells no one of its new size
+    }
+}
+
+void CCalibrationDockWidget::ResetTables(const QString &reset, const QList<QTableWidget *> &tables)
+{
+    m_undo.Zero(reset, tables);
+}

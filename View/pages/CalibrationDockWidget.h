@@ -1,0 +1,179 @@
+// Pages that edit calibration data: of the DUT's flash, by way of the copy that the core keeps.
+//
+// Four buttons start a flow: Read (flash to page), Write (page to flash), Import (file to page) and
+// Export (page to file). A flow moves the data of all routes. While it runs the page is disabled,
+// the status bar tells how far it is, and a progress bar moves beside it. Each ends in one answer:
+// a status line, the result box when it failed, and one more box when it left something out.
+//
+// A page shows one selection at a time (band, route, power mode and so on). The core's copy holds
+// the rest, so a change of selection stores what was shown and shows what is there instead. The
+// selector's signal comes when the widgets name the new selection already. So the page takes a
+// snapshot, the document under the old selection, when the user goes to a selector: with the focus,
+// or with the wheel, which turns a selector that has no focus too, or with a key or a click there.
+//
+// Whatever ends a flow, good or bad, the page then shows what the core's copy holds under the
+// selection, valid or not, and takes that as its snapshot: only what the user changes after that is
+// an edit.
+//
+// Until the page has its document, and while a result is being shown, its selectors get no events.
+//
+// What one page has other than the next is its record and the named slots, which call the protected
+// operations below.
+//
+// Errors. A result other than success ends in the result box, a cancelled file dialog in a warning;
+// boxes are the last thing that happens: the page may be gone when one has closed.
+//
+// Threads. GUI thread. An answer's connection lives for one flow. Storing and fetching a selection
+// works on the core's copy and does not wait for the target.
+//
+//   constexpr SCalibrationPage kPage = {&CQuorlinViewCtrl::GetAptDataModel, ...};
+//   CNrAptProfileDockWidgetV7::CNrAptProfileDockWidgetV7(QWidget *parent)
+//       : CCalibrationDockWidget(kPage, parent), m_ui(...)
+//   {
+//       m_ui->setupUi(this);
+//       SetForm({m_ui->dockWidgetContents, {...}, {m_ui->..._band, m_ui->..._txRoute}});
+//   }
+//   void CNrAptProfileDockWidgetV7::Slot_AptDownloadToFlashDone(SEachItemOperationResult result)
+//   {
+//       FinishFlow(ECalibrationFlow::Download, result);
+//   }
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+
+#include <QList>
+
+#include "View/engine/AutoBindingDataModelDockWidget.h"
+#include "View/pages/ResetUndo.h"
+#include "ViewController/QuorlinViewCtrl.h"
+
+class CCalibrationDockWidget;
+class QAbstractButton;
+
+enum class ECalibrationFlow
+{
+    Upload,
+    Download,
+    Load,
+    Save,
+};
+
+// A flow's request, the signal that answers it, and the page's slot for the answer, which a record
+// takes with a static_cast. Arguments: what the request takes behind the document.
+template <typename Answer, typename... Arguments>
+struct SCalibrationFlow;
+
+template <typename... Answers, typename... Arguments>
+struct SCalibrationFlow<void(Answers...), Arguments...>
+{
+    void (CQuorlinViewCtrl::*request)(std::string, Arguments...);
+    void (CQuorlinViewCtrl::*done)(Answers...);
+    void (CCalibrationDockWidget::*slot)(Answers...);
+};
+
+using CalibrationRead = void(SEachItemOperationResult, std::string);
+using CalibrationWrite = void(SEachItemOperationResult);
+using CalibrationReadSlot = void (CCalibrationDockWidget::*)(SEachItemOperationResult, std::string);
+using CalibrationWriteSlot = void (CCalibrationDockWidget::*)(SEachItemOperationResult);
+
+struct SCalibrationPage
+{
+    void (CQuorlinViewCtrl::*getDataModel)();
+    void (CQuorlinViewCtrl::*dataModelDone)(std::string);
+    SCalibrationFlow<CalibrationRead> upload;
+    SCalibrationFlow<CalibrationWrite> download;
+    SCalibrationFlow<CalibrationRead, QString> load;
+    SCalibrationFlow<CalibrationWrite, QString> save;
+    // The core's copy under the selection that a document names.
+    void (CQuorlinViewCtrl::*store)(const std::string &);
+    std::string (CQuorlinViewCtrl::*fetch)(std::string);
+};
+
+struct SCalibrationForm
+{
+    QWidget *contents;  // all widgets of the page
+    std::array<QAbstractButton *, 4> buttons;
+    QList<QWidget *> selectors;
+};
+
+class CCalibrationDockWidget : public CAutoBindingDataModelDockWidget
+{
+    Q_OBJECT
+
+public:
+    ~CCalibrationDockWidget() override;
+
+    QWidget *GetRootWidget() override;
+    int GetModelInterface() override;
+    void RequestDataModel() override;
+    void DisableTestControls() override;
+    void EnableTestControls() override;
+
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+public slots:
+    void Slot_TriggerStopTest() override;  // the page has no test
+
+protected slots:
+    void on_m_btnUpload_clicked();
+    void on_m_btnDownload_clicked();
+    void on_m_btnLoad_clicked();
+    void on_m_btnSave_clicked();
+    // The document is in place: the page sizes its tables.
+    virtual void Slot_InitDone();
+
+protected:
+    CCalibrationDockWidget(const SCalibrationPage &page, QWidget *parent);
+
+    // The form's parts, once it is built.
+    void SetForm(const SCalibrationForm &form);
+
+    // The answers. False when the flow failed, or the page was destroyed in a box.
+    bool FinishFlow(ECalibrationFlow flow, const SEachItemOperationResult &result);
+    bool FinishFlow(ECalibrationFlow flow, const SEachItemOperationResult &result,
+                    const std::string &document);
+
+    // For a selector's slot: stores the snapshot and shows the data of the new selection. False
+    // when there was nothing to do, or the page has left its window.
+    bool ChangeSelection(const char *log, const QString &selected);
+
+    // A snapshot has been taken, or new data are shown.
+    virtual void ShowSelectionDetails();
+
+    // Fixes the table's size to all of its headers and cells, and that of the scroll area that it
+    // stands in, if any, to the table's height.
+    static void FitTable(QTableWidget *table);
+    // For a reset button, by its name: sets all values of the tables to 0, which can be undone
+    // until the page shows other data, begins a flow or is left.
+    void ResetTables(const QString &reset, const QList<QTableWidget *> &tables);
+
+private:
+    struct SFlowWords;
+
+    template <typename Flow, typename... Arguments>
+    void StartFlow(ECalibrationFlow kind, const Flow &flow, const Arguments &...arguments);
+    template <typename Flow>
+    void EndFlow(const Flow &flow);
+    void EndFlow(ECalibrationFlow flow);
+    // The file that the user chooses; empty when the dialog was cancelled, which has been said
+    // then.
+    QString AskFile(bool isSave);
+    void ShowOutcome(const SFlowWords &words, const SEachItemOperationResult &result,
+                     const SCalRemarks &remarks);
+    void SetButtonsEnabled(bool isEnabled);
+    void TakeSnapshot();
+    // The page may be gone when it returns, unless boxes wait.
+    void ShowDocument(const std::string &document);
+    // round: the transfer under way, 0 for a file; routesInAll: 0 while that is not known yet.
+    void ShowProgress(ECalibrationFlow kind, int round, int routesDone, int routesInAll);
+    static const SFlowWords &Words(ECalibrationFlow flow);
+
+    const SCalibrationPage m_page;
+    std::string m_lastDocument;  // as it stood when the user went to a selector
+    const std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
+    SCalibrationForm m_form{};
+    CResetUndo m_undo{this, [this] { FinishEdit(); }};
+    SCalRemarks m_remarks;  // of the flow that runs
+};

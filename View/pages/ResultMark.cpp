@@ -1,0 +1,145 @@
+#include "View/pages/ResultMark.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QSpinBox>
+#include <QTableWidget>
+
+namespace {
+
+const QLatin1String kRequestName("cmdIf_request_");
+
+// The table's cells, or the widget itself.
+QList<QWidget *> Parts(QWidget *widget)
+{
+    auto *table = qobject_cast<QTableWidget *>(widget);
+    if (!table)
+        return {widget};
+    QList<QWidget *> cells;
+    for (int r = 0; r < table->rowCount(); ++r) {
+        for (int c = 0; c < table->columnCount(); ++c) {
+            if (QWidget *cell = table->cellWidget(r, c))
+                cells.append(cell);
+        }
+    }
+    return cells;
+}
+
+// Invalid for what is no editor.
+QVariant Value(const QWidget *widget)
+{
+    if (const auto *box = qobject_cast<const QComboBox *>(widget))
+        return box->currentText();
+    if (const auto *box = qobject_cast<const QSpinBox *>(widget))
+        return box->value();
+    if (const auto *box = qobject_cast<const QDoubleSpinBox *>(widget))
+        return box->value();
+    if (const auto *box = qobject_cast<const QCheckBox *>(widget))
+        return box->isChecked();
+    return {};
+}
+
+void SetGrey(QWidget *widget, bool isGrey)
+{
+    QPalette palette;
+    if (isGrey) {
+        const QColor grey = widget->palette().color(QPalette::Disabled, QPalette::Text);
+        palette.setColor(QPalette::Text, grey);
+        palette.setColor(QPalette::WindowText, grey);
+    }
+    widget->setPalette(palette);
+}
+
+}  // namespace
+
+CResultMark::CResultMark(QWidget *page, const QList<QWidget *> &results,
+                         const QList<QWidget *> &inputs)
+    : m_page(page), m_results(results), m_inputs(inputs)
+{
+}
+
+void CResultMark::Watch()
+{
+    QList<QWidget *> roots = m_inputs;
+    for (QWidget *widget : m_page->findChildren<QWidget *>()) {
+        if (widget->objectName().startsWith(kRequestName))
+            roots.append(widget);
+    }
+    for (QWidget *root : qAsConst(roots)) {
+        for (QWidget *editor : Parts(root)) {
+            if (Value(editor).isValid())
+                m_editors.append(editor);
+            if (auto *list = qobject_cast<QComboBox *>(editor))
+                connect(list, &QComboBox::currentTextChanged, this, [this] { Show(); });
+            else if (auto *number = qobject_cast<QSpinBox *>(editor))
+                connect(number, QOverload<int>::of(&QSpinBox::valueChanged), this,
+                        [this] { Show(); });
+            else if (auto *real = qobject_cast<QDoubleSpinBox *>(editor))
+                connect(real, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+                        [this] { Show(); });
+            else if (auto *check = qobject_cast<QCheckBox *>(editor))
+                connect(check, &QCheckBox::toggled, this, [this] { Show(); });
+        }
+    }
+    Show();
+}
+
+void CResultMark::Package()
+{
+    m_packaged = Settings();
+}
+
+void CResultMark::Measured()
+{
+    m_measured = m_packaged;
+    m_texts.clear();
+    for (QWidget *result : Results()) {
+        if (const auto *label = qobject_cast<QLabel *>(result))
+            m_texts[result] = label->text();
+    }
+    Show();
+}
+
+void CResultMark::Forget()
+{
+    m_measured.clear();
+    Show();
+}
+
+void CResultMark::Show()
+{
+    const bool isOfShown = IsOfShownSettings();
+    for (QWidget *result : Results()) {
+        const auto *label = qobject_cast<QLabel *>(result);
+        SetGrey(result, !isOfShown || (label && label->text() != m_texts.value(result)));
+    }
+}
+
+bool CResultMark::IsOfShownSettings() const
+{
+    if (m_measured.isEmpty())
+        return false;
+    for (QWidget *editor : m_editors) {
+        if (editor->isVisibleTo(m_page) && Value(editor) != m_measured.value(editor))
+            return false;
+    }
+    return true;
+}
+
+QHash<QWidget *, QVariant> CResultMark::Settings() const
+{
+    QHash<QWidget *, QVariant> settings;
+    for (QWidget *editor : m_editors)
+        settings[editor] = Value(editor);
+    return settings;
+}
+
+QList<QWidget *> CResultMark::Results() const
+{
+    QList<QWidget *> parts;
+    for (QWidget *result : m_results)
+        parts += Parts(result);
+    return parts;
+}

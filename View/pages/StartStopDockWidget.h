@@ -1,0 +1,158 @@
+// Pages that start something on the target and stop it later.
+//
+// Start starts the target and returns; what was started goes on until Stop. The page is in one of
+//     idle      Start on, Stop off
+//     starting  both off, busy     -> running, or what it was before when the target refused
+//     running   Start off, Stop on
+//     stopping  both off, busy     -> idle, or running when the stop failed, so that it can be
+//     tried again
+// From Start until the test is over, the inputs that Start packages are off, each by itself, so
+// that the page shows what the target runs on; then each is again what relevance had made it.
+// The binding carries all inputs; this class is the buttons and their answers, and what one
+// page has other than the next is its record. A record's test name words everything that the user
+// sees: "Cont Rx" gives the status lines "Cont Rx start...", "Cont Rx start failed...", "Cont Rx
+// stop." and "Cont Rx stop failed.", and the boxes "Cont Rx start failed" and "Cont Rx stop
+// failed".
+//
+// A stop from outside (another page comes to the front, the window goes) is never lost. While the
+// page cannot stop, since a start or another request of its own is under way, it remembers the
+// stop, and asks for it as soon as that has ended with a test that runs, or that may run: a start
+// that failed on the target.
+//
+// Host. While it disables the pages, no test starts; the Stop of a running one stays on.
+//
+// Errors. A result other than success ends in the result box, the last thing that an answer does:
+// the page may be gone when the box has closed.
+//
+// Threads. GUI thread. An answer's connection lives for one request: made just before it, taken
+// down first thing when the answer comes.
+//
+//   constexpr SStartStopPage kPage = {"Cont Rx", &CQuorlinViewCtrl::GetContRxDataModel, ...};
+//   CNrContRxDockWidgetV7::CNrContRxDockWidgetV7(QWidget *parent)
+//       : CStartStopDockWidget(kPage, parent), m_ui(...)
+//   {
+//       m_ui->setupUi(this);
+//       SetTestButtons(m_ui->m_start, m_ui->m_stop);
+//   }
+//   void CNrContRxDockWidgetV7::on_m_start_clicked() { StartTest(); }
+//   void CNrContRxDockWidgetV7::Slot_ContRxTestDone(SEachItemOperationResult result)
+//   {
+//       FinishStart("Slot_ContRxTestDone", result);
+//   }
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include <QPair>
+#include <QVector>
+
+#include "View/engine/AutoBindingDataModelDockWidget.h"
+#include "ViewController/QuorlinViewCtrl.h"
+
+class CStartStopDockWidget;
+class QPushButton;
+
+// Requests of the view controller, the signals that answer them, and slots of a page, which a
+// record takes with a static_cast.
+using ViewRequest = void (CQuorlinViewCtrl::*)();
+using DocumentRequest = void (CQuorlinViewCtrl::*)(std::string);
+using TextSignal = void (CQuorlinViewCtrl::*)(std::string);
+using ResultSignal = void (CQuorlinViewCtrl::*)(SEachItemOperationResult);
+using TextSlot = void (CStartStopDockWidget::*)(std::string);
+using ResultSlot = void (CStartStopDockWidget::*)(SEachItemOperationResult);
+
+struct SStartStopPage
+{
+    const char *test;  // name in status lines and titles
+    ViewRequest getDataModel;
+    TextSignal dataModelDone;
+    DocumentRequest start;
+    ResultSignal startDone;
+    ResultSlot startSlot;
+    ViewRequest stop;
+    ResultSlot stopSlot;
+};
+
+enum class ETestStep
+{
+    Starting,
+    Started,
+    StartFailed,
+    Stopping,
+    Stopped,
+    StopFailed,
+};
+
+class CStartStopDockWidget : public CAutoBindingDataModelDockWidget
+{
+    Q_OBJECT
+
+public:
+    QWidget *GetRootWidget() override;
+    int GetModelInterface() override;
+    void RequestDataModel() override;
+    void DisableTestControls() override;
+    void EnableTestControls() override;
+    void ShowTestStopped() override;
+
+protected:
+    CStartStopDockWidget(const SStartStopPage &page, QWidget *parent);
+
+    // The form's buttons, once it is built; the page starts idle.
+    void SetTestButtons(QPushButton *start, QPushButton *stop);
+    // What is off while a test runs; without it, the editors of the request.
+    void SetInputs(const QVector<QWidget *> &inputs);
+
+    void StartTest();
+    void StopTest();
+    // Stops what runs, now or as soon as the page can.
+    void StopRunningTest();
+    // The answers; slot is the name of the slot that they came to.
+    void FinishStart(const char *slot, const SEachItemOperationResult &result);
+    void FinishStop(const char *slot, const SEachItemOperationResult &result);
+    // A stop that came while another request of the page was under way; its answer calls this.
+    void StopIfAsked();
+
+    // The test goes this step; a page with more than the buttons adds what follows.
+    virtual void TakeStep(ETestStep step);
+    // Brings buttons and inputs in line with the state of the page; a page with more adds them.
+    virtual void ShowControls();
+    // Another request of the page has Start and Stop; and the inputs.
+    virtual bool HoldsButtons() const { return false; }
+    virtual bool HoldsInputs() const { return false; }
+    // The document is packaged; the start is next.
+    virtual void PrepareStart(const std::string &document);
+
+    // Start can be pressed though a test runs, until that is over.
+    void LetStartAgain();
+    // No request of the page has the buttons.
+    bool IsFree() const { return m_underWay == EUnderWay::Nothing && !HoldsButtons(); }
+    bool IsTestRunning() const { return m_isRunning; }
+
+    CQuorlinViewCtrl *ViewCtrl() const { return m_viewCtrl.get(); }
+
+private:
+    enum class EUnderWay
+    {
+        Nothing,
+        Start,
+        Stop,
+    };
+
+    void ShowInputs(bool areOn);
+    QVector<QWidget *> RequestEditors() const;
+    QString Words(const char *outcome) const;
+
+    const SStartStopPage m_page;
+    const std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
+    QPushButton *m_start = nullptr;
+    QPushButton *m_stop = nullptr;
+    QVector<QWidget *> m_inputs;
+    QVector<QPair<QWidget *, bool>> m_inputsOff;  // while they are off, and whether each was on
+    EUnderWay m_underWay = EUnderWay::Nothing;
+    bool m_isRunning = false;  // a test of this page
+    bool m_isStopAsked = false;
+    bool m_mayStartAgain = false;
+    bool m_isDisabledByHost = false;
+};

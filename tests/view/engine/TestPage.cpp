@@ -1,0 +1,35 @@
+#include "tests/view/engine/TestPage.h"
+
+#include <QHeaderView>
+
+#include "Model/JsonPath.h"
+#include "Model/ModelText.h"
+
+CTestPage::CTestPage(const CTestDocument &document, QWidget *parent)
+    : CAutoBindingDataModelDockWidget(parent), m_document(document), m_text(document.Text()),
+      m_content(new QWidget(this)), m_layout(new QVBoxLayout(m_content))
+{
+    setWindowTitle("Test page");
+    setWidget(m_content);
+}
+
+void CTestPage::RequestDataModel()
+{
+    ++m_requests;
+    if (m_answersAtOnce)
+        Deliver();
+}
+
+QTableWidget *CTestPage::AddTable(const QString &member)
+{
+    auto *table = Add<QTableWidget>(member);
+    table->verticalHeader()->setMinimumSectionSize(1);
+    return table;
+}
+
+QJsonValue CTestPage::Package(const QString &member)
+{
+    const QJsonObject packaged = ModelFromText(PackageMemberValue());
+    const QString group = m_document.Word() + '.' + member.section('.', 0, 1);
+    return GetJsonValueConst(packaged, group + ".memberValue." + member.section('.', 2));
+}
