@@ -10,13 +10,13 @@
 
 #include "Vond/VondLayout.h"
 
-constexpr int VOND_CAL_BLOCK_SUBBANDS = 16;  // subbands of one block
-constexpr int VOND_CAL_MAX_SUBBANDS = 64;    // subbands of one route
-constexpr int VOND_CAL_MAX_BLOCKS = VOND_CAL_MAX_SUBBANDS / VOND_CAL_BLOCK_SUBBANDS;
-constexpr int VOND_CAL_TEMPERATURES = 8;  // steps of every temperature table
+constexpr int kVondCalBlockSubbands = 16;  // subbands of one block
+constexpr int kVondCalMaxSubbands = 64;    // subbands of one route
+constexpr int kVondCalMaxBlocks = kVondCalMaxSubbands / kVondCalBlockSubbands;
+constexpr int kVondCalTemperatures = 8;  // steps of every temperature table
 
-constexpr int VOND_APT_LEVELS = 10;   // PA control levels
-constexpr int VOND_APT_PA_MODES = 3;  // 0 high, 1 middle, 2 low
+constexpr int kVondAptLevels = 10;  // PA control levels
+constexpr int kVondAptPaModes = 3;  // 0 high, 1 middle, 2 low
 
 // One PA control level.
 struct SAptLevel
@@ -41,10 +41,10 @@ struct SAptPaPart
 {
     uint8_t prfIndex;
     uint8_t reserved1;
-    int16_t paGain[VOND_CAL_BLOCK_SUBBANDS];                 // by subband, 1/32 dB
-    int16_t paGainTempOffset[VOND_CAL_TEMPERATURES];         // by temperature, 1/32 dB
-    int16_t powerDetector[VOND_CAL_BLOCK_SUBBANDS];          // by subband, 1/32 dB
-    int16_t powerDetectorTempOffset[VOND_CAL_TEMPERATURES];  // by temperature, 1/32 dB
+    int16_t paGain[kVondCalBlockSubbands];                  // by subband, 1/32 dB
+    int16_t paGainTempOffset[kVondCalTemperatures];         // by temperature, 1/32 dB
+    int16_t powerDetector[kVondCalBlockSubbands];           // by subband, 1/32 dB
+    int16_t powerDetectorTempOffset[kVondCalTemperatures];  // by temperature, 1/32 dB
 };
 VOND_SIZE(SAptPaPart, 98);
 VOND_OFFSET(SAptPaPart, prfIndex, 0);
@@ -62,10 +62,10 @@ struct SAptBlock
     uint8_t paControlLevel;  // levels in use, at most 10
     uint8_t paModeCount;     // PA modes in use, at most 3
     uint8_t reserved5;
-    SAptLevel level[VOND_APT_LEVELS];
-    int16_t couplerLoss[VOND_APT_PA_MODES];  // 1/32 dB
-    uint32_t freq[VOND_CAL_BLOCK_SUBBANDS];  // UL, kHz
-    SAptPaPart pa[VOND_APT_PA_MODES];
+    SAptLevel level[kVondAptLevels];
+    int16_t couplerLoss[kVondAptPaModes];  // 1/32 dB
+    uint32_t freq[kVondCalBlockSubbands];  // UL, kHz
+    SAptPaPart pa[kVondAptPaModes];
     uint8_t reserved450[2];
 };
 VOND_SIZE(SAptBlock, 452);
@@ -98,41 +98,41 @@ VOND_SIZE(SMMLossPair, 4);
 VOND_OFFSET(SMMLossPair, lpm, 0);
 VOND_OFFSET(SMMLossPair, hpm, 2);
 
-constexpr int VOND_LOSS_GAIN_SLOTS = 8;  // gain modes that a loss table has room for
-constexpr int VOND_SRX_PATHS = 2;        // paths of a type 2 route
-constexpr int VOND_GAIN_ROWS = 7;        // G0 to G6
-constexpr int VOND_GAIN_COLUMNS = 3;     // g0 to g2
-constexpr int VOND_SUB_GAINS = 3;        // sub-gains of a gain-by-gain row
+constexpr int kVondLossGainSlots = 8;  // gain modes that a loss table has room for
+constexpr int kVondSrxPaths = 2;       // paths of a type 2 route
+constexpr int kVondGainRows = 7;       // G0 to G6
+constexpr int kVondGainColumns = 3;    // g0 to g2
+constexpr int kVondSubGains = 3;       // sub-gains of a gain-by-gain row
 
-constexpr int VOND_TYPE1_LOSS_PAIRS = 2 * VOND_LOSS_GAIN_SLOTS;
-constexpr int VOND_PARTIAL_ON_PAIRS = VOND_SRX_PATHS * VOND_LOSS_GAIN_SLOTS;
-constexpr int VOND_GAIN_BY_GAIN_PAIRS =
-    VOND_SRX_PATHS * VOND_GAIN_ROWS * VOND_GAIN_COLUMNS * VOND_SUB_GAINS;
-constexpr int VOND_TYPE2_PATH_PAIRS = VOND_PARTIAL_ON_PAIRS + VOND_GAIN_BY_GAIN_PAIRS;
-constexpr int VOND_TYPE2_LOSS_PAIRS = 2 * VOND_TYPE2_PATH_PAIRS;
-static_assert(VOND_TYPE1_LOSS_PAIRS == 16 && VOND_TYPE2_LOSS_PAIRS == 284,
+constexpr int kVondType1LossPairs = 2 * kVondLossGainSlots;
+constexpr int kVondPartialOnPairs = kVondSrxPaths * kVondLossGainSlots;
+constexpr int kVondGainByGainPairs =
+    kVondSrxPaths * kVondGainRows * kVondGainColumns * kVondSubGains;
+constexpr int kVondType2PathPairs = kVondPartialOnPairs + kVondGainByGainPairs;
+constexpr int kVondType2LossPairs = 2 * kVondType2PathPairs;
+static_assert(kVondType1LossPairs == 16 && kVondType2LossPairs == 284,
               "the loss of one subband is 16 pairs, of type 2 284 pairs");
 
 // Pair index of a gain slot, 0 to 7, of a type 1 route.
 constexpr int VondType1LossPair(EVondRxPath path, int slot)
 {
-    return static_cast<int>(path) * VOND_LOSS_GAIN_SLOTS + slot;
+    return static_cast<int>(path) * kVondLossGainSlots + slot;
 }
 
 // Pair index of a gain slot on an SRX path, 0 or 1, while that path runs alone.
 constexpr int VondPartialOnPair(EVondRxPath path, int srxPath, int slot)
 {
-    return static_cast<int>(path) * VOND_TYPE2_PATH_PAIRS + srxPath * VOND_LOSS_GAIN_SLOTS + slot;
+    return static_cast<int>(path) * kVondType2PathPairs + srxPath * kVondLossGainSlots + slot;
 }
 
 // Pair index of a sub-gain, 0 to 2, of gain G (0 to 6), g (0 to 2) on an SRX path.
 constexpr int VondGainByGainPair(EVondRxPath path, int srxPath, int bigG, int smallG, int subGain)
 {
-    const int row = (srxPath * VOND_GAIN_ROWS + bigG) * VOND_GAIN_COLUMNS + smallG;
-    return static_cast<int>(path) * VOND_TYPE2_PATH_PAIRS + VOND_PARTIAL_ON_PAIRS +
-           row * VOND_SUB_GAINS + subGain;
+    const int row = (srxPath * kVondGainRows + bigG) * kVondGainColumns + smallG;
+    return static_cast<int>(path) * kVondType2PathPairs + kVondPartialOnPairs +
+           row * kVondSubGains + subGain;
 }
-static_assert(VondGainByGainPair(EVondRxPath::Div, 1, 6, 2, 2) == VOND_TYPE2_LOSS_PAIRS - 1,
+static_assert(VondGainByGainPair(EVondRxPath::Div, 1, 6, 2, 2) == kVondType2LossPairs - 1,
               "the last gain-by-gain pair is the last pair of a subband");
 
 // One block of a type 1 RX route.
@@ -140,9 +140,9 @@ struct SMMType1PathlossBlockV7
 {
     uint16_t band;  // NR band number
     uint8_t reserved2[2];
-    uint32_t freq[VOND_CAL_BLOCK_SUBBANDS];  // DL, kHz
-    SMMLossPair loss[VOND_CAL_BLOCK_SUBBANDS][VOND_TYPE1_LOSS_PAIRS];
-    int16_t plOffset[VOND_CAL_TEMPERATURES];  // by temperature, 1/32 dB
+    uint32_t freq[kVondCalBlockSubbands];  // DL, kHz
+    SMMLossPair loss[kVondCalBlockSubbands][kVondType1LossPairs];
+    int16_t plOffset[kVondCalTemperatures];  // by temperature, 1/32 dB
 };
 VOND_SIZE(SMMType1PathlossBlockV7, 1108);
 VOND_OFFSET(SMMType1PathlossBlockV7, band, 0);
@@ -156,9 +156,9 @@ struct SMMType2PathlossBlockV7
 {
     uint16_t band;  // NR band number
     uint8_t reserved2[2];
-    uint32_t freq[VOND_CAL_BLOCK_SUBBANDS];  // DL, kHz
-    SMMLossPair loss[VOND_CAL_BLOCK_SUBBANDS][VOND_TYPE2_LOSS_PAIRS];
-    int16_t plOffset[VOND_CAL_TEMPERATURES];  // by temperature, 1/32 dB
+    uint32_t freq[kVondCalBlockSubbands];  // DL, kHz
+    SMMLossPair loss[kVondCalBlockSubbands][kVondType2LossPairs];
+    int16_t plOffset[kVondCalTemperatures];  // by temperature, 1/32 dB
 };
 VOND_SIZE(SMMType2PathlossBlockV7, 18260);
 VOND_OFFSET(SMMType2PathlossBlockV7, band, 0);

@@ -20,12 +20,12 @@
 #include "Vond/VondCalBlocks.h"
 #include "Vond/VondCapabilityRecords.h"
 
-constexpr int VOND_CAL_TYPE1_BLOCKS = 55;  // of one round
-constexpr int VOND_CAL_TYPE2_BLOCKS = 3;
-constexpr int VOND_CAL_TX_BLOCKS = 135;
-constexpr int VOND_CAL_TEXT = 64;        // bytes of a verdict text
-constexpr uint8_t VOND_CAL_SUCCESS = 1;  // status of both answers
-constexpr uint8_t VOND_CAL_VERSION = 1;  // of a download request
+constexpr int kVondCalType1Blocks = 55;  // of one round
+constexpr int kVondCalType2Blocks = 3;
+constexpr int kVondCalTxBlocks = 135;
+constexpr int kVondCalText = 64;        // bytes of a verdict text
+constexpr uint8_t kVondCalSuccess = 1;  // status of both answers
+constexpr uint8_t kVondCalVersion = 1;  // of a download request
 
 // An RX route in the answer of the block information.
 struct SMMCalRxRowV7
@@ -41,8 +41,8 @@ VOND_OFFSET(SMMCalRxRowV7, blockTotal, 2);
 struct SMMCalTxRowV7
 {
     uint16_t route;
-    uint16_t blockTotal;                       // sum of the regions, which may all be 0
-    uint16_t blockCount[VOND_MAX_BW_REGIONS];  // by bandwidth region, as in the route table
+    uint16_t blockTotal;                     // sum of the regions, which may all be 0
+    uint16_t blockCount[kVondMaxBwRegions];  // by bandwidth region, as in the route table
     uint8_t reserved12[4];
 };
 VOND_SIZE(SMMCalTxRowV7, 16);
@@ -57,9 +57,9 @@ struct SMMCalBlkInfoCnfV7
     uint16_t type1Count;  // rows in use
     uint16_t type2Count;
     uint16_t txCount;
-    SMMCalRxRowV7 type1[VOND_MAX_RX_ROUTES];
-    SMMCalRxRowV7 type2[VOND_MAX_RX_ROUTES];
-    SMMCalTxRowV7 tx[VOND_MAX_TX_ROUTES];
+    SMMCalRxRowV7 type1[kVondMaxRxRoutes];
+    SMMCalRxRowV7 type2[kVondMaxRxRoutes];
+    SMMCalTxRowV7 tx[kVondMaxTxRoutes];
 };
 VOND_SIZE(SMMCalBlkInfoCnfV7, 2406);
 VOND_OFFSET(SMMCalBlkInfoCnfV7, type1Count, 0);
@@ -129,9 +129,9 @@ struct SMMGetCalDataReqV7
     uint16_t type2Count;
     uint16_t txCount;
     uint8_t reserved10[2];
-    SMMCalRxEntryV7 type1[VOND_CAL_TYPE1_BLOCKS];
-    SMMCalRxEntryV7 type2[VOND_CAL_TYPE2_BLOCKS];
-    SMMCalTxRequestEntryV7 tx[VOND_CAL_TX_BLOCKS];
+    SMMCalRxEntryV7 type1[kVondCalType1Blocks];
+    SMMCalRxEntryV7 type2[kVondCalType2Blocks];
+    SMMCalTxRequestEntryV7 tx[kVondCalTxBlocks];
 };
 VOND_SIZE(SMMGetCalDataReqV7, 2404);
 VOND_OFFSET(SMMGetCalDataReqV7, radioKind, 0);
@@ -147,9 +147,9 @@ VOND_OFFSET(SMMGetCalDataReqV7, tx, 244);
 struct SMMCalVerdictV7
 {
     uint8_t status;  // 1: success
-    char type1Text[VOND_CAL_TEXT];
-    char type2Text[VOND_CAL_TEXT];
-    char txText[VOND_CAL_TEXT];
+    char type1Text[kVondCalText];
+    char type2Text[kVondCalText];
+    char txText[kVondCalText];
 };
 VOND_SIZE(SMMCalVerdictV7, 193);
 VOND_OFFSET(SMMCalVerdictV7, status, 0);
@@ -165,15 +165,15 @@ struct SMMGetCalDataCnfV7
     uint16_t type1Count;  // entries in use
     uint16_t type2Count;
     uint16_t txCount;
-    SMMCalRxEntryV7 type1[VOND_CAL_TYPE1_BLOCKS];
-    uint16_t type2BlockCount[VOND_CAL_TYPE2_BLOCKS];
+    SMMCalRxEntryV7 type1[kVondCalType1Blocks];
+    uint16_t type2BlockCount[kVondCalType2Blocks];
     uint8_t reserved426[6];
-    uint16_t type2Route[VOND_CAL_TYPE2_BLOCKS];
+    uint16_t type2Route[kVondCalType2Blocks];
     uint8_t reserved438[18];
-    SMMCalTxEntryV7 tx[VOND_CAL_TX_BLOCKS];
-    SMMType1PathlossBlockV7 type1Block[VOND_CAL_TYPE1_BLOCKS];
-    SMMType2PathlossBlockV7 type2Block[VOND_CAL_TYPE2_BLOCKS];
-    SAptBlock txBlock[VOND_CAL_TX_BLOCKS];
+    SMMCalTxEntryV7 tx[kVondCalTxBlocks];
+    SMMType1PathlossBlockV7 type1Block[kVondCalType1Blocks];
+    SMMType2PathlossBlockV7 type2Block[kVondCalType2Blocks];
+    SAptBlock txBlock[kVondCalTxBlocks];
 };
 VOND_SIZE(SMMGetCalDataCnfV7, 178276);
 VOND_OFFSET(SMMGetCalDataCnfV7, verdict, 0);
@@ -195,20 +195,20 @@ VOND_OFFSET(SMMGetCalDataCnfV7, txBlock, 117256);
 struct SMMSetCalDataReqV7
 {
     uint32_t radioKind;  // 0 LTE side, 1 NR
-    uint8_t version;     // VOND_CAL_VERSION
+    uint8_t version;     // kVondCalVersion
     uint8_t reserved5;
     uint16_t type1Count;  // entries in use
     uint16_t type2Count;
     uint16_t txCount;
-    SMMCalRxEntryV7 type1[VOND_CAL_TYPE1_BLOCKS];
-    uint16_t type2BlockCount[VOND_CAL_TYPE2_BLOCKS];
+    SMMCalRxEntryV7 type1[kVondCalType1Blocks];
+    uint16_t type2BlockCount[kVondCalType2Blocks];
     uint8_t reserved238[6];
-    uint16_t type2Route[VOND_CAL_TYPE2_BLOCKS];
+    uint16_t type2Route[kVondCalType2Blocks];
     uint8_t reserved250[26];
-    SMMCalTxEntryV7 tx[VOND_CAL_TX_BLOCKS];
-    SMMType1PathlossBlockV7 type1Block[VOND_CAL_TYPE1_BLOCKS];
-    SMMType2PathlossBlockV7 type2Block[VOND_CAL_TYPE2_BLOCKS];
-    SAptBlock txBlock[VOND_CAL_TX_BLOCKS];
+    SMMCalTxEntryV7 tx[kVondCalTxBlocks];
+    SMMType1PathlossBlockV7 type1Block[kVondCalType1Blocks];
+    SMMType2PathlossBlockV7 type2Block[kVondCalType2Blocks];
+    SAptBlock txBlock[kVondCalTxBlocks];
 };
 VOND_SIZE(SMMSetCalDataReqV7, 178096);
 VOND_OFFSET(SMMSetCalDataReqV7, radioKind, 0);

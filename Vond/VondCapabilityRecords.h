@@ -7,14 +7,14 @@
 
 #include "Vond/VondLayout.h"
 
-constexpr int VOND_MAX_BANDS = 25;
-constexpr int VOND_MAX_TX_ROUTES = 100;
-constexpr int VOND_MAX_RX_ROUTES = 100;       // of each type
-constexpr int VOND_MAX_BW_REGIONS = 4;        // aggregate bandwidth regions of a TX route
-constexpr int VOND_MAX_ROUTE_VALUES = 100;    // TX routes paired with one RX route
-constexpr int VOND_MAX_FREQ_LIMITS = 14;      // routes with limits of their own, a direction
-constexpr int VOND_MAX_DETAIL_ROUTES = 1181;  // rows of a hardware detail table
-constexpr int VOND_RX_POWER_MODES = 2;        // 0 high power mode (HPM), 1 low power mode (LPM)
+constexpr int kVondMaxBands = 25;
+constexpr int kVondMaxTxRoutes = 100;
+constexpr int kVondMaxRxRoutes = 100;       // of each type
+constexpr int kVondMaxBwRegions = 4;        // aggregate bandwidth regions of a TX route
+constexpr int kVondMaxRouteValues = 100;    // TX routes paired with one RX route
+constexpr int kVondMaxFreqLimits = 14;      // routes with limits of their own, a direction
+constexpr int kVondMaxDetailRoutes = 1181;  // rows of a hardware detail table
+constexpr int kVondRxPowerModes = 2;        // 0 high power mode (HPM), 1 low power mode (LPM)
 
 // An item word: a value that may be absent.
 constexpr bool VondItemValid(uint32_t word)
@@ -48,7 +48,7 @@ VOND_OFFSET(SERfCapability, reserved0, 0);
 VOND_OFFSET(SERfCapability, rfChipId, 8);
 VOND_OFFSET(SERfCapability, reserved12, 12);
 
-constexpr uint32_t VOND_RAT_NR = 0x40;  // bit of NR in the value of the world mode word
+constexpr uint32_t kVondRatNr = 0x40;  // bit of NR in the value of the world mode word
 
 // Answer of VOND_MMRf_GetRfCapability_r.
 struct SMMRfCapability
@@ -91,10 +91,10 @@ VOND_OFFSET(SMMRfBandEntryV7, uplinkOnly, 3);
 struct SRouteFreqRangeHalf
 {
     uint16_t count;
-    uint16_t band[VOND_MAX_FREQ_LIMITS];   // NR band number
-    uint16_t route[VOND_MAX_FREQ_LIMITS];  // route number
-    int32_t low[VOND_MAX_FREQ_LIMITS];     // lowest carrier frequency, kHz
-    int32_t high[VOND_MAX_FREQ_LIMITS];    // highest carrier frequency, kHz
+    uint16_t band[kVondMaxFreqLimits];   // NR band number
+    uint16_t route[kVondMaxFreqLimits];  // route number
+    int32_t low[kVondMaxFreqLimits];     // lowest carrier frequency, kHz
+    int32_t high[kVondMaxFreqLimits];    // highest carrier frequency, kHz
 };
 VOND_SIZE(SRouteFreqRangeHalf, 172);
 VOND_OFFSET(SRouteFreqRangeHalf, count, 0);
@@ -118,7 +118,7 @@ struct SMMRfTxRouteV7
     uint16_t route;          // route number
     uint16_t bwRegionCount;  // rows of bwRegionKhz in use, at most 4
     uint16_t reserved;
-    uint32_t bwRegionKhz[VOND_MAX_BW_REGIONS];  // upper bound of each region, kHz
+    uint32_t bwRegionKhz[kVondMaxBwRegions];  // upper bound of each region, kHz
 };
 VOND_SIZE(SMMRfTxRouteV7, 24);
 VOND_OFFSET(SMMRfTxRouteV7, band, 0);
@@ -170,9 +170,9 @@ struct SMMRfRouteTableV7
     uint16_t rxType1RouteCount;
     uint16_t rxType2RouteCount;
     uint8_t reserved6[2];
-    SMMRfTxRouteV7 txRoute[VOND_MAX_TX_ROUTES];
-    SMMRfRxType1RouteV7 rxType1Route[VOND_MAX_RX_ROUTES];
-    SMMRfRxType2RouteV7 rxType2Route[VOND_MAX_RX_ROUTES];
+    SMMRfTxRouteV7 txRoute[kVondMaxTxRoutes];
+    SMMRfRxType1RouteV7 rxType1Route[kVondMaxRxRoutes];
+    SMMRfRxType2RouteV7 rxType2Route[kVondMaxRxRoutes];
 };
 VOND_SIZE(SMMRfRouteTableV7, 3808);
 VOND_OFFSET(SMMRfRouteTableV7, txRouteCount, 0);
@@ -187,10 +187,10 @@ VOND_OFFSET(SMMRfRouteTableV7, rxType2Route, 2808);
 struct SMMRfRouteConfigV7
 {
     uint32_t bandCount;
-    SMMRfBandEntryV7 band[VOND_MAX_BANDS];
+    SMMRfBandEntryV7 band[kVondMaxBands];
     SRouteFreqRangeV7 freqRange;
     SMMRfRouteTableV7 routes;
-    SMMRfRxGainInfoV7 rxGainInfo[VOND_RX_POWER_MODES];  // index 0 HPM, 1 LPM
+    SMMRfRxGainInfoV7 rxGainInfo[kVondRxPowerModes];  // index 0 HPM, 1 LPM
 };
 VOND_SIZE(SMMRfRouteConfigV7, 5476);
 VOND_OFFSET(SMMRfRouteConfigV7, bandCount, 0);
@@ -203,9 +203,9 @@ VOND_OFFSET(SMMRfRouteConfigV7, rxGainInfo, 4256);
 struct SNRfBandRxInfo
 {
     uint16_t count;
-    uint16_t band[VOND_MAX_BANDS];   // NR band number
-    uint8_t ulMimo[VOND_MAX_BANDS];  // 1: UL MIMO
-    uint8_t rx4x4[VOND_MAX_BANDS];   // 1: 4x4 RX
+    uint16_t band[kVondMaxBands];   // NR band number
+    uint8_t ulMimo[kVondMaxBands];  // 1: UL MIMO
+    uint8_t rx4x4[kVondMaxBands];   // 1: 4x4 RX
 };
 VOND_SIZE(SNRfBandRxInfo, 102);
 VOND_OFFSET(SNRfBandRxInfo, count, 0);
@@ -215,9 +215,9 @@ VOND_OFFSET(SNRfBandRxInfo, rx4x4, 77);
 
 struct SNRfRxRouteValueEntry
 {
-    uint16_t route;                         // RX route number
-    uint16_t valueCount;                    // TX routes in use
-    uint16_t value[VOND_MAX_ROUTE_VALUES];  // TX route numbers that can pair with the RX route
+    uint16_t route;                       // RX route number
+    uint16_t valueCount;                  // TX routes in use
+    uint16_t value[kVondMaxRouteValues];  // TX route numbers that can pair with the RX route
 };
 VOND_SIZE(SNRfRxRouteValueEntry, 204);
 VOND_OFFSET(SNRfRxRouteValueEntry, route, 0);
@@ -228,7 +228,7 @@ VOND_OFFSET(SNRfRxRouteValueEntry, value, 4);
 struct SNRfRxRouteValues
 {
     uint16_t count;
-    SNRfRxRouteValueEntry entry[VOND_MAX_RX_ROUTES];
+    SNRfRxRouteValueEntry entry[kVondMaxRxRoutes];
 };
 VOND_SIZE(SNRfRxRouteValues, 20402);
 VOND_OFFSET(SNRfRxRouteValues, count, 0);
@@ -253,9 +253,9 @@ struct SMMRfRouteDetailReqV7
     uint8_t rxType2Count;
     uint8_t txPairCount;
     uint8_t reserved7;
-    uint16_t rxType1Route[VOND_MAX_DETAIL_ROUTES];
-    uint16_t rxType2Route[VOND_MAX_DETAIL_ROUTES];
-    SMMRfRouteDetailTxPair txPair[VOND_MAX_DETAIL_ROUTES];
+    uint16_t rxType1Route[kVondMaxDetailRoutes];
+    uint16_t rxType2Route[kVondMaxDetailRoutes];
+    SMMRfRouteDetailTxPair txPair[kVondMaxDetailRoutes];
     uint8_t reserved14180[4200];
 };
 VOND_SIZE(SMMRfRouteDetailReqV7, 18380);
@@ -327,9 +327,9 @@ VOND_OFFSET(STxBwRegionHw, mimoPair, 24);
 struct SMMRfRouteDetailCnfV7
 {
     uint8_t reserved0[18376];
-    SRxRouteHw rxType1[VOND_MAX_DETAIL_ROUTES];
-    SRxRouteHw rxType2[VOND_MAX_DETAIL_ROUTES];
-    STxBwRegionHw txPair[VOND_MAX_DETAIL_ROUTES];
+    SRxRouteHw rxType1[kVondMaxDetailRoutes];
+    SRxRouteHw rxType2[kVondMaxDetailRoutes];
+    STxBwRegionHw txPair[kVondMaxDetailRoutes];
 };
 VOND_SIZE(SMMRfRouteDetailCnfV7, 183716);
 VOND_OFFSET(SMMRfRouteDetailCnfV7, reserved0, 0);

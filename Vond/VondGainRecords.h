@@ -7,9 +7,9 @@
 
 #include "Vond/VondLayout.h"
 
-constexpr uint8_t VOND_HIGHEST_GAIN_IDX = 17;  // last entry of the type 2 gain table
-constexpr uint8_t VOND_HIGHEST_ELNA_MODE = 6;  // G0 to G6
-constexpr uint8_t VOND_HIGHEST_GAIN_MODE = 2;  // g0 to g2
+constexpr uint8_t kVondHighestGainIdx = 17;  // last entry of the type 2 gain table
+constexpr uint8_t kVondHighestElnaMode = 6;  // G0 to G6
+constexpr uint8_t kVondHighestGainMode = 2;  // g0 to g2
 
 union UMMRssiGainV7
 {

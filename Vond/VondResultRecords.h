@@ -6,8 +6,8 @@
 #include "Vond/VondGainRecords.h"
 #include "Vond/VondLayout.h"
 
-constexpr int VOND_MAX_REPORTS = 10;   // measurements of one RSRP report
-constexpr int VOND_MAX_RSSI_ROWS = 5;  // frequencies of one RSSI measurement
+constexpr int kVondMaxReports = 10;  // measurements of one RSRP report
+constexpr int kVondMaxRssiRows = 5;  // frequencies of one RSSI measurement
 
 // Answer of VOND_NRf_GetDlFreqV7_r.
 struct SNrDlFreqCnfV7
@@ -24,14 +24,14 @@ struct NRfTestResult_GetMixRxReportV7
 {
     uint8_t reportCount;  // measurements in use, at most 10
     uint8_t reserved1[3];
-    int16_t RSSI0[VOND_MAX_REPORTS];
-    int16_t RSSI1[VOND_MAX_REPORTS];
-    int16_t RSSI2[VOND_MAX_REPORTS];
-    int16_t RSSI3[VOND_MAX_REPORTS];
-    int16_t RSRP0[VOND_MAX_REPORTS];
-    int16_t RSRP1[VOND_MAX_REPORTS];
-    int16_t RSRP2[VOND_MAX_REPORTS];
-    int16_t RSRP3[VOND_MAX_REPORTS];
+    int16_t RSSI0[kVondMaxReports];
+    int16_t RSSI1[kVondMaxReports];
+    int16_t RSSI2[kVondMaxReports];
+    int16_t RSSI3[kVondMaxReports];
+    int16_t RSRP0[kVondMaxReports];
+    int16_t RSRP1[kVondMaxReports];
+    int16_t RSRP2[kVondMaxReports];
+    int16_t RSRP3[kVondMaxReports];
     uint32_t GoodBLK;  // transport blocks received well since the last reset
     uint32_t BadBLK;   // transport blocks lost since the last reset
 };
@@ -73,7 +73,7 @@ union UMMRssiRowsV7
         {
             int16_t rssiMain;
             int16_t rssiDiv;
-        } row[VOND_MAX_RSSI_ROWS];
+        } row[kVondMaxRssiRows];
         uint8_t mainG;
         uint8_t divG;
         uint8_t maing;
@@ -88,7 +88,7 @@ union UMMRssiRowsV7
             int16_t path0Div;
             int16_t path1Main;
             int16_t path1Div;
-        } row[VOND_MAX_RSSI_ROWS];
+        } row[kVondMaxRssiRows];
         uint8_t mainG;
         uint8_t divG;
         uint8_t path0Maing;
@@ -104,7 +104,7 @@ VOND_SIZE(UMMRssiRowsV7, 48);
 struct SMMRssiCnfV7
 {
     uint8_t reserved0[8];
-    uint32_t dlFrequency[VOND_MAX_RSSI_ROWS];  // kHz, of each row
+    uint32_t dlFrequency[kVondMaxRssiRows];  // kHz, of each row
     UMMRssiRowsV7 rows;
 };
 VOND_SIZE(SMMRssiCnfV7, 76);

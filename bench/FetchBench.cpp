@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int kRowsAFetch = VOND_MAX_REPORTS;
+constexpr int kRowsAFetch = kVondMaxReports;
 constexpr char kMember[] = "cmdIf_request_group1_memberProperty_";
 
 // The page with a test running on the simulated DUT; its own timer is out of the way.

@@ -20,7 +20,7 @@ QString PropertyPath(const char *group, const QString &member)
     return QLatin1String(group) + QLatin1String(".memberProperty.") + member;
 }
 
-int CountToFirst0(const uint32_t (&freq)[VOND_CAL_MAX_SUBBANDS], int length)
+int CountToFirst0(const uint32_t (&freq)[kVondCalMaxSubbands], int length)
 {
     return static_cast<int>(std::find(freq, freq + length, 0u) - freq);
 }
@@ -48,11 +48,10 @@ void Fill(const CCalEditor &editor, ECalText kind, const QString &packaged, cons
 // The frequencies as the page is given them, one for each place.
 QStringList FrequencyTexts(const SCalFrequencies &frequencies)
 {
-    const int end = frequencies.shownToFirst0
-                        ? CountToFirst0(frequencies.freq, VOND_CAL_MAX_SUBBANDS)
-                        : VOND_CAL_MAX_SUBBANDS;
+    const int end = frequencies.shownToFirst0 ? CountToFirst0(frequencies.freq, kVondCalMaxSubbands)
+                                              : kVondCalMaxSubbands;
     QStringList texts;
-    for (int i = 0; i < VOND_CAL_MAX_SUBBANDS; ++i)
+    for (int i = 0; i < kVondCalMaxSubbands; ++i)
         texts.append(CalText(ECalText::Number, i < end ? frequencies.freq[i] : 0));
     return texts;
 }
@@ -91,12 +90,12 @@ void CCalFill::Frequencies(const SCalFrequencies &frequencies)
     const QJsonArray texts = packaged.toArray();
     const QStringList own = FrequencyTexts(frequencies);
     const CCalEditor editor(m_document, PropertyPath(frequencies.group, frequencies.member));
-    const int count = std::min(texts.size(), VOND_CAL_MAX_SUBBANDS);
+    const int count = std::min(texts.size(), kVondCalMaxSubbands);
     for (int i = 0; i < count; ++i)
         Fill(editor, ECalText::Number, texts[i].toString(), own[i], CCalCell(frequencies.freq[i]));
     const int entries = CountToFirst0(frequencies.freq, count);
     frequencies.blockCount =
-        static_cast<uint32_t>((entries + VOND_CAL_BLOCK_SUBBANDS - 1) / VOND_CAL_BLOCK_SUBBANDS);
+        static_cast<uint32_t>((entries + kVondCalBlockSubbands - 1) / kVondCalBlockSubbands);
 }
 
 void CCalShow::Field(const SCalField &field)
@@ -128,7 +127,7 @@ void CCalShow::Frequencies(const SCalFrequencies &frequencies)
     QStringList texts = FrequencyTexts(frequencies);
     if (frequencies.shownToFirst0) {
         // One 0 behind the last, as a column table repeats its last entry.
-        const int count = CountToFirst0(frequencies.freq, VOND_CAL_MAX_SUBBANDS);
+        const int count = CountToFirst0(frequencies.freq, kVondCalMaxSubbands);
         texts = texts.mid(0, count == 0 ? 0 : count + 1);
     }
     if (!Write(PropertyPath(frequencies.group, frequencies.member) +

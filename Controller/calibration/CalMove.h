@@ -41,7 +41,7 @@ struct SCalFrequencies
 {
     const char *group;
     const char *member;
-    uint32_t (&freq)[VOND_CAL_MAX_SUBBANDS];  // kHz
+    uint32_t (&freq)[kVondCalMaxSubbands];  // kHz
     uint32_t &blockCount;
     bool shownToFirst0;  // the page gets no entry behind the first 0
     const char *failed;

@@ -137,8 +137,8 @@ void WalkAll(ICalMove &move, ECalRoute kind, void *record)
             MoveType1(move, *static_cast<SMMType1PathlossByRouteV7 *>(record), {half});
             continue;
         }
-        for (int path = 0; path < VOND_SRX_PATHS; ++path) {
-            for (int bigG = 0; bigG < VOND_GAIN_ROWS; ++bigG)
+        for (int path = 0; path < kVondSrxPaths; ++path) {
+            for (int bigG = 0; bigG < kVondGainRows; ++bigG)
                 MoveType2(move, *static_cast<SMMType2PathlossByRouteV7 *>(record),
                           {half, 0, path, bigG});
         }
@@ -221,9 +221,9 @@ const SCalShown &CCalPageLimits::FrequencyOf(ECalRoute kind, uint16_t route)
 const SCalShown *CCalPageLimits::Of(ECalRoute kind, const SCalPlace &place, size_t offset)
 {
     const SLayout layout = LayoutOf(kind);
-    if (offset >= layout.freq && offset < layout.freq + VOND_CAL_MAX_SUBBANDS * sizeof(uint32_t))
+    if (offset >= layout.freq && offset < layout.freq + kVondCalMaxSubbands * sizeof(uint32_t))
         return &FrequencyOf(kind, place.route);
-    const size_t losses = layout.lossOfSubband * VOND_CAL_MAX_SUBBANDS;
+    const size_t losses = layout.lossOfSubband * kVondCalMaxSubbands;
     if (offset >= layout.loss && offset < layout.loss + losses)
         offset = layout.loss + (offset - layout.loss) % layout.lossOfSubband;
     const Fields &fields = FieldsOf(kind);

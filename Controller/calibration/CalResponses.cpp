@@ -12,13 +12,13 @@ constexpr char kNoCaption[] = "NA";  // of a gain slot that no gain mode uses
 QStringList SlotCaptions(const SMMRfRxGainInfoV7 &gains)
 {
     QStringList captions;
-    for (int bigG = 0; bigG < VOND_GAIN_ROWS; ++bigG) {
-        for (int smallG = 0; smallG < VOND_GAIN_COLUMNS; ++smallG) {
+    for (int bigG = 0; bigG < kVondGainRows; ++bigG) {
+        for (int smallG = 0; smallG < kVondGainColumns; ++smallG) {
             if (gains.t1[bigG][smallG] == 1)
                 captions.append(QStringLiteral("G%1,g%2").arg(bigG).arg(smallG));
         }
     }
-    while (captions.size() < VOND_LOSS_GAIN_SLOTS)
+    while (captions.size() < kVondLossGainSlots)
         captions.append(QString::fromLatin1(kNoCaption));
     return captions;
 }

@@ -30,7 +30,7 @@ constexpr SLevelRow kLevelRows[] = {
 struct SPaModeRow
 {
     const char *group;
-    const char *members[VOND_APT_PA_MODES];
+    const char *members[kVondAptPaModes];
     int columns;
     CCalCell (*cell)(Apt &record, int mode, int column);
     const char *failed;  // "%1" is the member
@@ -38,22 +38,22 @@ struct SPaModeRow
 constexpr SPaModeRow kPaModeRows[] = {
     {"calDataIf.data.group7",
      {"paHighPaGain", "paMiddlePaGain", "paLowPaGain"},
-     VOND_CAL_MAX_SUBBANDS,
+     kVondCalMaxSubbands,
      [](Apt &r, int mode, int column) { return CCalCell(r.paGain[mode][column]); },
      "Update subband pa gain failed"},
     {"calDataIf.data.group8",
      {"paHighPaGain", "paMiddlePaGain", "paLowPaGain"},
-     VOND_CAL_TEMPERATURES,
+     kVondCalTemperatures,
      [](Apt &r, int mode, int column) { return CCalCell(r.paGainTempOffset[mode][column]); },
      "Update pa gain temp offset failed"},
     {"calDataIf.data.group9",
      {"paHighPd", "paMiddlePd", "paLowPd"},
-     VOND_CAL_MAX_SUBBANDS,
+     kVondCalMaxSubbands,
      [](Apt &r, int mode, int column) { return CCalCell(r.powerDetector[mode][column]); },
      "Update subband pd value failed"},
     {"calDataIf.data.group10",
      {"paHighPd", "paMiddlePd", "paLowPd"},
-     VOND_CAL_TEMPERATURES,
+     kVondCalTemperatures,
      [](Apt &r, int mode, int column) { return CCalCell(r.powerDetectorTempOffset[mode][column]); },
      "Update pd value offset failed"},
 };
@@ -101,7 +101,7 @@ QString Numbered(const char *member, int number)
 
 void MoveLevels(ICalMove &move, Apt &record)
 {
-    for (int n = 0; n < VOND_APT_LEVELS; ++n) {
+    for (int n = 0; n < kVondAptLevels; ++n) {
         for (const SLevelRow &row : kLevelRows)
             move.Field({row.group, Numbered(row.member, n + 1), row.kind, kOneText,
                         [&](int) { return row.cell(record.level[n]); }, row.failed});
@@ -110,7 +110,7 @@ void MoveLevels(ICalMove &move, Apt &record)
 
 void MovePaModes(ICalMove &move, Apt &record, const SPaModeRow &row)
 {
-    for (int mode = 0; mode < VOND_APT_PA_MODES; ++mode)
+    for (int mode = 0; mode < kVondAptPaModes; ++mode)
         move.Field({row.group, QString::fromLatin1(row.members[mode]), ECalText::Db, row.columns,
                     [&](int column) { return row.cell(record, mode, column); }, row.failed});
 }
@@ -121,8 +121,7 @@ void MoveOffsetAndFrequencies(ICalMove &move, Record &record)
 {
     constexpr bool kShownToFirst0 = false;
     move.Field({"calDataIf.data.group1", QStringLiteral("plOffset"), ECalText::Db,
-                VOND_CAL_TEMPERATURES,
-                [&](int column) { return CCalCell(record.plOffset[column]); },
+                kVondCalTemperatures, [&](int column) { return CCalCell(record.plOffset[column]); },
                 "Update tempOffset failed"});
     move.Frequencies({"calDataIf.data.group4", "freq", record.freq, record.blockCount,
                       kShownToFirst0, "Update dl freq failed"});
@@ -155,11 +154,11 @@ void MoveApt(ICalMove &move, SAptRouteBwRecord &record)
 void MoveType1(ICalMove &move, SMMType1PathlossByRouteV7 &record, const SLossView &view)
 {
     MoveOffsetAndFrequencies(move, record);
-    for (int slot = 0; view.hasGains && slot < VOND_LOSS_GAIN_SLOTS; ++slot) {
+    for (int slot = 0; view.hasGains && slot < kVondLossGainSlots; ++slot) {
         for (const SLossRow &row : kType1Rows) {
             const int pair = VondType1LossPair(row.path, slot);
             move.Field(
-                {row.group, Numbered("lna", slot), ECalText::Db, VOND_CAL_MAX_SUBBANDS,
+                {row.group, Numbered("lna", slot), ECalText::Db, kVondCalMaxSubbands,
                  [&](int subband) { return CCalCell(record.loss[subband][pair].*view.half); },
                  row.failed, row.fillLog, view.captions.value(slot)});
         }
@@ -169,8 +168,8 @@ void MoveType1(ICalMove &move, SMMType1PathlossByRouteV7 &record, const SLossVie
 void MoveType2(ICalMove &move, SMMType2PathlossByRouteV7 &record, const SLossView &view)
 {
     MoveOffsetAndFrequencies(move, record);
-    if (!view.hasGains || !IsIndex(view.freqIdx, VOND_CAL_MAX_SUBBANDS) ||
-        !IsIndex(view.path, VOND_SRX_PATHS) || !IsIndex(view.bigG, VOND_GAIN_ROWS))
+    if (!view.hasGains || !IsIndex(view.freqIdx, kVondCalMaxSubbands) ||
+        !IsIndex(view.path, kVondSrxPaths) || !IsIndex(view.bigG, kVondGainRows))
         return;
     auto &loss = record.loss[view.freqIdx];
     for (const SPartialOnRow &row : kPartialOnRows) {
@@ -178,16 +177,16 @@ void MoveType2(ICalMove &move, SMMType2PathlossByRouteV7 &record, const SLossVie
             return CCalCell(loss[VondPartialOnPair(row.path, view.path, slot)].*view.half);
         };
         move.Field({"calDataIf.data.group5", QString::fromLatin1(row.member), ECalText::Db,
-                    VOND_LOSS_GAIN_SLOTS, cell, row.failed});
+                    kVondLossGainSlots, cell, row.failed});
     }
-    for (int smallG = 0; smallG < VOND_GAIN_COLUMNS; ++smallG) {
+    for (int smallG = 0; smallG < kVondGainColumns; ++smallG) {
         for (const SLossRow &row : kGainByGainRows) {
             const auto cell = [&](int subGain) {
                 const int pair =
                     VondGainByGainPair(row.path, view.path, view.bigG, smallG, subGain);
                 return CCalCell(loss[pair].*view.half);
             };
-            move.Field({row.group, Numbered("gain", smallG), ECalText::Db, VOND_SUB_GAINS, cell,
+            move.Field({row.group, Numbered("gain", smallG), ECalText::Db, kVondSubGains, cell,
                         row.failed});
         }
     }

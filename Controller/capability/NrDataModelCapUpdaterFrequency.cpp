@@ -13,7 +13,7 @@ namespace {
 
 QJsonObject RouteRange(const SRouteFreqRangeHalf &half, int route, bool withRangeCheck)
 {
-    const int count = std::min<int>(half.count, VOND_MAX_FREQ_LIMITS);
+    const int count = std::min<int>(half.count, kVondMaxFreqLimits);
     const auto *end = half.route + count;
     const auto *found = std::find(half.route, end, route);
     if (found == end)
@@ -25,7 +25,7 @@ QJsonObject RouteRange(const SRouteFreqRangeHalf &half, int route, bool withRang
 // The target fills the low byte alone for this check.
 bool HasRouteRanges(const SRouteFreqRangeHalf &half, int band)
 {
-    const auto *end = half.band + std::min(half.count & 0xff, VOND_MAX_FREQ_LIMITS);
+    const auto *end = half.band + std::min(half.count & 0xff, kVondMaxFreqLimits);
     return std::find(half.band, end, band) != end;
 }
 

@@ -26,7 +26,7 @@ std::size_t RegionOf(const STxRouteInfoV7 &row, int bandwidthKhz)
 }
 
 // Many carriers share a region.
-using TRegionLabels = std::array<THwLabels, VOND_MAX_BW_REGIONS>;
+using TRegionLabels = std::array<THwLabels, kVondMaxBwRegions>;
 TRegionLabels RegionLabels(const STxRouteInfoV7 &row)
 {
     TRegionLabels labels;

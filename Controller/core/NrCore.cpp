@@ -99,7 +99,7 @@ SRfSupportStatus CNrCore::DecideSupportStatus()
                       "mode ID info.");
     if (!m_target.IsRatInfoValid())
         return answer(eNotSupported, kNoRatInfo.data());
-    if ((m_target.GetRatMask() & VOND_RAT_NR) == 0)
+    if ((m_target.GetRatMask() & kVondRatNr) == 0)
         return answer(eNotSupported, "Not support this RAT from SW multi-RAT world mode ID info.");
     if (!m_target.GetNrSupportFlags().succeeded)
         return answer(eSupportUnknown,

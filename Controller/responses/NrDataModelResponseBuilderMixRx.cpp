@@ -8,7 +8,7 @@
 namespace {
 
 using Report = NRfTestResult_GetMixRxReportV7;
-using Powers = int16_t[VOND_MAX_REPORTS];
+using Powers = int16_t[kVondMaxReports];
 
 constexpr double kPowerUnit = 0.0078125;  // 1/128 dB
 
@@ -94,7 +94,7 @@ void AppendReport(QJsonObject &document, const SReportTable &shown, const Report
     ForEachColumn(shown, [&](const SReportColumn &column) {
         totals.append(column.total ? column.total(report) : QString());
     });
-    const int count = qMin<int>(report.reportCount, VOND_MAX_REPORTS);
+    const int count = qMin<int>(report.reportCount, kVondMaxReports);
     for (int i = 0; i < count; ++i) {
         QStringList texts = totals;
         int place = 0;

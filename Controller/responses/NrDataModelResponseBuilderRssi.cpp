@@ -112,7 +112,7 @@ SPathResult SameEverywhere(const QString &text)
 {
     SPathResult result;
     for (QJsonArray *column : {&result.dlFrequency, &result.rssiMain, &result.rssiDiv}) {
-        for (int i = 0; i < VOND_MAX_RSSI_ROWS; ++i)
+        for (int i = 0; i < kVondMaxRssiRows; ++i)
             column->append(text);
     }
     result.gainMode = text;
@@ -123,7 +123,7 @@ SPathResult Measured(const SMMRssiCnfV7 &answer, bool both, int path)
 {
     const SPathFields &fields = kPathFields[path];
     SPathResult result;
-    for (int i = 0; i < VOND_MAX_RSSI_ROWS; ++i) {
+    for (int i = 0; i < kVondMaxRssiRows; ++i) {
         const SingleRow &single = answer.rows.single.row[i];
         const BothRow &pair = answer.rows.simultaneous.row[i];
         result.dlFrequency.append(QString::number(answer.dlFrequency[i]));

@@ -18,7 +18,7 @@ void Move(const Mover &mover, Record &record, Block &block)
     mover.Whole(record.level, block.level);
     mover.Whole(record.couplerLoss, block.couplerLoss);
     mover.Subbands(record.freq, block.freq);
-    for (int pa = 0; pa < VOND_APT_PA_MODES; ++pa) {
+    for (int pa = 0; pa < kVondAptPaModes; ++pa) {
         auto &part = block.pa[pa];
         mover.Whole(record.prfIndex[pa], part.prfIndex);
         mover.Subbands(record.paGain[pa], part.paGain);
@@ -33,7 +33,7 @@ void Move(const Mover &mover, Record &record, Block &block)
 // Some targets count the blocks of a route alone; their regions are all of one length then.
 SFlashBlocks SAptKind::BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place)
 {
-    const SMMCalTxRowV7 *end = info.tx + std::min<int>(info.txCount, VOND_MAX_TX_ROUTES);
+    const SMMCalTxRowV7 *end = info.tx + std::min<int>(info.txCount, kVondMaxTxRoutes);
     const SMMCalTxRowV7 *row = std::find_if(
         info.tx, end, [&place](const SMMCalTxRowV7 &r) { return r.route == place.route; });
     if (row == end)

@@ -13,7 +13,7 @@ struct SAptKind
     using Record = SAptRouteBwRecord;
     using Block = SAptBlock;
     static constexpr ECalRoute kRoute = ECalRoute::Tx;
-    static constexpr int kBlocksOfRound = VOND_CAL_TX_BLOCKS;
+    static constexpr int kBlocksOfRound = kVondCalTxBlocks;
     static constexpr const char *kName = "TX";
 
     static SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place);

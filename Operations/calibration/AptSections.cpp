@@ -7,7 +7,7 @@ namespace {
 
 using Record = SAptRouteBwRecord;
 
-constexpr int kPaModes = VOND_APT_PA_MODES;
+constexpr int kPaModes = kVondAptPaModes;
 constexpr int kOnce = 1;
 
 constexpr char kZeros[] = "0";  // a list of zeros, however long

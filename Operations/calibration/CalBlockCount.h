@@ -14,7 +14,7 @@
 
 #include "Vond/VondCalBlocks.h"
 
-uint32_t FileBlockCount(const uint32_t (&freq)[VOND_CAL_MAX_SUBBANDS]);
+uint32_t FileBlockCount(const uint32_t (&freq)[kVondCalMaxSubbands]);
 
 // imported: with the frequencies of the file. known: what memory has; null when that is not valid.
 template <typename Record>

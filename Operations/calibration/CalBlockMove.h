@@ -39,11 +39,10 @@ struct SBlockCut
         CopyField(record, block);
     }
     template <typename T>
-    void Subbands(const T (&record)[VOND_CAL_MAX_SUBBANDS],
-                  T (&block)[VOND_CAL_BLOCK_SUBBANDS]) const
+    void Subbands(const T (&record)[kVondCalMaxSubbands], T (&block)[kVondCalBlockSubbands]) const
     {
-        for (int i = 0; i < VOND_CAL_BLOCK_SUBBANDS; ++i)
-            CopyField(record[k * VOND_CAL_BLOCK_SUBBANDS + i], block[i]);
+        for (int i = 0; i < kVondCalBlockSubbands; ++i)
+            CopyField(record[k * kVondCalBlockSubbands + i], block[i]);
     }
 };
 
@@ -57,10 +56,9 @@ struct SBlockJoin
         CopyField(block, record);
     }
     template <typename T>
-    void Subbands(T (&record)[VOND_CAL_MAX_SUBBANDS],
-                  const T (&block)[VOND_CAL_BLOCK_SUBBANDS]) const
+    void Subbands(T (&record)[kVondCalMaxSubbands], const T (&block)[kVondCalBlockSubbands]) const
     {
-        for (int i = 0; i < VOND_CAL_BLOCK_SUBBANDS; ++i)
-            CopyField(block[i], record[k * VOND_CAL_BLOCK_SUBBANDS + i]);
+        for (int i = 0; i < kVondCalBlockSubbands; ++i)
+            CopyField(block[i], record[k * kVondCalBlockSubbands + i]);
     }
 };

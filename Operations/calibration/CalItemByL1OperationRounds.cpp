@@ -119,7 +119,7 @@ uint32_t ICalItemByL1Operation::AskRecord(CCalRounds &rounds, int part, const SC
     };
     const SFlashBlocks held = region.BlocksInFlash(info, place);
     const int blocks = held.count;
-    const int most = std::min(VOND_CAL_MAX_BLOCKS, region.BlocksOfRound());
+    const int most = std::min(kVondCalMaxBlocks, region.BlocksOfRound());
     if (held.known != SFlashBlocks::eCounted || blocks == 0) {
         qCDebug(lcCalibration).noquote() << "Failed to get Blk info in L1 data: Route"
                                          << PlaceText(place, region.Kind()).c_str();
@@ -191,7 +191,7 @@ uint32_t ICalItemByL1Operation::WriteRecord(CCalRounds &rounds, int part, const 
 uint32_t ICalItemByL1Operation::WriteRound(SMMSetCalDataReqV7 &request)
 {
     request.radioKind = static_cast<uint32_t>(m_kind);
-    request.version = VOND_CAL_VERSION;
+    request.version = kVondCalVersion;
     SMMSetCalDataCnfV7 answer = {};
     const VOND_RESULT result =
         VOND_MMRf_SetCalDataV7_r(TargetHandle(), kTargetTimeoutMs, &request, &answer);
@@ -201,7 +201,7 @@ uint32_t ICalItemByL1Operation::WriteRound(SMMSetCalDataReqV7 &request)
 
 uint32_t ICalItemByL1Operation::FinishRound(const SMMCalVerdictV7 &verdict, int32_t result)
 {
-    if (verdict.status == VOND_CAL_SUCCESS || result == kAcceptedResult)
+    if (verdict.status == kVondCalSuccess || result == kAcceptedResult)
         return Finish(result);
     return Fail({kCalTargetFailed, m_words.verdict(verdict)});
 }

@@ -20,17 +20,17 @@ struct SAptRouteBwRecord
     uint8_t paControlLevel;  // levels in use, at most 10
     uint8_t paModeCount;     // PA modes in use, at most 3
     uint8_t reserved7;
-    SAptLevel level[VOND_APT_LEVELS];
-    int16_t paGainTempOffset[VOND_APT_PA_MODES][VOND_CAL_TEMPERATURES];         // 1/32 dB
-    int16_t powerDetectorTempOffset[VOND_APT_PA_MODES][VOND_CAL_TEMPERATURES];  // 1/32 dB
-    uint8_t prfIndex[VOND_APT_PA_MODES];
+    SAptLevel level[kVondAptLevels];
+    int16_t paGainTempOffset[kVondAptPaModes][kVondCalTemperatures];         // 1/32 dB
+    int16_t powerDetectorTempOffset[kVondAptPaModes][kVondCalTemperatures];  // 1/32 dB
+    uint8_t prfIndex[kVondAptPaModes];
     uint8_t reserved187;
-    int16_t couplerLoss[VOND_APT_PA_MODES];  // 1/32 dB
+    int16_t couplerLoss[kVondAptPaModes];  // 1/32 dB
     uint8_t reserved194[2];
     uint32_t blockCount;
-    uint32_t freq[VOND_CAL_MAX_SUBBANDS];                             // UL, kHz
-    int16_t paGain[VOND_APT_PA_MODES][VOND_CAL_MAX_SUBBANDS];         // 1/32 dB
-    int16_t powerDetector[VOND_APT_PA_MODES][VOND_CAL_MAX_SUBBANDS];  // 1/32 dB
+    uint32_t freq[kVondCalMaxSubbands];                           // UL, kHz
+    int16_t paGain[kVondAptPaModes][kVondCalMaxSubbands];         // 1/32 dB
+    int16_t powerDetector[kVondAptPaModes][kVondCalMaxSubbands];  // 1/32 dB
 };
 VOND_SIZE(SAptRouteBwRecord, 1224);
 VOND_OFFSET(SAptRouteBwRecord, band, 0);
@@ -57,9 +57,9 @@ struct SMMType1PathlossByRouteV7
     uint16_t band;  // NR band number
     uint16_t route;
     uint32_t blockCount;
-    uint32_t freq[VOND_CAL_MAX_SUBBANDS];                            // DL, kHz
-    SMMLossPair loss[VOND_CAL_MAX_SUBBANDS][VOND_TYPE1_LOSS_PAIRS];  // index of VondType1LossPair
-    int16_t plOffset[VOND_CAL_TEMPERATURES];                         // 1/32 dB
+    uint32_t freq[kVondCalMaxSubbands];                          // DL, kHz
+    SMMLossPair loss[kVondCalMaxSubbands][kVondType1LossPairs];  // index of VondType1LossPair
+    int16_t plOffset[kVondCalTemperatures];                      // 1/32 dB
 };
 VOND_SIZE(SMMType1PathlossByRouteV7, 4376);
 VOND_OFFSET(SMMType1PathlossByRouteV7, band, 0);
@@ -75,10 +75,10 @@ struct SMMType2PathlossByRouteV7
     uint16_t band;  // NR band number
     uint16_t route;
     uint32_t blockCount;
-    uint32_t freq[VOND_CAL_MAX_SUBBANDS];  // DL, kHz
+    uint32_t freq[kVondCalMaxSubbands];  // DL, kHz
     // Index of VondPartialOnPair and VondGainByGainPair.
-    SMMLossPair loss[VOND_CAL_MAX_SUBBANDS][VOND_TYPE2_LOSS_PAIRS];
-    int16_t plOffset[VOND_CAL_TEMPERATURES];  // 1/32 dB
+    SMMLossPair loss[kVondCalMaxSubbands][kVondType2LossPairs];
+    int16_t plOffset[kVondCalTemperatures];  // 1/32 dB
 };
 VOND_SIZE(SMMType2PathlossByRouteV7, 72984);
 VOND_OFFSET(SMMType2PathlossByRouteV7, band, 0);

@@ -5,7 +5,7 @@
 //       using Record = SAptRouteBwRecord;
 //       using Block = SAptBlock;
 //       static constexpr ECalRoute kRoute = ECalRoute::Tx;
-//       static constexpr int kBlocksOfRound = VOND_CAL_TX_BLOCKS;   // entries, too
+//       static constexpr int kBlocksOfRound = kVondCalTxBlocks;   // entries, too
 //       static constexpr const char *kName = "TX";
 //       // Blocks that the flash holds; any number, as the target told it.
 //       static SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place);
@@ -100,12 +100,12 @@ template <typename TKind>
 int CCalRegionOf<TKind>::BlocksToWrite(const SCalPlace &place) const
 {
     const Record &record = *m_store.Find(place.route, place.region);
-    int blocks = static_cast<int>(std::min<uint32_t>(record.blockCount, VOND_CAL_MAX_BLOCKS));
+    int blocks = static_cast<int>(std::min<uint32_t>(record.blockCount, kVondCalMaxBlocks));
     if (blocks <= TKind::kBlocksOfRound)
         return blocks;
     const auto isEmpty = [&record](int block) {
-        const uint32_t *first = record.freq + block * VOND_CAL_BLOCK_SUBBANDS;
-        return std::all_of(first, first + VOND_CAL_BLOCK_SUBBANDS,
+        const uint32_t *first = record.freq + block * kVondCalBlockSubbands;
+        return std::all_of(first, first + kVondCalBlockSubbands,
                            [](uint32_t freq) { return freq == 0; });
     };
     while (blocks > 1 && isEmpty(blocks - 1))

@@ -6,7 +6,7 @@
 // made, all 0, when it is first asked for, and keeps its address for the life of the store. One
 // thread at a time.
 //
-//   CCalStore<SAptRouteBwRecord> store(VOND_MAX_BW_REGIONS);
+//   CCalStore<SAptRouteBwRecord> store(kVondMaxBwRegions);
 //   const SAptRouteBwRecord *record = store.Find(7, 0);
 #pragma once
 
@@ -38,7 +38,7 @@ public:
             return false;
         Record &own = m_slots[Key(route, region)].record;
         own = record;
-        own.blockCount = std::min<uint32_t>(own.blockCount, VOND_CAL_MAX_BLOCKS);
+        own.blockCount = std::min<uint32_t>(own.blockCount, kVondCalMaxBlocks);
         return true;
     }
 

@@ -7,7 +7,7 @@
 
 #include "Vond/VondCalRecords.h"
 
-inline QString VerdictText(const char (&text)[VOND_CAL_TEXT])
+inline QString VerdictText(const char (&text)[kVondCalText])
 {
-    return QString::fromUtf8(text, static_cast<int>(qstrnlen(text, VOND_CAL_TEXT)));
+    return QString::fromUtf8(text, static_cast<int>(qstrnlen(text, kVondCalText)));
 }

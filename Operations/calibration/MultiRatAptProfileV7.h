@@ -33,7 +33,7 @@ public:
     void NoteEdit(uint16_t route, uint16_t bwIdx) { m_records.NoteEdit(route, bwIdx); }
 
 private:
-    CCalStore<SAptRouteBwRecord> m_records{VOND_MAX_BW_REGIONS};
+    CCalStore<SAptRouteBwRecord> m_records{kVondMaxBwRegions};
     CCalRegionOf<SAptKind> m_region{m_records};
     CAptSections m_sections{m_records};
 };

@@ -28,13 +28,13 @@ std::string ModeName(EPowerMode mode)
 // The modes of the gain modes, in their order. False when there are too many.
 bool SlotsOf(const SMMRfRxGainInfoV7 &gains, std::vector<SGain> &modes)
 {
-    for (int bigG = 0; bigG < VOND_GAIN_ROWS; ++bigG) {
-        for (int smallG = 0; smallG < VOND_GAIN_COLUMNS; ++smallG) {
+    for (int bigG = 0; bigG < kVondGainRows; ++bigG) {
+        for (int smallG = 0; smallG < kVondGainColumns; ++smallG) {
             if (gains.t1[bigG][smallG] == 1)
                 modes.push_back({bigG, smallG});
         }
     }
-    return modes.size() <= VOND_LOSS_GAIN_SLOTS;
+    return modes.size() <= kVondLossGainSlots;
 }
 
 void AppendPartialOn(const std::vector<SGain> &modes, int srxPath, EPowerMode mode,
@@ -65,7 +65,7 @@ EGainKey GainByGainUse(const SMMRfRxGainInfoV7 &gains, const SGain &gain, int su
 void AppendGainByGain(const SMMRfRxGainInfoV7 &gains, const SGain &gain, int srxPath,
                       EPowerMode mode, std::vector<SGainKey> &keys)
 {
-    for (int subGain = 0; subGain < VOND_SUB_GAINS; ++subGain)
+    for (int subGain = 0; subGain < kVondSubGains; ++subGain)
         keys.push_back(
             {FormText(kGainByGainForm, {Text(srxPath), ModeName(mode), Text(gain.bigG),
                                         Text(gain.smallG), Text(subGain)}),
@@ -99,10 +99,10 @@ bool AppendType2Keys(const SMMRfRxGainInfoV7 &gains, EPowerMode mode, std::vecto
     std::vector<SGain> modes;
     if (!SlotsOf(gains, modes))
         return false;
-    for (int srxPath = 0; srxPath < VOND_SRX_PATHS; ++srxPath) {
+    for (int srxPath = 0; srxPath < kVondSrxPaths; ++srxPath) {
         AppendPartialOn(modes, srxPath, mode, keys);
-        for (int bigG = 0; bigG < VOND_GAIN_ROWS; ++bigG) {
-            for (int smallG = 0; smallG < VOND_GAIN_COLUMNS; ++smallG)
+        for (int bigG = 0; bigG < kVondGainRows; ++bigG) {
+            for (int smallG = 0; smallG < kVondGainColumns; ++smallG)
                 AppendGainByGain(gains, {bigG, smallG}, srxPath, mode, keys);
         }
     }

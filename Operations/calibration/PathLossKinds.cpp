@@ -16,10 +16,9 @@ void Move(const Mover &mover, Record &record, Block &block)
     mover.Whole(record.plOffset, block.plOffset);
 }
 
-SFlashBlocks BlocksOfRoute(const SMMCalRxRowV7 (&rows)[VOND_MAX_RX_ROUTES], int count,
-                           uint16_t route)
+SFlashBlocks BlocksOfRoute(const SMMCalRxRowV7 (&rows)[kVondMaxRxRoutes], int count, uint16_t route)
 {
-    const SMMCalRxRowV7 *end = rows + std::min(count, VOND_MAX_RX_ROUTES);
+    const SMMCalRxRowV7 *end = rows + std::min(count, kVondMaxRxRoutes);
     const SMMCalRxRowV7 *row =
         std::find_if(rows, end, [route](const SMMCalRxRowV7 &r) { return r.route == route; });
     if (row == end)

@@ -13,7 +13,7 @@ struct SType1Kind
     using Record = SMMType1PathlossByRouteV7;
     using Block = SMMType1PathlossBlockV7;
     static constexpr ECalRoute kRoute = ECalRoute::Type1;
-    static constexpr int kBlocksOfRound = VOND_CAL_TYPE1_BLOCKS;
+    static constexpr int kBlocksOfRound = kVondCalType1Blocks;
     static constexpr const char *kName = "T1";
 
     static SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place);
@@ -33,7 +33,7 @@ struct SType2Kind
     using Record = SMMType2PathlossByRouteV7;
     using Block = SMMType2PathlossBlockV7;
     static constexpr ECalRoute kRoute = ECalRoute::Type2;
-    static constexpr int kBlocksOfRound = VOND_CAL_TYPE2_BLOCKS;
+    static constexpr int kBlocksOfRound = kVondCalType2Blocks;
     static constexpr const char *kName = "T2";
 
     static SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place);

@@ -66,7 +66,7 @@ template <typename Record>
 CCalCells LossCells(Record &record, const SGainKey &key, int path)
 {
     SMMLossPair &first = record.loss[0][key.pair[path]];
-    return {key.mode == EPowerMode::Hpm ? first.hpm : first.lpm, VOND_CAL_MAX_SUBBANDS,
+    return {key.mode == EPowerMode::Hpm ? first.hpm : first.lpm, kVondCalMaxSubbands,
             sizeof record.loss[0]};
 }
 

@@ -52,20 +52,20 @@ void CutTo(Count &count, int limit)
 
 void CutCounts(SMMRfRouteConfigV7 &config)
 {
-    CutTo(config.bandCount, VOND_MAX_BANDS);
-    CutTo(config.routes.txRouteCount, VOND_MAX_TX_ROUTES);
-    CutTo(config.routes.rxType1RouteCount, VOND_MAX_RX_ROUTES);
-    CutTo(config.routes.rxType2RouteCount, VOND_MAX_RX_ROUTES);
+    CutTo(config.bandCount, kVondMaxBands);
+    CutTo(config.routes.txRouteCount, kVondMaxTxRoutes);
+    CutTo(config.routes.rxType1RouteCount, kVondMaxRxRoutes);
+    CutTo(config.routes.rxType2RouteCount, kVondMaxRxRoutes);
     for (SMMRfTxRouteV7 &route : config.routes.txRoute)
-        CutTo(route.bwRegionCount, VOND_MAX_BW_REGIONS);
+        CutTo(route.bwRegionCount, kVondMaxBwRegions);
 }
 
 void CutCounts(SNrRouteDetail &detail)
 {
-    CutTo(detail.bandRxInfo.count, VOND_MAX_BANDS);
-    CutTo(detail.rxRouteValues.count, VOND_MAX_RX_ROUTES);
+    CutTo(detail.bandRxInfo.count, kVondMaxBands);
+    CutTo(detail.rxRouteValues.count, kVondMaxRxRoutes);
     for (SNRfRxRouteValueEntry &entry : detail.rxRouteValues.entry)
-        CutTo(entry.valueCount, VOND_MAX_ROUTE_VALUES);
+        CutTo(entry.valueCount, kVondMaxRouteValues);
 }
 
 bool ReadRouteConfig(ERadioKind kind, SMMRfRouteConfigV7 &config)
@@ -146,7 +146,7 @@ bool CapabilityCache::ReadNrCapability()
         [this] {
             ReadMmCapability();
             const uint32_t word = mmCapability.record.worldMode;
-            return VondItemValid(word) && (VondItemValue(word) & VOND_RAT_NR) != 0;
+            return VondItemValid(word) && (VondItemValue(word) & kVondRatNr) != 0;
         },
         [](SNRfCapability &record) {
             return ReadCapability("VOND_NRf_GetRfCapability_r", VOND_NRf_GetRfCapability_r,

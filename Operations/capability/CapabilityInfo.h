@@ -43,10 +43,10 @@ struct STxRouteInfoV7
 {
     uint16_t band = 0;
     uint16_t route = 0;
-    uint16_t bwRegionCount = 0;                           // at most 4
-    uint32_t bwRegionLimitKhz[VOND_MAX_BW_REGIONS] = {};  // upper bound of each region, kHz
-    uint8_t hwValid = 0;                                  // 1: bwRegion holds hardware detail
-    STxBwRegionHw bwRegion[VOND_MAX_BW_REGIONS] = {};
+    uint16_t bwRegionCount = 0;                         // at most 4
+    uint32_t bwRegionLimitKhz[kVondMaxBwRegions] = {};  // upper bound of each region, kHz
+    uint8_t hwValid = 0;                                // 1: bwRegion holds hardware detail
+    STxBwRegionHw bwRegion[kVondMaxBwRegions] = {};
 };
 
 // One RX route.

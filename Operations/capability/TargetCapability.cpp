@@ -142,9 +142,9 @@ const SMMRfRouteTableV7 *CTargetCapability::GetRouteTableNr() const
 const SMMRfRxGainInfoV7 *CTargetCapability::GetSupportRxGainInfoV7(ERadioKind kind,
                                                                    uint32_t pwrMode) const
 {
-    if (pwrMode >= VOND_RX_POWER_MODES) {
+    if (pwrMode >= kVondRxPowerModes) {
         qCDebug(lcTarget, "GetSupportRxGainInfoV7: pwrMode(%d) >= MMTST_RX_PWR_MODE_NUM(%d)",
-                static_cast<int>(pwrMode), VOND_RX_POWER_MODES);
+                static_cast<int>(pwrMode), kVondRxPowerModes);
         return nullptr;
     }
     const bool lte = kind == ERadioKind::Lte;

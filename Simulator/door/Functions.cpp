@@ -7,9 +7,9 @@ namespace {
 using K = EFunctionKind;
 using F = EFunction;
 
-constexpr std::size_t FUNCTION_COUNT = static_cast<std::size_t>(EFunction::Count);
+constexpr std::size_t kFunctionCount = static_cast<std::size_t>(EFunction::Count);
 
-constexpr std::array<SFunction, FUNCTION_COUNT> FUNCTIONS = {{
+constexpr std::array<SFunction, kFunctionCount> kFunctions = {{
     {F::QueryFunctionSupported, "VOND_QueryFunctionSupported_r", K::Target, false},
     {F::GetErrorString, "VOND_GetErrorString", K::Library, false},
     {F::LteCapability, "VOND_ERf_GetRfCapability_r", K::Target, false},
@@ -42,8 +42,8 @@ constexpr std::array<SFunction, FUNCTION_COUNT> FUNCTIONS = {{
 
 constexpr bool InOrder()
 {
-    for (std::size_t i = 0; i < FUNCTION_COUNT; ++i) {
-        if (static_cast<std::size_t>(FUNCTIONS[i].id) != i)
+    for (std::size_t i = 0; i < kFunctionCount; ++i) {
+        if (static_cast<std::size_t>(kFunctions[i].id) != i)
             return false;
     }
     return true;
@@ -54,12 +54,12 @@ static_assert(InOrder(), "the rows stand in the order of EFunction");
 
 const SFunction &FunctionOf(EFunction id)
 {
-    return FUNCTIONS[static_cast<std::size_t>(id)];
+    return kFunctions[static_cast<std::size_t>(id)];
 }
 
 const SFunction *FindFunction(std::string_view name)
 {
-    for (const SFunction &function : FUNCTIONS) {
+    for (const SFunction &function : kFunctions) {
         if (function.name == name)
             return &function;
     }

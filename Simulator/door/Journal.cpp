@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::size_t MOST_BYTES = 64 * 1024 * 1024;
+constexpr std::size_t kMostBytes = 64 * 1024 * 1024;
 
 std::size_t BytesOf(const SJournalEntry &entry)
 {
@@ -18,10 +18,10 @@ std::size_t BytesOf(const SJournalEntry &entry)
 
 void AppendHex(std::string &line, const std::vector<uint8_t> &bytes)
 {
-    static constexpr char DIGITS[] = "0123456789abcdef";
+    static constexpr char kDigits[] = "0123456789abcdef";
     for (const uint8_t byte : bytes) {
-        line += DIGITS[byte >> 4];
-        line += DIGITS[byte & 15];
+        line += kDigits[byte >> 4];
+        line += kDigits[byte & 15];
     }
 }
 
@@ -43,7 +43,7 @@ void CJournal::Append(SJournalEntry entry)
         WriteLine(entry);
     m_bytes += BytesOf(entry);
     m_entries.push_back(std::move(entry));
-    while (m_bytes > MOST_BYTES) {
+    while (m_bytes > kMostBytes) {
         m_bytes -= BytesOf(m_entries.front());
         m_entries.pop_front();
         ++m_gone;

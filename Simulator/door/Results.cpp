@@ -8,7 +8,7 @@ struct SResultText
     const char *text;
 };
 
-constexpr SResultText RESULT_TEXTS[] = {
+constexpr SResultText kResultTexts[] = {
     {EResult::Success, "Success"},
     {EResult::NotConnected, "Connection: no target is connected"},
     {EResult::TimedOut, "Connection: the target did not answer in time"},
@@ -54,7 +54,7 @@ constexpr SResultText RESULT_TEXTS[] = {
 
 const char *ResultText(int32_t result)
 {
-    for (const SResultText &row : RESULT_TEXTS) {
+    for (const SResultText &row : kResultTexts) {
         if (static_cast<int32_t>(row.result) == result)
             return row.text;
     }

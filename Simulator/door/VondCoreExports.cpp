@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr std::size_t LONGEST_NAME = 256;  // of a function, as far as the journal keeps it
+constexpr std::size_t kLongestName = 256;  // of a function, as far as the journal keeps it
 
 struct SCapabilitySizes
 {
@@ -20,9 +20,9 @@ struct SCapabilitySizes
     uint32_t calibration;
 };
 
-constexpr SCapabilitySizes LTE_SIZES = {56, 180};
-constexpr SCapabilitySizes MULTI_MODE_SIZES = {4, 132};
-constexpr uint32_t NR_CALIBRATION_SIZE = 24;  // the first word of the NR request is not read
+constexpr SCapabilitySizes kLteSizes = {56, 180};
+constexpr SCapabilitySizes kMultiModeSizes = {4, 132};
+constexpr uint32_t kNrCalibrationSize = 24;  // the first word of the NR request is not read
 
 int32_t Run(const SCall &call, const CSimulator::Body &body)
 {
@@ -88,7 +88,7 @@ extern "C" {
 VOND_RESULT VOND_QueryFunctionSupported_r(uint32_t h, uint32_t t, const char *function)
 {
     // One byte at least, so that a null name is seen as such; the terminator stays out otherwise.
-    const std::size_t length = function != nullptr ? strnlen(function, LONGEST_NAME) : 1;
+    const std::size_t length = function != nullptr ? strnlen(function, kLongestName) : 1;
     return Run({EFunction::QueryFunctionSupported, h, t, {function, length}},
                [&](SDut &dut) -> SVerdict {
                    const SFunction *row = FindFunction({function, length});
@@ -110,7 +110,7 @@ VOND_RESULT VOND_ERf_GetRfCapability_r(uint32_t h, uint32_t t, const void *reque
         {EFunction::LteCapability, h, t, request, requestSize, result, resultSize},
         [](const SProfile &profile, const SVondCapabilityReq &sizes, SERfCapability &record) {
             AnswerLteCapability(profile, record);
-            return CheckCapabilitySizes(sizes, LTE_SIZES.capability, LTE_SIZES.calibration);
+            return CheckCapabilitySizes(sizes, kLteSizes.capability, kLteSizes.calibration);
         });
 }
 
@@ -121,8 +121,8 @@ VOND_RESULT VOND_MMRf_GetRfCapability_r(uint32_t h, uint32_t t, const void *requ
         {EFunction::MultiModeCapability, h, t, request, requestSize, result, resultSize},
         [](const SProfile &profile, const SVondCapabilityReq &sizes, SMMRfCapability &record) {
             AnswerMultiModeCapability(profile, record);
-            return CheckCapabilitySizes(sizes, MULTI_MODE_SIZES.capability,
-                                        MULTI_MODE_SIZES.calibration);
+            return CheckCapabilitySizes(sizes, kMultiModeSizes.capability,
+                                        kMultiModeSizes.calibration);
         });
 }
 
@@ -133,7 +133,7 @@ VOND_RESULT VOND_NRf_GetRfCapability_r(uint32_t h, uint32_t t, const void *reque
         {EFunction::NrCapability, h, t, request, requestSize, result, resultSize},
         [](const SProfile &profile, const SVondCapabilityReq &sizes, SNRfCapability &record) {
             AnswerNrCapability(profile, record);
-            return CheckCapabilitySizes(sizes, sizes.capabilitySize, NR_CALIBRATION_SIZE);
+            return CheckCapabilitySizes(sizes, sizes.capabilitySize, kNrCalibrationSize);
         });
 }
 

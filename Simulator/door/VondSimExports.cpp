@@ -24,7 +24,7 @@ int32_t Guarded(const char *consequence, const Job &job)
     return -1;
 }
 
-constexpr char UNPLUGGED[] = "; the DUT is unplugged";
+constexpr char kUnplugged[] = "; the DUT is unplugged";
 
 std::string TextOf(const char *text)
 {
@@ -46,12 +46,12 @@ extern "C" {
 
 int32_t VondSim_SetProfile(const char *nameOrPath)
 {
-    return Guarded(UNPLUGGED, [&] { CSimulator::Instance().SetProfile(TextOf(nameOrPath)); });
+    return Guarded(kUnplugged, [&] { CSimulator::Instance().SetProfile(TextOf(nameOrPath)); });
 }
 
 int32_t VondSim_SetProfileText(const char *json)
 {
-    return Guarded(UNPLUGGED, [&] { CSimulator::Instance().SetProfileText(TextOf(json)); });
+    return Guarded(kUnplugged, [&] { CSimulator::Instance().SetProfileText(TextOf(json)); });
 }
 
 const char *VondSim_ProfileName(uint32_t index)

@@ -14,19 +14,19 @@ struct SKindRow
     EFaultKind kind;
 };
 
-constexpr SKindRow KINDS[] = {
+constexpr SKindRow kKinds[] = {
     {"fail", EFaultKind::Fail},   {"status", EFaultKind::Status},
     {"delay", EFaultKind::Delay}, {"nullText", EFaultKind::NullText},
     {"noise", EFaultKind::Noise}, {"bytes", EFaultKind::Bytes},
 };
 
-constexpr uint32_t LONGEST_DELAY_MS = 3600000;
-constexpr uint32_t LARGEST_ANSWER = sizeof(SMMRfRouteDetailCnfV7);
+constexpr uint32_t kLongestDelayMs = 3600000;
+constexpr uint32_t kLargestAnswer = sizeof(SMMRfRouteDetailCnfV7);
 
 EFaultKind ReadKind(CJsonReader &reader)
 {
     const std::string name = reader.Text("kind", 63);
-    for (const SKindRow &row : KINDS) {
+    for (const SKindRow &row : kKinds) {
         if (name == row.name)
             return row.kind;
     }
@@ -46,14 +46,14 @@ const SFunction *ReadFunction(CJsonReader &reader)
 
 int HexDigit(char digit)
 {
-    static constexpr std::string_view DIGITS = "0123456789abcdef";
-    const std::size_t value = DIGITS.find(digit);
-    return value != DIGITS.npos ? static_cast<int>(value) : -1;
+    static constexpr std::string_view kDigits = "0123456789abcdef";
+    const std::size_t value = kDigits.find(digit);
+    return value != kDigits.npos ? static_cast<int>(value) : -1;
 }
 
 std::vector<uint8_t> ReadHex(CJsonReader &reader, const char *key)
 {
-    const std::string text = reader.Text(key, 2 * LARGEST_ANSWER);
+    const std::string text = reader.Text(key, 2 * kLargestAnswer);
     std::vector<uint8_t> bytes;
     for (std::size_t i = 0; i + 1 < text.size(); i += 2) {
         const int high = HexDigit(text[i]);
@@ -106,9 +106,9 @@ SFault ParseFault(const nlohmann::json &json, const std::string &place)
     if (fault.kind == EFaultKind::Status)
         fault.status = reader.Integer<uint32_t>("status", 1, UINT32_MAX);
     if (fault.kind == EFaultKind::Delay)
-        fault.delayMs = reader.Integer<uint32_t>("ms", 0, LONGEST_DELAY_MS);
+        fault.delayMs = reader.Integer<uint32_t>("ms", 0, kLongestDelayMs);
     if (fault.kind == EFaultKind::Bytes) {
-        fault.patch.offset = reader.Integer<uint32_t>("offset", 0, LARGEST_ANSWER - 1, 0u);
+        fault.patch.offset = reader.Integer<uint32_t>("offset", 0, kLargestAnswer - 1, 0u);
         fault.patch.bytes = ReadHex(reader, "hex");
     }
     fault.nth = reader.Integer<uint32_t>("nth", 1, UINT32_MAX, 0u);

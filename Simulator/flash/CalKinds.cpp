@@ -75,7 +75,7 @@ std::vector<SCalPlace> CalPlaces<SAptBlock>(const SProfile &profile)
 template <class Block>
 std::string CheckCalKey(const SProfile &profile, const SCalKey &key, int count)
 {
-    return CheckKey(CalPlaces<Block>(profile), key, count, SCalKind<Block>::BLOCKS_OF_RECORD);
+    return CheckKey(CalPlaces<Block>(profile), key, count, SCalKind<Block>::kBlocksOfRecord);
 }
 
 template <class Block>
@@ -83,7 +83,7 @@ std::string CheckCalRecord(const SProfile &profile, const SCalKey &key, const Bl
                            int count)
 {
     const std::vector<SCalPlace> places = CalPlaces<Block>(profile);
-    std::string reason = CheckKey(places, key, count, SCalKind<Block>::BLOCKS_OF_RECORD);
+    std::string reason = CheckKey(places, key, count, SCalKind<Block>::kBlocksOfRecord);
     if (!reason.empty())
         return reason;
     for (int i = 0; i < count; ++i) {

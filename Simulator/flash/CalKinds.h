@@ -45,31 +45,31 @@ struct SCalKind;
 template <>
 struct SCalKind<SMMType1PathlossBlockV7>
 {
-    static constexpr uint32_t ID = 1;
-    static constexpr int BLOCKS_OF_ROUND = VOND_CAL_TYPE1_BLOCKS;
-    static constexpr int BLOCKS_OF_RECORD = VOND_CAL_MAX_BLOCKS;
-    static constexpr auto TEXT = &SMMCalVerdictV7::type1Text;
-    static constexpr auto RULE = &SProfileCalibration::rxType1;
+    static constexpr uint32_t kId = 1;
+    static constexpr int kBlocksOfRound = kVondCalType1Blocks;
+    static constexpr int kBlocksOfRecord = kVondCalMaxBlocks;
+    static constexpr auto kText = &SMMCalVerdictV7::type1Text;
+    static constexpr auto kRule = &SProfileCalibration::rxType1;
 };
 
 template <>
 struct SCalKind<SMMType2PathlossBlockV7>
 {
-    static constexpr uint32_t ID = 2;
-    static constexpr int BLOCKS_OF_ROUND = VOND_CAL_TYPE2_BLOCKS;
-    static constexpr int BLOCKS_OF_RECORD = VOND_CAL_TYPE2_BLOCKS;  // more fit in no round
-    static constexpr auto TEXT = &SMMCalVerdictV7::type2Text;
-    static constexpr auto RULE = &SProfileCalibration::rxType2;
+    static constexpr uint32_t kId = 2;
+    static constexpr int kBlocksOfRound = kVondCalType2Blocks;
+    static constexpr int kBlocksOfRecord = kVondCalType2Blocks;  // more fit in no round
+    static constexpr auto kText = &SMMCalVerdictV7::type2Text;
+    static constexpr auto kRule = &SProfileCalibration::rxType2;
 };
 
 template <>
 struct SCalKind<SAptBlock>
 {
-    static constexpr uint32_t ID = 3;
-    static constexpr int BLOCKS_OF_ROUND = VOND_CAL_TX_BLOCKS;
-    static constexpr int BLOCKS_OF_RECORD = VOND_CAL_MAX_BLOCKS;
-    static constexpr auto TEXT = &SMMCalVerdictV7::txText;
-    static constexpr auto RULE = &SProfileCalibration::tx;
+    static constexpr uint32_t kId = 3;
+    static constexpr int kBlocksOfRound = kVondCalTxBlocks;
+    static constexpr int kBlocksOfRecord = kVondCalMaxBlocks;
+    static constexpr auto kText = &SMMCalVerdictV7::txText;
+    static constexpr auto kRule = &SProfileCalibration::tx;
 };
 
 // All places of a kind in the order of the route table.

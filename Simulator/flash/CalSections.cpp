@@ -13,7 +13,7 @@ SCalSection<Block> Section(int count, const Block *blocks, const Read &read)
     SCalSection<Block> section;
     section.count = count;
     section.blocks = blocks;
-    for (int i = 0; i < std::min(count, SCalKind<Block>::BLOCKS_OF_ROUND); ++i)
+    for (int i = 0; i < std::min(count, SCalKind<Block>::kBlocksOfRound); ++i)
         section.entries.push_back(read(i));
     return section;
 }
@@ -72,9 +72,9 @@ SCalRound CalRoundOf(const SMMSetCalDataReqV7 &request)
 template <class Block>
 std::string CheckCalEntries(const SProfile &profile, const SCalSection<Block> &section)
 {
-    constexpr int ROOM = SCalKind<Block>::BLOCKS_OF_ROUND;
-    if (section.count > ROOM)
-        return std::to_string(section.count) + " entries, at most " + std::to_string(ROOM);
+    constexpr int kRoom = SCalKind<Block>::kBlocksOfRound;
+    if (section.count > kRoom)
+        return std::to_string(section.count) + " entries, at most " + std::to_string(kRoom);
     if (!section.broken.empty())
         return section.broken;
     for (const SCalEntry &entry : section.entries) {
@@ -82,8 +82,8 @@ std::string CheckCalEntries(const SProfile &profile, const SCalSection<Block> &s
         if (!reason.empty())
             return reason;
     }
-    if (const int total = section.BlockTotal(); total > ROOM)
-        return std::to_string(total) + " blocks, at most " + std::to_string(ROOM);
+    if (const int total = section.BlockTotal(); total > kRoom)
+        return std::to_string(total) + " blocks, at most " + std::to_string(kRoom);
     return {};
 }
 
@@ -98,7 +98,7 @@ std::string CheckCalBlocks(const SProfile &profile, const SCalSection<Block> &se
         block += entry.blockCount;
     }
     // The record is zeroed for each round, so a band behind the last block is one nobody counted.
-    const Block *const end = section.blocks + SCalKind<Block>::BLOCKS_OF_ROUND;
+    const Block *const end = section.blocks + SCalKind<Block>::kBlocksOfRound;
     if (reason.empty() && std::any_of(block, end, [](const Block &b) { return b.band != 0; }))
         reason = std::to_string(section.BlockTotal()) + " blocks counted, more are filled";
     return reason;

@@ -12,7 +12,7 @@ namespace {
 using SType1Block = SMMType1PathlossBlockV7;
 using SType2Block = SMMType2PathlossBlockV7;
 
-constexpr uint32_t NR = 1;
+constexpr uint32_t kNr = 1;
 
 template <class Block>
 std::string CheckWanted(const SProfile &profile, const SFlashImage &image,
@@ -33,9 +33,9 @@ std::string CheckWanted(const SProfile &profile, const SFlashImage &image,
 template <class Block>
 void Say(SMMCalVerdictV7 &verdict, const std::string &reason)
 {
-    auto &text = verdict.*SCalKind<Block>::TEXT;
+    auto &text = verdict.*SCalKind<Block>::kText;
     std::fill(std::begin(text), std::end(text), '\0');
-    reason.copy(text, VOND_CAL_TEXT - 1);
+    reason.copy(text, kVondCalText - 1);
 }
 
 // A reason that is none of one kind's stands in all texts.
@@ -54,7 +54,7 @@ SMMCalVerdictV7 VerdictOf(const std::string &type1, const std::string &type2, co
     Say<SType1Block>(verdict, type1);
     Say<SType2Block>(verdict, type2);
     Say<SAptBlock>(verdict, tx);
-    verdict.status = type1.empty() && type2.empty() && tx.empty() ? VOND_CAL_SUCCESS : 0;
+    verdict.status = type1.empty() && type2.empty() && tx.empty() ? kVondCalSuccess : 0;
     return verdict;
 }
 
@@ -133,9 +133,9 @@ SVerdict AnswerCalBlkInfo(const SProfile &profile, CFlash &flash, uint32_t radio
                           SMMCalBlkInfoCnfV7 &answer)
 {
     answer = {};
-    if (radioKind > NR)
+    if (radioKind > kNr)
         return EResult::RadioKind;
-    if (radioKind != NR)
+    if (radioKind != kNr)
         return {};
     const SFlashImage &image = flash.Image(profile);
     answer.type1Count = FillRxRows<SType1Block>(image, profile.rxType1Routes, answer.type1);
@@ -155,14 +155,14 @@ void AnswerCalData(const SProfile &profile, CFlash &flash, const SMMGetCalDataRe
                    SMMGetCalDataCnfV7 &answer)
 {
     answer = {};
-    if (request.radioKind != NR)
+    if (request.radioKind != kNr)
         return SayAll(answer.verdict, WrongKind(request.radioKind));
     const SFlashImage &image = flash.Image(profile);
     const SCalRound round = CalRoundOf(request);
     answer.verdict =
         VerdictOf(CheckWanted(profile, image, round.type1),
                   CheckWanted(profile, image, round.type2), CheckWanted(profile, image, round.tx));
-    if (answer.verdict.status != VOND_CAL_SUCCESS)
+    if (answer.verdict.status != kVondCalSuccess)
         return;
     answer.type1Count = request.type1Count;
     std::copy_n(request.type1, request.type1Count, answer.type1);
@@ -182,14 +182,14 @@ void AnswerCalData(const SProfile &profile, CFlash &flash, const SMMGetCalDataRe
 void StoreCalData(const SProfile &profile, CFlash &flash, const SMMSetCalDataReqV7 &request,
                   SMMSetCalDataCnfV7 &answer)
 {
-    if (request.radioKind != NR)
+    if (request.radioKind != kNr)
         return SayAll(answer, WrongKind(request.radioKind));
-    if (request.version != VOND_CAL_VERSION)
+    if (request.version != kVondCalVersion)
         return SayAll(answer, "record version " + std::to_string(request.version));
     const SCalRound round = CalRoundOf(request);
     answer = VerdictOf(CheckCalBlocks(profile, round.type1), CheckCalBlocks(profile, round.type2),
                        CheckCalBlocks(profile, round.tx));
-    if (answer.status != VOND_CAL_SUCCESS)
+    if (answer.status != kVondCalSuccess)
         return;
     SFlashImage &image = flash.Image(profile);
     CExchange<SType1Block> oldType1(image, round.type1);

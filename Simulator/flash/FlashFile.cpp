@@ -13,14 +13,14 @@
 
 namespace {
 
-constexpr char MAGIC[16] = {'V', 'o', 'n', 'd', 'S', 'i', 'm', ' ',
-                            'f', 'l', 'a', 's', 'h', ' ', '1', '\n'};
+constexpr char kMagic[16] = {'V', 'o', 'n', 'd', 'S', 'i', 'm', ' ',
+                             'f', 'l', 'a', 's', 'h', ' ', '1', '\n'};
 
-constexpr char OTHER_DUT[] = "is the flash of another DUT";
+constexpr char kOtherDut[] = "is the flash of another DUT";
 
 struct SHead
 {
-    char magic[sizeof(MAGIC)];
+    char magic[sizeof(kMagic)];
     uint64_t checksum;  // of everything behind the head
 };
 VOND_SIZE(SHead, 24);
@@ -53,7 +53,7 @@ template <class Block>
 void AppendTable(std::string &bytes, const FlashTable<Block> &table)
 {
     for (const auto &[key, blocks] : table) {
-        Append(bytes, SRecordHead{SCalKind<Block>::ID, key.route, key.bandwidth,
+        Append(bytes, SRecordHead{SCalKind<Block>::kId, key.route, key.bandwidth,
                                   static_cast<uint32_t>(blocks.size())});
         for (const Block &block : blocks)
             Append(bytes, block);
@@ -90,17 +90,17 @@ void ReadTable(CReader &reader, const SProfile &profile, FlashTable<Block> &tabl
 {
     for (auto &[key, blocks] : table) {
         const auto head = reader.Take<SRecordHead>();
-        if (head.kind != SCalKind<Block>::ID || head.route != key.route ||
+        if (head.kind != SCalKind<Block>::kId || head.route != key.route ||
             head.bandwidth != key.bandwidth ||
-            head.blockCount > static_cast<uint32_t>(SCalKind<Block>::BLOCKS_OF_RECORD))
-            throw CForeignFile(OTHER_DUT);
+            head.blockCount > static_cast<uint32_t>(SCalKind<Block>::kBlocksOfRecord))
+            throw CForeignFile(kOtherDut);
         blocks.clear();
         for (uint32_t i = 0; i < head.blockCount; ++i)
             blocks.push_back(reader.Take<Block>());
         const std::string reason =
             CheckCalRecord(profile, key, blocks.data(), static_cast<int>(blocks.size()));
         if (!reason.empty())
-            throw CForeignFile(std::string(OTHER_DUT) + " (" + reason + ")");
+            throw CForeignFile(std::string(kOtherDut) + " (" + reason + ")");
     }
 }
 
@@ -116,13 +116,13 @@ std::string ReadWhole(const std::string &path)
     if (!S_ISREG(status.st_mode))
         throw CForeignFile("is no file");
     std::ifstream file(path, std::ios::binary);
-    char magic[sizeof(MAGIC)] = {};
+    char magic[sizeof(kMagic)] = {};
     file.read(magic, sizeof(magic));
     if (!file.is_open() || file.bad())
         throw CForeignFile("cannot be read");
     if (status.st_size == 0)
         return {};
-    if (file.gcount() != sizeof(magic) || std::memcmp(magic, MAGIC, sizeof(magic)) != 0)
+    if (file.gcount() != sizeof(magic) || std::memcmp(magic, kMagic, sizeof(magic)) != 0)
         throw CForeignFile("is no flash of a simulated DUT");
     std::ostringstream bytes;
     file.seekg(0);
@@ -154,7 +154,7 @@ void LoadFlash(const std::string &path, const SProfile &profile, SFlashImage &im
     SFlashImage read = image;
     std::apply([&](auto &...table) { (ReadTable(reader, profile, table), ...); }, read.tables);
     if (!reader.AtEnd())
-        throw CForeignFile(OTHER_DUT);
+        throw CForeignFile(kOtherDut);
     image = std::move(read);
 }
 
@@ -163,7 +163,7 @@ void SaveFlash(const std::string &path, const SFlashImage &image)
     std::string bytes(sizeof(SHead), '\0');
     std::apply([&](const auto &...table) { (AppendTable(bytes, table), ...); }, image.tables);
     SHead head = {};
-    std::copy(std::begin(MAGIC), std::end(MAGIC), head.magic);
+    std::copy(std::begin(kMagic), std::end(kMagic), head.magic);
     head.checksum = Checksum(bytes, sizeof(SHead));
     std::memcpy(bytes.data(), &head, sizeof(head));
 

@@ -8,8 +8,8 @@
 namespace {
 
 // One for each 5 MHz, where the profile does not say.
-constexpr uint32_t SUBBAND_KHZ = 5000;
-constexpr uint8_t NORMAL_TEMPERATURE = 3;
+constexpr uint32_t kSubbandKhz = 5000;
+constexpr uint8_t kNormalTemperature = 3;
 
 // A PA control level; unused ones have no mode and the lowest voltage.
 struct SLevel
@@ -21,20 +21,20 @@ struct SLevel
     double gainDb;
 };
 
-constexpr int LEVELS_IN_USE = 8;
-constexpr SLevel LEVELS[VOND_APT_LEVELS] = {
+constexpr int kLevelsInUse = 8;
+constexpr SLevel kLevels[kVondAptLevels] = {
     {0, 34, 1, 26, 28.0}, {0, 30, 1, 24, 27.5}, {0, 26, 1, 21, 27.0}, {1, 22, 1, 18, 18.0},
     {1, 18, 0, 15, 17.5}, {1, 14, 0, 11, 17.0}, {2, 10, 0, 7, 6.0},   {2, 7, 0, 2, 5.5},
     {0, 5, 0, 0, 0.0},    {0, 5, 0, 0, 0.0},
 };
 
 // By PA mode, dB.
-constexpr double PA_GAIN_DB[VOND_APT_PA_MODES] = {28.0, 18.0, 6.0};
-constexpr double DETECTOR_DB[VOND_APT_PA_MODES] = {12.0, 4.5, -6.0};
-constexpr double COUPLER_LOSS_DB[VOND_APT_PA_MODES] = {25.0, 25.25, 25.75};
+constexpr double kPaGainDb[kVondAptPaModes] = {28.0, 18.0, 6.0};
+constexpr double kDetectorDb[kVondAptPaModes] = {12.0, 4.5, -6.0};
+constexpr double kCouplerLossDb[kVondAptPaModes] = {25.0, 25.25, 25.75};
 
-constexpr double PA_GAIN_TILT_DB = 2.5;  // what the PA loses from the lower limit to the upper
-constexpr double PATH_LOSS_TILT_DB = 1.5;
+constexpr double kPaGainTiltDb = 2.5;  // what the PA loses from the lower limit to the upper
+constexpr double kPathLossTiltDb = 1.5;
 
 int16_t Steps(double db)
 {
@@ -60,14 +60,14 @@ std::vector<uint32_t> Frequencies(const SFreqLimits &limits, int count)
 template <class Block>
 int SubbandCount(const SProfile &profile, const SCalPlace &place)
 {
-    const int most = SCalKind<Block>::BLOCKS_OF_RECORD * VOND_CAL_BLOCK_SUBBANDS;
-    const SProfileSubbands &rule = profile.calibration.*SCalKind<Block>::RULE;
+    const int most = SCalKind<Block>::kBlocksOfRecord * kVondCalBlockSubbands;
+    const SProfileSubbands &rule = profile.calibration.*SCalKind<Block>::kRule;
     const auto found = rule.byBand.find(place.band);
     if (found != rule.byBand.end())
         return found->second;
     if (rule.fallback)
         return *rule.fallback;
-    const uint32_t parts = (place.limits.high - place.limits.low) / SUBBAND_KHZ;
+    const uint32_t parts = (place.limits.high - place.limits.low) / kSubbandKhz;
     return static_cast<int>(std::clamp(parts, 1u, static_cast<uint32_t>(most)));
 }
 
@@ -75,7 +75,7 @@ int SubbandCount(const SProfile &profile, const SCalPlace &place)
 template <class Block>
 CNoise NoiseOf(const SProfile &profile, const SCalPlace &place)
 {
-    const uint64_t name = (uint64_t(SCalKind<Block>::ID) << 48) ^
+    const uint64_t name = (uint64_t(SCalKind<Block>::kId) << 48) ^
                           (uint64_t(place.key.bandwidth) << 16) ^ place.key.route;
     return CNoise(name * 0x2545f4914f6cdd1du + profile.calibration.seed);
 }
@@ -92,7 +92,7 @@ template <class Block, class Write>
 std::vector<Block> Blocks(const std::vector<uint32_t> &frequencies, const Block &head,
                           const Write &write)
 {
-    const std::size_t size = VOND_CAL_BLOCK_SUBBANDS;
+    const std::size_t size = kVondCalBlockSubbands;
     std::vector<Block> blocks((frequencies.size() + size - 1) / size, head);
     for (std::size_t i = 0; i < frequencies.size(); ++i) {
         blocks[i / size].freq[i % size] = frequencies[i];
@@ -108,29 +108,29 @@ std::vector<SAptBlock> Record(const SProfile &profile, const SCalPlace &place,
     const double own = noise.Bell() - 0.25 * place.region;
     SAptBlock head = {};
     head.band = place.band;
-    head.normalTempIndex = NORMAL_TEMPERATURE;
-    head.paControlLevel = LEVELS_IN_USE;
-    head.paModeCount = VOND_APT_PA_MODES;
-    for (int i = 0; i < VOND_APT_LEVELS; ++i) {
-        const SLevel &level = LEVELS[i];
-        const double gain = i < LEVELS_IN_USE ? level.gainDb + own : 0.0;
+    head.normalTempIndex = kNormalTemperature;
+    head.paControlLevel = kLevelsInUse;
+    head.paModeCount = kVondAptPaModes;
+    for (int i = 0; i < kVondAptLevels; ++i) {
+        const SLevel &level = kLevels[i];
+        const double gain = i < kLevelsInUse ? level.gainDb + own : 0.0;
         head.level[i] = {level.mode, level.decivolts,    level.usage256Qam,
                          0,          Steps(level.prfDb), Steps(gain)};
     }
-    for (int mode = 0; mode < VOND_APT_PA_MODES; ++mode) {
+    for (int mode = 0; mode < kVondAptPaModes; ++mode) {
         SAptPaPart &part = head.pa[mode];
-        head.couplerLoss[mode] = Steps(COUPLER_LOSS_DB[mode] + 0.2 * noise.Bell());
+        head.couplerLoss[mode] = Steps(kCouplerLossDb[mode] + 0.2 * noise.Bell());
         part.prfIndex = static_cast<uint8_t>(mode);
-        for (int t = 0; t < VOND_CAL_TEMPERATURES; ++t) {
-            part.paGainTempOffset[t] = Steps((NORMAL_TEMPERATURE - t) * (0.35 + 0.05 * mode));
-            part.powerDetectorTempOffset[t] = Steps((t - NORMAL_TEMPERATURE) * 0.125);
+        for (int t = 0; t < kVondCalTemperatures; ++t) {
+            part.paGainTempOffset[t] = Steps((kNormalTemperature - t) * (0.35 + 0.05 * mode));
+            part.powerDetectorTempOffset[t] = Steps((t - kNormalTemperature) * 0.125);
         }
     }
     return Blocks(frequencies, head, [&](SAptBlock &block, std::size_t i, double position) {
-        for (int mode = 0; mode < VOND_APT_PA_MODES; ++mode) {
-            block.pa[mode].paGain[i] = Steps(PA_GAIN_DB[mode] + own - PA_GAIN_TILT_DB * position);
+        for (int mode = 0; mode < kVondAptPaModes; ++mode) {
+            block.pa[mode].paGain[i] = Steps(kPaGainDb[mode] + own - kPaGainTiltDb * position);
             block.pa[mode].powerDetector[i] =
-                Steps(DETECTOR_DB[mode] + 0.5 * position + 0.1 * noise.Bell());
+                Steps(kDetectorDb[mode] + 0.5 * position + 0.1 * noise.Bell());
         }
     });
 }
@@ -151,17 +151,17 @@ struct SPowerMode
 };
 
 // In the order of the profile's gain tables.
-constexpr SPowerMode POWER_MODES[VOND_RX_POWER_MODES] = {{&SMMLossPair::hpm, 0.0},
-                                                         {&SMMLossPair::lpm, 0.3}};
-constexpr EVondRxPath RX_PATHS[] = {EVondRxPath::Main, EVondRxPath::Div};
+constexpr SPowerMode kPowerModes[kVondRxPowerModes] = {{&SMMLossPair::hpm, 0.0},
+                                                       {&SMMLossPair::lpm, 0.3}};
+constexpr EVondRxPath kRxPaths[] = {EVondRxPath::Main, EVondRxPath::Div};
 
 // The gain modes that have a slot, in slot order.
 std::vector<std::pair<int, int>> Slots(const SMMRfRxGainInfoV7 &gain)
 {
     std::vector<std::pair<int, int>> slots;
-    for (int bigG = 0; bigG < VOND_GAIN_ROWS; ++bigG) {
-        for (int smallG = 0; smallG < VOND_GAIN_COLUMNS; ++smallG) {
-            if (gain.t1[bigG][smallG] == 1 && slots.size() < std::size_t(VOND_LOSS_GAIN_SLOTS))
+    for (int bigG = 0; bigG < kVondGainRows; ++bigG) {
+        for (int smallG = 0; smallG < kVondGainColumns; ++smallG) {
+            if (gain.t1[bigG][smallG] == 1 && slots.size() < std::size_t(kVondLossGainSlots))
                 slots.emplace_back(bigG, smallG);
         }
     }
@@ -179,7 +179,7 @@ void AddLosses(const SMMRfRxGainInfoV7 &gain, const SPowerMode &mode, CNoise &no
                std::vector<SLoss> &losses, const SMMType1PathlossBlockV7 *)
 {
     const int slots = static_cast<int>(Slots(gain).size());
-    for (const EVondRxPath path : RX_PATHS) {
+    for (const EVondRxPath path : kRxPaths) {
         for (int slot = 0; slot < slots; ++slot)
             losses.push_back(
                 {VondType1LossPair(path, slot), mode.half, LossDb(noise, mode, path, slot, 0)});
@@ -195,7 +195,7 @@ void AddLossesOf(int srx, EVondRxPath path, const SMMRfRxGainInfoV7 &gain, const
     for (const auto &[bigG, smallG] : Slots(gain)) {
         losses.push_back(
             {VondPartialOnPair(path, srx, slot), mode.half, LossDb(noise, mode, path, slot, srx)});
-        for (int sub = 0; sub < VOND_SUB_GAINS; ++sub) {
+        for (int sub = 0; sub < kVondSubGains; ++sub) {
             const uint8_t together =
                 srx == 0 ? gain.t2[bigG][smallG][sub] : gain.t2[bigG][sub][smallG];
             if (together == 1)
@@ -209,8 +209,8 @@ void AddLossesOf(int srx, EVondRxPath path, const SMMRfRxGainInfoV7 &gain, const
 void AddLosses(const SMMRfRxGainInfoV7 &gain, const SPowerMode &mode, CNoise &noise,
                std::vector<SLoss> &losses, const SMMType2PathlossBlockV7 *)
 {
-    for (const EVondRxPath path : RX_PATHS) {
-        for (int srx = 0; srx < VOND_SRX_PATHS; ++srx)
+    for (const EVondRxPath path : kRxPaths) {
+        for (int srx = 0; srx < kVondSrxPaths; ++srx)
             AddLossesOf(srx, path, gain, mode, noise, losses);
     }
 }
@@ -221,15 +221,15 @@ std::vector<Block> Record(const SProfile &profile, const SCalPlace &place,
 {
     CNoise noise = NoiseOf<Block>(profile, place);
     std::vector<SLoss> losses;
-    for (int mode = 0; mode < VOND_RX_POWER_MODES; ++mode)
-        AddLosses(profile.gain[mode], POWER_MODES[mode], noise, losses, kind);
+    for (int mode = 0; mode < kVondRxPowerModes; ++mode)
+        AddLosses(profile.gain[mode], kPowerModes[mode], noise, losses, kind);
     Block head = {};
     head.band = place.band;
-    for (int t = 0; t < VOND_CAL_TEMPERATURES; ++t)
-        head.plOffset[t] = Steps((t - NORMAL_TEMPERATURE) * 0.125);
+    for (int t = 0; t < kVondCalTemperatures; ++t)
+        head.plOffset[t] = Steps((t - kNormalTemperature) * 0.125);
     return Blocks(frequencies, head, [&](Block &block, std::size_t i, double position) {
         for (const SLoss &loss : losses)
-            block.loss[i][loss.pair].*loss.mode = Steps(loss.db + PATH_LOSS_TILT_DB * position);
+            block.loss[i][loss.pair].*loss.mode = Steps(loss.db + kPathLossTiltDb * position);
     });
 }
 

@@ -148,7 +148,7 @@ struct SProfile
     std::vector<SProfileRxRoute> rxType2Routes;
     std::vector<SProfileRouteLimits> txLimits;
     std::vector<SProfileRouteLimits> rxLimits;
-    SMMRfRxGainInfoV7 gain[VOND_RX_POWER_MODES] = {};
+    SMMRfRxGainInfoV7 gain[kVondRxPowerModes] = {};
     SProfileRadio radio;
     SProfileCalibration calibration;
     std::vector<std::string> faults;  // JSON objects, see Faults.h

@@ -8,18 +8,18 @@ namespace {
 template <class Block>
 void ReadSubbands(CJsonReader &reader, const char *key, SProfileCalibration &calibration)
 {
-    constexpr int MOST = SCalKind<Block>::BLOCKS_OF_RECORD * VOND_CAL_BLOCK_SUBBANDS;
-    SProfileSubbands &rule = calibration.*SCalKind<Block>::RULE;
-    ReadNumberTable(reader, {key, "n", 0.0, MOST}, rule.fallback, rule.byBand);
+    constexpr int kMost = SCalKind<Block>::kBlocksOfRecord * kVondCalBlockSubbands;
+    SProfileSubbands &rule = calibration.*SCalKind<Block>::kRule;
+    ReadNumberTable(reader, {key, "n", 0.0, kMost}, rule.fallback, rule.byBand);
 }
 
 ETxEntries ReadTxEntries(CJsonReader &reader)
 {
-    constexpr const char *NAMES[] = {"bandwidth first", "count first", "in turn"};
-    constexpr std::size_t LONGEST = 15;
-    const std::string text = reader.Text("txEntries", LONGEST, NAMES[0]);
+    constexpr const char *kNames[] = {"bandwidth first", "count first", "in turn"};
+    constexpr std::size_t kLongest = 15;
+    const std::string text = reader.Text("txEntries", kLongest, kNames[0]);
     for (int i = 0; i < 3; ++i) {
-        if (text == NAMES[i])
+        if (text == kNames[i])
             return static_cast<ETxEntries>(i);
     }
     CJsonReader::Fail(reader.Place("txEntries"), "unknown order " + text);

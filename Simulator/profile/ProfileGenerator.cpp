@@ -10,10 +10,10 @@ using nlohmann::json;
 
 namespace {
 
-constexpr std::size_t MOST_TYPE1_PAIRS = std::size(decltype(SRxRouteHw::type1){}.mimoPair);
-constexpr std::size_t MOST_TYPE2_PAIRS = std::size(decltype(SRxRouteHw::type2){}.mimoPair);
-constexpr std::size_t MOST_TX_PAIRS = std::size(decltype(STxBwRegionHw{}.mimoPair){});
-constexpr uint32_t EDGE_KHZ = 1000;
+constexpr std::size_t kMostType1Pairs = std::size(decltype(SRxRouteHw::type1){}.mimoPair);
+constexpr std::size_t kMostType2Pairs = std::size(decltype(SRxRouteHw::type2){}.mimoPair);
+constexpr std::size_t kMostTxPairs = std::size(decltype(STxBwRegionHw{}.mimoPair){});
+constexpr uint32_t kEdgeKhz = 1000;
 
 std::vector<SProfileBand> BandsWith(const SProfile &profile, bool uplink)
 {
@@ -53,7 +53,7 @@ void AddTxRoutes(SProfile &profile, uint16_t count, const std::vector<uint32_t> 
         row.route = static_cast<uint16_t>(i + 1);
         row.band = bands[i % bands.size()].band;
         for (const uint32_t kHz : regionsKhz)
-            row.regions.push_back({kHz, Hardware(row.route, 1, count, MOST_TX_PAIRS, "TX")});
+            row.regions.push_back({kHz, Hardware(row.route, 1, count, kMostTxPairs, "TX")});
         profile.txRoutes.push_back(row);
     }
 }
@@ -94,7 +94,7 @@ void AddLimits(const SProfile &profile, const std::vector<Route> &routes,
 {
     for (std::size_t i = 0; i < std::min(count, routes.size()); ++i) {
         const SFreqLimits whole = FindBand(profile, routes[i].band)->*direction;
-        const uint32_t edge = std::min(EDGE_KHZ, (whole.high - whole.low) / 4);
+        const uint32_t edge = std::min(kEdgeKhz, (whole.high - whole.low) / 4);
         limits.push_back({routes[i].band, routes[i].route, {whole.low + edge, whole.high - edge}});
     }
 }
@@ -104,27 +104,26 @@ void AddLimits(const SProfile &profile, const std::vector<Route> &routes,
 void GenerateRoutes(const json &rule, SProfile &profile)
 {
     CJsonReader reader(rule, "generate");
-    const auto txRoutes = reader.Integer<uint16_t>("txRoutes", 0, VOND_MAX_TX_ROUTES);
+    const auto txRoutes = reader.Integer<uint16_t>("txRoutes", 0, kVondMaxTxRoutes);
     std::vector<uint32_t> regions;
-    reader.Each("bwRegionsKhz", VOND_MAX_BW_REGIONS,
+    reader.Each("bwRegionsKhz", kVondMaxBwRegions,
                 [&](const json &value, const std::string &place) {
                     regions.push_back(
                         static_cast<uint32_t>(CJsonReader::IntegerOf(value, place, 1, 400000)));
                 });
-    const auto type1 = reader.Integer<uint16_t>("rxType1Routes", 0, VOND_MAX_RX_ROUTES);
-    const auto type2 = reader.Integer<uint16_t>("rxType2Routes", 0, VOND_MAX_RX_ROUTES);
+    const auto type1 = reader.Integer<uint16_t>("rxType1Routes", 0, kVondMaxRxRoutes);
+    const auto type2 = reader.Integer<uint16_t>("rxType2Routes", 0, kVondMaxRxRoutes);
     const auto gainMode = reader.Integer<uint8_t>("gainMode", 0, 255, uint8_t(0));
     const auto paired = reader.Integer<uint16_t>("pairedTxRoutes", 0, txRoutes, uint16_t(0));
-    const auto limits =
-        reader.Integer<uint16_t>("freqLimits", 0, VOND_MAX_FREQ_LIMITS, uint16_t(0));
+    const auto limits = reader.Integer<uint16_t>("freqLimits", 0, kVondMaxFreqLimits, uint16_t(0));
     reader.Done();
 
     AddTxRoutes(profile, txRoutes, regions);
-    AddRxRoutes(profile, {"rxType1Routes", 1, type1, MOST_TYPE1_PAIRS, 0, paired},
+    AddRxRoutes(profile, {"rxType1Routes", 1, type1, kMostType1Pairs, 0, paired},
                 profile.rxType1Routes);
     AddRxRoutes(
         profile,
-        {"rxType2Routes", static_cast<uint16_t>(type1 + 1), type2, MOST_TYPE2_PAIRS, gainMode, 0},
+        {"rxType2Routes", static_cast<uint16_t>(type1 + 1), type2, kMostType2Pairs, gainMode, 0},
         profile.rxType2Routes);
     AddLimits(profile, profile.txRoutes, &SProfileBand::uplink, limits, profile.txLimits);
     AddLimits(profile, profile.rxType1Routes, &SProfileBand::downlink, limits, profile.rxLimits);

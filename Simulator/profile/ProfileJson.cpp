@@ -14,15 +14,15 @@ using nlohmann::json;
 namespace {
 
 // Keys of a profile file stay far below this; a larger file is a wrong path.
-constexpr std::streamoff LARGEST_FILE = 8 * 1024 * 1024;
+constexpr std::streamoff kLargestFile = 8 * 1024 * 1024;
 
 // No profile nests deeper; the limit keeps a broken file from running the stack out.
-constexpr int DEEPEST = 16;
+constexpr int kDeepest = 16;
 
 json ParseText(const std::string &text)
 {
     return json::parse(text, [](int depth, json::parse_event_t, json &) {
-        if (depth > DEEPEST)
+        if (depth > kDeepest)
             throw std::runtime_error("nests too deep");
         return true;
     });
@@ -157,7 +157,7 @@ std::string ReadProfileText(const std::string &nameOrPath)
         throw std::runtime_error(nameOrPath + ": no such file, and none of the built-in profiles " +
                                  BuiltinNames());
     const std::streamoff size = file.tellg();
-    if (size < 0 || size > LARGEST_FILE)
+    if (size < 0 || size > kLargestFile)
         throw std::runtime_error(nameOrPath + ": is not a profile file");
     file.seekg(0);
     std::ostringstream text;

@@ -10,8 +10,8 @@ using nlohmann::json;
 
 namespace {
 
-constexpr std::size_t LONGEST_PORT = sizeof(STxBwRegionHw::port) - 1;
-constexpr uint16_t MOST = 65535;
+constexpr std::size_t kLongestPort = sizeof(STxBwRegionHw::port) - 1;
+constexpr uint16_t kMost = 65535;
 
 SFreqLimits ReadLimits(const json &value, const std::string &place)
 {
@@ -34,7 +34,7 @@ std::vector<uint16_t> ReadNumbers(CJsonReader &reader, const char *key, std::siz
 {
     std::vector<uint16_t> numbers;
     reader.Each(key, most, [&](const json &value, const std::string &place) {
-        numbers.push_back(static_cast<uint16_t>(CJsonReader::IntegerOf(value, place, 0, MOST)));
+        numbers.push_back(static_cast<uint16_t>(CJsonReader::IntegerOf(value, place, 0, kMost)));
     });
     return numbers;
 }
@@ -42,7 +42,7 @@ std::vector<uint16_t> ReadNumbers(CJsonReader &reader, const char *key, std::siz
 void ReadHardwareHead(CJsonReader &reader, SProfileHardware &hardware, std::size_t mimoPairs)
 {
     hardware.antMask = reader.Integer<uint32_t>("antMask", 0, UINT32_MAX);
-    hardware.feRoute = reader.Integer<uint16_t>("feRoute", 0, MOST);
+    hardware.feRoute = reader.Integer<uint16_t>("feRoute", 0, kMost);
     hardware.mimoPairs = ReadNumbers(reader, "mimoPairs", mimoPairs);
 }
 
@@ -50,14 +50,14 @@ SProfileTxRoute ReadTxRoute(const json &entry, const std::string &place)
 {
     SProfileTxRoute row;
     CJsonReader reader(entry, place);
-    row.band = reader.Integer<uint16_t>("band", 1, MOST);
-    row.route = reader.Integer<uint16_t>("route", 0, MOST);
-    reader.Each("regions", VOND_MAX_BW_REGIONS, [&](const json &value, const std::string &where) {
+    row.band = reader.Integer<uint16_t>("band", 1, kMost);
+    row.route = reader.Integer<uint16_t>("route", 0, kMost);
+    reader.Each("regions", kVondMaxBwRegions, [&](const json &value, const std::string &where) {
         SProfileBwRegion region;
         CJsonReader part(value, where);
         region.kHz = part.Integer<uint32_t>("kHz", 1, UINT32_MAX);
         ReadHardwareHead(part, region.hardware, std::size(STxBwRegionHw{}.mimoPair));
-        region.hardware.port[0] = part.Text("port", LONGEST_PORT);
+        region.hardware.port[0] = part.Text("port", kLongestPort);
         region.hardware.path[0] = part.Integer<uint8_t>("stx", 0, 255);
         part.Done();
         row.regions.push_back(region);
@@ -81,14 +81,14 @@ SProfileRxRoute ReadRxRoute(const json &entry, const std::string &place, bool ty
 {
     SProfileRxRoute row;
     CJsonReader reader(entry, place);
-    row.band = reader.Integer<uint16_t>("band", 1, MOST);
-    row.route = reader.Integer<uint16_t>("route", 0, MOST);
+    row.band = reader.Integer<uint16_t>("band", 1, kMost);
+    row.route = reader.Integer<uint16_t>("route", 0, kMost);
     SProfileHardware &hardware = row.hardware;
     ReadHardwareHead(reader, hardware,
                      type2 ? std::size(decltype(SRxRouteHw::type2){}.mimoPair)
                            : std::size(decltype(SRxRouteHw::type1){}.mimoPair));
     ReadExactly(reader, "ports", 2, [&](std::size_t i, const json &value, const std::string &at) {
-        hardware.port[i] = CJsonReader::TextOf(value, at, LONGEST_PORT);
+        hardware.port[i] = CJsonReader::TextOf(value, at, kLongestPort);
     });
     if (type2) {
         row.gainMode = reader.Integer<uint8_t>("gainMode", 0, 255, uint8_t(0));
@@ -98,18 +98,18 @@ SProfileRxRoute ReadRxRoute(const json &entry, const std::string &place, bool ty
     } else {
         hardware.path[0] = reader.Integer<uint8_t>("srx", 0, 255);
     }
-    row.txRoutes = ReadNumbers(reader, "txRoutes", VOND_MAX_ROUTE_VALUES);
+    row.txRoutes = ReadNumbers(reader, "txRoutes", kVondMaxRouteValues);
     reader.Done();
     return row;
 }
 
 void ReadRouteLimits(CJsonReader &reader, const char *key, std::vector<SProfileRouteLimits> &rows)
 {
-    reader.Each(key, VOND_MAX_FREQ_LIMITS, [&](const json &entry, const std::string &place) {
+    reader.Each(key, kVondMaxFreqLimits, [&](const json &entry, const std::string &place) {
         SProfileRouteLimits row;
         CJsonReader part(entry, place);
-        row.band = part.Integer<uint16_t>("band", 1, MOST);
-        row.route = part.Integer<uint16_t>("route", 0, MOST);
+        row.band = part.Integer<uint16_t>("band", 1, kMost);
+        row.route = part.Integer<uint16_t>("route", 0, kMost);
         row.limits = ReadLimits(part.Take("kHz"), part.Place("kHz"));
         part.Done();
         rows.push_back(row);
@@ -183,10 +183,10 @@ std::size_t CheckPairing(const SProfile &profile, const char *table,
 
 void ReadBands(CJsonReader &reader, SProfile &profile)
 {
-    reader.Each("bands", VOND_MAX_BANDS, [&](const json &entry, const std::string &place) {
+    reader.Each("bands", kVondMaxBands, [&](const json &entry, const std::string &place) {
         SProfileBand row;
         CJsonReader part(entry, place);
-        row.band = part.Integer<uint16_t>("band", 1, MOST);
+        row.band = part.Integer<uint16_t>("band", 1, kMost);
         row.downlinkOnly = part.Boolean("downlinkOnly", false);
         row.uplinkOnly = part.Boolean("uplinkOnly", false);
         row.ulMimo = part.Boolean("ulMimo", false);
@@ -217,14 +217,14 @@ void ReadRoutes(CJsonReader &reader, SProfile &profile)
     };
     for (const char *key : {"txRoutes", "rxType1Routes", "rxType2Routes", "txLimits", "rxLimits"})
         own(key);
-    reader.Each("txRoutes", VOND_MAX_TX_ROUTES, [&](const json &entry, const std::string &place) {
+    reader.Each("txRoutes", kVondMaxTxRoutes, [&](const json &entry, const std::string &place) {
         profile.txRoutes.push_back(ReadTxRoute(entry, place));
     });
-    reader.Each("rxType1Routes", VOND_MAX_RX_ROUTES,
+    reader.Each("rxType1Routes", kVondMaxRxRoutes,
                 [&](const json &entry, const std::string &place) {
                     profile.rxType1Routes.push_back(ReadRxRoute(entry, place, false));
                 });
-    reader.Each("rxType2Routes", VOND_MAX_RX_ROUTES,
+    reader.Each("rxType2Routes", kVondMaxRxRoutes,
                 [&](const json &entry, const std::string &place) {
                     profile.rxType2Routes.push_back(ReadRxRoute(entry, place, true));
                 });
@@ -251,8 +251,8 @@ void CheckTables(const SProfile &profile)
     CheckRoutes(profile, "rxLimits", profile.rxLimits, &SProfileBand::downlink);
     const std::size_t paired = CheckPairing(profile, "rxType1Routes", profile.rxType1Routes) +
                                CheckPairing(profile, "rxType2Routes", profile.rxType2Routes);
-    if (paired > VOND_MAX_RX_ROUTES)
+    if (paired > kVondMaxRxRoutes)
         CJsonReader::Fail("rxType2Routes", std::to_string(paired) +
                                                " RX routes have TX routes, at most " +
-                                               std::to_string(VOND_MAX_RX_ROUTES) + " fit");
+                                               std::to_string(kVondMaxRxRoutes) + " fit");
 }

@@ -2,9 +2,9 @@
 
 namespace {
 
-constexpr SFreqLimits NONE = {};
+constexpr SFreqLimits kNone = {};
 
-constexpr SBandRow BAND_ROWS[] = {
+constexpr SBandRow kBandRows[] = {
     {1, {1920000, 1980000}, {2110000, 2170000}},
     {2, {1850000, 1910000}, {1930000, 1990000}},
     {3, {1710000, 1785000}, {1805000, 1880000}},
@@ -15,7 +15,7 @@ constexpr SBandRow BAND_ROWS[] = {
     {20, {832000, 862000}, {791000, 821000}},
     {25, {1850000, 1915000}, {1930000, 1995000}},
     {28, {703000, 748000}, {758000, 803000}},
-    {29, NONE, {717000, 728000}},
+    {29, kNone, {717000, 728000}},
     {34, {2010000, 2025000}, {2010000, 2025000}},
     {38, {2570000, 2620000}, {2570000, 2620000}},
     {39, {1880000, 1920000}, {1880000, 1920000}},
@@ -27,17 +27,17 @@ constexpr SBandRow BAND_ROWS[] = {
     {70, {1695000, 1710000}, {1995000, 2020000}},
     {71, {663000, 698000}, {617000, 652000}},
     {74, {1427000, 1470000}, {1475000, 1518000}},
-    {75, NONE, {1432000, 1517000}},
-    {76, NONE, {1427000, 1432000}},
+    {75, kNone, {1432000, 1517000}},
+    {76, kNone, {1427000, 1432000}},
     {77, {3300000, 4200000}, {3300000, 4200000}},
     {78, {3300000, 3800000}, {3300000, 3800000}},
     {79, {4400000, 5000000}, {4400000, 5000000}},
-    {80, {1710000, 1785000}, NONE},
-    {81, {880000, 915000}, NONE},
-    {82, {832000, 862000}, NONE},
-    {83, {703000, 748000}, NONE},
-    {84, {1920000, 1980000}, NONE},
-    {86, {1710000, 1780000}, NONE},
+    {80, {1710000, 1785000}, kNone},
+    {81, {880000, 915000}, kNone},
+    {82, {832000, 862000}, kNone},
+    {83, {703000, 748000}, kNone},
+    {84, {1920000, 1980000}, kNone},
+    {86, {1710000, 1780000}, kNone},
 };
 
 struct SChannel
@@ -46,7 +46,7 @@ struct SChannel
     uint32_t blocks[3];  // by subcarrier spacing; 0: not defined
 };
 
-constexpr SChannel CHANNELS[] = {
+constexpr SChannel kChannels[] = {
     {5000, {25, 11, 0}},     {10000, {52, 24, 11}},   {15000, {79, 38, 18}},
     {20000, {106, 51, 24}},  {25000, {133, 65, 31}},  {30000, {160, 78, 38}},
     {40000, {216, 106, 51}}, {50000, {270, 133, 65}}, {60000, {0, 162, 79}},
@@ -54,13 +54,13 @@ constexpr SChannel CHANNELS[] = {
     {100000, {0, 273, 135}},
 };
 
-constexpr uint32_t COARSE_RASTER_FROM = 3000000;
+constexpr uint32_t kCoarseRasterFrom = 3000000;
 
 }  // namespace
 
 const SBandRow *FindBandRow(uint32_t band)
 {
-    for (const SBandRow &row : BAND_ROWS) {
+    for (const SBandRow &row : kBandRows) {
         if (row.band == band)
             return &row;
     }
@@ -69,7 +69,7 @@ const SBandRow *FindBandRow(uint32_t band)
 
 bool IsChannelBandwidth(uint32_t kHz)
 {
-    for (const SChannel &channel : CHANNELS) {
+    for (const SChannel &channel : kChannels) {
         if (channel.bandwidth == kHz)
             return true;
     }
@@ -78,7 +78,7 @@ bool IsChannelBandwidth(uint32_t kHz)
 
 uint32_t ResourceBlocks(uint32_t scs, uint32_t bandwidthKhz)
 {
-    for (const SChannel &channel : CHANNELS) {
+    for (const SChannel &channel : kChannels) {
         if (channel.bandwidth == bandwidthKhz && scs < 3)
             return channel.blocks[scs];
     }
@@ -87,7 +87,7 @@ uint32_t ResourceBlocks(uint32_t scs, uint32_t bandwidthKhz)
 
 bool IsOnRaster(uint32_t kHz)
 {
-    if (kHz < COARSE_RASTER_FROM)
+    if (kHz < kCoarseRasterFrom)
         return kHz % 5 == 0;
-    return (kHz - COARSE_RASTER_FROM) % 15 == 0;
+    return (kHz - kCoarseRasterFrom) % 15 == 0;
 }

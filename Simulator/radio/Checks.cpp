@@ -3,13 +3,13 @@
 namespace {
 
 // Limits of the radio itself, which no profile changes.
-constexpr int16_t LOWEST_TX_POWER = -60 * 256;
-constexpr int16_t HIGHEST_TX_POWER = 30 * 256;
-constexpr int16_t HIGHEST_RF_GAIN = 70 * 32;
-constexpr int16_t LOWEST_DIGITAL_GAIN = -42 * 32;
-constexpr int16_t HIGHEST_DIGITAL_GAIN = 54 * 32;
-constexpr uint8_t HIGHEST_GAIN_INDEX = 17;
-constexpr uint32_t HIGHEST_MCS = 8;
+constexpr int16_t kLowestTxPower = -60 * 256;
+constexpr int16_t kHighestTxPower = 30 * 256;
+constexpr int16_t kHighestRfGain = 70 * 32;
+constexpr int16_t kLowestDigitalGain = -42 * 32;
+constexpr int16_t kHighestDigitalGain = 54 * 32;
+constexpr uint8_t kHighestGainIndex = 17;
+constexpr uint32_t kHighestMcs = 8;
 
 // The limits of the route when it has some of its own, otherwise those of the band.
 SFreqLimits LimitsOf(const std::vector<SProfileRouteLimits> &rows, const SCarrierPlace &place,
@@ -128,29 +128,29 @@ SVerdict CheckAllocation(const SAllocation &allocation)
     const uint32_t end = uint32_t(allocation.vrbStart) + allocation.vrbLength;
     if (allocation.vrbLength == 0 || end > blocks)
         return EResult::ResourceBlocks;
-    if (allocation.mcsMode > HIGHEST_MCS)
+    if (allocation.mcsMode > kHighestMcs)
         return EResult::Modulation;
     return CheckTxPower(allocation.txPower);
 }
 
 SVerdict CheckTxPower(int16_t power)
 {
-    const bool good = power >= LOWEST_TX_POWER && power <= HIGHEST_TX_POWER;
+    const bool good = power >= kLowestTxPower && power <= kHighestTxPower;
     return good ? SVerdict() : SVerdict(EResult::TxPower);
 }
 
 SVerdict CheckRfGain(int16_t gain)
 {
-    return gain >= 0 && gain <= HIGHEST_RF_GAIN ? SVerdict() : SVerdict(EResult::Gain);
+    return gain >= 0 && gain <= kHighestRfGain ? SVerdict() : SVerdict(EResult::Gain);
 }
 
 SVerdict CheckDigitalGain(int16_t gain)
 {
-    const bool good = gain >= LOWEST_DIGITAL_GAIN && gain <= HIGHEST_DIGITAL_GAIN;
+    const bool good = gain >= kLowestDigitalGain && gain <= kHighestDigitalGain;
     return good ? SVerdict() : SVerdict(EResult::Gain);
 }
 
 SVerdict CheckGainIndex(uint8_t index)
 {
-    return index <= HIGHEST_GAIN_INDEX ? SVerdict() : SVerdict(EResult::Gain);
+    return index <= kHighestGainIndex ? SVerdict() : SVerdict(EResult::Gain);
 }

@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr uint8_t MOST_MEASUREMENTS = 10;
-constexpr uint8_t HIGHEST_SLOT_FORMAT = 55;
+constexpr uint8_t kMostMeasurements = 10;
+constexpr uint8_t kHighestSlotFormat = 55;
 
 // The parts that the gain blocks of continuous RX and RSSI have in common, by field name.
 template <class Single>
@@ -88,9 +88,9 @@ SVerdict CheckRsrpCarrier(const SProfile &profile, const SNrRsrpCommonV7 &carrie
         return verdict;
     if (const SVerdict verdict = CheckChannel(carrier.rxScs, carrier.dlBandwidth); !verdict.Ok())
         return verdict;
-    if (carrier.measCnt < 1 || carrier.measCnt > MOST_MEASUREMENTS)
+    if (carrier.measCnt < 1 || carrier.measCnt > kMostMeasurements)
         return EResult::MeasureCount;
-    if (carrier.tddSlotConfig > HIGHEST_SLOT_FORMAT)
+    if (carrier.tddSlotConfig > kHighestSlotFormat)
         return EResult::SlotFormat;
     if (carrier.trxMode > 1)
         return EResult::Flag;

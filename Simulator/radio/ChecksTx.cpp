@@ -4,9 +4,9 @@
 
 namespace {
 
-constexpr uint16_t HIGHEST_CELL_ID = 1007;
-constexpr uint8_t HIGHEST_SLOT_FORMAT = 55;
-constexpr int32_t WIDEST_TONE_OFFSET = 540;  // kHz
+constexpr uint16_t kHighestCellId = 1007;
+constexpr uint8_t kHighestSlotFormat = 55;
+constexpr int32_t kWidestToneOffset = 540;  // kHz
 
 SVerdict CheckPuschCarrier(const SProfile &profile, const SNrPuschCcV7 &carrier, bool forced)
 {
@@ -14,9 +14,9 @@ SVerdict CheckPuschCarrier(const SProfile &profile, const SNrPuschCcV7 &carrier,
         CheckUplink(profile, {carrier.band, carrier.ulFrequency, forced, carrier.txRoute, true});
     if (!place.Ok())
         return place;
-    if (carrier.tddSlotConfig > HIGHEST_SLOT_FORMAT)
+    if (carrier.tddSlotConfig > kHighestSlotFormat)
         return EResult::SlotFormat;
-    if (carrier.cellId > HIGHEST_CELL_ID)
+    if (carrier.cellId > kHighestCellId)
         return EResult::CellId;
     for (const uint8_t flag : {carrier.sulFreqShift, carrier.txCloseLoopDisble, carrier.amprEnbl,
                                carrier.enableCsr, carrier.enableMimo}) {
@@ -41,7 +41,7 @@ SVerdict CheckSingleTone(const SProfile &profile, const SMMSingleToneCmdV7 &comm
         return place;
     if (const SVerdict verdict = CheckTxPower(command.txPowerValue); !verdict.Ok())
         return verdict;
-    if (command.ulFreqOffset < -WIDEST_TONE_OFFSET || command.ulFreqOffset > WIDEST_TONE_OFFSET ||
+    if (command.ulFreqOffset < -kWidestToneOffset || command.ulFreqOffset > kWidestToneOffset ||
         command.afcDataType > 1)
         return EResult::Tone;
     for (const SProfileBwRegion &region :

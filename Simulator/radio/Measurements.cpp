@@ -8,11 +8,11 @@
 
 namespace {
 
-constexpr int BLOCKS_A_MEASUREMENT = 20;
-constexpr uint8_t FORCED_LPM = 1;         // lpmHpmConf
-constexpr double SYNC_RATIO = -10.0;      // dB; below it no SSB is detected
-constexpr double BROADCAST_RATIO = -8.0;  // dB; below it the PBCH is not decoded
-constexpr double SSS_GAIN = 21.0;         // dB: 127 elements of the SSS add up coherently
+constexpr int kBlocksAMeasurement = 20;
+constexpr uint8_t kForcedLpm = 1;         // lpmHpmConf
+constexpr double kSyncRatio = -10.0;      // dB; below it no SSB is detected
+constexpr double kBroadcastRatio = -8.0;  // dB; below it the PBCH is not decoded
+constexpr double kSssGain = 21.0;         // dB: 127 elements of the SSS add up coherently
 
 int16_t Fixed(double value, int unitsADb)
 {
@@ -24,12 +24,12 @@ int16_t Fixed(double value, int unitsADb)
 double CellPower(const SProfile &profile, const SCarrierPlace &place, uint16_t route, int antenna)
 {
     return profile.radio.LevelOf(place.band) - profile.radio.LossOf(route) -
-           FilterLoss(place.kHz, DownlinkLimits(profile, place)) - DIVERSITY_LOSS * antenna;
+           FilterLoss(place.kHz, DownlinkLimits(profile, place)) - kDiversityLoss * antenna;
 }
 
 int16_t DigitalGain(double rfGain, double cellPower)
 {
-    const double gain = ADC_TARGET + DIGITAL_LIFT - (cellPower + rfGain);
+    const double gain = kAdcTarget + kDigitalLift - (cellPower + rfGain);
     return Fixed(std::clamp(gain, -42.0, 54.0), 32);
 }
 
@@ -49,9 +49,8 @@ public:
         const SCarrierPlace place = {m_command.band, kHz, true, m_command.rxRoute, false};
         const double cell = CellPower(m_profile, place, m_command.rxRoute, antenna) +
                             radio.fluctuationDb * m_noise.Bell();
-        const double figure =
-            radio.noiseFigureDb + (m_command.lowPower == 1 ? LOW_POWER_LOSS : 0.0);
-        const double input = PowerSum(cell, ThermalNoise(RSSI_BANDWIDTH, figure));
+        const double figure = radio.noiseFigureDb + (m_command.lowPower == 1 ? kLowPowerLoss : 0.0);
+        const double input = PowerSum(cell, ThermalNoise(kRssiBandwidth, figure));
         return Fixed(ReadingOf(input, rfGain / 32.0, digitalGain / 32.0), 32);
     }
 
@@ -129,7 +128,7 @@ double CombinedRatio(const SRsrpRun &run, const SReception *receptions)
 
 SReception ReceptionOf(const SRsrpRun &run, int antenna, double fluctuation)
 {
-    const double signal = run.cellPower - DIVERSITY_LOSS * antenna + fluctuation;
+    const double signal = run.cellPower - kDiversityLoss * antenna + fluctuation;
     return Receive(signal, run.noise, run.lowPower);
 }
 
@@ -151,7 +150,7 @@ SMMGainSearchCnfV7 SearchGain(const SMMGainSearchCmdV7 &command)
     const uint8_t *search = command.search;
     const double path0Main = RfGainOf(mainG, search[0], lowPower);
     const double path0Div = RfGainOf(divG, search[1], lowPower);
-    const double advised = ADC_TARGET - path0Main;
+    const double advised = kAdcTarget - path0Main;
     answer.adviseDlPower = Fixed(advised, 32);
     answer.simultaneous = command.simultaneous;
     if (command.simultaneous == 0) {
@@ -206,9 +205,9 @@ SRsrpRun RsrpRun(const SProfile &profile, const SNrRsrpCmdV7 &command)
     run.antennas = !forced && normalCarrier.mimo4x4 == 1 ? 4 : 2;
     run.cellPower =
         CellPower(profile, {carrier.band, carrier.dlFrequency, forced, route, true}, route, 0);
-    run.lowPower = forced && forcedCarrier.lpmHpmConf == FORCED_LPM;
+    run.lowPower = forced && forcedCarrier.lpmHpmConf == kForcedLpm;
     run.noise = ThermalNoise(elements * spacing,
-                             profile.radio.noiseFigureDb + (run.lowPower ? LOW_POWER_LOSS : 0.0));
+                             profile.radio.noiseFigureDb + (run.lowPower ? kLowPowerLoss : 0.0));
     run.elements = 10.0 * std::log10(elements);
     run.fluctuation = profile.radio.fluctuationDb;
     return run;
@@ -220,9 +219,9 @@ EStatus CellStatus(const SRsrpRun &run)
     for (int antenna = 0; antenna < run.antennas; ++antenna)
         receptions[antenna] = ReceptionOf(run, antenna, 0.0);
     const double ratio = CombinedRatio(run, receptions);
-    if (ratio < SYNC_RATIO)
+    if (ratio < kSyncRatio)
         return EStatus::CellNotExist;
-    return ratio < BROADCAST_RATIO ? EStatus::MibDecodeError : EStatus::Success;
+    return ratio < kBroadcastRatio ? EStatus::MibDecodeError : EStatus::Success;
 }
 
 SMixRxReading MeasureMixRx(const SRsrpRun &run, CNoise &noise)
@@ -231,7 +230,7 @@ SMixRxReading MeasureMixRx(const SRsrpRun &run, CNoise &noise)
     NRfTestResult_GetMixRxReportV7 &report = reading.report;
     int16_t *const rssi[] = {report.RSSI0, report.RSSI1, report.RSSI2, report.RSSI3};
     int16_t *const rsrp[] = {report.RSRP0, report.RSRP1, report.RSRP2, report.RSRP3};
-    report.reportCount = static_cast<uint8_t>(std::min<int>(run.measCnt, VOND_MAX_REPORTS));
+    report.reportCount = static_cast<uint8_t>(std::min<int>(run.measCnt, kVondMaxReports));
     for (int i = 0; i < report.reportCount; ++i) {
         SReception receptions[4];
         for (int antenna = 0; antenna < run.antennas; ++antenna) {
@@ -241,11 +240,11 @@ SMixRxReading MeasureMixRx(const SRsrpRun &run, CNoise &noise)
             // RSRP is the power of one resource element; what noise the estimate lets through is
             // its floor.
             const double element =
-                PowerSum(reception.signal, reception.signal - reception.ratio - SSS_GAIN);
+                PowerSum(reception.signal, reception.signal - reception.ratio - kSssGain);
             rsrp[antenna][i] = Fixed(element - run.elements, 128);
         }
         const double errorRate = BlockErrorRate(CombinedRatio(run, receptions));
-        for (int block = 0; block < BLOCKS_A_MEASUREMENT; ++block)
+        for (int block = 0; block < kBlocksAMeasurement; ++block)
             ++(noise.Uniform() < errorRate ? reading.badBlocks : reading.goodBlocks);
     }
     return reading;

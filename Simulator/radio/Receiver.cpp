@@ -7,18 +7,18 @@
 
 namespace {
 
-constexpr double NOISE_DENSITY = -174.0;  // dBm/Hz, kT at 290 K
-constexpr double ADC_NOISE = -80.0;       // dBm at the ADC: 72 dB below its full scale
-constexpr double EDGE_LOSS = 1.5;         // dB, of the filter at its edges
-constexpr double BEST_RF_GAIN = 45.0;     // dB; the gain's residual error grows away from it
-constexpr double GAIN_ERROR = 0.02;       // dB a dB
-constexpr double KNEE = 3.0;              // sharpness of the limiter
+constexpr double kNoiseDensity = -174.0;  // dBm/Hz, kT at 290 K
+constexpr double kAdcNoise = -80.0;       // dBm at the ADC: 72 dB below its full scale
+constexpr double kEdgeLoss = 1.5;         // dB, of the filter at its edges
+constexpr double kBestRfGain = 45.0;      // dB; the gain's residual error grows away from it
+constexpr double kGainError = 0.02;       // dB a dB
+constexpr double kKnee = 3.0;             // sharpness of the limiter
 
 // Blocks at the rate of 5 %: the reference channel's -1 dB and 2.5 dB of implementation margin, as
 // 3GPP TS 38.101-1 reckons reference sensitivity.
-constexpr double SENSITIVITY_RATIO = 1.5;
-constexpr double HALF_FALL = 1.0;     // dB from 5 % to 50 %, and from there to 95 %
-constexpr double LOG_ODDS_5 = 2.944;  // ln(0.95 / 0.05)
+constexpr double kSensitivityRatio = 1.5;
+constexpr double kHalfFall = 1.0;    // dB from 5 % to 50 %, and from there to 95 %
+constexpr double kLogOdds5 = 2.944;  // ln(0.95 / 0.05)
 
 double Milliwatt(double dBm)
 {
@@ -34,13 +34,13 @@ double DBm(double milliwatt)
 double Limited(double power, double fullScale)
 {
     return power -
-           10.0 / KNEE * std::log10(1.0 + std::pow(10.0, KNEE * (power - fullScale) / 10.0));
+           10.0 / kKnee * std::log10(1.0 + std::pow(10.0, kKnee * (power - fullScale) / 10.0));
 }
 
 // At the ADC, with its own noise.
 double AtAdc(double power, double rfGain)
 {
-    return Limited(PowerSum(power + rfGain, ADC_NOISE), ADC_FULL_SCALE);
+    return Limited(PowerSum(power + rfGain, kAdcNoise), kAdcFullScale);
 }
 
 }  // namespace
@@ -52,7 +52,7 @@ double PowerSum(double one, double other)
 
 double ThermalNoise(double bandwidthHz, double noiseFigure)
 {
-    return NOISE_DENSITY + 10.0 * std::log10(bandwidthHz) + noiseFigure;
+    return kNoiseDensity + 10.0 * std::log10(bandwidthHz) + noiseFigure;
 }
 
 double FilterLoss(uint32_t kHz, const SFreqLimits &range)
@@ -61,20 +61,20 @@ double FilterLoss(uint32_t kHz, const SFreqLimits &range)
     if (half <= 0.0)
         return 0.0;
     const double off = (double(kHz) - range.low) / half - 1.0;
-    return EDGE_LOSS * off * off;
+    return kEdgeLoss * off * off;
 }
 
 double RfGainOf(uint8_t elna, uint8_t mode, bool lowPower)
 {
-    return 60.0 - 8.0 * elna - 2.5 * mode - (lowPower ? LOW_POWER_LOSS : 0.0);
+    return 60.0 - 8.0 * elna - 2.5 * mode - (lowPower ? kLowPowerLoss : 0.0);
 }
 
 SGainMode NearestMode(double rfGain, bool lowPower)
 {
     SGainMode nearest;
     double distance = 1e9;
-    for (uint8_t elna = 0; elna <= VOND_HIGHEST_ELNA_MODE; ++elna) {
-        for (uint8_t mode = 0; mode <= VOND_HIGHEST_GAIN_MODE; ++mode) {
+    for (uint8_t elna = 0; elna <= kVondHighestElnaMode; ++elna) {
+        for (uint8_t mode = 0; mode <= kVondHighestGainMode; ++mode) {
             const double off = std::fabs(rfGain - RfGainOf(elna, mode, lowPower));
             if (off < distance) {
                 distance = off;
@@ -87,22 +87,22 @@ SGainMode NearestMode(double rfGain, bool lowPower)
 
 uint8_t GainIndex(uint8_t elna, uint8_t mode)
 {
-    return static_cast<uint8_t>(std::min<int>(3 * elna + mode, VOND_HIGHEST_GAIN_IDX));
+    return static_cast<uint8_t>(std::min<int>(3 * elna + mode, kVondHighestGainIdx));
 }
 
 double ReadingOf(double power, double rfGain, double digitalGain)
 {
-    const double word = Limited(AtAdc(power, rfGain) + digitalGain, ADC_FULL_SCALE + DIGITAL_LIFT);
-    return word - digitalGain - rfGain + GAIN_ERROR * (rfGain - BEST_RF_GAIN);
+    const double word = Limited(AtAdc(power, rfGain) + digitalGain, kAdcFullScale + kDigitalLift);
+    return word - digitalGain - rfGain + kGainError * (rfGain - kBestRfGain);
 }
 
 SReception Receive(double signal, double noise, bool lowPower)
 {
     const double input = PowerSum(signal, noise);
-    const double lowest = RfGainOf(VOND_HIGHEST_ELNA_MODE, VOND_HIGHEST_GAIN_MODE, lowPower);
-    const double gain = std::clamp(ADC_TARGET - input, lowest, RfGainOf(0, 0, lowPower));
+    const double lowest = RfGainOf(kVondHighestElnaMode, kVondHighestGainMode, lowPower);
+    const double gain = std::clamp(kAdcTarget - input, lowest, RfGainOf(0, 0, lowPower));
     SReception reception;
-    reception.total = Limited(input + gain, ADC_FULL_SCALE) - gain;
+    reception.total = Limited(input + gain, kAdcFullScale) - gain;
     const double compression = input - reception.total;
     reception.signal = signal - compression;
     // What the limiter takes off comes back as distortion.
@@ -113,6 +113,6 @@ SReception Receive(double signal, double noise, bool lowPower)
 
 double BlockErrorRate(double ratio)
 {
-    const double middle = SENSITIVITY_RATIO - HALF_FALL;
-    return 1.0 / (1.0 + std::exp(LOG_ODDS_5 / HALF_FALL * (ratio - middle)));
+    const double middle = kSensitivityRatio - kHalfFall;
+    return 1.0 / (1.0 + std::exp(kLogOdds5 / kHalfFall * (ratio - middle)));
 }

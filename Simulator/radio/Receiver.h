@@ -14,12 +14,12 @@
 
 #include <cstdint>
 
-constexpr double ADC_TARGET = -20.0;      // dBm at the ADC: where its range is best used
-constexpr double ADC_FULL_SCALE = -8.0;   // dBm at the ADC; 12 dB of crest factor above the target
-constexpr double DIGITAL_LIFT = 12.0;     // dB from the ADC's target to the nominal sample word
-constexpr double LOW_POWER_LOSS = 1.5;    // dB of gain and of noise figure in low power mode
-constexpr double DIVERSITY_LOSS = 0.8;    // dB, of each further antenna
-constexpr double RSSI_BANDWIDTH = 5.0e6;  // Hz, measuring filter of the RSSI test
+constexpr double kAdcTarget = -20.0;      // dBm at the ADC: where its range is best used
+constexpr double kAdcFullScale = -8.0;    // dBm at the ADC; 12 dB of crest factor above the target
+constexpr double kDigitalLift = 12.0;     // dB from the ADC's target to the nominal sample word
+constexpr double kLowPowerLoss = 1.5;     // dB of gain and of noise figure in low power mode
+constexpr double kDiversityLoss = 0.8;    // dB, of each further antenna
+constexpr double kRssiBandwidth = 5.0e6;  // Hz, measuring filter of the RSSI test
 
 // dBm of two powers that have nothing to do with each other.
 double PowerSum(double one, double other);

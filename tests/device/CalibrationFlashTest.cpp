@@ -29,13 +29,13 @@ int LossOffset(int lossAt, int pairs, int subband, int pair, bool isHpm)
 
 int Type1Offset(int subband, EVondRxPath path, int slot, bool isHpm)
 {
-    return LossOffset(offsetof(SType1Block, loss), VOND_TYPE1_LOSS_PAIRS, subband,
+    return LossOffset(offsetof(SType1Block, loss), kVondType1LossPairs, subband,
                       VondType1LossPair(path, slot), isHpm);
 }
 
 int Type2Offset(int subband, int pair, bool isHpm)
 {
-    return LossOffset(offsetof(SType2Block, loss), VOND_TYPE2_LOSS_PAIRS, subband, pair, isHpm);
+    return LossOffset(offsetof(SType2Block, loss), kVondType2LossPairs, subband, pair, isHpm);
 }
 
 int PaOffset(int mode, int member, int index)
@@ -66,7 +66,7 @@ void FillWithExtremes(CFlashFile &flash)
                 break;
             default:
                 block[int(offsetof(SAptBlock, normalTempIndex))] = char(255);
-                for (int level = 0; level < VOND_APT_LEVELS; ++level) {
+                for (int level = 0; level < kVondAptLevels; ++level) {
                     const int at = int(offsetof(SAptBlock, level) + level * sizeof(SAptLevel));
                     for (int byte : {0, 1, 2})  // PA mode, voltage, use for 256QAM
                         block[at + byte] = char(255);
@@ -74,7 +74,7 @@ void FillWithExtremes(CFlashFile &flash)
                               at + int(sizeof(SAptLevel)));
                 }
                 FillWords(block, offsetof(SAptBlock, couplerLoss), offsetof(SAptBlock, freq));
-                for (int mode = 0; mode < VOND_APT_PA_MODES; ++mode)
+                for (int mode = 0; mode < kVondAptPaModes; ++mode)
                     FillWords(block, PaOffset(mode, offsetof(SAptPaPart, paGain), 0),
                               PaOffset(mode + 1, 0, 0));
             }

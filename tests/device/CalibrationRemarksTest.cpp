@@ -148,7 +148,7 @@ void CalibrationRemarksTest::importNamesValuesThatAreNoNumbersOrBeyondThePage()
     QVERIFY(Run(session, kWrite).isEmpty());
     const int loss =
         int(offsetof(SMMSetCalDataReqV7, type1Block) + offsetof(SMMType1PathlossBlockV7, loss) +
-            sizeof(SMMLossPair) * VOND_TYPE1_LOSS_PAIRS + offsetof(SMMLossPair, hpm));
+            sizeof(SMMLossPair) * kVondType1LossPairs + offsetof(SMMLossPair, hpm));
     QCOMPARE(int(WordAt(Rounds(0).first(), loss)), 99 * 32);
 }
 

@@ -46,10 +46,9 @@ SPlace Type1Place(const QVector<QByteArray> &rounds, int route)
 // Offset of a type 1 value: a subband (0 to 63), a gain slot, a path and a power mode.
 int LossOffset(const SPlace &place, int subband, EVondRxPath path, int slot, bool isHpm)
 {
-    return place.offset + subband / VOND_CAL_BLOCK_SUBBANDS * int(sizeof(SType1Block)) +
+    return place.offset + subband / kVondCalBlockSubbands * int(sizeof(SType1Block)) +
            int(offsetof(SType1Block, loss)) +
-           (subband % VOND_CAL_BLOCK_SUBBANDS * VOND_TYPE1_LOSS_PAIRS +
-            VondType1LossPair(path, slot)) *
+           (subband % kVondCalBlockSubbands * kVondType1LossPairs + VondType1LossPair(path, slot)) *
                int(sizeof(SMMLossPair)) +
            int(isHpm ? offsetof(SMMLossPair, hpm) : offsetof(SMMLossPair, lpm));
 }

@@ -21,10 +21,10 @@ bool WriteFlash()
 {
     const auto nothing = std::make_unique<SMMSetCalDataReqV7>();
     nothing->radioKind = 1;
-    nothing->version = VOND_CAL_VERSION;
+    nothing->version = kVondCalVersion;
     SMMSetCalDataCnfV7 verdict = {};
     return VOND_MMRf_SetCalDataV7_r(1, 1000, nothing.get(), &verdict) == 0 &&
-           verdict.status == VOND_CAL_SUCCESS;
+           verdict.status == kVondCalSuccess;
 }
 
 }  // namespace

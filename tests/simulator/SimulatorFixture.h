@@ -12,8 +12,8 @@
 
 #include "tests/common/GoodCommands.h"
 
-constexpr uint32_t HANDLE = 0x51;
-constexpr uint32_t TIMEOUT_MS = 10000;
+constexpr uint32_t kHandle = 0x51;
+constexpr uint32_t kTimeoutMs = 10000;
 
 // The handset profile, no faults, no journal.
 class CSimulatorTest : public ::testing::Test

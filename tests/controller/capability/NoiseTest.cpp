@@ -77,8 +77,8 @@ TEST_F(NoiseTest, RoutesOnRandomBandsThatAreOfferedComeOutUsable)
         Noise(kRouteConfig, seed);
         m_target.GetRouteTableNr();
         SMMRfRouteConfigV7 &config = CapabilityCache::Get().nrRoutes.record;
-        config.bandCount = VOND_MAX_BANDS;
-        for (int i = 0; i < VOND_MAX_BANDS; ++i) {
+        config.bandCount = kVondMaxBands;
+        for (int i = 0; i < kVondMaxBands; ++i) {
             const uint16_t bands[] = {config.routes.txRoute[i].band,
                                       config.routes.rxType1Route[i].band,
                                       config.routes.rxType2Route[i].band};

@@ -47,7 +47,7 @@ protected:
 SMMRssiCnfV7 MeasuredBoth()
 {
     SMMRssiCnfV7 record = {};
-    for (int i = 0; i < VOND_MAX_RSSI_ROWS; ++i) {
+    for (int i = 0; i < kVondMaxRssiRows; ++i) {
         record.dlFrequency[i] = 2115000u + 10000u * static_cast<uint32_t>(i);
         const auto level = [i](int dbm) { return static_cast<int16_t>(dbm * 32 - i); };
         record.rows.simultaneous.row[i] = {level(-85), level(-86), level(-87), level(-88)};

@@ -13,7 +13,7 @@ Report Measured(int count)
 {
     Report report = {};
     report.reportCount = static_cast<uint8_t>(count);
-    for (int i = 0; i < VOND_MAX_REPORTS; ++i) {
+    for (int i = 0; i < kVondMaxReports; ++i) {
         const auto power = [i](int dbm) { return static_cast<int16_t>(dbm * 128 + i * 32); };
         report.RSRP0[i] = power(-80);
         report.RSRP1[i] = power(-81);

@@ -12,7 +12,7 @@ namespace {
 SMMRssiCnfV7 Frequencies()
 {
     SMMRssiCnfV7 result = {};
-    for (int i = 0; i < VOND_MAX_RSSI_ROWS; ++i)
+    for (int i = 0; i < kVondMaxRssiRows; ++i)
         result.dlFrequency[i] = 2110000u + 10000u * static_cast<uint32_t>(i);
     return result;
 }
@@ -21,7 +21,7 @@ SMMRssiCnfV7 SingleRows()
 {
     SMMRssiCnfV7 result = Frequencies();
     auto &rows = result.rows.single;
-    for (int i = 0; i < VOND_MAX_RSSI_ROWS; ++i) {
+    for (int i = 0; i < kVondMaxRssiRows; ++i) {
         rows.row[i].rssiMain = static_cast<int16_t>(-1600 - i);
         rows.row[i].rssiDiv = static_cast<int16_t>(-1760 - i);
     }
@@ -36,7 +36,7 @@ SMMRssiCnfV7 BothRows()
 {
     SMMRssiCnfV7 result = Frequencies();
     auto &rows = result.rows.simultaneous;
-    for (int i = 0; i < VOND_MAX_RSSI_ROWS; ++i) {
+    for (int i = 0; i < kVondMaxRssiRows; ++i) {
         rows.row[i].path0Main = static_cast<int16_t>(-1600 - i);
         rows.row[i].path0Div = static_cast<int16_t>(-1760 - i);
         rows.row[i].path1Main = static_cast<int16_t>(-1920 - i);

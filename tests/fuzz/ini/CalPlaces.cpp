@@ -57,7 +57,7 @@ QByteArray KeptOfApt()
     using Record = SAptRouteBwRecord;
     QByteArray kept(sizeof(Record), '\0');
     Mark(kept, offsetof(Record, reserved7), sizeof(Record::reserved7));
-    for (size_t level = 0; level < VOND_APT_LEVELS; ++level)
+    for (size_t level = 0; level < kVondAptLevels; ++level)
         Mark(kept,
              offsetof(Record, level) + level * sizeof(SAptLevel) + offsetof(SAptLevel, reserved3),
              sizeof(SAptLevel::reserved3));
@@ -78,7 +78,7 @@ bool IsHeadOf(int at)
 
 std::vector<SRecordPlace> PlacesOf(const CMultiRatAptProfileV7 &)
 {
-    CCalStore<SAptRouteBwRecord> store(VOND_MAX_BW_REGIONS);
+    CCalStore<SAptRouteBwRecord> store(kVondMaxBwRegions);
     std::vector<SRecordPlace> places;
     Append(places, CAptSections(store));
     return places;

@@ -66,16 +66,16 @@ void AskDetail(std::vector<SAnswer> &answers, const SMMRfRouteTableV7 &table)
 {
     auto request = std::make_unique<SMMRfRouteDetailReqV7>();
     request->radioKind = kNr;
-    const int type1 = std::min<int>(table.rxType1RouteCount, VOND_MAX_RX_ROUTES);
+    const int type1 = std::min<int>(table.rxType1RouteCount, kVondMaxRxRoutes);
     for (int i = 0; i < type1; ++i)
         request->rxType1Route[request->rxType1Count++] = table.rxType1Route[i].route;
-    const int type2 = std::min<int>(table.rxType2RouteCount, VOND_MAX_RX_ROUTES);
+    const int type2 = std::min<int>(table.rxType2RouteCount, kVondMaxRxRoutes);
     for (int i = 0; i < type2; ++i)
         request->rxType2Route[request->rxType2Count++] = table.rxType2Route[i].route;
-    const int tx = std::min<int>(table.txRouteCount, VOND_MAX_TX_ROUTES);
+    const int tx = std::min<int>(table.txRouteCount, kVondMaxTxRoutes);
     for (int i = 0; i < tx; ++i) {
         const SMMRfTxRouteV7 &row = table.txRoute[i];
-        const int regions = std::min<int>(row.bwRegionCount, VOND_MAX_BW_REGIONS);
+        const int regions = std::min<int>(row.bwRegionCount, kVondMaxBwRegions);
         for (int region = 0; region < regions && request->txPairCount < UINT8_MAX; ++region) {
             SMMRfRouteDetailTxPair &pair = request->txPair[request->txPairCount++];
             pair.route = row.route;
@@ -96,13 +96,13 @@ void AskCalibration(std::vector<SAnswer> &answers, const SMMRfRouteTableV7 &tabl
     SMMGetCalDataReqV7 request = {};
     request.radioKind = kNr;
     const SMMCalRxRowV7 &type1 = info->type1[0];
-    if (info->type1Count > 0 && type1.blockTotal <= VOND_CAL_TYPE1_BLOCKS)
+    if (info->type1Count > 0 && type1.blockTotal <= kVondCalType1Blocks)
         request.type1[request.type1Count++] = {type1.blockTotal, type1.route};
     const SMMCalRxRowV7 &type2 = info->type2[0];
-    if (info->type2Count > 0 && type2.blockTotal <= VOND_CAL_TYPE2_BLOCKS)
+    if (info->type2Count > 0 && type2.blockTotal <= kVondCalType2Blocks)
         request.type2[request.type2Count++] = {type2.blockTotal, type2.route};
     const SMMCalTxRowV7 &tx = info->tx[0];
-    if (info->txCount > 0 && tx.blockCount[0] <= VOND_CAL_TX_BLOCKS) {
+    if (info->txCount > 0 && tx.blockCount[0] <= kVondCalTxBlocks) {
         SMMCalTxRequestEntryV7 &entry = request.tx[request.txCount++];
         entry.blockCount = tx.blockCount[0];
         entry.route = entry.routeAgain = tx.route;

@@ -34,13 +34,13 @@ bool Fits(const SMMRfRouteConfigV7 &config)
 {
     const SMMRfRouteTableV7 &routes = config.routes;
     const auto areRegionsFew = [](const SMMRfTxRouteV7 &route) {
-        return route.bwRegionCount <= VOND_MAX_BW_REGIONS;
+        return route.bwRegionCount <= kVondMaxBwRegions;
     };
-    return config.bandCount <= VOND_MAX_BANDS && routes.txRouteCount <= VOND_MAX_TX_ROUTES &&
-           routes.rxType1RouteCount <= VOND_MAX_RX_ROUTES &&
-           routes.rxType2RouteCount <= VOND_MAX_RX_ROUTES &&
-           config.freqRange.tx.count <= VOND_MAX_FREQ_LIMITS &&
-           config.freqRange.rx.count <= VOND_MAX_FREQ_LIMITS &&
+    return config.bandCount <= kVondMaxBands && routes.txRouteCount <= kVondMaxTxRoutes &&
+           routes.rxType1RouteCount <= kVondMaxRxRoutes &&
+           routes.rxType2RouteCount <= kVondMaxRxRoutes &&
+           config.freqRange.tx.count <= kVondMaxFreqLimits &&
+           config.freqRange.rx.count <= kVondMaxFreqLimits &&
            std::all_of(std::begin(routes.txRoute), std::end(routes.txRoute), areRegionsFew);
 }
 

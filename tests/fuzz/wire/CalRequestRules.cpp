@@ -22,7 +22,7 @@ int CheckPart(int count, int limit, const BlocksOf &blocksOf, const IsEmpty &isE
     for (int i = 0; i < limit; ++i) {
         Require(i < count || isEmpty(i), "behind the entries in use a request is empty");
         if (i < count) {
-            Require(blocksOf(i) <= VOND_CAL_MAX_BLOCKS, "a route has at most 4 blocks");
+            Require(blocksOf(i) <= kVondCalMaxBlocks, "a route has at most 4 blocks");
             blocks += blocksOf(i);
         }
     }
@@ -66,15 +66,14 @@ void CheckRequest(const SMMGetCalDataReqV7 &request)
 void CheckRequest(const SMMSetCalDataReqV7 &request)
 {
     Require(request.radioKind == 1, "calibration data is of NR");
-    Require(request.version == VOND_CAL_VERSION, "a download tells its version");
+    Require(request.version == kVondCalVersion, "a download tells its version");
     Require(request.type1Count + request.type2Count + request.txCount > 0,
             "no round goes out empty");
     Require(request.reserved5 == 0 && IsZero(request.reserved238) && IsZero(request.reserved250),
             "reserved bytes are 0");
     const int type1 = CheckPart(request.type1Count, request.type1);
     const int type2 = CheckPart(
-        request.type2Count, VOND_CAL_TYPE2_BLOCKS,
-        [&](int i) { return request.type2BlockCount[i]; },
+        request.type2Count, kVondCalType2Blocks, [&](int i) { return request.type2BlockCount[i]; },
         [&](int i) { return request.type2BlockCount[i] == 0 && request.type2Route[i] == 0; });
     const int tx = CheckPart(request.txCount, request.tx);
     Require(IsRestZero(request.type1Block, type1) && IsRestZero(request.type2Block, type2) &&

@@ -155,11 +155,11 @@ void CheckFill(const CCommandInput &input, const Fill &fill, const Keeps &keeps)
 {
     const auto before = std::make_unique<Record>();
     input.Fill(*before);
-    before->blockCount %= VOND_CAL_MAX_BLOCKS + 1;
+    before->blockCount %= kVondCalMaxBlocks + 1;
     const auto after = std::make_unique<Record>(fill(*before));
     Require(after->band == before->band && after->route == before->route,
             "a page changes no band and no route");
-    Require(after->blockCount <= VOND_CAL_MAX_BLOCKS, "a record has at most 4 blocks");
+    Require(after->blockCount <= kVondCalMaxBlocks, "a record has at most 4 blocks");
     keeps(*before, *after);
     Require(SameBytes(*after, Record(fill(*after))), "a document's second time changes nothing");
 }
@@ -178,7 +178,7 @@ template <typename Record, typename IsShown>
 void KeepsLoss(const Record &before, const Record &after, int16_t SMMLossPair::*other,
                const IsShown &isShown)
 {
-    for (int subband = 0; subband < VOND_CAL_MAX_SUBBANDS; ++subband) {
+    for (int subband = 0; subband < kVondCalMaxSubbands; ++subband) {
         Require(isShown(subband) || SameBytes(before.loss[subband], after.loss[subband]),
                 "the losses of other subbands stay");
         for (std::size_t pair = 0; pair < std::size(before.loss[subband]); ++pair)

@@ -61,7 +61,7 @@ void FillBlocks(Block *block, int count)
     int number = BlockJournal::Count();
     for (int i = 0; i < count; ++i) {
         block[i].band = 78;
-        for (int k = 0; k < VOND_CAL_BLOCK_SUBBANDS; ++k)
+        for (int k = 0; k < kVondCalBlockSubbands; ++k)
             block[i].freq[k] = static_cast<uint32_t>(3300000 + 1000 * k);
         FillLosses(block[i], static_cast<int16_t>(++number));
     }
@@ -79,16 +79,16 @@ int BlocksOf(const Entries &entries, int count)
 // Exactly what was asked for.
 void FillAnswer(const SMMGetCalDataReqV7 &request, SMMGetCalDataCnfV7 &answer)
 {
-    answer.verdict.status = VOND_CAL_SUCCESS;
+    answer.verdict.status = kVondCalSuccess;
     answer.type1Count = request.type1Count;
     answer.type2Count = request.type2Count;
     answer.txCount = request.txCount;
     std::copy(std::begin(request.type1), std::end(request.type1), answer.type1);
-    for (int i = 0; i < VOND_CAL_TYPE2_BLOCKS; ++i) {
+    for (int i = 0; i < kVondCalType2Blocks; ++i) {
         answer.type2BlockCount[i] = request.type2[i].blockCount;
         answer.type2Route[i] = request.type2[i].route;
     }
-    for (int i = 0; i < VOND_CAL_TX_BLOCKS; ++i)
+    for (int i = 0; i < kVondCalTxBlocks; ++i)
         answer.tx[i] = {request.tx[i].bandwidth, request.tx[i].blockCount, request.tx[i].route};
     FillBlocks(answer.type1Block, BlocksOf(request.type1, request.type1Count));
     FillBlocks(answer.type2Block, BlocksOf(request.type2, request.type2Count));
@@ -247,7 +247,7 @@ VOND_RESULT VOND_MMRf_SetCalDataV7_r(uint32_t, uint32_t t, const SMMSetCalDataRe
 {
     CheckRequest(*request);
     BlockJournal::Check(*request);
-    result->status = VOND_CAL_SUCCESS;
+    result->status = kVondCalSuccess;
     return Answer(__func__, t, result);
 }
 

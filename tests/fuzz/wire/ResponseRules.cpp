@@ -15,7 +15,7 @@ namespace {
 
 using Builder = CNrDataModelResponseBuilder;
 
-constexpr int kMaxNewRows = VOND_MAX_REPORTS + 1;  // of a fetch: the measurements and a marker
+constexpr int kMaxNewRows = kVondMaxReports + 1;  // of a fetch: the measurements and a marker
 
 QJsonObject Without(QJsonObject document, const char *root, const char *section)
 {

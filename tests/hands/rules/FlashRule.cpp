@@ -18,7 +18,7 @@ bool IsGrownByImport(const CFlashFile::SRecord &record, int blocks)
 {
     const bool isApt = record.place.kind == eFlashApt;
     const size_t list = isApt ? offsetof(SAptBlock, freq) : offsetof(SMMType1PathlossBlockV7, freq);
-    const int last = int(list) + 4 * (VOND_CAL_BLOCK_SUBBANDS - 1);
+    const int last = int(list) + 4 * (kVondCalBlockSubbands - 1);
     uint32_t frequency = 0;
     std::memcpy(&frequency, record.blocks.last().constData() + last, sizeof frequency);
     return blocks == record.blocks.size() + 1 && frequency != 0;

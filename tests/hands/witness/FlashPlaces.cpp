@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kSubbands = VOND_CAL_BLOCK_SUBBANDS;
+constexpr int kSubbands = kVondCalBlockSubbands;
 constexpr int kAllBlocks = -1;
 
 // A field of a record: bytes of a block, or of all of them.
@@ -106,7 +106,7 @@ SField PathLossField(const Selection &selection, const SCellKey &cell, const QSt
     if (!isType2) {
         const int pair = VondType1LossPair(row, Number(cell.member));
         return OfSubband(cell, int(offsetof(Block1, loss)) + 4 * pair + half,
-                         4 * VOND_TYPE1_LOSS_PAIRS, 2, Db(text));
+                         4 * kVondType1LossPairs, 2, Db(text));
     }
     const int path = selection["path"].toInt();
     const int pair = group == 5
@@ -115,7 +115,7 @@ SField PathLossField(const Selection &selection, const SCellKey &cell, const QSt
                                               Number(cell.member), cell.column);
     const SCellKey subband{cell.group, cell.member, selection["freqIdx"].toInt()};
     return OfSubband(subband, int(offsetof(Block2, loss)) + 4 * pair + half,
-                     4 * VOND_TYPE2_LOSS_PAIRS, 2, Db(text));
+                     4 * kVondType2LossPairs, 2, Db(text));
 }
 
 const CFlashFile::SRecord *RecordOf(const Selection &selection, const CFlashFile &flash)

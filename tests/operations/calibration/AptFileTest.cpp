@@ -166,7 +166,7 @@ TEST_F(AptFileTest, SectionsFollowTheRouteTable)
 
 TEST_F(AptFileTest, LteSideHasItsOwnSectionNames)
 {
-    CCalStore<SAptRouteBwRecord> store(VOND_MAX_BW_REGIONS);
+    CCalStore<SAptRouteBwRecord> store(kVondMaxBwRegions);
     const CAptSections sections(store);
     SCalPlace place;
     place.band = 7;

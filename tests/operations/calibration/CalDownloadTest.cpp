@@ -181,7 +181,7 @@ TEST_F(CalDownloadTest, LpmEditChangesTheFirstHalfOfItsPairAlone)
     const FlashImage before = ReadFlash();
     ASSERT_EQ(m_pathLoss.UploadFromFlash(), 0u);
     auto record = std::make_unique<SType1>(*m_pathLoss.GetPathLossCalibrationData<SType1>(1));
-    for (int subband = 0; subband < VOND_CAL_MAX_SUBBANDS; ++subband)
+    for (int subband = 0; subband < kVondCalMaxSubbands; ++subband)
         record->loss[subband][9].lpm = -123;
     m_pathLoss.SetPathLossCalibrationData(1, *record);
     ASSERT_EQ(m_pathLoss.DownloadToFlash(), 0u);
@@ -212,7 +212,7 @@ TEST_F(CalDownloadTest, ExtremesOfEveryTypeArriveInFlash)
         SAptRouteBwRecord record = ExtremeApt(random, 41, 9, 0);
         const SAptRouteBwRecord &own = *m_apt.GetAptCalibrationData(9, region);
         std::copy(std::begin(own.freq), std::end(own.freq), record.freq);
-        record.blockCount = VOND_CAL_MAX_BLOCKS;
+        record.blockCount = kVondCalMaxBlocks;
         records.push_back(record);
         m_apt.SetAptCalibrationData(9, region, record);
     }

@@ -35,10 +35,10 @@ void Fill(std::mt19937 &random, T (&numbers)[count])
         Fill(random, number);
 }
 
-void FillFrequencies(std::mt19937 &random, uint32_t (&freq)[VOND_CAL_MAX_SUBBANDS], int count)
+void FillFrequencies(std::mt19937 &random, uint32_t (&freq)[kVondCalMaxSubbands], int count)
 {
     Fill(random, freq);
-    for (int i = 0; i < VOND_CAL_MAX_SUBBANDS; ++i)
+    for (int i = 0; i < kVondCalMaxSubbands; ++i)
         freq[i] = i < count ? std::max(freq[i], 1u) : 0;
 }
 
@@ -201,7 +201,7 @@ QByteArray BareFile(ECalRoute kind)
         return BarePathLoss(store, places);
     }
     QByteArray bytes;
-    CCalStore<SAptRouteBwRecord> store(VOND_MAX_BW_REGIONS);
+    CCalStore<SAptRouteBwRecord> store(kVondMaxBwRegions);
     const CAptSections sections(store);
     for (const SCalPlace &place : places) {
         for (const std::string &name : sections.SectionsOf(ERadioKind::Nr, place))

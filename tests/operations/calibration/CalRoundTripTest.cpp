@@ -59,11 +59,11 @@ private:
     {
         std::copy(std::begin(own.freq), std::end(own.freq), record.freq);
         record.blockCount = own.blockCount;
-        ClearBehind(record, static_cast<int>(own.blockCount) * VOND_CAL_BLOCK_SUBBANDS);
+        ClearBehind(record, static_cast<int>(own.blockCount) * kVondCalBlockSubbands);
     }
     static void ClearBehind(SAptRouteBwRecord &record, int first)
     {
-        for (int pa = 0; pa < VOND_APT_PA_MODES; ++pa) {
+        for (int pa = 0; pa < kVondAptPaModes; ++pa) {
             std::fill(record.paGain[pa] + first, std::end(record.paGain[pa]), int16_t(0));
             std::fill(record.powerDetector[pa] + first, std::end(record.powerDetector[pa]),
                       int16_t(0));
@@ -72,7 +72,7 @@ private:
     template <typename Record>
     static void ClearBehind(Record &record, int first)
     {
-        for (int i = first; i < VOND_CAL_MAX_SUBBANDS; ++i)
+        for (int i = first; i < kVondCalMaxSubbands; ++i)
             std::fill(std::begin(record.loss[i]), std::end(record.loss[i]), SMMLossPair{});
     }
     template <typename Record>

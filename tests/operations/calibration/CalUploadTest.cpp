@@ -343,7 +343,7 @@ TEST_F(CalUploadTest, RecordStartsAnewWhateverMemoryHeld)
     const SAptRouteBwRecord &record = *m_apt.GetAptCalibrationData(1, 0);
     EXPECT_EQ(record.blockCount, 2u);
     EXPECT_NE(record.freq[19], 0u);
-    for (int i = 32; i < VOND_CAL_MAX_SUBBANDS; ++i) {
+    for (int i = 32; i < kVondCalMaxSubbands; ++i) {
         EXPECT_EQ(record.freq[i], 0u);
         EXPECT_EQ(record.paGain[2][i], 0);
     }

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int ROUNDS = 300;
+constexpr int kRounds = 300;
 
 class ConcurrencyTest : public CSimulatorTest
 {
@@ -18,17 +18,17 @@ class ConcurrencyTest : public CSimulatorTest
 TEST_F(ConcurrencyTest, EveryCallOfTwoThreadsIsInTheJournal)
 {
     const auto calls = [] {
-        for (int i = 0; i < ROUNDS; ++i) {
+        for (int i = 0; i < kRounds; ++i) {
             const SMMContRxCmdV7 command = ContRxCommand();
-            VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, &command);
-            VOND_MMRf_TestStopV7_r(HANDLE, TIMEOUT_MS, 1);
+            VOND_MMRf_ContRxV7_r(kHandle, kTimeoutMs, &command);
+            VOND_MMRf_TestStopV7_r(kHandle, kTimeoutMs, 1);
         }
     };
     std::thread one(calls);
     std::thread other(calls);
     one.join();
     other.join();
-    EXPECT_EQ(VondSim_CallCount(), 4u * ROUNDS);
+    EXPECT_EQ(VondSim_CallCount(), 4u * kRounds);
     EXPECT_STREQ(VondSim_RunningTest(), "");
 }
 
@@ -39,7 +39,7 @@ TEST_F(ConcurrencyTest, OneStartWinsAmongMany)
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&] {
             const SMMContRxCmdV7 command = ContRxCommand();
-            if (VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, &command) == VOND_SUCCESS)
+            if (VOND_MMRf_ContRxV7_r(kHandle, kTimeoutMs, &command) == VOND_SUCCESS)
                 ++started;
         });
     }
@@ -56,7 +56,7 @@ TEST_F(ConcurrencyTest, SteeringWhileCallsRunIsSafe)
         const uint32_t kind = 1;
         while (!end) {
             const VOND_RESULT result =
-                VOND_MMRf_GetRouteConfigV7_r(HANDLE, TIMEOUT_MS, &kind, config.get());
+                VOND_MMRf_GetRouteConfigV7_r(kHandle, kTimeoutMs, &kind, config.get());
             if (result == VOND_SUCCESS) {
                 EXPECT_TRUE(config->bandCount == 11 || config->bandCount == 25);
             }
@@ -73,7 +73,7 @@ TEST_F(ConcurrencyTest, SteeringWhileCallsRunIsSafe)
             VondSim_ClearJournal();
         }
     });
-    for (int i = 0; i < ROUNDS / 10; ++i) {
+    for (int i = 0; i < kRounds / 10; ++i) {
         VondSim_SetProfile("largest");
         VondSim_AddFault(R"({"function": "*", "kind": "fail", "probability": 0.5})");
         VondSim_Hold("VOND_NRf_GetChipIdName");

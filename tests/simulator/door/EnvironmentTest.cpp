@@ -24,7 +24,7 @@ std::string JournalPath()
 }
 
 // Runs before main, and so before the first call.
-const bool ENVIRONMENT_IS_SET = [] {
+const bool kEnvironmentIsSet = [] {
     setenv("VOND_SIM_PROFILE", "c2k", 1);
     setenv("VOND_SIM_JOURNAL", JournalPath().c_str(), 1);
     return true;
@@ -52,7 +52,7 @@ protected:
 
 TEST_F(EnvironmentTest, ProfileOfTheEnvironmentIsThereFromTheStart)
 {
-    ASSERT_TRUE(ENVIRONMENT_IS_SET);
+    ASSERT_TRUE(kEnvironmentIsSet);
     int32_t service = 0;
     EXPECT_EQ(VondConn_GetMdSrv(1, 0, &service), 0);
     EXPECT_EQ(service, 3);

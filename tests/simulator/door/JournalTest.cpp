@@ -43,7 +43,7 @@ TEST_F(JournalTest, AnswerIsKept)
 {
     const SNrDlFreqCmdV7 command = DlFreqCommand();
     SNrDlFreqCnfV7 answer = {};
-    VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, &command, &answer);
+    VOND_NRf_GetDlFreqV7_r(kHandle, kTimeoutMs, &command, &answer);
     EXPECT_EQ(RequestBytes(0), BytesOf(command));
     EXPECT_EQ(AnswerBytes(0), BytesOf(answer));
 }
@@ -53,7 +53,7 @@ TEST_F(JournalTest, StatusIsKept)
     SNrRsrpCmdV7 command = RsrpForcedCommand();
     command.forcedMode.carrier.common.dlFrequency = 1;
     uint32_t status = 0;
-    VOND_NRf_RsrpV7_r(HANDLE, TIMEOUT_MS, &command, &status);
+    VOND_NRf_RsrpV7_r(kHandle, kTimeoutMs, &command, &status);
     EXPECT_EQ(CallAt(0).status, 1u);
 }
 
@@ -62,7 +62,7 @@ TEST_F(JournalTest, RefusalIsKeptWithoutAnAnswer)
     SMMRssiCmdV7 command = RssiCommand();
     command.band = 2;
     SMMRssiCnfV7 answer = {};
-    const VOND_RESULT result = VOND_MMRf_RssiV7_r(HANDLE, TIMEOUT_MS, &command, &answer);
+    const VOND_RESULT result = VOND_MMRf_RssiV7_r(kHandle, kTimeoutMs, &command, &answer);
     EXPECT_NE(result, VOND_SUCCESS);
     EXPECT_EQ(CallAt(0).result, result);
     EXPECT_EQ(CallAt(0).answerSize, 0u);
@@ -73,12 +73,12 @@ TEST_F(JournalTest, CallsStandInOrder)
 {
     int32_t index = 0;
     int32_t service = 0;
-    VondConn_GetMdActiveIdx(HANDLE, &index);
-    VondConn_GetMdSrv(HANDLE, index, &service);
-    VOND_QueryFunctionSupported_r(HANDLE, TIMEOUT_MS, "VOND_MMRf_ContRxV7_r");
+    VondConn_GetMdActiveIdx(kHandle, &index);
+    VondConn_GetMdSrv(kHandle, index, &service);
+    VOND_QueryFunctionSupported_r(kHandle, kTimeoutMs, "VOND_MMRf_ContRxV7_r");
     VOND_GetErrorString(1);
     VOND_NRf_GetChipIdName(40);
-    VOND_MMRf_TestStopV7_r(HANDLE, TIMEOUT_MS, 1);
+    VOND_MMRf_TestStopV7_r(kHandle, kTimeoutMs, 1);
     const std::vector<std::string> expected = {
         "VondConn_GetMdActiveIdx", "VondConn_GetMdSrv",      "VOND_QueryFunctionSupported_r",
         "VOND_GetErrorString",     "VOND_NRf_GetChipIdName", "VOND_MMRf_TestStopV7_r"};
@@ -97,7 +97,7 @@ TEST_F(JournalTest, CallsStandInOrder)
 TEST_F(JournalTest, ShortBufferTakesWhatFits)
 {
     const SMMContRxCmdV7 command = ContRxCommand();
-    VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, &command);
+    VOND_MMRf_ContRxV7_r(kHandle, kTimeoutMs, &command);
     uint8_t bytes[8];
     std::memset(bytes, 0xee, sizeof(bytes));
     EXPECT_EQ(VondSim_GetRequest(0, bytes, 4), 40u);
@@ -107,7 +107,7 @@ TEST_F(JournalTest, ShortBufferTakesWhatFits)
 
 TEST_F(JournalTest, NothingStandsBehindTheLastCall)
 {
-    VOND_NRf_TestStop_r(HANDLE, TIMEOUT_MS);
+    VOND_NRf_TestStop_r(kHandle, kTimeoutMs);
     SVondSimCall call = {};
     EXPECT_EQ(VondSim_GetCall(1, &call), -1);
     EXPECT_EQ(VondSim_GetCall(0, nullptr), -1);
@@ -119,7 +119,7 @@ TEST_F(JournalTest, NothingStandsBehindTheLastCall)
 
 TEST_F(JournalTest, NullRequestHasNoBytes)
 {
-    EXPECT_EQ(ErrorText(VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, nullptr)),
+    EXPECT_EQ(ErrorText(VOND_MMRf_ContRxV7_r(kHandle, kTimeoutMs, nullptr)),
               "Argument: null pointer");
     EXPECT_EQ(CallAt(0).requestSize, 0u);
 }
@@ -127,24 +127,24 @@ TEST_F(JournalTest, NullRequestHasNoBytes)
 // A run of days must not fill the memory: 4000 answers of 20 kB are more than 64 MiB.
 TEST_F(JournalTest, OldestCallsGoAndTheOthersKeepTheirNumbers)
 {
-    constexpr uint32_t CALLS = 4000;
+    constexpr uint32_t kCalls = 4000;
     SNRfRxRouteValues values = {};
-    for (uint32_t i = 0; i < CALLS; ++i)
-        ASSERT_EQ(VOND_NRf_GetRxRouteValues_r(i, TIMEOUT_MS, &values), VOND_SUCCESS);
-    EXPECT_EQ(VondSim_CallCount(), CALLS);
+    for (uint32_t i = 0; i < kCalls; ++i)
+        ASSERT_EQ(VOND_NRf_GetRxRouteValues_r(i, kTimeoutMs, &values), VOND_SUCCESS);
+    EXPECT_EQ(VondSim_CallCount(), kCalls);
     SVondSimCall call = {};
     EXPECT_EQ(VondSim_GetCall(0, &call), -1);
     EXPECT_EQ(VondSim_GetAnswer(0, nullptr, 0), 0u);
-    EXPECT_EQ(CallAt(CALLS - 1).handle, CALLS - 1);
-    EXPECT_EQ(AnswerBytes(CALLS - 1).size(), sizeof(values));
+    EXPECT_EQ(CallAt(kCalls - 1).handle, kCalls - 1);
+    EXPECT_EQ(AnswerBytes(kCalls - 1).size(), sizeof(values));
     uint32_t kept = 0;
-    for (uint32_t i = 0; i < CALLS; ++i)
+    for (uint32_t i = 0; i < kCalls; ++i)
         kept += VondSim_GetCall(i, &call) == 0 ? 1 : 0;
     EXPECT_GT(kept, 3000u);
     EXPECT_LE(kept, 64u * 1024 * 1024 / sizeof(values));
     VondSim_ClearJournal();
     EXPECT_EQ(VondSim_CallCount(), 0u);
-    ASSERT_EQ(VOND_NRf_GetRxRouteValues_r(7, TIMEOUT_MS, &values), VOND_SUCCESS);
+    ASSERT_EQ(VOND_NRf_GetRxRouteValues_r(7, kTimeoutMs, &values), VOND_SUCCESS);
     EXPECT_EQ(CallAt(0).handle, 7u);
 }
 

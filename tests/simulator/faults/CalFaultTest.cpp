@@ -15,12 +15,12 @@ protected:
     {
         CCalUpload upload;
         upload.Type1(5, 1);
-        return VOND_MMRf_GetCalDataV7_r(HANDLE, TIMEOUT_MS, &upload.Request(), &answer);
+        return VOND_MMRf_GetCalDataV7_r(kHandle, kTimeoutMs, &upload.Request(), &answer);
     }
 
     static VOND_RESULT Set(CCalDownload &download, SMMSetCalDataCnfV7 &answer)
     {
-        return VOND_MMRf_SetCalDataV7_r(HANDLE, TIMEOUT_MS, &download.Request(), &answer);
+        return VOND_MMRf_SetCalDataV7_r(kHandle, kTimeoutMs, &download.Request(), &answer);
     }
 
     // A download that changes one value of type 1 route 5.
@@ -92,7 +92,7 @@ TEST_F(CalFaultTest, BlockInfoCanFail)
 {
     Add(R"({"function": "VOND_MMRf_GetCalBlkInfoV7_r", "kind": "fail"})");
     auto info = std::make_unique<SMMCalBlkInfoCnfV7>();
-    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalBlkInfoV7_r(HANDLE, TIMEOUT_MS, 1, info.get())),
+    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalBlkInfoV7_r(kHandle, kTimeoutMs, 1, info.get())),
               "Target: failure on demand");
     EXPECT_EQ(info->txCount, 0);
 }
@@ -101,7 +101,7 @@ TEST_F(CalFaultTest, CountsOfTheBlockInfoCanLie)
 {
     Add(R"({"function": "VOND_MMRf_GetCalBlkInfoV7_r", "kind": "bytes", "hex": "ffffffffffff"})");
     auto info = std::make_unique<SMMCalBlkInfoCnfV7>();
-    EXPECT_EQ(VOND_MMRf_GetCalBlkInfoV7_r(HANDLE, TIMEOUT_MS, 1, info.get()), VOND_SUCCESS);
+    EXPECT_EQ(VOND_MMRf_GetCalBlkInfoV7_r(kHandle, kTimeoutMs, 1, info.get()), VOND_SUCCESS);
     EXPECT_EQ(info->type1Count, 65535);
     EXPECT_EQ(info->txCount, 65535);
     EXPECT_EQ(info->type1[0].route, 1);
@@ -116,7 +116,7 @@ TEST_F(CalFaultTest, NoiseFillsWholeAnswersAndTheDownloadIsDone)
     const auto *bytes = reinterpret_cast<const uint8_t *>(answer.get());
     EXPECT_LT(std::count(bytes, bytes + sizeof(*answer), 0), 2000);
     auto info = std::make_unique<SMMCalBlkInfoCnfV7>();
-    EXPECT_EQ(VOND_MMRf_GetCalBlkInfoV7_r(HANDLE, TIMEOUT_MS, 1, info.get()), VOND_SUCCESS);
+    EXPECT_EQ(VOND_MMRf_GetCalBlkInfoV7_r(kHandle, kTimeoutMs, 1, info.get()), VOND_SUCCESS);
     EXPECT_GT(info->txCount, 100);
     SMMSetCalDataCnfV7 verdict = {};
     EXPECT_EQ(Set(download, verdict), VOND_SUCCESS);
@@ -139,7 +139,7 @@ TEST_F(CalFaultTest, UploadCanTimeOut)
     Add(R"({"function": "VOND_MMRf_GetCalDataV7_r", "kind": "delay", "ms": 600000})");
     CCalUpload upload;
     auto answer = std::make_unique<SMMGetCalDataCnfV7>();
-    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalDataV7_r(HANDLE, 20, &upload.Request(), answer.get())),
+    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalDataV7_r(kHandle, 20, &upload.Request(), answer.get())),
               "Connection: the target did not answer in time");
 }
 

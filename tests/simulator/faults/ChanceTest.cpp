@@ -93,20 +93,20 @@ TEST_F(ChanceTest, FluctuationIsBoundedAndEvensOut)
     StartRsrp(command);
     double sum = 0.0;
     double squares = 0.0;
-    constexpr int REPORTS = 200;
-    for (int i = 0; i < REPORTS; ++i) {
+    constexpr int kReports = 200;
+    for (int i = 0; i < kReports; ++i) {
         const SReport report = Report();
         for (const int16_t value : report.RSSI0) {
-            const double off = value * PER_128 + 65.0;
+            const double off = value * kPer128 + 65.0;
             EXPECT_LE(std::fabs(off), 0.22);
             sum += off;
             squares += off * off;
         }
     }
-    const double mean = sum / (REPORTS * 10);
+    const double mean = sum / (kReports * 10);
     EXPECT_NEAR(mean, 0.0, 0.02);
     // The mean of three even draws has a third of the bound as its standard deviation.
-    EXPECT_NEAR(std::sqrt(squares / (REPORTS * 10) - mean * mean), 0.2 / 3.0, 0.01);
+    EXPECT_NEAR(std::sqrt(squares / (kReports * 10) - mean * mean), 0.2 / 3.0, 0.01);
 }
 
 TEST_F(ChanceTest, NoFluctuationMakesAllReportsAlikeButForTheCounts)

@@ -13,15 +13,15 @@ class FaultTest : public CSimulatorTest
 protected:
     void Add(const std::string &json) { ASSERT_EQ(VondSim_AddFault(json.c_str()), 0) << json; }
 
-    VOND_RESULT Stop(uint32_t timeoutMs = TIMEOUT_MS)
+    VOND_RESULT Stop(uint32_t timeoutMs = kTimeoutMs)
     {
-        return VOND_NRf_TestStop_r(HANDLE, timeoutMs);
+        return VOND_NRf_TestStop_r(kHandle, timeoutMs);
     }
 
     VOND_RESULT Rsrp(uint32_t &status)
     {
         const SNrRsrpCmdV7 command = RsrpForcedCommand();
-        return VOND_NRf_RsrpV7_r(HANDLE, TIMEOUT_MS, &command, &status);
+        return VOND_NRf_RsrpV7_r(kHandle, kTimeoutMs, &command, &status);
     }
 };
 
@@ -29,7 +29,7 @@ TEST_F(FaultTest, FailAnswersItsResultAndDoesNothing)
 {
     Add(R"({"function": "VOND_MMRf_ContRxV7_r", "kind": "fail", "result": 7})");
     const SMMContRxCmdV7 command = ContRxCommand();
-    EXPECT_EQ(VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, &command), 7);
+    EXPECT_EQ(VOND_MMRf_ContRxV7_r(kHandle, kTimeoutMs, &command), 7);
     EXPECT_STREQ(VondSim_RunningTest(), "");
     EXPECT_EQ(Stop(), VOND_SUCCESS);
 }
@@ -38,7 +38,7 @@ TEST_F(FaultTest, FailReachesTheConnectionQueries)
 {
     Add(R"({"function": "VondConn_GetMdSrv", "kind": "fail", "result": -5})");
     int32_t service = 9;
-    EXPECT_EQ(VondConn_GetMdSrv(HANDLE, 0, &service), -5);
+    EXPECT_EQ(VondConn_GetMdSrv(kHandle, 0, &service), -5);
     EXPECT_EQ(service, 9);
 }
 
@@ -56,7 +56,7 @@ TEST_F(FaultTest, StatusInsideARecordIsWrittenThere)
     Add(R"({"function": "VOND_NRf_GetDlFreqV7_r", "kind": "status", "status": 5})");
     const SNrDlFreqCmdV7 command = DlFreqCommand();
     SNrDlFreqCnfV7 answer = {};
-    EXPECT_EQ(VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, &command, &answer), VOND_SUCCESS);
+    EXPECT_EQ(VOND_NRf_GetDlFreqV7_r(kHandle, kTimeoutMs, &command, &answer), VOND_SUCCESS);
     EXPECT_EQ(answer.status, 5u);
     EXPECT_EQ(answer.dlFrequency, 0u);
 }
@@ -98,12 +98,12 @@ TEST_F(FaultTest, NullTextIsANullPointer)
 TEST_F(FaultTest, NoiseFillsTheWholeAnswerAndRepeatsWithItsSeed)
 {
     SNRfBandRxInfo clean = {};
-    ASSERT_EQ(VOND_NRf_GetBandRxInfo_r(HANDLE, TIMEOUT_MS, &clean), VOND_SUCCESS);
+    ASSERT_EQ(VOND_NRf_GetBandRxInfo_r(kHandle, kTimeoutMs, &clean), VOND_SUCCESS);
     SNRfBandRxInfo noisy[2] = {};
     for (SNRfBandRxInfo &info : noisy) {
         VondSim_ClearFaults();
         Add(R"({"function": "VOND_NRf_GetBandRxInfo_r", "kind": "noise", "seed": 3})");
-        EXPECT_EQ(VOND_NRf_GetBandRxInfo_r(HANDLE, TIMEOUT_MS, &info), VOND_SUCCESS);
+        EXPECT_EQ(VOND_NRf_GetBandRxInfo_r(kHandle, kTimeoutMs, &info), VOND_SUCCESS);
     }
     EXPECT_EQ(std::memcmp(&noisy[0], &noisy[1], sizeof(clean)), 0);
     const auto *bytes = reinterpret_cast<const uint8_t *>(&noisy[0]);
@@ -118,7 +118,7 @@ TEST_F(FaultTest, BytesLieOverTheAnswerAndTheRestStaysAsMeasured)
     Add(R"({"function": "VOND_NRf_GetDlFreqV7_r", "kind": "bytes", "offset": 5, "hex": "0badf0"})");
     const SNrDlFreqCmdV7 command = DlFreqCommand();
     SNrDlFreqCnfV7 answer = {};
-    EXPECT_EQ(VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, &command, &answer), VOND_SUCCESS);
+    EXPECT_EQ(VOND_NRf_GetDlFreqV7_r(kHandle, kTimeoutMs, &command, &answer), VOND_SUCCESS);
     EXPECT_EQ(answer.status, 0u);
     EXPECT_EQ(answer.dlFrequency, 0xf0ad0b00u | (2140000u & 0xff));
     EXPECT_EQ(AnswerBytes(VondSim_CallCount() - 1),
@@ -135,7 +135,7 @@ TEST_F(FaultTest, BytesBehindTheEndOfTheAnswerAreLeftOut)
     Add(R"({"function": "*", "kind": "bytes", "offset": 6, "hex": "aabbccdd"})");
     Add(R"({"function": "*", "kind": "bytes", "offset": 8, "hex": "ee"})");
     const SNrDlFreqCmdV7 command = DlFreqCommand();
-    EXPECT_EQ(VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, &command, &memory.answer), VOND_SUCCESS);
+    EXPECT_EQ(VOND_NRf_GetDlFreqV7_r(kHandle, kTimeoutMs, &command, &memory.answer), VOND_SUCCESS);
     EXPECT_EQ(memory.answer.dlFrequency, 0xbbaa0000u | (2140000u & 0xffff));
     EXPECT_EQ(memory.behind, 0x12345678u);
     EXPECT_EQ(Stop(), VOND_SUCCESS);
@@ -146,7 +146,7 @@ TEST_F(FaultTest, BytesInAStatusInsideARecordAreJournalledAsTheStatus)
     Add(R"({"function": "VOND_NRf_GetDlFreqV7_r", "kind": "bytes", "hex": "02"})");
     const SNrDlFreqCmdV7 command = DlFreqCommand();
     SNrDlFreqCnfV7 answer = {};
-    EXPECT_EQ(VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, &command, &answer), VOND_SUCCESS);
+    EXPECT_EQ(VOND_NRf_GetDlFreqV7_r(kHandle, kTimeoutMs, &command, &answer), VOND_SUCCESS);
     EXPECT_EQ(answer.status, 2u);
     EXPECT_EQ(LastCall().status, 2u);
 }
@@ -156,7 +156,7 @@ TEST_F(FaultTest, BytesGoWithAFailure)
     Add(R"({"function": "VOND_NRf_GetMixRxReportV7_r", "kind": "fail", "result": 7})");
     Add(R"({"function": "VOND_NRf_GetMixRxReportV7_r", "kind": "bytes", "hex": "0c"})");
     NRfTestResult_GetMixRxReportV7 report = {};
-    EXPECT_EQ(VOND_NRf_GetMixRxReportV7_r(HANDLE, TIMEOUT_MS, &report), 7);
+    EXPECT_EQ(VOND_NRf_GetMixRxReportV7_r(kHandle, kTimeoutMs, &report), 7);
     EXPECT_EQ(report.reportCount, 12);
 }
 
@@ -171,7 +171,7 @@ TEST_F(FaultTest, NthFiresOnThatCallAlone)
 TEST_F(FaultTest, NthCountsTheCallsOfItsFunctionAlone)
 {
     Add(R"({"function": "VOND_NRf_TestStop_r", "kind": "fail", "nth": 1})");
-    EXPECT_EQ(VOND_MMRf_TestStopV7_r(HANDLE, TIMEOUT_MS, 1), VOND_SUCCESS);
+    EXPECT_EQ(VOND_MMRf_TestStopV7_r(kHandle, kTimeoutMs, 1), VOND_SUCCESS);
     EXPECT_NE(Stop(), VOND_SUCCESS);
 }
 
@@ -206,7 +206,7 @@ TEST_F(FaultTest, StarMeansEveryFunctionThatCanShowIt)
     Add(R"({"function": "*", "kind": "fail"})");
     int32_t index = 0;
     EXPECT_NE(Stop(), VOND_SUCCESS);
-    EXPECT_NE(VondConn_GetMdActiveIdx(HANDLE, &index), VOND_SUCCESS);
+    EXPECT_NE(VondConn_GetMdActiveIdx(kHandle, &index), VOND_SUCCESS);
     EXPECT_STREQ(VOND_GetErrorString(0), "Success");
 }
 

@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr char CONT_RX[] = "VOND_MMRf_ContRxV7_r";
-constexpr uint32_t LONG_MS = 20000;  // ends a broken test; never waited for in a good one
+constexpr char kContRx[] = "VOND_MMRf_ContRxV7_r";
+constexpr uint32_t kLongMs = 20000;  // ends a broken test; never waited for in a good one
 
 class GateTest : public CSimulatorTest
 {
@@ -16,7 +16,7 @@ protected:
     {
         return std::async(std::launch::async, [] {
             const SMMContRxCmdV7 command = ContRxCommand();
-            return VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, &command);
+            return VOND_MMRf_ContRxV7_r(kHandle, kTimeoutMs, &command);
         });
     }
 
@@ -28,13 +28,13 @@ protected:
 
 TEST_F(GateTest, HeldCallDoesNothingUntilItIsReleased)
 {
-    VondSim_Hold(CONT_RX);
+    VondSim_Hold(kContRx);
     auto call = StartInThread();
-    ASSERT_EQ(VondSim_WaitUntilHeld(CONT_RX, LONG_MS), 1);
+    ASSERT_EQ(VondSim_WaitUntilHeld(kContRx, kLongMs), 1);
     EXPECT_FALSE(Ended(call));
     EXPECT_STREQ(VondSim_RunningTest(), "");
     EXPECT_EQ(VondSim_CallCount(), 0u);
-    VondSim_Release(CONT_RX);
+    VondSim_Release(kContRx);
     EXPECT_EQ(call.get(), VOND_SUCCESS);
     EXPECT_STREQ(VondSim_RunningTest(), "ContRx");
     EXPECT_EQ(VondSim_CallCount(), 1u);
@@ -42,51 +42,51 @@ TEST_F(GateTest, HeldCallDoesNothingUntilItIsReleased)
 
 TEST_F(GateTest, OtherFunctionsPassAHeldGate)
 {
-    VondSim_Hold(CONT_RX);
+    VondSim_Hold(kContRx);
     auto call = StartInThread();
-    ASSERT_EQ(VondSim_WaitUntilHeld(CONT_RX, LONG_MS), 1);
-    EXPECT_EQ(VOND_NRf_TestStop_r(HANDLE, TIMEOUT_MS), VOND_SUCCESS);
-    VondSim_Release(CONT_RX);
+    ASSERT_EQ(VondSim_WaitUntilHeld(kContRx, kLongMs), 1);
+    EXPECT_EQ(VOND_NRf_TestStop_r(kHandle, kTimeoutMs), VOND_SUCCESS);
+    VondSim_Release(kContRx);
     EXPECT_EQ(call.get(), VOND_SUCCESS);
     EXPECT_STREQ(CallAt(0).function, "VOND_NRf_TestStop_r");
-    EXPECT_STREQ(CallAt(1).function, CONT_RX);
+    EXPECT_STREQ(CallAt(1).function, kContRx);
 }
 
 TEST_F(GateTest, WaitingForNobodyEndsWithTheTime)
 {
-    VondSim_Hold(CONT_RX);
-    EXPECT_EQ(VondSim_WaitUntilHeld(CONT_RX, 1), 0);
+    VondSim_Hold(kContRx);
+    EXPECT_EQ(VondSim_WaitUntilHeld(kContRx, 1), 0);
 }
 
 TEST_F(GateTest, ReleaseLetsAllGoEvenWhenTheGateIsHeldAgainAtOnce)
 {
-    VondSim_Hold(CONT_RX);
+    VondSim_Hold(kContRx);
     auto first = StartInThread();
-    ASSERT_EQ(VondSim_WaitUntilHeld(CONT_RX, LONG_MS), 1);
-    VondSim_Release(CONT_RX);
-    VondSim_Hold(CONT_RX);
+    ASSERT_EQ(VondSim_WaitUntilHeld(kContRx, kLongMs), 1);
+    VondSim_Release(kContRx);
+    VondSim_Hold(kContRx);
     EXPECT_EQ(first.get(), VOND_SUCCESS);
     auto second = StartInThread();
-    EXPECT_EQ(VondSim_WaitUntilHeld(CONT_RX, LONG_MS), 1);
-    VondSim_Release(CONT_RX);
+    EXPECT_EQ(VondSim_WaitUntilHeld(kContRx, kLongMs), 1);
+    VondSim_Release(kContRx);
     EXPECT_EQ(ErrorText(second.get()), "Target: a test is running already");
 }
 
 TEST_F(GateTest, ProfileMayChangeWhileACallIsHeld)
 {
-    VondSim_Hold(CONT_RX);
+    VondSim_Hold(kContRx);
     auto call = StartInThread();
-    ASSERT_EQ(VondSim_WaitUntilHeld(CONT_RX, LONG_MS), 1);
+    ASSERT_EQ(VondSim_WaitUntilHeld(kContRx, kLongMs), 1);
     EXPECT_EQ(VondSim_SetProfile("unplugged"), 0);
-    VondSim_Release(CONT_RX);
+    VondSim_Release(kContRx);
     EXPECT_EQ(ErrorText(call.get()), "Connection: no target is connected");
 }
 
 TEST_F(GateTest, ResetOpensTheGates)
 {
-    VondSim_Hold(CONT_RX);
+    VondSim_Hold(kContRx);
     auto call = StartInThread();
-    ASSERT_EQ(VondSim_WaitUntilHeld(CONT_RX, LONG_MS), 1);
+    ASSERT_EQ(VondSim_WaitUntilHeld(kContRx, kLongMs), 1);
     VondSim_Reset();
     EXPECT_EQ(call.get(), VOND_SUCCESS);
 }
@@ -95,7 +95,7 @@ TEST_F(GateTest, UnknownFunctionIsReportedAndHoldsNothing)
 {
     ::testing::internal::CaptureStderr();
     VondSim_Hold("VOND_Dance_r");
-    EXPECT_EQ(VondSim_WaitUntilHeld("VOND_Dance_r", LONG_MS), 0);
+    EXPECT_EQ(VondSim_WaitUntilHeld("VOND_Dance_r", kLongMs), 0);
     VondSim_Release(nullptr);
     EXPECT_NE(::testing::internal::GetCapturedStderr().find("VOND_Dance_r"), std::string::npos);
 }

@@ -13,7 +13,7 @@ protected:
     {
         const uint32_t kind = 1;
         auto config = std::make_unique<SMMRfRouteConfigV7>();
-        EXPECT_EQ(VOND_MMRf_GetRouteConfigV7_r(HANDLE, TIMEOUT_MS, &kind, config.get()),
+        EXPECT_EQ(VOND_MMRf_GetRouteConfigV7_r(kHandle, kTimeoutMs, &kind, config.get()),
                   VOND_SUCCESS);
         return config;
     }
@@ -30,7 +30,7 @@ TEST_F(CalBlkInfoTest, FunctionsAreOffered)
 {
     for (const char *name :
          {"VOND_MMRf_GetCalBlkInfoV7_r", "VOND_MMRf_GetCalDataV7_r", "VOND_MMRf_SetCalDataV7_r"})
-        EXPECT_EQ(VOND_QueryFunctionSupported_r(HANDLE, TIMEOUT_MS, name), VOND_SUCCESS) << name;
+        EXPECT_EQ(VOND_QueryFunctionSupported_r(kHandle, kTimeoutMs, name), VOND_SUCCESS) << name;
 }
 
 TEST_F(CalBlkInfoTest, RowsAreThoseOfTheRouteTables)
@@ -48,7 +48,7 @@ TEST_F(CalBlkInfoTest, RowsAreThoseOfTheRouteTables)
     for (int i = 0; i < info->txCount; ++i) {
         EXPECT_EQ(info->tx[i].route, routes.txRoute[i].route) << i;
         int total = 0;
-        for (int region = 0; region < VOND_MAX_BW_REGIONS; ++region) {
+        for (int region = 0; region < kVondMaxBwRegions; ++region) {
             EXPECT_EQ(info->tx[i].blockCount[region] > 0, region < routes.txRoute[i].bwRegionCount)
                 << i << " region " << region;
             total += info->tx[i].blockCount[region];
@@ -79,10 +79,10 @@ TEST_F(CalBlkInfoTest, UnusedRowsAreZero)
 {
     auto info = std::make_unique<SMMCalBlkInfoCnfV7>();
     std::memset(info.get(), 0xee, sizeof(*info));
-    ASSERT_EQ(VOND_MMRf_GetCalBlkInfoV7_r(HANDLE, TIMEOUT_MS, 1, info.get()), VOND_SUCCESS);
-    for (int i = info->type1Count; i < VOND_MAX_RX_ROUTES; ++i)
+    ASSERT_EQ(VOND_MMRf_GetCalBlkInfoV7_r(kHandle, kTimeoutMs, 1, info.get()), VOND_SUCCESS);
+    for (int i = info->type1Count; i < kVondMaxRxRoutes; ++i)
         EXPECT_EQ(info->type1[i].route + info->type1[i].blockTotal, 0);
-    for (int i = info->txCount; i < VOND_MAX_TX_ROUTES; ++i)
+    for (int i = info->txCount; i < kVondMaxTxRoutes; ++i)
         EXPECT_EQ(info->tx[i].route + info->tx[i].blockTotal + info->tx[i].blockCount[3], 0);
 }
 
@@ -90,7 +90,7 @@ TEST_F(CalBlkInfoTest, LteSideHasNothing)
 {
     auto info = std::make_unique<SMMCalBlkInfoCnfV7>();
     std::memset(info.get(), 0xee, sizeof(*info));
-    ASSERT_EQ(VOND_MMRf_GetCalBlkInfoV7_r(HANDLE, TIMEOUT_MS, 0, info.get()), VOND_SUCCESS);
+    ASSERT_EQ(VOND_MMRf_GetCalBlkInfoV7_r(kHandle, kTimeoutMs, 0, info.get()), VOND_SUCCESS);
     const SMMCalBlkInfoCnfV7 nothing = {};
     EXPECT_EQ(std::memcmp(info.get(), &nothing, sizeof(nothing)), 0);
 }
@@ -98,7 +98,7 @@ TEST_F(CalBlkInfoTest, LteSideHasNothing)
 TEST_F(CalBlkInfoTest, UnknownRadioKindIsRefused)
 {
     auto info = std::make_unique<SMMCalBlkInfoCnfV7>();
-    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalBlkInfoV7_r(HANDLE, TIMEOUT_MS, 2, info.get())),
+    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalBlkInfoV7_r(kHandle, kTimeoutMs, 2, info.get())),
               "Target: unknown radio kind");
 }
 

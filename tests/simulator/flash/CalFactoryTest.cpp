@@ -50,19 +50,19 @@ TEST_F(CalFactoryTest, AptLevelsAndGainsArePlausible)
 {
     const std::vector<SAptBlock> blocks = Tx(14, 100000);
     ASSERT_EQ(blocks.size(), 4u);
-    int16_t last[VOND_APT_PA_MODES] = {32767, 32767, 32767};
+    int16_t last[kVondAptPaModes] = {32767, 32767, 32767};
     for (const SAptBlock &block : blocks) {
         EXPECT_EQ(block.band, 78);
         EXPECT_EQ(block.paModeCount, 3);
         ASSERT_GE(block.paControlLevel, 1);
-        ASSERT_LE(block.paControlLevel, VOND_APT_LEVELS);
+        ASSERT_LE(block.paControlLevel, kVondAptLevels);
         for (const SAptLevel &level : block.level) {
             EXPECT_LT(level.paMode, 3);
             EXPECT_GE(level.dc2dcLevel, 5);
             EXPECT_LE(level.dc2dcLevel, 34);
             EXPECT_EQ(level.prf % 32, 0);  // whole dB
         }
-        for (int mode = 0; mode < VOND_APT_PA_MODES; ++mode) {
+        for (int mode = 0; mode < kVondAptPaModes; ++mode) {
             for (const int16_t gain : block.pa[mode].paGain) {
                 EXPECT_LE(gain, last[mode]);
                 last[mode] = gain;
@@ -70,7 +70,7 @@ TEST_F(CalFactoryTest, AptLevelsAndGainsArePlausible)
             EXPECT_EQ(block.pa[mode].paGainTempOffset[block.normalTempIndex], 0);
         }
     }
-    for (int mode = 0; mode < VOND_APT_PA_MODES; ++mode)
+    for (int mode = 0; mode < kVondAptPaModes; ++mode)
         EXPECT_NEAR(Db(blocks[0].pa[mode].paGain[0]) - Db(last[mode]), 2.5, 0.1);
     EXPECT_GT(blocks[0].pa[0].paGain[0], blocks[0].pa[2].paGain[0]);
 }
@@ -79,7 +79,7 @@ TEST_F(CalFactoryTest, LossesAreThoseOfTheGainModesThatTheRouteHas)
 {
     const SType1Block block = Type1(13).front();
     for (const EVondRxPath path : {EVondRxPath::Main, EVondRxPath::Div}) {
-        for (int slot = 0; slot < VOND_LOSS_GAIN_SLOTS; ++slot) {
+        for (int slot = 0; slot < kVondLossGainSlots; ++slot) {
             // The handset's tables allow eight gains in either power mode.
             const SMMLossPair &pair = block.loss[0][VondType1LossPair(path, slot)];
             for (const int16_t loss : {pair.lpm, pair.hpm}) {

@@ -33,7 +33,7 @@ CCalUpload &CCalUpload::Tx(uint16_t route, uint32_t bandwidth, uint16_t blockCou
 
 const SMMGetCalDataCnfV7 &CCalUpload::Send()
 {
-    EXPECT_EQ(VOND_MMRf_GetCalDataV7_r(HANDLE, TIMEOUT_MS, m_request.get(), m_answer.get()),
+    EXPECT_EQ(VOND_MMRf_GetCalDataV7_r(kHandle, kTimeoutMs, m_request.get(), m_answer.get()),
               VOND_SUCCESS);
     return *m_answer;
 }
@@ -41,7 +41,7 @@ const SMMGetCalDataCnfV7 &CCalUpload::Send()
 CCalDownload::CCalDownload() : m_request(std::make_unique<SMMSetCalDataReqV7>())
 {
     m_request->radioKind = 1;
-    m_request->version = VOND_CAL_VERSION;
+    m_request->version = kVondCalVersion;
 }
 
 CCalDownload &CCalDownload::Type1(uint16_t route, const std::vector<SType1Block> &blocks)
@@ -73,14 +73,15 @@ CCalDownload &CCalDownload::Tx(uint16_t route, uint32_t bandwidth,
 SMMSetCalDataCnfV7 CCalDownload::Send()
 {
     SMMSetCalDataCnfV7 answer = {};
-    EXPECT_EQ(VOND_MMRf_SetCalDataV7_r(HANDLE, TIMEOUT_MS, m_request.get(), &answer), VOND_SUCCESS);
+    EXPECT_EQ(VOND_MMRf_SetCalDataV7_r(kHandle, kTimeoutMs, m_request.get(), &answer),
+              VOND_SUCCESS);
     return answer;
 }
 
 std::unique_ptr<SMMCalBlkInfoCnfV7> CCalTest::Info()
 {
     auto info = std::make_unique<SMMCalBlkInfoCnfV7>();
-    EXPECT_EQ(VOND_MMRf_GetCalBlkInfoV7_r(HANDLE, TIMEOUT_MS, 1, info.get()), VOND_SUCCESS);
+    EXPECT_EQ(VOND_MMRf_GetCalBlkInfoV7_r(kHandle, kTimeoutMs, 1, info.get()), VOND_SUCCESS);
     return info;
 }
 
@@ -121,10 +122,10 @@ std::vector<SAptBlock> CCalTest::Tx(uint16_t route, uint32_t bandwidth)
     const auto info = Info();
     const uint32_t kind = 1;
     auto config = std::make_unique<SMMRfRouteConfigV7>();
-    EXPECT_EQ(VOND_MMRf_GetRouteConfigV7_r(HANDLE, TIMEOUT_MS, &kind, config.get()), VOND_SUCCESS);
+    EXPECT_EQ(VOND_MMRf_GetRouteConfigV7_r(kHandle, kTimeoutMs, &kind, config.get()), VOND_SUCCESS);
     uint16_t blocks = 0;
     for (int i = 0; i < info->txCount; ++i) {
-        for (int region = 0; region < VOND_MAX_BW_REGIONS; ++region) {
+        for (int region = 0; region < kVondMaxBwRegions; ++region) {
             if (info->tx[i].route == route &&
                 config->routes.txRoute[i].bwRegionKhz[region] == bandwidth)
                 blocks = info->tx[i].blockCount[region];

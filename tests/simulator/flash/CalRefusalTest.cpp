@@ -44,7 +44,7 @@ protected:
 using SGet = SMMGetCalDataReqV7;
 using SSet = SMMSetCalDataReqV7;
 
-const SBend<SGet> UPLOADS[] = {
+const SBend<SGet> kUploads[] = {
     {[](SGet &r) { r.radioKind = 0; }, ALL, "radio kind 0 has no calibration data"},
     {[](SGet &r) { r.radioKind = 7; }, ALL, "radio kind 7 has no calibration data"},
     {[](SGet &r) { r.type1Count = 56; }, TYPE1, "56 entries, at most 55"},
@@ -77,7 +77,7 @@ const SBend<SGet> UPLOADS[] = {
 
 TEST_F(CalRefusalTest, BentUploadsAreRefusedByTheirText)
 {
-    for (const auto &row : UPLOADS) {
+    for (const auto &row : kUploads) {
         CCalUpload upload;
         upload.Type1(13, 4).Type2(101, 1).Tx(9, 40000, 3);
         row.bend(upload.Request());
@@ -90,7 +90,7 @@ TEST_F(CalRefusalTest, BentUploadsAreRefusedByTheirText)
     EXPECT_EQ(CCalUpload().Type1(13, 4).Type2(101, 1).Tx(9, 40000, 3).Send().verdict.status, 1);
 }
 
-const SBend<SSet> DOWNLOADS[] = {
+const SBend<SSet> kDownloads[] = {
     {[](SSet &r) { r.radioKind = 0; }, ALL, "radio kind 0 has no calibration data"},
     {[](SSet &r) { r.radioKind = 2; }, ALL, "radio kind 2 has no calibration data"},
     {[](SSet &r) { r.version = 0; }, ALL, "record version 0"},
@@ -136,7 +136,7 @@ TEST_F(CalRefusalTest, BentDownloadsAreRefusedByTheirTextAndChangeNothing)
     const auto type1 = BytesOf(Type1(13));
     const auto type2 = BytesOf(Type2(101));
     const auto tx = BytesOf(Tx(9, 40000));
-    for (const auto &row : DOWNLOADS) {
+    for (const auto &row : kDownloads) {
         CCalDownload download = GoodDownload();
         // Good changes elsewhere in the round must not come through.
         download.Request().type1Block[0].plOffset[0] = 1111;
@@ -210,11 +210,11 @@ TEST_F(CalRefusalTest, RefusalLeavesNothingOfAnOlderAnswer)
     download.Request().radioKind = 5;
     SMMSetCalDataCnfV7 answer;
     std::fill_n(reinterpret_cast<uint8_t *>(&answer), sizeof(answer), uint8_t(0xee));
-    ASSERT_EQ(VOND_MMRf_SetCalDataV7_r(HANDLE, TIMEOUT_MS, &download.Request(), &answer),
+    ASSERT_EQ(VOND_MMRf_SetCalDataV7_r(kHandle, kTimeoutMs, &download.Request(), &answer),
               VOND_SUCCESS);
     EXPECT_EQ(answer.status, 0);
-    EXPECT_EQ(answer.type1Text[VOND_CAL_TEXT - 1], '\0');
-    EXPECT_EQ(answer.txText[VOND_CAL_TEXT - 1], '\0');
+    EXPECT_EQ(answer.type1Text[kVondCalText - 1], '\0');
+    EXPECT_EQ(answer.txText[kVondCalText - 1], '\0');
 }
 
 }  // namespace

@@ -138,12 +138,12 @@ TEST_F(CalUploadTest, NullPointersAreRefused)
     auto request = std::make_unique<SMMGetCalDataReqV7>();
     auto answer = std::make_unique<SMMGetCalDataCnfV7>();
     const std::string words = "Argument: null pointer";
-    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalDataV7_r(HANDLE, TIMEOUT_MS, nullptr, answer.get())),
+    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalDataV7_r(kHandle, kTimeoutMs, nullptr, answer.get())),
               words);
-    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalDataV7_r(HANDLE, TIMEOUT_MS, request.get(), nullptr)),
+    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalDataV7_r(kHandle, kTimeoutMs, request.get(), nullptr)),
               words);
-    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalBlkInfoV7_r(HANDLE, TIMEOUT_MS, 1, nullptr)), words);
-    EXPECT_EQ(ErrorText(VOND_MMRf_SetCalDataV7_r(HANDLE, TIMEOUT_MS, nullptr, nullptr)), words);
+    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalBlkInfoV7_r(kHandle, kTimeoutMs, 1, nullptr)), words);
+    EXPECT_EQ(ErrorText(VOND_MMRf_SetCalDataV7_r(kHandle, kTimeoutMs, nullptr, nullptr)), words);
 }
 
 }  // namespace

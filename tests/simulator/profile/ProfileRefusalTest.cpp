@@ -37,14 +37,14 @@ TEST_P(BrokenProfileTest, IsRefusedWithItsReason)
     EXPECT_EQ(result, -1);
     EXPECT_NE(line.find(GetParam().reason), std::string::npos) << line;
     EXPECT_EQ(line.find('\n'), line.size() - 1) << line;
-    EXPECT_NE(VOND_NRf_TestStop_r(HANDLE, TIMEOUT_MS), VOND_SUCCESS);
+    EXPECT_NE(VOND_NRf_TestStop_r(kHandle, kTimeoutMs), VOND_SUCCESS);
 }
 
-const std::string TX_ROUTE = R"({"band": 1, "route": 1, "regions": []})";
-const std::string RX_ROUTE =
+const std::string kTxRoute = R"({"band": 1, "route": 1, "regions": []})";
+const std::string kRxRoute =
     R"({"band": 1, "route": 1, "antMask": 1, "feRoute": 1, "ports": ["a", "b"], "srx": 0, )";
 
-const SBrokenProfile BROKEN[] = {
+const SBrokenProfile kBroken[] = {
     {"Empty", "", "parse error"},
     {"NotAnObject", "[1]", "is not an object"},
     {"NoName", R"({"plugged": true})", "name: is missing"},
@@ -60,7 +60,7 @@ const SBrokenProfile BROKEN[] = {
     {"UnknownFunction", HandsetWith(R"("functions": ["VOND_Dance_r"])"), "VOND_Dance_r"},
     {"TooManyBands", HandsetWith("\"bands\": " + Repeated(R"({"band": 1})", 26)),
      "bands: 26 entries, at most 25 fit"},
-    {"TooManyTxRoutes", HandsetWith("\"txRoutes\": " + Repeated(TX_ROUTE, 101)),
+    {"TooManyTxRoutes", HandsetWith("\"txRoutes\": " + Repeated(kTxRoute, 101)),
      "txRoutes: 101 entries, at most 100 fit"},
     {"TooManyRegions",
      HandsetWith(R"("txRoutes": [{"band": 1, "route": 1, "regions": [1, 2, 3, 4, 5]}])"),
@@ -69,7 +69,7 @@ const SBrokenProfile BROKEN[] = {
      HandsetWith("\"rxLimits\": " + Repeated(R"({"band": 1, "route": 1, "kHz": [1, 2]})", 15)),
      "rxLimits: 15 entries, at most 14 fit"},
     {"TooManyMimoPairs",
-     HandsetWith("\"rxType1Routes\": [" + RX_ROUTE + "\"mimoPairs\": [1, 2, 3, 4, 5, 6, 7]}]"),
+     HandsetWith("\"rxType1Routes\": [" + kRxRoute + "\"mimoPairs\": [1, 2, 3, 4, 5, 6, 7]}]"),
      "rxType1Routes[0].mimoPairs: 7 entries, at most 6 fit"},
     {"TooLongPort",
      HandsetWith(R"("txRoutes": [{"band": 1, "route": 1, "regions": [{"kHz": 1, "antMask": 1,
@@ -80,14 +80,14 @@ const SBrokenProfile BROKEN[] = {
      "rxType1Routes[0].ports: needs 2 entries"},
     {"RepeatedBand", HandsetWith("\"bands\": " + Repeated(R"({"band": 1})", 2)),
      "band 1 is listed twice"},
-    {"RepeatedRoute", HandsetWith("\"txRoutes\": " + Repeated(TX_ROUTE, 2)),
+    {"RepeatedRoute", HandsetWith("\"txRoutes\": " + Repeated(kTxRoute, 2)),
      "route 1 stands twice on band 1"},
     {"RouteWithoutBand", HandsetWith(R"("txRoutes": [{"band": 66, "route": 1, "regions": []}])"),
      "band 66 is not listed"},
     {"TxRouteOnDownlinkBand",
      HandsetWith(R"("txRoutes": [{"band": 75, "route": 1, "regions": []}])"),
      "band 75 does not have that direction"},
-    {"UnknownPairedRoute", HandsetWith("\"rxType1Routes\": [" + RX_ROUTE + "\"txRoutes\": [99]}]"),
+    {"UnknownPairedRoute", HandsetWith("\"rxType1Routes\": [" + kRxRoute + "\"txRoutes\": [99]}]"),
      "pairs with unknown TX route 99"},
     {"BandWithoutLimits", HandsetWith(R"("bands": [{"band": 999}])"), "is no 3GPP band"},
     {"FlagAgainstLimits", HandsetWith(R"("bands": [{"band": 1, "downlinkOnly": true}])"),
@@ -139,7 +139,7 @@ const SBrokenProfile BROKEN[] = {
     {"DeepNesting", std::string(100000, '['), "nests too deep"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Each, BrokenProfileTest, ::testing::ValuesIn(BROKEN),
+INSTANTIATE_TEST_SUITE_P(Each, BrokenProfileTest, ::testing::ValuesIn(kBroken),
                          [](const ::testing::TestParamInfo<SBrokenProfile> &info) {
                              return info.param.title;
                          });

@@ -35,8 +35,8 @@ TEST_F(ProfileTest, ModemOfTheHandsetIsNoC2kModem)
 {
     int32_t index = -1;
     int32_t service = -1;
-    ASSERT_EQ(VondConn_GetMdActiveIdx(HANDLE, &index), 0);
-    ASSERT_EQ(VondConn_GetMdSrv(HANDLE, index, &service), 0);
+    ASSERT_EQ(VondConn_GetMdActiveIdx(kHandle, &index), 0);
+    ASSERT_EQ(VondConn_GetMdSrv(kHandle, index, &service), 0);
     EXPECT_EQ(index, 0);
     EXPECT_EQ(service, 4);
 }
@@ -45,14 +45,14 @@ TEST_F(ProfileTest, ModemOfTheC2kProfileHasServiceTypeThree)
 {
     VondSim_SetProfile("c2k");
     int32_t service = -1;
-    ASSERT_EQ(VondConn_GetMdSrv(HANDLE, 0, &service), 0);
+    ASSERT_EQ(VondConn_GetMdSrv(kHandle, 0, &service), 0);
     EXPECT_EQ(service, 3);
 }
 
 TEST_F(ProfileTest, AnotherModemIndexIsRefused)
 {
     int32_t service = -1;
-    EXPECT_EQ(ErrorText(VondConn_GetMdSrv(HANDLE, 1, &service)), "Connection: unknown modem");
+    EXPECT_EQ(ErrorText(VondConn_GetMdSrv(kHandle, 1, &service)), "Connection: unknown modem");
     EXPECT_EQ(service, -1);
 }
 
@@ -64,13 +64,13 @@ TEST_F(ProfileTest, UnpluggedFailsEveryCallWithItsText)
     auto config = std::make_unique<SMMRfRouteConfigV7>();
     int32_t index = 7;
     const VOND_RESULT results[] = {
-        VondConn_GetMdActiveIdx(HANDLE, &index),
-        VondConn_GetMdSrv(HANDLE, 0, &index),
-        VOND_QueryFunctionSupported_r(HANDLE, TIMEOUT_MS, "VOND_MMRf_ContRxV7_r"),
-        VOND_MMRf_GetRouteConfigV7_r(HANDLE, TIMEOUT_MS, &kind, config.get()),
-        VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, &command),
-        VOND_NRf_TestStop_r(HANDLE, TIMEOUT_MS),
-        VOND_MMRf_GetCalDataV7_r(HANDLE, TIMEOUT_MS, nullptr, nullptr),
+        VondConn_GetMdActiveIdx(kHandle, &index),
+        VondConn_GetMdSrv(kHandle, 0, &index),
+        VOND_QueryFunctionSupported_r(kHandle, kTimeoutMs, "VOND_MMRf_ContRxV7_r"),
+        VOND_MMRf_GetRouteConfigV7_r(kHandle, kTimeoutMs, &kind, config.get()),
+        VOND_MMRf_ContRxV7_r(kHandle, kTimeoutMs, &command),
+        VOND_NRf_TestStop_r(kHandle, kTimeoutMs),
+        VOND_MMRf_GetCalDataV7_r(kHandle, kTimeoutMs, nullptr, nullptr),
     };
     for (const VOND_RESULT result : results)
         EXPECT_EQ(ErrorText(result), "Connection: no target is connected");
@@ -84,7 +84,7 @@ TEST_F(ProfileTest, FileIsReadByItsPath)
     std::ofstream(path) << HandsetWith("\"modem\": {\"index\": 2}");
     ASSERT_EQ(VondSim_SetProfile(path.c_str()), 0);
     int32_t index = -1;
-    ASSERT_EQ(VondConn_GetMdActiveIdx(HANDLE, &index), 0);
+    ASSERT_EQ(VondConn_GetMdActiveIdx(kHandle, &index), 0);
     EXPECT_EQ(index, 2);
     std::remove(path.c_str());
 }
@@ -102,7 +102,7 @@ TEST_F(ProfileTest, BrokenFileUnplugsAndNamesFileAndReasonInOneLine)
     EXPECT_NE(line.find("parse error at line 2"), std::string::npos) << line;
     EXPECT_EQ(line.find('\n'), line.size() - 1) << line;
     int32_t index = 0;
-    EXPECT_EQ(ErrorText(VondConn_GetMdActiveIdx(HANDLE, &index)),
+    EXPECT_EQ(ErrorText(VondConn_GetMdActiveIdx(kHandle, &index)),
               "Connection: no target is connected");
 }
 
@@ -111,13 +111,13 @@ TEST_F(ProfileTest, UnknownNameUnplugs)
     ::testing::internal::CaptureStderr();
     EXPECT_EQ(VondSim_SetProfile("toaster"), -1);
     EXPECT_NE(::testing::internal::GetCapturedStderr().find("toaster"), std::string::npos);
-    EXPECT_NE(VOND_NRf_TestStop_r(HANDLE, TIMEOUT_MS), VOND_SUCCESS);
+    EXPECT_NE(VOND_NRf_TestStop_r(kHandle, kTimeoutMs), VOND_SUCCESS);
 }
 
 TEST_F(ProfileTest, AnotherProfileStopsTheRadio)
 {
     const SMMContRxCmdV7 command = ContRxCommand();
-    ASSERT_EQ(VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, &command), VOND_SUCCESS);
+    ASSERT_EQ(VOND_MMRf_ContRxV7_r(kHandle, kTimeoutMs, &command), VOND_SUCCESS);
     VondSim_SetProfile("largest");
     EXPECT_STREQ(VondSim_RunningTest(), "");
 }
@@ -126,15 +126,15 @@ TEST_F(ProfileTest, ListedFunctionsAloneAreOffered)
 {
     const std::string text = HandsetWith("\"functions\": [\"VOND_NRf_TestStop_r\"]");
     ASSERT_EQ(VondSim_SetProfileText(text.c_str()), 0);
-    EXPECT_EQ(VOND_QueryFunctionSupported_r(HANDLE, TIMEOUT_MS, "VOND_NRf_TestStop_r"),
+    EXPECT_EQ(VOND_QueryFunctionSupported_r(kHandle, kTimeoutMs, "VOND_NRf_TestStop_r"),
               VOND_SUCCESS);
-    EXPECT_EQ(VOND_NRf_TestStop_r(HANDLE, TIMEOUT_MS), VOND_SUCCESS);
-    EXPECT_NE(VOND_QueryFunctionSupported_r(HANDLE, TIMEOUT_MS, "VOND_MMRf_TestStopV7_r"),
+    EXPECT_EQ(VOND_NRf_TestStop_r(kHandle, kTimeoutMs), VOND_SUCCESS);
+    EXPECT_NE(VOND_QueryFunctionSupported_r(kHandle, kTimeoutMs, "VOND_MMRf_TestStopV7_r"),
               VOND_SUCCESS);
-    EXPECT_EQ(ErrorText(VOND_MMRf_TestStopV7_r(HANDLE, TIMEOUT_MS, 1)),
+    EXPECT_EQ(ErrorText(VOND_MMRf_TestStopV7_r(kHandle, kTimeoutMs, 1)),
               "Target: function is not offered");
     auto info = std::make_unique<SMMCalBlkInfoCnfV7>();
-    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalBlkInfoV7_r(HANDLE, TIMEOUT_MS, 1, info.get())),
+    EXPECT_EQ(ErrorText(VOND_MMRf_GetCalBlkInfoV7_r(kHandle, kTimeoutMs, 1, info.get())),
               "Target: function is not offered");
 }
 
@@ -147,7 +147,7 @@ TEST_F(ProfileTest, GeneratedLimitsOfANarrowBandStayWithinIt)
     ASSERT_EQ(VondSim_SetProfileText(profile), 0);
     const auto config = std::make_unique<SMMRfRouteConfigV7>();
     const uint32_t nr = 1;
-    ASSERT_EQ(VOND_MMRf_GetRouteConfigV7_r(HANDLE, TIMEOUT_MS, &nr, config.get()), 0);
+    ASSERT_EQ(VOND_MMRf_GetRouteConfigV7_r(kHandle, kTimeoutMs, &nr, config.get()), 0);
     EXPECT_EQ(config->freqRange.tx.low[0], 800250);
     EXPECT_EQ(config->freqRange.tx.high[0], 800750);
     EXPECT_EQ(config->freqRange.rx.low[0], 810000);
@@ -159,9 +159,9 @@ TEST_F(ProfileTest, EveryProfilesOwnFaultIsInForceUntilAnotherProfileComes)
     const std::string text =
         HandsetWith("\"faults\": [{\"function\": \"VOND_NRf_TestStop_r\", \"kind\": \"fail\"}]");
     ASSERT_EQ(VondSim_SetProfileText(text.c_str()), 0);
-    EXPECT_EQ(ErrorText(VOND_NRf_TestStop_r(HANDLE, TIMEOUT_MS)), "Target: failure on demand");
+    EXPECT_EQ(ErrorText(VOND_NRf_TestStop_r(kHandle, kTimeoutMs)), "Target: failure on demand");
     ASSERT_EQ(VondSim_SetProfile("handset"), 0);
-    EXPECT_EQ(VOND_NRf_TestStop_r(HANDLE, TIMEOUT_MS), VOND_SUCCESS);
+    EXPECT_EQ(VOND_NRf_TestStop_r(kHandle, kTimeoutMs), VOND_SUCCESS);
 }
 
 }  // namespace

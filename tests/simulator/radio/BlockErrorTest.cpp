@@ -11,19 +11,19 @@
 
 namespace {
 
-constexpr double NOISE_FIGURE = 6.0;
-constexpr double TWO_ANTENNAS = 2.63;   // dB, 1 + 10^-0.08
-constexpr double FOUR_ANTENNAS = 4.90;  // dB, 1 + 10^-0.08 + 10^-0.16 + 10^-0.24
+constexpr double kNoiseFigure = 6.0;
+constexpr double kTwoAntennas = 2.63;   // dB, 1 + 10^-0.08
+constexpr double kFourAntennas = 4.90;  // dB, 1 + 10^-0.08 + 10^-0.16 + 10^-0.24
 
 double NoiseOf(double blocks, double spacingHz)
 {
-    return -174.0 + 10.0 * std::log10(blocks * 12.0 * spacingHz) + NOISE_FIGURE;
+    return -174.0 + 10.0 * std::log10(blocks * 12.0 * spacingHz) + kNoiseFigure;
 }
 
 // Level of 5 % lost blocks for the forced command's 10 MHz at 15 kHz.
 double Sensitivity()
 {
-    return NoiseOf(52, 15e3) + 1.5 - TWO_ANTENNAS;
+    return NoiseOf(52, 15e3) + 1.5 - kTwoAntennas;
 }
 
 class BlockErrorTest : public CMeasuringTest
@@ -79,7 +79,7 @@ TEST_F(BlockErrorTest, WiderChannelNeedsAsMuchMoreLevelAsItHasMoreNoise)
 {
     SNrRsrpCmdV7 command = RsrpForcedCommand();
     command.forcedMode.carrier.common.dlBandwidth = 20000;
-    const double level = NoiseOf(106, 15e3) + 1.5 - TWO_ANTENNAS;
+    const double level = NoiseOf(106, 15e3) + 1.5 - kTwoAntennas;
     EXPECT_NEAR(level - Sensitivity(), 3.1, 0.05);
     EXPECT_NEAR(RateAt(level, command), 0.05, 0.025);
     EXPECT_GT(RateAt(Sensitivity(), command), 0.95);
@@ -90,12 +90,12 @@ TEST_F(BlockErrorTest, WiderSpacingIsAsNoisyAsTheChannelThatItFills)
     SNrRsrpCmdV7 command = RsrpForcedCommand();
     command.forcedMode.carrier.common.dlBandwidth = 20000;
     command.forcedMode.carrier.common.rxScs = 1;
-    EXPECT_NEAR(RateAt(NoiseOf(51, 30e3) + 1.5 - TWO_ANTENNAS, command), 0.05, 0.025);
+    EXPECT_NEAR(RateAt(NoiseOf(51, 30e3) + 1.5 - kTwoAntennas, command), 0.05, 0.025);
 }
 
 TEST_F(BlockErrorTest, FourAntennasHearWhatTwoDoNot)
 {
-    const double level = NoiseOf(52, 15e3) + 1.5 - FOUR_ANTENNAS;
+    const double level = NoiseOf(52, 15e3) + 1.5 - kFourAntennas;
     SNrRsrpCmdV7 command = RsrpNormalCommand();
     command.normalMode.carrier[0].common.dlFrequency = 3550005;  // the middle of n78
     EXPECT_NEAR(RateAt(level, command), 0.05, 0.025);
@@ -127,7 +127,7 @@ TEST_F(BlockErrorTest, OverloadedReceiverLosesBlocksToo)
 TEST_F(BlockErrorTest, CellTooWeakToBeReadOrFoundIsAStatus)
 {
     // Ratio of both antennas together at a level: -8 dB to read the PBCH, -10 dB to find the SSB.
-    const double zero = NoiseOf(52, 15e3) - TWO_ANTENNAS;
+    const double zero = NoiseOf(52, 15e3) - kTwoAntennas;
     const struct
     {
         double ratio;

@@ -13,7 +13,7 @@ protected:
     std::unique_ptr<SMMRfRouteConfigV7> Config(uint32_t radioKind = 1)
     {
         auto config = std::make_unique<SMMRfRouteConfigV7>();
-        EXPECT_EQ(VOND_MMRf_GetRouteConfigV7_r(HANDLE, TIMEOUT_MS, &radioKind, config.get()),
+        EXPECT_EQ(VOND_MMRf_GetRouteConfigV7_r(kHandle, kTimeoutMs, &radioKind, config.get()),
                   VOND_SUCCESS);
         return config;
     }
@@ -31,7 +31,7 @@ TEST_F(CapabilityTest, LteSideTellsItsChip)
 {
     const SVondCapabilityReq request = {56, 180};
     SERfCapability answer = {};
-    ASSERT_EQ(VOND_ERf_GetRfCapability_r(HANDLE, TIMEOUT_MS, &request, 8, &answer, 248),
+    ASSERT_EQ(VOND_ERf_GetRfCapability_r(kHandle, kTimeoutMs, &request, 8, &answer, 248),
               VOND_SUCCESS);
     EXPECT_EQ(WordAt(&answer, 8), 11u);
     EXPECT_STREQ(VOND_ERf_GetChipIdName(11), "VR6211");
@@ -42,7 +42,7 @@ TEST_F(CapabilityTest, WorldModeWordIsValidAndHoldsNr)
 {
     const SVondCapabilityReq request = {4, 132};
     SMMRfCapability answer = {};
-    ASSERT_EQ(VOND_MMRf_GetRfCapability_r(HANDLE, TIMEOUT_MS, &request, 8, &answer, 144),
+    ASSERT_EQ(VOND_MMRf_GetRfCapability_r(kHandle, kTimeoutMs, &request, 8, &answer, 144),
               VOND_SUCCESS);
     EXPECT_TRUE(VondItemValid(WordAt(&answer, 44)));
     EXPECT_EQ(VondItemValue(WordAt(&answer, 44)), 103u);
@@ -53,7 +53,7 @@ TEST_F(CapabilityTest, WorldModeOfNoNrLacksTheNrBit)
     VondSim_SetProfile("no-nr");
     const SVondCapabilityReq request = {4, 132};
     SMMRfCapability answer = {};
-    ASSERT_EQ(VOND_MMRf_GetRfCapability_r(HANDLE, TIMEOUT_MS, &request, 8, &answer, 144),
+    ASSERT_EQ(VOND_MMRf_GetRfCapability_r(kHandle, kTimeoutMs, &request, 8, &answer, 144),
               VOND_SUCCESS);
     EXPECT_TRUE(VondItemValid(answer.worldMode));
     EXPECT_EQ(VondItemValue(answer.worldMode) & 0x40u, 0u);
@@ -64,7 +64,7 @@ TEST_F(CapabilityTest, WorldModeWithoutRatInformationIsNotValid)
     VondSim_SetProfileText(HandsetWith(R"("worldMode": {"valid": false})").c_str());
     const SVondCapabilityReq request = {4, 132};
     SMMRfCapability answer = {};
-    ASSERT_EQ(VOND_MMRf_GetRfCapability_r(HANDLE, TIMEOUT_MS, &request, 8, &answer, 144),
+    ASSERT_EQ(VOND_MMRf_GetRfCapability_r(kHandle, kTimeoutMs, &request, 8, &answer, 144),
               VOND_SUCCESS);
     EXPECT_FALSE(VondItemValid(answer.worldMode));
 }
@@ -74,14 +74,14 @@ TEST_F(CapabilityTest, NrTellsChipAndGeneration)
     // The first word of the NR request is whatever the caller left there.
     const SVondCapabilityReq request = {0xdeadbeef, 24};
     SNRfCapability answer = {};
-    ASSERT_EQ(VOND_NRf_GetRfCapability_r(HANDLE, TIMEOUT_MS, &request, 8, &answer, 36),
+    ASSERT_EQ(VOND_NRf_GetRfCapability_r(kHandle, kTimeoutMs, &request, 8, &answer, 36),
               VOND_SUCCESS);
     EXPECT_EQ(WordAt(&answer, 8), 40u);
     EXPECT_EQ(VondItemValue(WordAt(&answer, 12)) & 0xffu, 1u);
     EXPECT_STREQ(VOND_NRf_GetChipIdName(40), "VR6240");
 
     VondSim_SetProfile("gen0");
-    VOND_NRf_GetRfCapability_r(HANDLE, TIMEOUT_MS, &request, 8, &answer, 36);
+    VOND_NRf_GetRfCapability_r(kHandle, kTimeoutMs, &request, 8, &answer, 36);
     EXPECT_EQ(VondItemValue(answer.generation) & 0xffu, 0u);
 }
 
@@ -91,11 +91,11 @@ TEST_F(CapabilityTest, WrongSizesAreRefused)
     const SVondCapabilityReq bad = {56, 181};
     SERfCapability answer = {};
     const std::string text = "Argument: record size does not fit";
-    EXPECT_EQ(ErrorText(VOND_ERf_GetRfCapability_r(HANDLE, TIMEOUT_MS, &bad, 8, &answer, 248)),
+    EXPECT_EQ(ErrorText(VOND_ERf_GetRfCapability_r(kHandle, kTimeoutMs, &bad, 8, &answer, 248)),
               text);
-    EXPECT_EQ(ErrorText(VOND_ERf_GetRfCapability_r(HANDLE, TIMEOUT_MS, &good, 4, &answer, 248)),
+    EXPECT_EQ(ErrorText(VOND_ERf_GetRfCapability_r(kHandle, kTimeoutMs, &good, 4, &answer, 248)),
               text);
-    EXPECT_EQ(ErrorText(VOND_ERf_GetRfCapability_r(HANDLE, TIMEOUT_MS, &good, 8, &answer, 247)),
+    EXPECT_EQ(ErrorText(VOND_ERf_GetRfCapability_r(kHandle, kTimeoutMs, &good, 8, &answer, 247)),
               text);
     EXPECT_EQ(answer.rfChipId, 0u);
 }
@@ -105,13 +105,13 @@ TEST_F(CapabilityTest, NullPointersAreRefused)
     const SVondCapabilityReq request = {56, 180};
     SERfCapability answer = {};
     const std::string text = "Argument: null pointer";
-    EXPECT_EQ(ErrorText(VOND_ERf_GetRfCapability_r(HANDLE, TIMEOUT_MS, nullptr, 8, &answer, 248)),
+    EXPECT_EQ(ErrorText(VOND_ERf_GetRfCapability_r(kHandle, kTimeoutMs, nullptr, 8, &answer, 248)),
               text);
-    EXPECT_EQ(ErrorText(VOND_ERf_GetRfCapability_r(HANDLE, TIMEOUT_MS, &request, 8, nullptr, 248)),
+    EXPECT_EQ(ErrorText(VOND_ERf_GetRfCapability_r(kHandle, kTimeoutMs, &request, 8, nullptr, 248)),
               text);
-    EXPECT_EQ(ErrorText(VOND_NRf_GetBandRxInfo_r(HANDLE, TIMEOUT_MS, nullptr)), text);
-    EXPECT_EQ(ErrorText(VOND_QueryFunctionSupported_r(HANDLE, TIMEOUT_MS, nullptr)), text);
-    EXPECT_EQ(ErrorText(VondConn_GetMdActiveIdx(HANDLE, nullptr)), text);
+    EXPECT_EQ(ErrorText(VOND_NRf_GetBandRxInfo_r(kHandle, kTimeoutMs, nullptr)), text);
+    EXPECT_EQ(ErrorText(VOND_QueryFunctionSupported_r(kHandle, kTimeoutMs, nullptr)), text);
+    EXPECT_EQ(ErrorText(VondConn_GetMdActiveIdx(kHandle, nullptr)), text);
 }
 
 TEST_F(CapabilityTest, BandsStandInProfileOrderWithTheirFlags)
@@ -176,14 +176,14 @@ TEST_F(CapabilityTest, LteSideHasNoRoutesAndOtherRadiosDoNotExist)
     EXPECT_EQ(config->bandCount, 0u);
     EXPECT_EQ(config->routes.txRouteCount, 0);
     const uint32_t kind = 2;
-    EXPECT_EQ(ErrorText(VOND_MMRf_GetRouteConfigV7_r(HANDLE, TIMEOUT_MS, &kind, config.get())),
+    EXPECT_EQ(ErrorText(VOND_MMRf_GetRouteConfigV7_r(kHandle, kTimeoutMs, &kind, config.get())),
               "Target: unknown radio kind");
 }
 
 TEST_F(CapabilityTest, MimoAbilityIsToldByBand)
 {
     SNRfBandRxInfo info = {};
-    ASSERT_EQ(VOND_NRf_GetBandRxInfo_r(HANDLE, TIMEOUT_MS, &info), VOND_SUCCESS);
+    ASSERT_EQ(VOND_NRf_GetBandRxInfo_r(kHandle, kTimeoutMs, &info), VOND_SUCCESS);
     ASSERT_EQ(info.count, 11);
     EXPECT_EQ(info.band[0], 1);
     EXPECT_EQ(info.ulMimo[0], 0);
@@ -195,7 +195,7 @@ TEST_F(CapabilityTest, MimoAbilityIsToldByBand)
 TEST_F(CapabilityTest, PairedTxRoutesAreToldByRxRoute)
 {
     auto values = std::make_unique<SNRfRxRouteValues>();
-    ASSERT_EQ(VOND_NRf_GetRxRouteValues_r(HANDLE, TIMEOUT_MS, values.get()), VOND_SUCCESS);
+    ASSERT_EQ(VOND_NRf_GetRxRouteValues_r(kHandle, kTimeoutMs, values.get()), VOND_SUCCESS);
     // All type 1 routes but that of the downlink band.
     EXPECT_EQ(values->count, 17);
     EXPECT_EQ(values->entry[0].route, 1);
@@ -218,7 +218,7 @@ TEST_F(CapabilityTest, DetailAnswersInRequestOrder)
     request->txPair[0].bwRegionKhz = 60000;
     request->txPair[1].route = 1;
     request->txPair[1].bwRegionKhz = 20000;
-    ASSERT_EQ(VOND_MMRf_GetRouteDetailV7_r(HANDLE, TIMEOUT_MS, request.get(), answer.get()),
+    ASSERT_EQ(VOND_MMRf_GetRouteDetailV7_r(kHandle, kTimeoutMs, request.get(), answer.get()),
               VOND_SUCCESS);
     EXPECT_EQ(answer->rxType1[0].feRouteNum, 309);
     EXPECT_EQ(answer->rxType1[0].type1.mimoPairCount, 1);
@@ -243,7 +243,7 @@ TEST_F(CapabilityTest, DetailOfUnknownRoutesIsRefused)
     auto answer = std::make_unique<SMMRfRouteDetailCnfV7>();
     const auto text = [&] {
         return ErrorText(
-            VOND_MMRf_GetRouteDetailV7_r(HANDLE, TIMEOUT_MS, request.get(), answer.get()));
+            VOND_MMRf_GetRouteDetailV7_r(kHandle, kTimeoutMs, request.get(), answer.get()));
     };
     EXPECT_EQ(text(), "Target: unknown radio kind");
     request->radioKind = 1;
@@ -274,11 +274,11 @@ TEST_F(CapabilityTest, LargestFillsAllTables)
     EXPECT_EQ(config->rxGainInfo[1].t2[6][2][2], 1);
 
     SNRfBandRxInfo info = {};
-    ASSERT_EQ(VOND_NRf_GetBandRxInfo_r(HANDLE, TIMEOUT_MS, &info), VOND_SUCCESS);
+    ASSERT_EQ(VOND_NRf_GetBandRxInfo_r(kHandle, kTimeoutMs, &info), VOND_SUCCESS);
     EXPECT_EQ(info.count, 25);
 
     auto values = std::make_unique<SNRfRxRouteValues>();
-    ASSERT_EQ(VOND_NRf_GetRxRouteValues_r(HANDLE, TIMEOUT_MS, values.get()), VOND_SUCCESS);
+    ASSERT_EQ(VOND_NRf_GetRxRouteValues_r(kHandle, kTimeoutMs, values.get()), VOND_SUCCESS);
     ASSERT_EQ(values->count, 100);
     for (const SNRfRxRouteValueEntry &entry : values->entry)
         EXPECT_EQ(entry.valueCount, 100);
@@ -302,7 +302,7 @@ TEST_F(CapabilityTest, LargestAnswersAsManyDetailRowsAsACountByteHolds)
         request->txPair[i].route = static_cast<uint16_t>(1 + i % 100);
         request->txPair[i].bwRegionKhz = 100000;
     }
-    ASSERT_EQ(VOND_MMRf_GetRouteDetailV7_r(HANDLE, TIMEOUT_MS, request.get(), answer.get()),
+    ASSERT_EQ(VOND_MMRf_GetRouteDetailV7_r(kHandle, kTimeoutMs, request.get(), answer.get()),
               VOND_SUCCESS);
     EXPECT_EQ(answer->rxType1[99].type1.mimoPairCount, 6);
     EXPECT_EQ(answer->rxType2[99].type2.mimoPairCount, 5);

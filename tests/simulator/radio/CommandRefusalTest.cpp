@@ -38,67 +38,67 @@ protected:
     }
 };
 
-constexpr char BAND[] = "Target: unknown band";
-constexpr char ROUTE[] = "Target: unknown route";
-constexpr char ROUTE_BAND[] = "Target: route does not serve the band";
-constexpr char ROUTE_KIND[] = "Target: route kind does not fit the route";
-constexpr char DIRECTION[] = "Target: band does not support the direction";
-constexpr char FREQUENCY[] = "Target: frequency is out of limits";
-constexpr char PATH[] = "Target: path does not exist on the route";
-constexpr char BANDWIDTH[] = "Target: unknown channel bandwidth";
-constexpr char POWER_MODE[] = "Target: unknown power mode";
-constexpr char GAIN[] = "Target: gain is out of limits";
-constexpr char GAIN_MODE[] = "Target: gain mode is not supported";
-constexpr char TX_POWER[] = "Target: TX power is out of limits";
-constexpr char BLOCKS[] = "Target: resource blocks do not fit the bandwidth";
-constexpr char FLAG[] = "Target: flag is neither 0 nor 1";
-constexpr char MIMO[] = "Target: band does not support the MIMO mode";
-constexpr char RADIO_KIND[] = "Target: unknown radio kind";
-constexpr char SLOT[] = "Target: unknown slot format";
-constexpr char CARRIERS[] = "Target: carrier count is out of limits";
+constexpr char kBand[] = "Target: unknown band";
+constexpr char kRoute[] = "Target: unknown route";
+constexpr char kRouteBand[] = "Target: route does not serve the band";
+constexpr char kRouteKind[] = "Target: route kind does not fit the route";
+constexpr char kDirection[] = "Target: band does not support the direction";
+constexpr char kFrequency[] = "Target: frequency is out of limits";
+constexpr char kPath[] = "Target: path does not exist on the route";
+constexpr char kBandwidth[] = "Target: unknown channel bandwidth";
+constexpr char kPowerMode[] = "Target: unknown power mode";
+constexpr char kGain[] = "Target: gain is out of limits";
+constexpr char kGainMode[] = "Target: gain mode is not supported";
+constexpr char kTxPower[] = "Target: TX power is out of limits";
+constexpr char kBlocks[] = "Target: resource blocks do not fit the bandwidth";
+constexpr char kFlag[] = "Target: flag is neither 0 nor 1";
+constexpr char kMimo[] = "Target: band does not support the MIMO mode";
+constexpr char kRadioKind[] = "Target: unknown radio kind";
+constexpr char kSlot[] = "Target: unknown slot format";
+constexpr char kCarriers[] = "Target: carrier count is out of limits";
 
 VOND_RESULT SendContRx(const SMMContRxCmdV7 &command, uint32_t &)
 {
-    return VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, &command);
+    return VOND_MMRf_ContRxV7_r(kHandle, kTimeoutMs, &command);
 }
 
 VOND_RESULT SendRssi(const SMMRssiCmdV7 &command, uint32_t &)
 {
     SMMRssiCnfV7 answer = {};
-    return VOND_MMRf_RssiV7_r(HANDLE, TIMEOUT_MS, &command, &answer);
+    return VOND_MMRf_RssiV7_r(kHandle, kTimeoutMs, &command, &answer);
 }
 
 VOND_RESULT SendPusch(const SNrPuschTxCmdV7 &command, uint32_t &status)
 {
-    return VOND_NRf_PuschTxV7_r(HANDLE, TIMEOUT_MS, &command, &status);
+    return VOND_NRf_PuschTxV7_r(kHandle, kTimeoutMs, &command, &status);
 }
 
 VOND_RESULT SendRsrp(const SNrRsrpCmdV7 &command, uint32_t &status)
 {
-    return VOND_NRf_RsrpV7_r(HANDLE, TIMEOUT_MS, &command, &status);
+    return VOND_NRf_RsrpV7_r(kHandle, kTimeoutMs, &command, &status);
 }
 
 TEST_F(CommandRefusalTest, ContRxOnePath)
 {
     using C = SMMContRxCmdV7;
     const SBend<C> rows[] = {
-        {[](C &c) { c.band = 2; }, BAND},
-        {[](C &c) { c.band = 80; }, ROUTE_BAND},
-        {[](C &c) { c.rxRoute = 99; }, ROUTE},
-        {[](C &c) { c.rxRoute = 3; }, ROUTE_BAND},
-        {[](C &c) { c.routeKind = 3; }, ROUTE_KIND},
-        {[](C &c) { c.routeKind = 2; }, ROUTE_KIND},
-        {[](C &c) { c.rxRoute = 101; }, ROUTE_KIND},
-        {[](C &c) { c.dlFrequency = 1919999; }, FREQUENCY},
-        {[](C &c) { c.dlFrequency = 2170001; }, FREQUENCY},
-        {[](C &c) { c.path = 1; }, PATH},
-        {[](C &c) { c.path = 3; }, PATH},
-        {[](C &c) { c.singlePath = 0; }, PATH},
-        {[](C &c) { c.singlePath = 2; }, FLAG},
-        {[](C &c) { c.lowPower = 2; }, POWER_MODE},
-        {[](C &c) { c.dlBandwidth = 5001; }, BANDWIDTH},
-        {[](C &c) { c.gain.single.mainRfGain = -1; }, GAIN},
-        {[](C &c) { c.gain.single.divRfGain = 2241; }, GAIN},
+        {[](C &c) { c.band = 2; }, kBand},
+        {[](C &c) { c.band = 80; }, kRouteBand},
+        {[](C &c) { c.rxRoute = 99; }, kRoute},
+        {[](C &c) { c.rxRoute = 3; }, kRouteBand},
+        {[](C &c) { c.routeKind = 3; }, kRouteKind},
+        {[](C &c) { c.routeKind = 2; }, kRouteKind},
+        {[](C &c) { c.rxRoute = 101; }, kRouteKind},
+        {[](C &c) { c.dlFrequency = 1919999; }, kFrequency},
+        {[](C &c) { c.dlFrequency = 2170001; }, kFrequency},
+        {[](C &c) { c.path = 1; }, kPath},
+        {[](C &c) { c.path = 3; }, kPath},
+        {[](C &c) { c.singlePath = 0; }, kPath},
+        {[](C &c) { c.singlePath = 2; }, kFlag},
+        {[](C &c) { c.lowPower = 2; }, kPowerMode},
+        {[](C &c) { c.dlBandwidth = 5001; }, kBandwidth},
+        {[](C &c) { c.gain.single.mainRfGain = -1; }, kGain},
+        {[](C &c) { c.gain.single.divRfGain = 2241; }, kGain},
     };
     Check(ContRxCommand(), rows, SendContRx);
 }
@@ -107,10 +107,10 @@ TEST_F(CommandRefusalTest, ContRxBothPaths)
 {
     using C = SMMContRxCmdV7;
     const SBend<C> rows[] = {
-        {[](C &c) { c.routeKind = 1; }, ROUTE_KIND},
-        {[](C &c) { c.path = 0; }, PATH},
-        {[](C &c) { c.gain.simultaneous.path1DivGainIdx = 18; }, GAIN},
-        {[](C &c) { c.gain.simultaneous.path1DivRfGain = -32; }, GAIN},
+        {[](C &c) { c.routeKind = 1; }, kRouteKind},
+        {[](C &c) { c.path = 0; }, kPath},
+        {[](C &c) { c.gain.simultaneous.path1DivGainIdx = 18; }, kGain},
+        {[](C &c) { c.gain.simultaneous.path1DivRfGain = -32; }, kGain},
     };
     Check(ContRxBothPathsCommand(), rows, SendContRx);
 }
@@ -123,7 +123,7 @@ TEST_F(CommandRefusalTest, Type2RouteWithoutGainModeTakesRouteKindOne)
     good.rxRoute = 107;
     good.routeKind = 1;
     good.dlFrequency = 3500000;
-    const SBend<C> rows[] = {{[](C &c) { c.routeKind = 3; }, ROUTE_KIND}};
+    const SBend<C> rows[] = {{[](C &c) { c.routeKind = 3; }, kRouteKind}};
     Check(good, rows, SendContRx);
 }
 
@@ -134,7 +134,7 @@ TEST_F(CommandRefusalTest, RouteLimitsAreNarrowerThanTheBand)
     good.band = 28;
     good.rxRoute = 8;
     good.dlFrequency = 788000;
-    const SBend<C> rows[] = {{[](C &c) { c.dlFrequency = 788001; }, FREQUENCY}};
+    const SBend<C> rows[] = {{[](C &c) { c.dlFrequency = 788001; }, kFrequency}};
     Check(good, rows, SendContRx);
 }
 
@@ -142,22 +142,22 @@ TEST_F(CommandRefusalTest, Rssi)
 {
     using C = SMMRssiCmdV7;
     const SBend<C> rows[] = {
-        {[](C &c) { c.band = 4; }, BAND},
-        {[](C &c) { c.rxRoute = 104; }, ROUTE_BAND},
-        {[](C &c) { c.routeKind = 1; }, ROUTE_KIND},
+        {[](C &c) { c.band = 4; }, kBand},
+        {[](C &c) { c.rxRoute = 104; }, kRouteBand},
+        {[](C &c) { c.routeKind = 1; }, kRouteKind},
         {[](C &c) { c.numFreq = 0; }, "Target: frequency count is out of limits"},
         {[](C &c) { c.numFreq = 6; }, "Target: frequency count is out of limits"},
-        {[](C &c) { c.numFreq = 3; }, FREQUENCY},
-        {[](C &c) { c.dlFrequency[1] = 3800001; }, FREQUENCY},
-        {[](C &c) { c.path = 2; }, PATH},
-        {[](C &c) { c.gain.single.mainDigitalGain = 54 * 32 + 1; }, GAIN},
-        {[](C &c) { c.gain.single.divDigitalGain = -42 * 32 - 1; }, GAIN},
-        {[](C &c) { c.gain.single.mainRfGain = -1; }, GAIN},
+        {[](C &c) { c.numFreq = 3; }, kFrequency},
+        {[](C &c) { c.dlFrequency[1] = 3800001; }, kFrequency},
+        {[](C &c) { c.path = 2; }, kPath},
+        {[](C &c) { c.gain.single.mainDigitalGain = 54 * 32 + 1; }, kGain},
+        {[](C &c) { c.gain.single.divDigitalGain = -42 * 32 - 1; }, kGain},
+        {[](C &c) { c.gain.single.mainRfGain = -1; }, kGain},
     };
     Check(RssiCommand(), rows, SendRssi);
     const SBend<C> bothRows[] = {
-        {[](C &c) { c.gain.simultaneous.path1MainDigitalGain = 2000; }, GAIN},
-        {[](C &c) { c.gain.simultaneous.path0MainGainIdx = 18; }, GAIN},
+        {[](C &c) { c.gain.simultaneous.path1MainDigitalGain = 2000; }, kGain},
+        {[](C &c) { c.gain.simultaneous.path0MainGainIdx = 18; }, kGain},
     };
     Check(RssiBothPathsCommand(), bothRows, SendRssi);
 }
@@ -166,18 +166,18 @@ TEST_F(CommandRefusalTest, GainSearch)
 {
     using C = SMMGainSearchCmdV7;
     const SBend<C> rows[] = {
-        {[](C &c) { c.radioKind = 0; }, RADIO_KIND},
-        {[](C &c) { c.lowPower = 2; }, POWER_MODE},
-        {[](C &c) { c.simultaneous = 2; }, FLAG},
-        {[](C &c) { c.elnaModeMain = 7; }, GAIN_MODE},
-        {[](C &c) { c.search[1] = 3; }, GAIN_MODE},
-        {[](C &c) { c.elnaModeDiv = 6; }, GAIN_MODE},
-        {[](C &c) { c.lowPower = 1, c.search[0] = 2; }, GAIN_MODE},
-        {[](C &c) { c.simultaneous = 1, c.search[0] = 2, c.search[2] = 2; }, GAIN_MODE},
+        {[](C &c) { c.radioKind = 0; }, kRadioKind},
+        {[](C &c) { c.lowPower = 2; }, kPowerMode},
+        {[](C &c) { c.simultaneous = 2; }, kFlag},
+        {[](C &c) { c.elnaModeMain = 7; }, kGainMode},
+        {[](C &c) { c.search[1] = 3; }, kGainMode},
+        {[](C &c) { c.elnaModeDiv = 6; }, kGainMode},
+        {[](C &c) { c.lowPower = 1, c.search[0] = 2; }, kGainMode},
+        {[](C &c) { c.simultaneous = 1, c.search[0] = 2, c.search[2] = 2; }, kGainMode},
     };
     Check(GainSearchCommand(), rows, [](const C &command, uint32_t &) {
         SMMGainSearchCnfV7 answer = {};
-        return VOND_MMRf_GainSearchV7_r(HANDLE, TIMEOUT_MS, &command, &answer);
+        return VOND_MMRf_GainSearchV7_r(kHandle, kTimeoutMs, &command, &answer);
     });
 }
 
@@ -185,21 +185,21 @@ TEST_F(CommandRefusalTest, SingleTone)
 {
     using C = SMMSingleToneCmdV7;
     const SBend<C> rows[] = {
-        {[](C &c) { c.radioKind = 0; }, RADIO_KIND},
-        {[](C &c) { c.band = 2; }, BAND},
-        {[](C &c) { c.band = 75; }, DIRECTION},
-        {[](C &c) { c.txRoute = 77; }, ROUTE},
-        {[](C &c) { c.txRoute = 1; }, ROUTE_BAND},
-        {[](C &c) { c.ulFrequency = 2495999; }, FREQUENCY},
-        {[](C &c) { c.txRoute = 11, c.ulFrequency = 2500000; }, FREQUENCY},
-        {[](C &c) { c.txPowerValue = 30 * 256 + 1; }, TX_POWER},
-        {[](C &c) { c.txPowerValue = -60 * 256 - 1; }, TX_POWER},
+        {[](C &c) { c.radioKind = 0; }, kRadioKind},
+        {[](C &c) { c.band = 2; }, kBand},
+        {[](C &c) { c.band = 75; }, kDirection},
+        {[](C &c) { c.txRoute = 77; }, kRoute},
+        {[](C &c) { c.txRoute = 1; }, kRouteBand},
+        {[](C &c) { c.ulFrequency = 2495999; }, kFrequency},
+        {[](C &c) { c.txRoute = 11, c.ulFrequency = 2500000; }, kFrequency},
+        {[](C &c) { c.txPowerValue = 30 * 256 + 1; }, kTxPower},
+        {[](C &c) { c.txPowerValue = -60 * 256 - 1; }, kTxPower},
         {[](C &c) { c.aggBwKhzRange = 50000; }, "Target: route has no such bandwidth region"},
         {[](C &c) { c.ulFreqOffset = 541; }, "Target: tone setting is out of limits"},
         {[](C &c) { c.afcDataType = 2; }, "Target: tone setting is out of limits"},
     };
     Check(SingleToneCommand(), rows, [](const C &command, uint32_t &) {
-        return VOND_MMRf_SingleToneTxV7_r(HANDLE, TIMEOUT_MS, &command);
+        return VOND_MMRf_SingleToneTxV7_r(kHandle, kTimeoutMs, &command);
     });
 }
 
@@ -207,23 +207,23 @@ TEST_F(CommandRefusalTest, PuschForced)
 {
     using C = SNrPuschTxCmdV7;
     const SBend<C> rows[] = {
-        {[](C &c) { c.forced = 2; }, FLAG},
-        {[](C &c) { c.forcedMode.carrier.band = 2; }, BAND},
-        {[](C &c) { c.forcedMode.carrier.band = 75; }, DIRECTION},
-        {[](C &c) { c.forcedMode.carrier.txRoute = 5; }, ROUTE_BAND},
-        {[](C &c) { c.forcedMode.carrier.txRoute = 50; }, ROUTE},
+        {[](C &c) { c.forced = 2; }, kFlag},
+        {[](C &c) { c.forcedMode.carrier.band = 2; }, kBand},
+        {[](C &c) { c.forcedMode.carrier.band = 75; }, kDirection},
+        {[](C &c) { c.forcedMode.carrier.txRoute = 5; }, kRouteBand},
+        {[](C &c) { c.forcedMode.carrier.txRoute = 50; }, kRoute},
         {[](C &c) { c.forcedMode.carrier.ulFrequency = 1785005; }, "", 1},
         {[](C &c) { c.forcedMode.carrier.ulFrequency = 1747501; }, "", 1},
         {[](C &c) { c.forcedMode.carrier.txScs = 3; }, "Target: unknown subcarrier spacing"},
-        {[](C &c) { c.forcedMode.carrier.ulBandwidth = 60000; }, BANDWIDTH},
-        {[](C &c) { c.forcedMode.carrier.vrbStart = 1; }, BLOCKS},
-        {[](C &c) { c.forcedMode.carrier.vrbLength = 0; }, BLOCKS},
+        {[](C &c) { c.forcedMode.carrier.ulBandwidth = 60000; }, kBandwidth},
+        {[](C &c) { c.forcedMode.carrier.vrbStart = 1; }, kBlocks},
+        {[](C &c) { c.forcedMode.carrier.vrbLength = 0; }, kBlocks},
         {[](C &c) { c.forcedMode.carrier.mcsMode = 9; }, "Target: unknown modulation"},
-        {[](C &c) { c.forcedMode.carrier.txPowerValue = 8000; }, TX_POWER},
+        {[](C &c) { c.forcedMode.carrier.txPowerValue = 8000; }, kTxPower},
         {[](C &c) { c.forcedMode.carrier.cellId = 1008; }, "Target: cell id is out of limits"},
-        {[](C &c) { c.forcedMode.carrier.tddSlotConfig = 56; }, SLOT},
-        {[](C &c) { c.forcedMode.carrier.enableCsr = 2; }, FLAG},
-        {[](C &c) { c.forcedMode.carrier.enableMimo = 1; }, MIMO},
+        {[](C &c) { c.forcedMode.carrier.tddSlotConfig = 56; }, kSlot},
+        {[](C &c) { c.forcedMode.carrier.enableCsr = 2; }, kFlag},
+        {[](C &c) { c.forcedMode.carrier.enableMimo = 1; }, kMimo},
     };
     Check(PuschForcedCommand(), rows, SendPusch);
 }
@@ -232,10 +232,10 @@ TEST_F(CommandRefusalTest, PuschNormal)
 {
     using C = SNrPuschTxCmdV7;
     const SBend<C> rows[] = {
-        {[](C &c) { c.normalMode.ulCCNum = 0; }, CARRIERS},
-        {[](C &c) { c.normalMode.ulCCNum = 3; }, CARRIERS},
+        {[](C &c) { c.normalMode.ulCCNum = 0; }, kCarriers},
+        {[](C &c) { c.normalMode.ulCCNum = 3; }, kCarriers},
         {[](C &c) { c.normalMode.carrier[0].ulFrequency += 5; }, "", 1},
-        {[](C &c) { c.normalMode.carrier[1].band = 81; }, BAND},
+        {[](C &c) { c.normalMode.carrier[1].band = 81; }, kBand},
         {[](C &c) { c.normalMode.carrier[1].ulFrequency = 1000; }, "", 1},
     };
     Check(PuschNormalCommand(), rows, SendPusch);
@@ -255,23 +255,23 @@ TEST_F(CommandRefusalTest, RsrpForced)
 {
     using C = SNrRsrpCmdV7;
     const SBend<C> rows[] = {
-        {[](C &c) { c.forced = 3; }, FLAG},
-        {[](C &c) { c.forcedMode.carrier.common.band = 2; }, BAND},
-        {[](C &c) { c.forcedMode.carrier.common.band = 80; }, DIRECTION},
+        {[](C &c) { c.forced = 3; }, kFlag},
+        {[](C &c) { c.forcedMode.carrier.common.band = 2; }, kBand},
+        {[](C &c) { c.forcedMode.carrier.common.band = 80; }, kDirection},
         {[](C &c) { c.forcedMode.carrier.common.dlFrequency = 2170005; }, "", 1},
         {[](C &c) { c.forcedMode.carrier.common.dlFrequency = 2140001; }, "", 1},
-        {[](C &c) { c.forcedMode.carrier.rxRoute = 99; }, ROUTE},
-        {[](C &c) { c.forcedMode.carrier.rxRoute = 5; }, ROUTE_BAND},
-        {[](C &c) { c.forcedMode.carrier.rxRoute = 101; }, ROUTE_KIND},
-        {[](C &c) { c.forcedMode.carrier.common.dlBandwidth = 0; }, BANDWIDTH},
+        {[](C &c) { c.forcedMode.carrier.rxRoute = 99; }, kRoute},
+        {[](C &c) { c.forcedMode.carrier.rxRoute = 5; }, kRouteBand},
+        {[](C &c) { c.forcedMode.carrier.rxRoute = 101; }, kRouteKind},
+        {[](C &c) { c.forcedMode.carrier.common.dlBandwidth = 0; }, kBandwidth},
         {[](C &c) { c.forcedMode.carrier.common.measCnt = 0; },
          "Target: measure count is out of limits"},
         {[](C &c) { c.forcedMode.carrier.common.measCnt = 11; },
          "Target: measure count is out of limits"},
-        {[](C &c) { c.forcedMode.carrier.common.tddSlotConfig = 56; }, SLOT},
-        {[](C &c) { c.forcedMode.carrier.common.trxMode = 2; }, FLAG},
-        {[](C &c) { c.forcedMode.carrier.lpmHpmConf = 0; }, POWER_MODE},
-        {[](C &c) { c.forcedMode.carrier.lpmHpmConf = 4; }, POWER_MODE},
+        {[](C &c) { c.forcedMode.carrier.common.tddSlotConfig = 56; }, kSlot},
+        {[](C &c) { c.forcedMode.carrier.common.trxMode = 2; }, kFlag},
+        {[](C &c) { c.forcedMode.carrier.lpmHpmConf = 0; }, kPowerMode},
+        {[](C &c) { c.forcedMode.carrier.lpmHpmConf = 4; }, kPowerMode},
     };
     Check(RsrpForcedCommand(), rows, SendRsrp);
 }
@@ -285,16 +285,16 @@ TEST_F(CommandRefusalTest, RsrpWithPseudoTx)
     good.forcedMode.carrier.common.txPowerValue = 256;
     good.forcedMode.carrier.txRoute = 1;
     const SBend<C> rows[] = {
-        {[](C &c) { c.forcedMode.carrier.txRoute = 99; }, ROUTE},
-        {[](C &c) { c.forcedMode.carrier.txRoute = 3; }, ROUTE_BAND},
-        {[](C &c) { c.forcedMode.carrier.common.vrbLength = 53; }, BLOCKS},
-        {[](C &c) { c.forcedMode.carrier.common.txPowerValue = 8000; }, TX_POWER},
+        {[](C &c) { c.forcedMode.carrier.txRoute = 99; }, kRoute},
+        {[](C &c) { c.forcedMode.carrier.txRoute = 3; }, kRouteBand},
+        {[](C &c) { c.forcedMode.carrier.common.vrbLength = 53; }, kBlocks},
+        {[](C &c) { c.forcedMode.carrier.common.txPowerValue = 8000; }, kTxPower},
         {[](C &c) {
              c.forcedMode.carrier.common.band = 75;
              c.forcedMode.carrier.common.dlFrequency = 1450000;
              c.forcedMode.carrier.rxRoute = 17;
          },
-         DIRECTION},
+         kDirection},
     };
     Check(good, rows, SendRsrp);
 }
@@ -320,15 +320,15 @@ TEST_F(CommandRefusalTest, RsrpNormal)
 {
     using C = SNrRsrpCmdV7;
     const SBend<C> rows[] = {
-        {[](C &c) { c.normalMode.carrierCount = 0; }, CARRIERS},
-        {[](C &c) { c.normalMode.carrierCount = 2; }, CARRIERS},
+        {[](C &c) { c.normalMode.carrierCount = 0; }, kCarriers},
+        {[](C &c) { c.normalMode.carrierCount = 2; }, kCarriers},
         {[](C &c) { c.normalMode.carrier[0].common.dlFrequency = 3550000; }, "", 1},
-        {[](C &c) { c.normalMode.carrier[0].mimo4x4 = 2; }, FLAG},
+        {[](C &c) { c.normalMode.carrier[0].mimo4x4 = 2; }, kFlag},
         {[](C &c) {
              c.normalMode.carrier[0].common.band = 5;
              c.normalMode.carrier[0].common.dlFrequency = 880000;
          },
-         MIMO},
+         kMimo},
     };
     Check(RsrpNormalCommand(), rows, SendRsrp);
 }
@@ -348,11 +348,11 @@ TEST_F(CommandRefusalTest, NullCommandsAndStatusWords)
     const SNrRsrpCmdV7 command = RsrpForcedCommand();
     uint32_t status = 0;
     const std::string text = "Argument: null pointer";
-    EXPECT_EQ(ErrorText(VOND_NRf_RsrpV7_r(HANDLE, TIMEOUT_MS, nullptr, &status)), text);
-    EXPECT_EQ(ErrorText(VOND_NRf_RsrpV7_r(HANDLE, TIMEOUT_MS, &command, nullptr)), text);
-    EXPECT_EQ(ErrorText(VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, nullptr)), text);
-    EXPECT_EQ(ErrorText(VOND_MMRf_GetPdValueV7_r(HANDLE, TIMEOUT_MS, 1, nullptr)), text);
-    EXPECT_EQ(ErrorText(VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, nullptr, nullptr)), text);
+    EXPECT_EQ(ErrorText(VOND_NRf_RsrpV7_r(kHandle, kTimeoutMs, nullptr, &status)), text);
+    EXPECT_EQ(ErrorText(VOND_NRf_RsrpV7_r(kHandle, kTimeoutMs, &command, nullptr)), text);
+    EXPECT_EQ(ErrorText(VOND_MMRf_ContRxV7_r(kHandle, kTimeoutMs, nullptr)), text);
+    EXPECT_EQ(ErrorText(VOND_MMRf_GetPdValueV7_r(kHandle, kTimeoutMs, 1, nullptr)), text);
+    EXPECT_EQ(ErrorText(VOND_NRf_GetDlFreqV7_r(kHandle, kTimeoutMs, nullptr, nullptr)), text);
     EXPECT_STREQ(VondSim_RunningTest(), "");
 }
 

@@ -59,14 +59,14 @@ TEST_F(DlFrequencyTest, OfAnUnknownBandOrRouteIsRefused)
     SNrDlFreqCmdV7 command = DlFreqCommand();
     SNrDlFreqCnfV7 answer = {};
     command.band = 0;
-    EXPECT_EQ(ErrorText(VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, &command, &answer)),
+    EXPECT_EQ(ErrorText(VOND_NRf_GetDlFreqV7_r(kHandle, kTimeoutMs, &command, &answer)),
               "Target: unknown band");
     command.band = 75;
-    EXPECT_EQ(ErrorText(VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, &command, &answer)),
+    EXPECT_EQ(ErrorText(VOND_NRf_GetDlFreqV7_r(kHandle, kTimeoutMs, &command, &answer)),
               "Target: band does not support the direction");
     command = DlFreqCommand();
     command.txRoute = 3;
-    EXPECT_EQ(ErrorText(VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, &command, &answer)),
+    EXPECT_EQ(ErrorText(VOND_NRf_GetDlFreqV7_r(kHandle, kTimeoutMs, &command, &answer)),
               "Target: route does not serve the band");
     // Without force the route word means nothing.
     command.forced = 0;

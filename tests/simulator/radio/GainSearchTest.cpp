@@ -16,7 +16,7 @@ protected:
     {
         CMeasuringTest::SetUp();
         const uint32_t nr = 1;
-        ASSERT_EQ(VOND_MMRf_GetRouteConfigV7_r(HANDLE, TIMEOUT_MS, &nr, &m_config), VOND_SUCCESS);
+        ASSERT_EQ(VOND_MMRf_GetRouteConfigV7_r(kHandle, kTimeoutMs, &nr, &m_config), VOND_SUCCESS);
     }
 
     // What the DUT itself says of its tables.
@@ -73,7 +73,7 @@ TEST_F(GainSearchTest, AdvisesTheGainsOfTheTablesAndRefusesTheOthers)
                 const SMMGainSearchCmdV7 command = Command(lowPower, elna, mode);
                 SMMGainSearchCnfV7 answer = {};
                 const VOND_RESULT result =
-                    VOND_MMRf_GainSearchV7_r(HANDLE, TIMEOUT_MS, &command, &answer);
+                    VOND_MMRf_GainSearchV7_r(kHandle, kTimeoutMs, &command, &answer);
                 const bool has = Has(lowPower, elna, mode);
                 EXPECT_EQ(ErrorText(result), has ? "Success" : "Target: gain mode is not supported")
                     << lowPower << " G" << elna << " g" << mode;
@@ -120,14 +120,14 @@ TEST_F(GainSearchTest, AdvisedGainsAndPowerMeasureRight)
             search.elnaModeDiv = search.elnaModeMain;
             search.search[1] = search.search[0];
             const SMMGainSearchCnfV7 gains = Search(search);
-            Plug(QuietRadio(gains.adviseDlPower * PER_32));
+            Plug(QuietRadio(gains.adviseDlPower * kPer32));
             SMMRssiCmdV7 command = RssiCommand();
             command.path = 0;
             command.dlFrequency[0] = 3550000;
             command.gain = gains.gain;
             const auto rows = Rssi(command).rows.single;
             // The residual error of the gain is all that is off.
-            EXPECT_NEAR(rows.row[0].rssiMain * PER_32, gains.adviseDlPower * PER_32, 1.0);
+            EXPECT_NEAR(rows.row[0].rssiMain * kPer32, gains.adviseDlPower * kPer32, 1.0);
             EXPECT_EQ(rows.mainG, elna);
             EXPECT_EQ(rows.maing, mode);
             EXPECT_EQ(rows.divG, elna);

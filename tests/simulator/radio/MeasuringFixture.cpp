@@ -8,28 +8,28 @@ void CMeasuringTest::Plug(const std::string &profile)
 SMMRssiCnfV7 CMeasuringTest::Rssi(const SMMRssiCmdV7 &command)
 {
     SMMRssiCnfV7 answer = {};
-    EXPECT_EQ(VOND_MMRf_RssiV7_r(HANDLE, TIMEOUT_MS, &command, &answer), VOND_SUCCESS);
+    EXPECT_EQ(VOND_MMRf_RssiV7_r(kHandle, kTimeoutMs, &command, &answer), VOND_SUCCESS);
     return answer;
 }
 
 SMMGainSearchCnfV7 CMeasuringTest::Search(const SMMGainSearchCmdV7 &command)
 {
     SMMGainSearchCnfV7 answer = {};
-    EXPECT_EQ(VOND_MMRf_GainSearchV7_r(HANDLE, TIMEOUT_MS, &command, &answer), VOND_SUCCESS);
+    EXPECT_EQ(VOND_MMRf_GainSearchV7_r(kHandle, kTimeoutMs, &command, &answer), VOND_SUCCESS);
     return answer;
 }
 
 SNrDlFreqCnfV7 CMeasuringTest::DlFreq(const SNrDlFreqCmdV7 &command)
 {
     SNrDlFreqCnfV7 answer = {};
-    EXPECT_EQ(VOND_NRf_GetDlFreqV7_r(HANDLE, TIMEOUT_MS, &command, &answer), VOND_SUCCESS);
+    EXPECT_EQ(VOND_NRf_GetDlFreqV7_r(kHandle, kTimeoutMs, &command, &answer), VOND_SUCCESS);
     return answer;
 }
 
 uint32_t CMeasuringTest::TryRsrp(const SNrRsrpCmdV7 &command)
 {
     uint32_t status = 0;
-    EXPECT_EQ(VOND_NRf_RsrpV7_r(HANDLE, TIMEOUT_MS, &command, &status), VOND_SUCCESS);
+    EXPECT_EQ(VOND_NRf_RsrpV7_r(kHandle, kTimeoutMs, &command, &status), VOND_SUCCESS);
     return status;
 }
 
@@ -40,14 +40,14 @@ void CMeasuringTest::StartRsrp(const SNrRsrpCmdV7 &command)
 
 void CMeasuringTest::StopRsrp()
 {
-    EXPECT_EQ(VOND_NRf_TestStop_r(HANDLE, TIMEOUT_MS), VOND_SUCCESS);
-    EXPECT_EQ(VOND_NRf_ResetMixRxReportV7_r(HANDLE, TIMEOUT_MS), VOND_SUCCESS);
+    EXPECT_EQ(VOND_NRf_TestStop_r(kHandle, kTimeoutMs), VOND_SUCCESS);
+    EXPECT_EQ(VOND_NRf_ResetMixRxReportV7_r(kHandle, kTimeoutMs), VOND_SUCCESS);
 }
 
 NRfTestResult_GetMixRxReportV7 CMeasuringTest::Report()
 {
     NRfTestResult_GetMixRxReportV7 report = {};
-    EXPECT_EQ(VOND_NRf_GetMixRxReportV7_r(HANDLE, TIMEOUT_MS, &report), VOND_SUCCESS);
+    EXPECT_EQ(VOND_NRf_GetMixRxReportV7_r(kHandle, kTimeoutMs, &report), VOND_SUCCESS);
     return report;
 }
 

@@ -8,9 +8,9 @@
 #include "tests/simulator/SimulatorFixture.h"
 
 // Units of the wire records.
-constexpr double PER_128 = 1.0 / 128;
-constexpr double PER_32 = 1.0 / 32;
-constexpr double PER_256 = 1.0 / 256;
+constexpr double kPer128 = 1.0 / 128;
+constexpr double kPer32 = 1.0 / 32;
+constexpr double kPer256 = 1.0 / 256;
 
 class CMeasuringTest : public CSimulatorTest
 {

@@ -10,8 +10,8 @@ protected:
     double Read()
     {
         int16_t value = 0;
-        EXPECT_EQ(VOND_MMRf_GetPdValueV7_r(HANDLE, TIMEOUT_MS, 1, &value), VOND_SUCCESS);
-        return value * PER_256;
+        EXPECT_EQ(VOND_MMRf_GetPdValueV7_r(kHandle, kTimeoutMs, 1, &value), VOND_SUCCESS);
+        return value * kPer256;
     }
 
     // Reading in dBm while a tone of that power in dBm is on.
@@ -19,9 +19,9 @@ protected:
     {
         SMMSingleToneCmdV7 command = SingleToneCommand();
         command.txPowerValue = static_cast<int16_t>(power * 256);
-        EXPECT_EQ(VOND_MMRf_SingleToneTxV7_r(HANDLE, TIMEOUT_MS, &command), VOND_SUCCESS);
+        EXPECT_EQ(VOND_MMRf_SingleToneTxV7_r(kHandle, kTimeoutMs, &command), VOND_SUCCESS);
         const double reading = Read();
-        EXPECT_EQ(VOND_MMRf_TestStopV7_r(HANDLE, TIMEOUT_MS, 1), VOND_SUCCESS);
+        EXPECT_EQ(VOND_MMRf_TestStopV7_r(kHandle, kTimeoutMs, 1), VOND_SUCCESS);
         return reading;
     }
 };
@@ -45,7 +45,7 @@ TEST_F(PowerDetectorTest, HandsetReadsWithinADecibelOfTheTxPowerInItsUsualRange)
 TEST_F(PowerDetectorTest, ReadingsOfOneToneStrayByTheFluctuationAtMost)
 {
     const SMMSingleToneCmdV7 command = SingleToneCommand();
-    ASSERT_EQ(VOND_MMRf_SingleToneTxV7_r(HANDLE, TIMEOUT_MS, &command), VOND_SUCCESS);
+    ASSERT_EQ(VOND_MMRf_SingleToneTxV7_r(kHandle, kTimeoutMs, &command), VOND_SUCCESS);
     bool strays = false;
     const double first = Read();
     for (int i = 0; i < 100; ++i) {
@@ -61,9 +61,9 @@ TEST_F(PowerDetectorTest, ReadsTheTransmissionsOfPuschAndPseudoTx)
     Plug(QuietRadio(-65, R"("powerDetector": {"slope": 1, "offsetDb": 0})"));
     uint32_t status = 0;
     const SNrPuschTxCmdV7 pusch = PuschForcedCommand();
-    ASSERT_EQ(VOND_NRf_PuschTxV7_r(HANDLE, TIMEOUT_MS, &pusch, &status), VOND_SUCCESS);
+    ASSERT_EQ(VOND_NRf_PuschTxV7_r(kHandle, kTimeoutMs, &pusch, &status), VOND_SUCCESS);
     EXPECT_NEAR(Read(), 5.5, 0.003);
-    VOND_NRf_TestStop_r(HANDLE, TIMEOUT_MS);
+    VOND_NRf_TestStop_r(kHandle, kTimeoutMs);
     SNrRsrpCmdV7 rsrp = RsrpForcedCommand();
     rsrp.forcedMode.carrier.common.trxMode = 1;
     rsrp.forcedMode.carrier.common.txPowerValue = 23 * 256;
@@ -76,13 +76,13 @@ TEST_F(PowerDetectorTest, ReadsTheTransmissionsOfPuschAndPseudoTx)
 TEST_F(PowerDetectorTest, NeedsATransmitter)
 {
     int16_t value = 77;
-    EXPECT_EQ(ErrorText(VOND_MMRf_GetPdValueV7_r(HANDLE, TIMEOUT_MS, 1, &value)),
+    EXPECT_EQ(ErrorText(VOND_MMRf_GetPdValueV7_r(kHandle, kTimeoutMs, 1, &value)),
               "Target: nothing is being transmitted");
     const SMMContRxCmdV7 command = ContRxCommand();
-    ASSERT_EQ(VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, &command), VOND_SUCCESS);
-    EXPECT_NE(VOND_MMRf_GetPdValueV7_r(HANDLE, TIMEOUT_MS, 1, &value), VOND_SUCCESS);
+    ASSERT_EQ(VOND_MMRf_ContRxV7_r(kHandle, kTimeoutMs, &command), VOND_SUCCESS);
+    EXPECT_NE(VOND_MMRf_GetPdValueV7_r(kHandle, kTimeoutMs, 1, &value), VOND_SUCCESS);
     EXPECT_EQ(value, 77);
-    EXPECT_EQ(ErrorText(VOND_MMRf_GetPdValueV7_r(HANDLE, TIMEOUT_MS, 2, &value)),
+    EXPECT_EQ(ErrorText(VOND_MMRf_GetPdValueV7_r(kHandle, kTimeoutMs, 2, &value)),
               "Target: unknown power detector");
 }
 

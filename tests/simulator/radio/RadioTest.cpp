@@ -16,48 +16,48 @@ struct STest
 
 VOND_RESULT StopNr()
 {
-    return VOND_NRf_TestStop_r(HANDLE, TIMEOUT_MS);
+    return VOND_NRf_TestStop_r(kHandle, kTimeoutMs);
 }
 
 VOND_RESULT StopMultiMode()
 {
-    return VOND_MMRf_TestStopV7_r(HANDLE, TIMEOUT_MS, 1);
+    return VOND_MMRf_TestStopV7_r(kHandle, kTimeoutMs, 1);
 }
 
 VOND_RESULT StartContRx()
 {
     const SMMContRxCmdV7 command = ContRxCommand();
-    return VOND_MMRf_ContRxV7_r(HANDLE, TIMEOUT_MS, &command);
+    return VOND_MMRf_ContRxV7_r(kHandle, kTimeoutMs, &command);
 }
 
 VOND_RESULT StartSingleTone()
 {
     const SMMSingleToneCmdV7 command = SingleToneCommand();
-    return VOND_MMRf_SingleToneTxV7_r(HANDLE, TIMEOUT_MS, &command);
+    return VOND_MMRf_SingleToneTxV7_r(kHandle, kTimeoutMs, &command);
 }
 
 VOND_RESULT StartPusch()
 {
     const SNrPuschTxCmdV7 command = PuschForcedCommand();
     uint32_t status = 0;
-    return VOND_NRf_PuschTxV7_r(HANDLE, TIMEOUT_MS, &command, &status);
+    return VOND_NRf_PuschTxV7_r(kHandle, kTimeoutMs, &command, &status);
 }
 
 VOND_RESULT StartRsrp()
 {
     const SNrRsrpCmdV7 command = RsrpForcedCommand();
     uint32_t status = 0;
-    return VOND_NRf_RsrpV7_r(HANDLE, TIMEOUT_MS, &command, &status);
+    return VOND_NRf_RsrpV7_r(kHandle, kTimeoutMs, &command, &status);
 }
 
 VOND_RESULT MeasureRssi()
 {
     const SMMRssiCmdV7 command = RssiCommand();
     SMMRssiCnfV7 answer = {};
-    return VOND_MMRf_RssiV7_r(HANDLE, TIMEOUT_MS, &command, &answer);
+    return VOND_MMRf_RssiV7_r(kHandle, kTimeoutMs, &command, &answer);
 }
 
-const STest TESTS[] = {
+const STest kTests[] = {
     {"ContRx", StartContRx, StopMultiMode, StopNr},
     {"SingleToneTx", StartSingleTone, StopMultiMode, StopNr},
     {"PuschTx", StartPusch, StopNr, StopMultiMode},
@@ -81,7 +81,7 @@ TEST_P(RadioTest, RunsFromStartToStop)
 TEST_P(RadioTest, KeepsEveryOtherStartOut)
 {
     ASSERT_EQ(GetParam().start(), VOND_SUCCESS);
-    for (const STest &other : TESTS)
+    for (const STest &other : kTests)
         EXPECT_EQ(ErrorText(other.start()), "Target: a test is running already") << other.name;
     EXPECT_EQ(ErrorText(MeasureRssi()), "Target: a test is running already");
     EXPECT_STREQ(VondSim_RunningTest(), GetParam().name);
@@ -100,7 +100,7 @@ TEST_P(RadioTest, StopOfAnIdleRadioSucceeds)
     EXPECT_STREQ(VondSim_RunningTest(), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, RadioTest, ::testing::ValuesIn(TESTS),
+INSTANTIATE_TEST_SUITE_P(Each, RadioTest, ::testing::ValuesIn(kTests),
                          [](const auto &info) { return std::string(info.param.name); });
 
 class RadioStopTest : public CSimulatorTest
@@ -110,7 +110,7 @@ class RadioStopTest : public CSimulatorTest
 TEST_F(RadioStopTest, UnknownStopKindIsRefusedAndStopsNothing)
 {
     ASSERT_EQ(StartContRx(), VOND_SUCCESS);
-    EXPECT_EQ(ErrorText(VOND_MMRf_TestStopV7_r(HANDLE, TIMEOUT_MS, 2)),
+    EXPECT_EQ(ErrorText(VOND_MMRf_TestStopV7_r(kHandle, kTimeoutMs, 2)),
               "Target: unknown stop kind");
     EXPECT_STREQ(VondSim_RunningTest(), "ContRx");
 }
@@ -124,7 +124,7 @@ TEST_F(RadioStopTest, RssiLeavesTheRadioIdle)
 TEST_F(RadioStopTest, ZeroTimeoutFailsAsTimedOutAndStartsNothing)
 {
     const SMMContRxCmdV7 command = ContRxCommand();
-    EXPECT_EQ(ErrorText(VOND_MMRf_ContRxV7_r(HANDLE, 0, &command)),
+    EXPECT_EQ(ErrorText(VOND_MMRf_ContRxV7_r(kHandle, 0, &command)),
               "Connection: the target did not answer in time");
     EXPECT_STREQ(VondSim_RunningTest(), "");
 }
