@@ -11,10 +11,11 @@
 #include <numeric>
 #include <stdexcept>
 
+#include <unistd.h>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <unistd.h>
 
 // Wide text without the library's own converters, which the package lacks; ours takes their place.
 #define SI_NO_CONVERSION

@@ -6,8 +6,9 @@
 #include <map>
 #include <string>
 
-#include <QLoggingCategory>
 #include <benchmark/benchmark.h>
+
+#include <QLoggingCategory>
 
 namespace {
 

@@ -10,16 +10,18 @@
 #include <string>
 #include <vector>
 
+#include <benchmark/benchmark.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <benchmark/benchmark.h>
 
 #define SI_NO_CONVERSION
 #define SI_IMPLEMENTATION
-#include <SimpleIni.h>
 #include <unistd.h>
+
+#include <SimpleIni.h>
 
 #include "Operations/calibration/MultiRatAptProfileV7.h"
 #include "Operations/calibration/MultiRatPathLossV7.h"

@@ -1,7 +1,8 @@
 // The capability update: each page's driver on the fullest DUT, beside the patched document's own
 // text there and back; the entries of a step as they grow.
-#include <QFile>
 #include <benchmark/benchmark.h>
+
+#include <QFile>
 
 #include "Controller/capability/DocumentWriter.h"
 #include "Controller/capability/HwLabels.h"

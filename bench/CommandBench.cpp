@@ -1,6 +1,7 @@
 // One command built from a packaged document, beside filling the record from numbers at hand.
-#include <QJsonObject>
 #include <benchmark/benchmark.h>
+
+#include <QJsonObject>
 
 #include "Controller/commands/NrCoreCmdBuilder.h"
 

@@ -1,12 +1,13 @@
 // One report fetch of the RSRP Normal Mode page, 4x4, from the timer's tick to ten new rows on the
 // painted table, with 100, 1,000 and 10,000 rows shown already; the share of the GUI thread in it;
 // beside them the document's text there and back.
+#include <benchmark/benchmark.h>
+
 #include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QSpinBox>
 #include <QThreadPool>
-#include <benchmark/benchmark.h>
 
 #include "Controller/responses/NrDataModelResponseBuilder.h"
 #include "Model/ModelResources.h"

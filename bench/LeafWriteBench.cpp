@@ -3,8 +3,9 @@
 #include <string>
 #include <vector>
 
-#include <QJsonObject>
 #include <benchmark/benchmark.h>
+
+#include <QJsonObject>
 
 #include "Model/JsonPath.h"
 

@@ -1,6 +1,7 @@
 // Documents: a write at depth 6, and the text of a page's document there and back.
-#include <QFile>
 #include <benchmark/benchmark.h>
+
+#include <QFile>
 
 #include "Model/JsonPath.h"
 #include "Model/ModelResources.h"

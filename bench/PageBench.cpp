@@ -1,8 +1,9 @@
 // The Continuous RX page, and a 64 x 8 column table: Init, Update, Package beside their floors.
+#include <benchmark/benchmark.h>
+
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
-#include <benchmark/benchmark.h>
 
 #include "Model/ModelText.h"
 #include "View/Rx/NrContRxDockWidgetV7.h"

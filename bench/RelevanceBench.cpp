@@ -1,8 +1,9 @@
 // A band change through a chain of a dozen targets: on a document of 1 MB, and on a small one.
+#include <benchmark/benchmark.h>
+
 #include <QComboBox>
 #include <QLoggingCategory>
 #include <QSpinBox>
-#include <benchmark/benchmark.h>
 
 #include "Model/ModelText.h"
 #include "bench/BenchPage.h"

@@ -1,8 +1,9 @@
 // Append of 10 rows of 12 columns to a result table that already has 0, 1,000 or 10,000 rows, the
 // repaint included, beside the same with plain items.
+#include <benchmark/benchmark.h>
+
 #include <QHeaderView>
 #include <QScrollBar>
-#include <benchmark/benchmark.h>
 
 #include "Model/JsonPath.h"
 #include "bench/BenchPage.h"

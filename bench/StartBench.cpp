@@ -1,12 +1,13 @@
 // From ShowPlugin to "Init done." with all pages, beside the nine bare forms shown one after
 // another and each patched document's text there and back; one start of a test, from the click to
 // the status line, beside an empty job through the pool.
+#include <benchmark/benchmark.h>
+
 #include <QApplication>
 #include <QMainWindow>
 #include <QStatusBar>
 #include <QThreadPool>
 #include <QtConcurrent>
-#include <benchmark/benchmark.h>
 
 #include "Controller/capability/NrDataModelCapUpdater.h"
 #include "Controller/core/PageTable.h"

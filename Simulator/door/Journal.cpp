@@ -1,11 +1,11 @@
 #include "Simulator/door/Journal.h"
 
-#include "Simulator/door/Results.h"
-
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <utility>
+
+#include "Simulator/door/Results.h"
 
 namespace {
 

@@ -8,15 +8,15 @@
 // The file keeps everything.
 #pragma once
 
-#include "Simulator/VondSim.h"
-#include "Simulator/door/Functions.h"
-
 #include <cstdint>
 #include <deque>
 #include <fstream>
 #include <mutex>
 #include <string>
 #include <vector>
+
+#include "Simulator/VondSim.h"
+#include "Simulator/door/Functions.h"
 
 struct SJournalEntry
 {

@@ -1,7 +1,5 @@
 #include "Simulator/door/Simulator.h"
 
-#include "Simulator/profile/ProfileJson.h"
-
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -9,6 +7,8 @@
 #include <cstring>
 #include <thread>
 #include <utility>
+
+#include "Simulator/profile/ProfileJson.h"
 
 using Clock = std::chrono::steady_clock;
 

@@ -10,6 +10,10 @@
 //                                     *command); });
 #pragma once
 
+#include <functional>
+#include <mutex>
+#include <string>
+
 #include "Simulator/door/Journal.h"
 #include "Simulator/door/Results.h"
 #include "Simulator/faults/Faults.h"
@@ -17,10 +21,6 @@
 #include "Simulator/flash/Flash.h"
 #include "Simulator/profile/Profile.h"
 #include "Simulator/radio/Radio.h"
-
-#include <functional>
-#include <mutex>
-#include <string>
 
 struct SDut
 {

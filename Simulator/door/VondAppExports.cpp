@@ -1,7 +1,8 @@
 // The C interface of VondApp. The state is libVondCore.so's, so that both libraries show one DUT.
 
-#include "Simulator/door/ConnectionState.h"
 #include "Vond/VondApp.h"
+
+#include "Simulator/door/ConnectionState.h"
 
 #pragma GCC visibility push(default)
 extern "C" {

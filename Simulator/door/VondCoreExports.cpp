@@ -1,14 +1,15 @@
 // The C interface of VondCore, one short function each: what the call carries, and who answers it.
 
-#include "Simulator/door/Simulator.h"
-#include "Simulator/flash/CalTransfers.h"
-#include "Simulator/radio/CapabilityAnswers.h"
 #include "Vond/VondCore.h"
 
 #include <algorithm>
 #include <cstring>
 #include <set>
 #include <string>
+
+#include "Simulator/door/Simulator.h"
+#include "Simulator/flash/CalTransfers.h"
+#include "Simulator/radio/CapabilityAnswers.h"
 
 namespace {
 

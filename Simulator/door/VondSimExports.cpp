@@ -2,12 +2,12 @@
 
 #include "Simulator/VondSim.h"
 
-#include "Simulator/door/Simulator.h"
-#include "Simulator/profile/BuiltinProfiles.h"
-
 #include <cstdio>
 #include <exception>
 #include <string>
+
+#include "Simulator/door/Simulator.h"
+#include "Simulator/profile/BuiltinProfiles.h"
 
 namespace {
 

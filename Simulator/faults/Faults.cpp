@@ -1,10 +1,10 @@
 #include "Simulator/faults/Faults.h"
 
+#include <algorithm>
+
 #include "Simulator/door/Results.h"
 #include "Simulator/profile/JsonReader.h"
 #include "Vond/VondCapabilityRecords.h"
-
-#include <algorithm>
 
 namespace {
 

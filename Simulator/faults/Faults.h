@@ -8,8 +8,6 @@
 //   const SFaultPlan plan = faults.Plan(FunctionOf(EFunction::ContRx));
 #pragma once
 
-#include "Simulator/door/Functions.h"
-
 #include <cstdint>
 #include <optional>
 #include <random>
@@ -17,6 +15,8 @@
 #include <vector>
 
 #include <nlohmann/json.hpp>
+
+#include "Simulator/door/Functions.h"
 
 enum class EFaultKind
 {

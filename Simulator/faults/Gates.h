@@ -7,13 +7,13 @@
 //   gates.Release(EFunction::ContRx);    // the caller goes on
 #pragma once
 
-#include "Simulator/door/Functions.h"
-
 #include <array>
 #include <chrono>
 #include <condition_variable>
 #include <cstdint>
 #include <mutex>
+
+#include "Simulator/door/Functions.h"
 
 class CGates
 {

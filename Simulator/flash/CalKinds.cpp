@@ -1,8 +1,8 @@
 #include "Simulator/flash/CalKinds.h"
 
-#include "Simulator/radio/Checks.h"
-
 #include <algorithm>
+
+#include "Simulator/radio/Checks.h"
 
 namespace {
 

@@ -9,11 +9,11 @@
 //       if (place.key == key) ...
 #pragma once
 
-#include "Simulator/profile/Profile.h"
-#include "Vond/VondCalRecords.h"
-
 #include <string>
 #include <vector>
+
+#include "Simulator/profile/Profile.h"
+#include "Vond/VondCalRecords.h"
 
 struct SCalKey
 {

@@ -1,11 +1,11 @@
 #include "Simulator/flash/CalTransfers.h"
 
-#include "Simulator/flash/CalSections.h"
-
 #include <algorithm>
 #include <cstring>
 #include <iterator>
 #include <utility>
+
+#include "Simulator/flash/CalSections.h"
 
 namespace {
 

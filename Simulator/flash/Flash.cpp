@@ -1,11 +1,11 @@
 #include "Simulator/flash/Flash.h"
 
-#include "Simulator/flash/FlashFile.h"
-#include "Simulator/flash/FlashFill.h"
-
 #include <cstdio>
 #include <exception>
 #include <utility>
+
+#include "Simulator/flash/FlashFile.h"
+#include "Simulator/flash/FlashFill.h"
 
 CFlash::CFlash(std::string path) : m_path(std::move(path)) {}
 

@@ -11,12 +11,12 @@
 //   if (!flash.Keep()) ...   // the file could not be written
 #pragma once
 
-#include "Simulator/flash/CalKinds.h"
-
 #include <map>
 #include <string>
 #include <tuple>
 #include <vector>
+
+#include "Simulator/flash/CalKinds.h"
 
 template <class Block>
 using FlashTable = std::map<SCalKey, std::vector<Block>>;

@@ -4,10 +4,10 @@
 // std::runtime_error with one line of text, without the path.
 #pragma once
 
-#include "Simulator/flash/Flash.h"
-
 #include <stdexcept>
 #include <string>
+
+#include "Simulator/flash/Flash.h"
 
 // The file is not this DUT's to replace: it holds something else, the flash of another DUT, or
 // cannot be read.

@@ -1,9 +1,9 @@
 #include "Simulator/flash/FlashFill.h"
 
-#include "Simulator/radio/Noise.h"
-
 #include <algorithm>
 #include <cmath>
+
+#include "Simulator/radio/Noise.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 // name the place.
 #pragma once
 
-#include "Simulator/profile/JsonReader.h"
-
 #include <map>
+
+#include "Simulator/profile/JsonReader.h"
 
 struct SNumberTable
 {

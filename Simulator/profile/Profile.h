@@ -7,13 +7,13 @@
 // routes exist. Value type, no locks.
 #pragma once
 
-#include "Simulator/radio/Bands.h"
-#include "Vond/VondCapabilityRecords.h"
-
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "Simulator/radio/Bands.h"
+#include "Vond/VondCapabilityRecords.h"
 
 struct SProfileChipName
 {

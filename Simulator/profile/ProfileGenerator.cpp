@@ -1,10 +1,10 @@
 #include "Simulator/profile/ProfileGenerator.h"
 
-#include "Simulator/profile/JsonReader.h"
-
 #include <algorithm>
 #include <iterator>
 #include <string>
+
+#include "Simulator/profile/JsonReader.h"
 
 using nlohmann::json;
 

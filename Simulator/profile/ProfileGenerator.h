@@ -2,9 +2,9 @@
 // object of a profile.
 #pragma once
 
-#include "Simulator/profile/Profile.h"
-
 #include <nlohmann/json.hpp>
+
+#include "Simulator/profile/Profile.h"
 
 // Adds routes, limits and gain tables to a profile whose bands are read. Throws std::runtime_error
 // for a broken rule.

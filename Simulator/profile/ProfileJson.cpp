@@ -1,13 +1,13 @@
 #include "Simulator/profile/ProfileJson.h"
 
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
 #include "Simulator/profile/BuiltinProfiles.h"
 #include "Simulator/profile/ProfileCalibration.h"
 #include "Simulator/profile/ProfileRadio.h"
 #include "Simulator/profile/ProfileTables.h"
-
-#include <fstream>
-#include <sstream>
-#include <stdexcept>
 
 using nlohmann::json;
 

@@ -3,9 +3,9 @@
 // one line of text.
 #pragma once
 
-#include "Simulator/profile/Profile.h"
-
 #include <string>
+
+#include "Simulator/profile/Profile.h"
 
 // The text of a built-in profile or, when no built-in has that name, of the file at that path.
 std::string ReadProfileText(const std::string &nameOrPath);

@@ -1,10 +1,10 @@
 #include "Simulator/profile/ProfileTables.h"
 
-#include "Simulator/profile/ProfileGenerator.h"
-
 #include <iterator>
 #include <set>
 #include <utility>
+
+#include "Simulator/profile/ProfileGenerator.h"
 
 using nlohmann::json;
 

@@ -1,10 +1,10 @@
 #include "Simulator/radio/Measurements.h"
 
-#include "Simulator/radio/Checks.h"
-#include "Simulator/radio/Receiver.h"
-
 #include <algorithm>
 #include <cmath>
+
+#include "Simulator/radio/Checks.h"
+#include "Simulator/radio/Receiver.h"
 
 namespace {
 

@@ -10,9 +10,9 @@
 //   const double rate = BlockErrorRate(-99.4 + 2.6 - noise);   // 5 %: the sensitivity
 #pragma once
 
-#include "Simulator/radio/Bands.h"
-
 #include <cstdint>
+
+#include "Simulator/radio/Bands.h"
 
 constexpr double kAdcTarget = -20.0;      // dBm at the ADC: where its range is best used
 constexpr double kAdcFullScale = -8.0;    // dBm at the ADC; 12 dB of crest factor above the target

@@ -1,8 +1,8 @@
-#include "tools/modelcheck/Checks.h"
-
 #include <algorithm>
 
 #include <QSet>
+
+#include "tools/modelcheck/Checks.h"
 
 namespace {
 

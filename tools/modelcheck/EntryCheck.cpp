@@ -1,8 +1,7 @@
-#include "tools/modelcheck/Checks.h"
-
 #include <QRegularExpression>
 
 #include "Model/JsonPath.h"
+#include "tools/modelcheck/Checks.h"
 #include "tools/modelcheck/FormatKeys.h"
 
 namespace {

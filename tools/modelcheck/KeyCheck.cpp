@@ -1,11 +1,10 @@
-#include "tools/modelcheck/Checks.h"
-
 #include <QHash>
 #include <QJsonArray>
 #include <QSet>
 
 #include "Model/JsonPath.h"
 #include "Model/MemberPath.h"
+#include "tools/modelcheck/Checks.h"
 #include "tools/modelcheck/FormatKeys.h"
 
 namespace {

@@ -1,5 +1,4 @@
 #include "tools/modelcheck/Checks.h"
-
 #include "tools/modelcheck/FormatKeys.h"
 
 namespace {

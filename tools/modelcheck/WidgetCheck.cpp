@@ -1,9 +1,8 @@
-#include "tools/modelcheck/Checks.h"
-
 #include <QHash>
 #include <QSet>
 
 #include "Model/MemberPath.h"
+#include "tools/modelcheck/Checks.h"
 #include "tools/modelcheck/FormatKeys.h"
 
 namespace {
