@@ -45,7 +45,7 @@ const char *VondSim_ProfileText(void);
 void VondSim_Reset(void);
 
 // Adds a fault to those of the profile; the JSON object has the form of a profile's "faults"
-// entries, see Simulator/README.md. Returns 0, or -1 with a line on stderr for a broken one.
+// entries, see docs/simulated-dut.md. Returns 0, or -1 with a line on stderr for a broken one.
 int32_t VondSim_AddFault(const char *json);
 // Removes all faults, the profile's own too.
 void VondSim_ClearFaults(void);

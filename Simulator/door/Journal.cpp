@@ -5,7 +5,7 @@
 #include <cstring>
 #include <utility>
 
-#include "Simulator/door/Results.h"
+#include "Simulator/basis/Results.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 // thread.
 //
 // The file is emptied when the journal opens and flushed with each line. Its keys are told in
-// Simulator/README.md. Clearing the journal leaves the file as it is. Memory is bounded, so that a
+// docs/simulated-dut.md. Clearing the journal leaves the file as it is. Memory is bounded, so that a
 // run may last for days: beyond 64 MiB the oldest calls go, while the numbers of the others stay.
 // The file keeps everything.
 #pragma once
@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "Simulator/VondSim.h"
-#include "Simulator/door/Functions.h"
+#include "Simulator/basis/Functions.h"
 
 struct SJournalEntry
 {

@@ -5,17 +5,17 @@
 // runs, never while a call waits at a gate or for a delay. The object is made at the first call and
 // never destroyed, so a thread may still be inside while the process ends.
 //
-//   return CSimulator::Instance().Run({EFunction::ContRx, h, t, RequestOf(command)},
-//                                     [&](SDut &dut) { return dut.radio.StartContRx(dut.profile,
-//                                     *command); });
+//   return CSimulator::Instance().Run(
+//       {EFunction::ContRx, h, t, RequestOf(command)},
+//       [&](SDut &dut) { return dut.radio.StartContRx(dut.profile, *command); });
 #pragma once
 
 #include <functional>
 #include <mutex>
 #include <string>
 
+#include "Simulator/basis/Results.h"
 #include "Simulator/door/Journal.h"
-#include "Simulator/door/Results.h"
 #include "Simulator/faults/Faults.h"
 #include "Simulator/faults/Gates.h"
 #include "Simulator/flash/Flash.h"

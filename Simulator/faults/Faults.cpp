@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "Simulator/door/Results.h"
-#include "Simulator/profile/JsonReader.h"
+#include "Simulator/basis/JsonReader.h"
+#include "Simulator/basis/Results.h"
 #include "Vond/VondCapabilityRecords.h"
 
 namespace {

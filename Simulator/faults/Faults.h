@@ -1,5 +1,5 @@
 // Faults: what goes wrong on demand, in any function, always or on the n-th call or with a seeded
-// probability. The JSON form is told in Simulator/README.md.
+// probability. The JSON form is told in docs/simulated-dut.md.
 //
 // All faults that fire on a call apply together; of two that set the same thing the one added last
 // wins, and delays add up. CFaultSet has no lock: its owner keeps calls apart.
@@ -16,7 +16,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "Simulator/door/Functions.h"
+#include "Simulator/basis/Functions.h"
 
 enum class EFaultKind
 {

@@ -13,7 +13,7 @@
 #include <cstdint>
 #include <mutex>
 
-#include "Simulator/door/Functions.h"
+#include "Simulator/basis/Functions.h"
 
 class CGates
 {

@@ -5,7 +5,7 @@
 #include <iterator>
 #include <utility>
 
-#include "Simulator/flash/CalSections.h"
+#include "Simulator/flash/CalRound.h"
 
 namespace {
 
@@ -16,11 +16,11 @@ constexpr uint32_t kNr = 1;
 
 template <class Block>
 std::string CheckWanted(const SProfile &profile, const SFlashImage &image,
-                        const SCalSection<Block> &section)
+                        const SCalArea<Block> &area)
 {
-    std::string reason = CheckCalEntries(profile, section);
-    for (std::size_t i = 0; reason.empty() && i < section.entries.size(); ++i) {
-        const SCalEntry &entry = section.entries[i];
+    std::string reason = CheckCalEntries(profile, area);
+    for (std::size_t i = 0; reason.empty() && i < area.entries.size(); ++i) {
+        const SCalEntry &entry = area.entries[i];
         const auto held = static_cast<int>(image.Table<Block>().at(entry.key).size());
         if (held != entry.blockCount)
             reason = "route " + std::to_string(entry.key.route) + ": " +
@@ -64,9 +64,9 @@ std::string WrongKind(uint32_t radioKind)
 }
 
 template <class Block>
-void CopyBlocks(const SFlashImage &image, const SCalSection<Block> &section, Block *to)
+void CopyBlocks(const SFlashImage &image, const SCalArea<Block> &area, Block *to)
 {
-    for (const SCalEntry &entry : section.entries) {
+    for (const SCalEntry &entry : area.entries) {
         const std::vector<Block> &blocks = image.Table<Block>().at(entry.key);
         to = std::copy(blocks.begin(), blocks.end(), to);
     }
@@ -77,10 +77,10 @@ template <class Block>
 class CExchange
 {
 public:
-    CExchange(SFlashImage &image, const SCalSection<Block> &section)
+    CExchange(SFlashImage &image, const SCalArea<Block> &area)
     {
-        const Block *block = section.blocks;
-        for (const SCalEntry &entry : section.entries) {
+        const Block *block = area.blocks;
+        for (const SCalEntry &entry : area.entries) {
             std::vector<Block> &record = image.Table<Block>().at(entry.key);
             m_old.emplace_back(&record, std::vector<Block>(block, block + entry.blockCount));
             record.swap(m_old.back().second);

@@ -5,7 +5,7 @@
 // the file of the flash is written before a download is answered.
 #pragma once
 
-#include "Simulator/door/Results.h"
+#include "Simulator/basis/Results.h"
 #include "Simulator/flash/Flash.h"
 
 // One row for each row of the route tables, in their order. Radio kind 0 is the LTE side, of which

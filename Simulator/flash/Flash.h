@@ -11,33 +11,9 @@
 //   if (!flash.Keep()) ...   // the file could not be written
 #pragma once
 
-#include <map>
 #include <string>
-#include <tuple>
-#include <vector>
 
-#include "Simulator/flash/CalKinds.h"
-
-template <class Block>
-using FlashTable = std::map<SCalKey, std::vector<Block>>;
-
-struct SFlashImage
-{
-    std::tuple<FlashTable<SMMType1PathlossBlockV7>, FlashTable<SMMType2PathlossBlockV7>,
-               FlashTable<SAptBlock>>
-        tables;
-
-    template <class Block>
-    FlashTable<Block> &Table()
-    {
-        return std::get<FlashTable<Block>>(tables);
-    }
-    template <class Block>
-    const FlashTable<Block> &Table() const
-    {
-        return std::get<FlashTable<Block>>(tables);
-    }
-};
+#include "Simulator/flash/FlashImage.h"
 
 class CFlash
 {

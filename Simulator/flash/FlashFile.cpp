@@ -27,7 +27,7 @@ VOND_SIZE(SHead, 24);
 
 struct SRecordHead
 {
-    uint32_t kind;  // SCalKind::ID
+    uint32_t kind;  // SCalKind::kId
     uint32_t route;
     uint32_t bandwidth;  // kHz
     uint32_t blockCount;

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "Simulator/flash/Flash.h"
+#include "Simulator/flash/FlashImage.h"
 
 // The file is not this DUT's to replace: it holds something else, the flash of another DUT, or
 // cannot be read.

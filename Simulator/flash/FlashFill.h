@@ -2,7 +2,7 @@
 // machine.
 #pragma once
 
-#include "Simulator/flash/Flash.h"
+#include "Simulator/flash/FlashImage.h"
 
 // A record for every place of the route tables. No locks.
 SFlashImage CalibratedFlash(const SProfile &profile);

@@ -5,7 +5,7 @@
 
 #include <map>
 
-#include "Simulator/profile/JsonReader.h"
+#include "Simulator/basis/JsonReader.h"
 
 struct SNumberTable
 {

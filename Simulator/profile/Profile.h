@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "Simulator/radio/Bands.h"
+#include "Simulator/basis/Bands.h"
 #include "Vond/VondCapabilityRecords.h"
 
 struct SProfileChipName

@@ -1,6 +1,6 @@
 #include "Simulator/profile/ProfileCalibration.h"
 
-#include "Simulator/flash/CalKinds.h"
+#include "Simulator/profile/CalKinds.h"
 #include "Simulator/profile/NumberTable.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <iterator>
 #include <string>
 
-#include "Simulator/profile/JsonReader.h"
+#include "Simulator/basis/JsonReader.h"
 
 using nlohmann::json;
 

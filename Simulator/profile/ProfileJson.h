@@ -1,5 +1,5 @@
 // Profiles as JSON: loading, inheritance from a built-in, strict validation. The format is told in
-// Simulator/README.md. All functions may run in any thread; failures are std::runtime_error with
+// docs/simulated-dut.md. All functions may run in any thread; failures are std::runtime_error with
 // one line of text.
 #pragma once
 

@@ -2,7 +2,7 @@
 // by ParseProfile alone; failures are std::runtime_error that name the place.
 #pragma once
 
-#include "Simulator/profile/JsonReader.h"
+#include "Simulator/basis/JsonReader.h"
 #include "Simulator/profile/Profile.h"
 
 // A missing key, in it or whole, leaves the defaults of SProfileRadio.

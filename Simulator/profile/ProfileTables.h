@@ -2,9 +2,9 @@
 // ParseProfile alone; failures are std::runtime_error that name the place.
 #pragma once
 
-#include "Simulator/door/Functions.h"
+#include "Simulator/basis/Functions.h"
+#include "Simulator/basis/JsonReader.h"
 #include "Simulator/faults/Faults.h"
-#include "Simulator/profile/JsonReader.h"
 #include "Simulator/profile/Profile.h"
 
 void ReadBands(CJsonReader &reader, SProfile &profile);

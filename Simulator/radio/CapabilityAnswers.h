@@ -2,7 +2,7 @@
 // with zeros. No state, no locks.
 #pragma once
 
-#include "Simulator/door/Results.h"
+#include "Simulator/basis/Results.h"
 #include "Simulator/profile/Profile.h"
 
 // Sizes that the three capability reads expect in their request, bytes.

@@ -5,7 +5,7 @@
 // EResult. No state, no locks.
 #pragma once
 
-#include "Simulator/door/Results.h"
+#include "Simulator/basis/Results.h"
 #include "Simulator/profile/Profile.h"
 #include "Vond/VondCommandRecords.h"
 

@@ -10,7 +10,7 @@
 //   const SMixRxReading reading = MeasureMixRx(run, noise);
 #pragma once
 
-#include "Simulator/door/Results.h"
+#include "Simulator/basis/Results.h"
 #include "Simulator/profile/Profile.h"
 #include "Simulator/radio/Noise.h"
 #include "Vond/VondCommandRecords.h"

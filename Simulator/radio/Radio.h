@@ -11,7 +11,7 @@
 //   radio.StopMultiMode();
 #pragma once
 
-#include "Simulator/door/Results.h"
+#include "Simulator/basis/Results.h"
 #include "Simulator/profile/Profile.h"
 #include "Simulator/radio/Measurements.h"
 

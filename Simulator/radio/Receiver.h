@@ -3,7 +3,7 @@
 //
 // Powers are dBm, gains, losses and ratios dB. The chain is: antenna connector, front end (filter,
 // eLNA and mixer with the RF gain), ADC, digital gain. Powers are referred to the antenna connector
-// unless told otherwise. Formulas and numbers are explained in Simulator/README.md. No state, no
+// unless told otherwise. Formulas and numbers are explained in docs/simulated-dut.md. No state, no
 // locks.
 //
 //   const double noise = ThermalNoise(9.36e6, 6.0);        // -98.3 dBm in 52 resource blocks
@@ -12,7 +12,7 @@
 
 #include <cstdint>
 
-#include "Simulator/radio/Bands.h"
+#include "Simulator/basis/Bands.h"
 
 constexpr double kAdcTarget = -20.0;      // dBm at the ADC: where its range is best used
 constexpr double kAdcFullScale = -8.0;    // dBm at the ADC; 12 dB of crest factor above the target

@@ -15,7 +15,7 @@
 
 #include <QString>
 
-#include "Simulator/door/Functions.h"
+#include "Simulator/basis/Functions.h"
 
 enum class EFault
 {

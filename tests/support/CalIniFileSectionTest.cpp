@@ -163,7 +163,8 @@ TEST_F(CalIniFileSection, AnyRunOfWritesGivesTheBytesOfAWriteOfEachKey)
                 Lines lines;
                 for (int key = 0; key < 3; ++key) {
                     if (random() % 2)
-                        lines.emplace_back("k" + std::to_string(key), std::to_string(random() % 9));
+                        lines.emplace_back(std::string("k") + std::to_string(key),
+                                           std::to_string(random() % 9));
                 }
                 WriteEach(each, name, lines);
                 WriteWhole(whole, name, lines);

@@ -1,4 +1,4 @@
-#include "Simulator/profile/JsonReader.h"
+#include "Simulator/basis/JsonReader.h"
 
 #include <stdexcept>
 #include <utility>

@@ -3,7 +3,7 @@
 // counts say.
 #pragma once
 
-#include "Simulator/flash/CalKinds.h"
+#include "Simulator/flash/CalPlaces.h"
 
 struct SCalEntry
 {
@@ -12,7 +12,7 @@ struct SCalEntry
 };
 
 template <class Block>
-struct SCalSection
+struct SCalArea
 {
     int count = 0;                   // entries as told, maybe more than there is room for
     std::vector<SCalEntry> entries;  // those within the room
@@ -30,17 +30,17 @@ struct SCalSection
 
 struct SCalRound
 {
-    SCalSection<SMMType1PathlossBlockV7> type1;
-    SCalSection<SMMType2PathlossBlockV7> type2;
-    SCalSection<SAptBlock> tx;
+    SCalArea<SMMType1PathlossBlockV7> type1;
+    SCalArea<SMMType2PathlossBlockV7> type2;
+    SCalArea<SAptBlock> tx;
 };
 
 SCalRound CalRoundOf(const SMMGetCalDataReqV7 &request);
 SCalRound CalRoundOf(const SMMSetCalDataReqV7 &request);
 
-// Why the entries of a section are refused, in at most 63 bytes; empty when they are good.
+// Why the entries of an area are refused, in at most 63 bytes; empty when they are good.
 template <class Block>
-std::string CheckCalEntries(const SProfile &profile, const SCalSection<Block> &section);
+std::string CheckCalEntries(const SProfile &profile, const SCalArea<Block> &area);
 // The same for a download, blocks and all.
 template <class Block>
-std::string CheckCalBlocks(const SProfile &profile, const SCalSection<Block> &section);
+std::string CheckCalBlocks(const SProfile &profile, const SCalArea<Block> &area);

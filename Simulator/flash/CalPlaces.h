@@ -1,9 +1,9 @@
-// The three kinds of calibration data, each known by its block: type 1 and type 2 path loss, APT.
+// Places of calibration data: which records a profile's DUT has, and what a record must fulfil.
 //
-// What differs between the kinds stands here; what works on a record of any kind is a template over
-// the block. A record is the blocks of one route, and of one bandwidth region for APT. The wire
-// names a record by route and bandwidth alone, so a route that stands on several bands has one
-// record; its blocks carry any one of its bands.
+// A record is the blocks of one route, and of one bandwidth region for APT. The wire names a record
+// by route and bandwidth alone. So a route that stands on several bands has one record, and its
+// blocks carry any one of these bands. The functions are templates over the block, which tells the
+// kind (CalKinds.h). No state, no locks.
 //
 //   for (const SCalPlace &place : CalPlaces<SAptBlock>(profile))
 //       if (place.key == key) ...
@@ -12,8 +12,8 @@
 #include <string>
 #include <vector>
 
+#include "Simulator/profile/CalKinds.h"
 #include "Simulator/profile/Profile.h"
-#include "Vond/VondCalRecords.h"
 
 struct SCalKey
 {
@@ -37,39 +37,6 @@ struct SCalPlace
     uint16_t band = 0;
     int region = 0;      // index in the route's list, 0 for the path loss kinds
     SFreqLimits limits;  // of the route where it has some, otherwise of the band
-};
-
-template <class Block>
-struct SCalKind;
-
-template <>
-struct SCalKind<SMMType1PathlossBlockV7>
-{
-    static constexpr uint32_t kId = 1;
-    static constexpr int kBlocksOfRound = kVondCalType1Blocks;
-    static constexpr int kBlocksOfRecord = kVondCalMaxBlocks;
-    static constexpr auto kText = &SMMCalVerdictV7::type1Text;
-    static constexpr auto kRule = &SProfileCalibration::rxType1;
-};
-
-template <>
-struct SCalKind<SMMType2PathlossBlockV7>
-{
-    static constexpr uint32_t kId = 2;
-    static constexpr int kBlocksOfRound = kVondCalType2Blocks;
-    static constexpr int kBlocksOfRecord = kVondCalType2Blocks;  // more fit in no round
-    static constexpr auto kText = &SMMCalVerdictV7::type2Text;
-    static constexpr auto kRule = &SProfileCalibration::rxType2;
-};
-
-template <>
-struct SCalKind<SAptBlock>
-{
-    static constexpr uint32_t kId = 3;
-    static constexpr int kBlocksOfRound = kVondCalTxBlocks;
-    static constexpr int kBlocksOfRecord = kVondCalMaxBlocks;
-    static constexpr auto kText = &SMMCalVerdictV7::txText;
-    static constexpr auto kRule = &SProfileCalibration::tx;
 };
 
 // All places of a kind in the order of the route table.

@@ -1,4 +1,4 @@
-#include "Simulator/radio/Bands.h"
+#include "Simulator/basis/Bands.h"
 
 namespace {
 

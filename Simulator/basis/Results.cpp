@@ -1,4 +1,4 @@
-#include "Simulator/door/Results.h"
+#include "Simulator/basis/Results.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "Simulator/flash/CalKinds.h"
+#include "Simulator/flash/CalPlaces.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "Simulator/door/Functions.h"
+#include "Simulator/basis/Functions.h"
 
 #include <array>
 

@@ -1,0 +1,31 @@
+// The calibration records of a DUT in memory: one table for each kind, by route and bandwidth.
+//
+//   image.Table<SAptBlock>()[{7, 100000}] = blocks;   // route 7, region up to 100 MHz
+#pragma once
+
+#include <map>
+#include <tuple>
+#include <vector>
+
+#include "Simulator/flash/CalPlaces.h"
+
+template <class Block>
+using FlashTable = std::map<SCalKey, std::vector<Block>>;
+
+struct SFlashImage
+{
+    std::tuple<FlashTable<SMMType1PathlossBlockV7>, FlashTable<SMMType2PathlossBlockV7>,
+               FlashTable<SAptBlock>>
+        tables;
+
+    template <class Block>
+    FlashTable<Block> &Table()
+    {
+        return std::get<FlashTable<Block>>(tables);
+    }
+    template <class Block>
+    const FlashTable<Block> &Table() const
+    {
+        return std::get<FlashTable<Block>>(tables);
+    }
+};
