@@ -2,8 +2,8 @@
 //
 // Pure reads of a document that the caller owns, on any thread; logged at debug level.
 //
-//   GetUiIndexByMemberValue(document, "cmdIf.request.group1.memberValue.lpmHpmConf");   // 2 for
-//   "AUTO"
+//   GetUiIndexByMemberValue(document, "cmdIf.request.group1.memberValue.lpmHpmConf");
+//       // 2 for "AUTO"
 #pragma once
 
 #include <QJsonObject>

@@ -4,13 +4,12 @@
 // them. A path with a blank in it stands in quotes. Empty lines and lines that start with "#" are
 // left out.
 //
-//     Page.json cmdIf.request.group1.memberProperty.band.trait.defaultValue default-zero fits all
-//     bands
+//     Page.json cmdIf.request.group1.memberProperty.gain.trait.defaultValue default-zero 0 dB is meant
 //
-// A line excuses the findings with that very file name (without its folder), path and kind, and
-// nothing else. A line that excuses nothing, of a file that was checked, is a finding itself, so
-// the list never holds more than the pages need. Lines of files that were not checked rest, and so
-// do lines about widgets when the document was checked without its form.
+// A line excuses the findings with its file name (without folder), path and kind, and nothing else.
+// A line of a checked file that excuses nothing is a finding itself, so the list never holds more
+// than the pages need. Lines of files that were not checked are left alone, and so are lines about
+// widgets when the document was checked without its form.
 //
 //   const SAllowList list = ReadAllowList(text);
 //   if (!list.error.isEmpty()) ...                       // "line 7: unknown kind "cicle""

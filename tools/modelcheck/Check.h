@@ -4,8 +4,8 @@
 // Takes the texts of the files and the names to report them under; touches no file. A text that
 // does not parse is a finding like any other, and what hangs on it is left out. Any thread.
 //
-//   const TFindings findings = CheckPage({"NrContRxV7.json", json}, {"NrContRxDockWidgetV7.ui",
-//   ui});
+//   const TFindings findings =
+//       CheckPage({"NrContRxV7.json", json}, {"NrContRxDockWidgetV7.ui", ui});
 //   const TFindings early = CheckDocument({"NrContRxV7.json", json});
 #pragma once
 
