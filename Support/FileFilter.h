@@ -2,18 +2,21 @@
 
 // Filter texts of file dialogs as Qt takes them.
 //
-// The tool's filters are pairs of a name and its patterns, all parted by bars; patterns are parted
-// by semicolons, and "*.*" means every file. Qt takes no bars, but a list of names with the
-// patterns in brackets behind, parted by blanks. A text without a bar is Qt's own form already.
+// The tool's filters are pairs of a name and its patterns. Bars separate names and patterns,
+// semicolons separate the patterns of a name, and "*.*" means every file. Qt takes no bars: it wants
+// a list of names, each followed by its patterns in brackets, with blanks between them. A text
+// without a bar is in Qt's form already.
 // Pure functions.
 //
-//     NameFilters("INI files (*.ini)|*.ini|All files (*.*)|*.*")  // "INI files (*.ini)", "All
-//     files (*)" DefaultSuffix("INI files (*.ini)|*.ini|...")                // "ini"
+//     NameFilters("INI files (*.ini)|*.ini|All files (*.*)|*.*")
+//         // "INI files (*.ini)", "All files (*)"
+//     DefaultSuffix("INI files (*.ini)|*.ini|All files (*.*)|*.*")
+//         // "ini"
 
 #include <QString>
 #include <QStringList>
 
 QStringList NameFilters(const QString &filter);
-// What a saved file's name ends in when the user has named no end: that of the first filter's first
-// pattern; empty when that is no "*.end".
+// The suffix of a saved file whose name has none: that of the first filter's first pattern. Empty
+// when that pattern is not of the form "*.suffix".
 QString DefaultSuffix(const QString &filter);

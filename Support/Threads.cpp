@@ -16,28 +16,28 @@
 namespace {
 
 // Never destroyed: pool threads may still be at work while the process ends.
-union SQueue
+union UQueue
 {
-    SQueue() : jobs() {}
-    ~SQueue() {}
+    UQueue() : jobs() {}
+    ~UQueue() {}
     CJobQueue jobs;
 };
 
 CJobQueue &PoolJobs()
 {
-    static SQueue queue;
+    static UQueue queue;
     return queue.jobs;
 }
 
 CJobQueue &GuiCalls()
 {
-    static SQueue queue;
+    static UQueue queue;
     return queue.jobs;
 }
 
 CJobQueue &UrgentJobs()
 {
-    static SQueue queue;
+    static UQueue queue;
     return queue.jobs;
 }
 
