@@ -39,7 +39,7 @@ const QCommandLineOption kDemo("demo", "Without a person: query, show, start and
 int Refuse(const QString &text)
 {
     std::fprintf(stderr, "quorlin-host: %s\nTry quorlin-host --help.\n", qPrintable(text));
-    return HostExitOptions;
+    return eHostExitOptions;
 }
 
 }  // namespace
@@ -63,7 +63,7 @@ std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
         return Refuse(parser.errorText());
     if (parser.isSet(kHelp)) {
         std::fputs(qPrintable(parser.helpText()), stdout);
-        return HostExitGood;
+        return eHostExitGood;
     }
     if (!parser.positionalArguments().isEmpty())
         return Refuse(

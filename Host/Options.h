@@ -16,11 +16,11 @@
 // Exit codes of the program.
 enum EHostExit : int
 {
-    HostExitGood = 0,
-    HostExitFailed = 1,     // the demonstration failed, or the tool can't run on the DUT
-    HostExitOptions = 2,    // wrong command line, or no such profile
-    HostExitNoPlugin = 3,   // the plug-in can't be loaded
-    HostExitNoDisplay = 4,  // Qt finds no display
+    eHostExitGood = 0,
+    eHostExitFailed = 1,     // the demonstration failed, or the tool can't run on the DUT
+    eHostExitOptions = 2,    // wrong command line, or no such profile
+    eHostExitNoPlugin = 3,   // the plug-in can't be loaded
+    eHostExitNoDisplay = 4,  // Qt finds no display
 };
 
 struct SHostOptions

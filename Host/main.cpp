@@ -40,7 +40,7 @@ void OnQtMessage(QtMsgType type, const QMessageLogContext &context, const QStrin
     Complain(text);
     Complain("Set DISPLAY or WAYLAND_DISPLAY to a display, or QT_QPA_PLATFORM=offscreen to run "
              "without one.");
-    std::_Exit(HostExitNoDisplay);
+    std::_Exit(eHostExitNoDisplay);
 }
 
 // The application object; without a display, the end of the program.
@@ -61,7 +61,7 @@ int RunDemo(CBenchHost &host, CPluginHandle &plugin, const SHostOptions &options
             Print(stdout, "The demonstration went well.");
         else
             Complain(failure);
-        QCoreApplication::exit(failure.isEmpty() ? HostExitGood : HostExitFailed);
+        QCoreApplication::exit(failure.isEmpty() ? eHostExitGood : eHostExitFailed);
     });
     demo.Start(kDemoDeadline);
     return QCoreApplication::exec();
@@ -125,13 +125,13 @@ int main(int argc, char **argv)
     QString error;
     if (!plugin.Load(options.pluginFile, error)) {
         Complain(error);
-        return HostExitNoPlugin;
+        return eHostExitNoPlugin;
     }
     const QStringList profiles = SimulatedProfiles();
     if (IsUnknownProfile(options.profile, profiles)) {
         Complain(QString("There is no profile '%1', and no file of that name. Profiles: %2.")
                      .arg(options.profile, profiles.join(", ")));
-        return HostExitOptions;
+        return eHostExitOptions;
     }
     CBenchHost host(plugin);
     host.show();

@@ -39,6 +39,7 @@ bool ModifyJsonValue(QJsonObject &object, const QString &path, const QJsonValue 
 bool InsertJsonObject(QJsonObject &object, const QString &path, const QString &key,
                       const QString &subKey, const QJsonValue &value);
 // Removes key from the object at parentPath.
+// Prescribed; see docs/decisions/0036-prescribed-surface.md
 bool RemoveJsonValue(QJsonObject &object, const QString &parentPath, const QString &key);
 
 // The string at the path as a decimal number; 0 for anything else, a JSON number included.

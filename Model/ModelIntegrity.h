@@ -18,4 +18,5 @@ void InsertModelUpdateResult(QJsonObject &document, bool allCorrect, const QStri
 // Adds a message to the record, or starts one. A true argument never turns the flag back to true.
 void AddModelUpdateResult(QJsonObject &document, bool allCorrect, const QString &errorMes);
 // The text of a document with nothing to show: "emptyModel" and a failed record with the message.
+// Prescribed; see docs/decisions/0036-prescribed-surface.md
 std::string BuildEmptyModel(const QString &message);

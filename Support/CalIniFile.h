@@ -56,6 +56,7 @@ public:
     bool HasSection(const std::string &section);
     std::string ReadString(const std::string &section, const std::string &key,
                            const std::string &defaultValue);
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     // The leading decimal number of the value, held to the range of int; 0 when it has none.
     int ReadInt(const std::string &section, const std::string &key, int defaultValue);
     // Each key once, in the order of the file; empty for an unknown section.
@@ -64,6 +65,7 @@ public:
     CIniSection ReadSection(const std::string &section);
 
     void WriteString(const std::string &section, const std::string &key, const std::string &value);
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     void WriteInt(const std::string &section, const std::string &key, int value);
     // As "%lf", six decimals, with a point in every locale of the process.
     void WriteDouble(const std::string &section, const std::string &key, double value);

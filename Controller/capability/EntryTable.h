@@ -58,9 +58,9 @@ private:
 
     static quint64 Head(const QString &key)
     {
-        constexpr int characters = sizeof(quint64) / sizeof(QChar);
+        constexpr int kCharacters = sizeof(quint64) / sizeof(QChar);
         quint64 head = 0;
-        for (int i = 0; i < characters; ++i)
+        for (int i = 0; i < kCharacters; ++i)
             head = head << 16 | (i < key.size() ? key[i].unicode() : 0);
         return head;
     }
