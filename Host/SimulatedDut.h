@@ -1,5 +1,5 @@
-// The simulated DUT, as far as a host can see it: by the name of a function of the library that has
-// come with the plug-in. The real libraries have no such function.
+// The simulated DUT as a host sees it: through a function that the library behind the plug-in
+// exports. The real libraries have no such function.
 //
 //     const QStringList names = SimulatedProfiles();   // {"handset", "largest", ...}
 #pragma once
@@ -10,5 +10,5 @@
 // Names of the built-in profiles, once a plug-in is loaded; none where the DUT is not simulated.
 QStringList SimulatedProfiles();
 
-// Not the name of one, nor a file, where there are profiles to choose from.
+// True when the DUT is simulated and the text is neither a profile's name nor a file.
 bool IsUnknownProfile(const QString &profile, const QStringList &names);

@@ -1,8 +1,8 @@
 // What a calibration flow tells the user beside its result: one list, as it travels from the core
 // to the page.
 //
-// A flow that succeeds may have left records out, and a file may hold values that are not what its
-// author thinks; a flow that fails may have, too. An empty list says nothing. A value: copied
+// A flow, good or bad, may have left records out, or found values in a file that are not as they
+// look. An empty list: nothing to tell. A value: copied
 // freely.
 //
 //   SCalRemarks remarks{eRemarkLeftOut, 1, {{"T2 route 101", "4 blocks in flash, ..."}}};
@@ -27,7 +27,7 @@ struct SCalRemark
 struct SCalRemarks
 {
     int kind = eRemarkLeftOut;  // ECalRemark
-    int count = 0;  // what there is to say, also where the rows are the first ones alone
+    int count = 0;              // of all remarks; rows may hold the first of them alone
     QVector<SCalRemark> rows{};
 
     bool IsEmpty() const { return rows.isEmpty(); }

@@ -10,6 +10,6 @@
 #include <QString>
 
 // Position of a packaged value in the list that its combo box had shown, or -1: the member is no
-// list, the value is not in it, or the list hangs on several publishers (subscribeValueList). A
+// list, the value is not in it, or the list depends on several publishers (subscribeValueList). A
 // caller that indexes a table with the answer must guard -1.
 int GetUiIndexByMemberValue(QJsonObject document, const QString &memberValuePath);

@@ -30,8 +30,8 @@ struct SVondSimCall
 };
 
 // Puts another DUT in place: a built-in profile's name, the path of a profile file, or (second
-// form) the text of one. The radio is idle afterwards; the journal and added faults stay, the old
-// profile's own faults give way to the new one's. Returns 0; on an unknown name or a broken profile
+// form) the text of one. The radio is idle afterwards; the journal and added faults stay. The
+// new profile's faults replace the old one's. Returns 0; on an unknown name or a broken profile
 // a line goes to stderr, the DUT is unplugged, and -1 is returned.
 int32_t VondSim_SetProfile(const char *nameOrPath);
 int32_t VondSim_SetProfileText(const char *json);

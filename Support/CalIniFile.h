@@ -1,5 +1,3 @@
-#pragma once
-
 // One INI file: calibration data or user settings, loaded on first need, saved on every write.
 //
 // Text at this interface is UTF-8. Section and key names that differ only in the case of ASCII
@@ -11,13 +9,13 @@
 // section whose heading lacks its ']', with its keys; all these are gone after the next save. Of a
 // key that a section holds several times, the first counts.
 //
-// Writing. Sets the value, in place of all values that the key had, and saves the whole file:
-// UTF-8 with byte order mark, CRLF line ends, " = " between key and value. What the file held
-// before stays. A save is whole or not at all: after a full disk or a crash the old file is there
-// as it was. A missing file is created, a missing folder is not.
+// Writing. The value replaces all values that the key had, and the whole file is saved: UTF-8 with
+// byte order mark, CRLF line ends, " = " between key and value. What else the file holds stays. A
+// save is whole or not at all: after a full disk or a crash the old file is there as it was. A
+// missing file is created, a missing folder is not.
 //
-// Sections are read and written fastest as a whole, by ReadSection and WriteSection: the values of
-// a read and the bytes of a write of each of the keys.
+// Whole sections. ReadSection and WriteSection give the same values and bytes as a read or a write
+// of each key, and are faster.
 //
 // Errors. std::runtime_error with one of the texts
 //     Read <section> from <path> failed (load file failed)
@@ -33,6 +31,7 @@
 //     file.WriteInt("NR n78 BW0 TPC", "Route", 7);
 //     file.WriteDouble("NR n78 BW0 TPC", "Tx compensation power detector coupler loss 0", 0.5);
 //     batch.Commit();
+#pragma once
 
 #include <memory>
 #include <set>
@@ -69,13 +68,13 @@ public:
     void WriteInt(const std::string &section, const std::string &key, int value);
     // As "%lf", six decimals, with a point in every locale of the process.
     void WriteDouble(const std::string &section, const std::string &key, double value);
-    // All keys of the section as one write, the first key's in a failure text.
+    // Writes all keys at once. A failure text names the first key.
     void WriteSection(CIniSection section);
 
 private:
     struct SIni;
 
-    // Sections behind those of m_ini, as their texts in the file; none has the name of another.
+    // New sections as text, to stand behind those of m_ini. No two have the same name.
     struct SNewSections
     {
         std::vector<std::string> texts;
@@ -101,7 +100,7 @@ private:
     std::string m_unsavedFailure;  // failure text of the first unsaved write; empty: all is saved
 };
 
-// A run of writes with one save at its end, to the same bytes as a save for each write.
+// A run of writes with one save at its end. The file gets the same bytes as with a save for each.
 //
 // Commit ends the run and throws the text of its first write when the save fails. Destruction
 // without Commit, on the way of an exception too, saves as well but is silent about a failure, so

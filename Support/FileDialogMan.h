@@ -1,5 +1,3 @@
-#pragma once
-
 // The open and save dialogs of the tool, which start where the user last was.
 //
 // Both dialogs are modal, start in the remembered directory and return the chosen file, or an empty
@@ -13,6 +11,7 @@
 //
 //     CFileDialogMan dialogs;
 //     const QString file = dialogs.GetOpenFileName("", "");
+#pragma once
 
 #include <QString>
 #include <QWidget>

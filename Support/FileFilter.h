@@ -1,5 +1,3 @@
-#pragma once
-
 // Filter texts of file dialogs as Qt takes them.
 //
 // The tool's filters are pairs of a name and its patterns. Bars separate names and patterns,
@@ -12,6 +10,7 @@
 //         // "INI files (*.ini)", "All files (*)"
 //     DefaultSuffix("INI files (*.ini)|*.ini|All files (*.*)|*.*")
 //         // "ini"
+#pragma once
 
 #include <QString>
 #include <QStringList>

@@ -1,16 +1,15 @@
-#pragma once
-
 // The directory that the user last opened or saved a file in, remembered between runs.
 //
-// The sentry's life is the remembering: construction reads the path from the settings file,
-// destruction writes it back and keeps whatever else the file holds. A settings file that is
-// missing or can't be read gives an empty path. A path that can't be saved is lost without a word;
-// the folder of the settings file is created when it is missing.
+// The constructor reads the path from the settings file, the destructor writes it back. Whatever
+// else the file holds stays. A settings file that is missing or can't be read gives an empty path.
+// A path that can't be saved is lost without a word; the folder of the settings file is created
+// when it is missing.
 //
 // A widget that is never shown; GUI thread.
 //
 //     CFilePathRecordSentry record;
 //     record.SetLastPath("/home/rf/captures");
+#pragma once
 
 #include <QString>
 #include <QWidget>

@@ -1,17 +1,16 @@
-#pragma once
-
 // A section of an INI file as a whole: its keys and their values, in the order of the file, for
 // CCalIniFile::WriteSection and as ReadSection gives it.
 //
-// A value is written to the end of the text that Key gives, with nothing else done to that text, so
-// that a long list is put together in its place. The keys of a section differ, in more than the
-// case of ASCII letters; what a name, a key and a value may hold stands at CCalIniFile. UTF-8.
+// Key gives a text; the value is appended to it, and nothing else is done with it. A long list is
+// built in its place that way. Two keys of a section differ in more than the case of ASCII letters;
+// what a name, a key and a value may hold stands at CCalIniFile. UTF-8.
 //
 // No lock inside: one thread at a time.
 //
 //     CIniSection section("NR n78 BW0 TPC");
 //     section.Key("Route") += std::to_string(7);
 //     file.WriteSection(std::move(section));
+#pragma once
 
 #include <string>
 #include <string_view>
@@ -47,7 +46,7 @@ public:
     std::vector<SLine> Lines() const;
     // Name and lines hold printable ASCII alone.
     bool IsPlain() const;
-    // The section as it stands in a file; it has no lines any more.
+    // Takes the text of the section as it stands in a file. The section is empty afterwards.
     std::string TakeText();
 
 private:

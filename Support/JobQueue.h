@@ -1,10 +1,9 @@
 // Work that one thread hands to another.
 //
-// Whatever the pushing thread wrote before Push is seen by the job, on whichever thread runs it,
-// and whatever a job wrote is seen by whoever finds the queue idle after it. Both hold through one
-// std::mutex, so that a thread sanitizer sees them too; it does not see the locks inside Qt. Jobs
-// begin in the order in which they were pushed. A job runs without the lock: it may push, and may
-// run the next one from inside an event loop of its own.
+// A job sees all that the pushing thread wrote before Push. Whoever finds the queue idle sees all
+// that the jobs wrote. One std::mutex provides both. A thread sanitizer can follow it; it cannot
+// follow the locks inside Qt. Jobs begin in the order in which they were pushed. A job runs without
+// the lock: it may push, and may run the next one from inside an event loop of its own.
 //
 // Any thread. Nothing here waits for a job.
 //
@@ -24,8 +23,8 @@ class CJobQueue
 public:
     using Job = std::function<void()>;
 
-    // announce tells another thread that there is a job; it runs under the lock, so that what it
-    // made for that is handed over with the job, and may not use this queue.
+    // announce tells another thread that there is a job. It runs under the lock, so that thread
+    // sees its writes, too. It must not use this queue.
     template <typename Announce>
     void Push(Job job, const Announce &announce)
     {

@@ -1,5 +1,3 @@
-#pragma once
-
 // The lock pair: an interface for whatever can be locked, and the process-local critical section.
 //
 // A thread that holds a PortableCriticalSection may take it again; it is free once every Lock and
@@ -11,6 +9,7 @@
 //         ...
 //         guard.Unlock();
 //     }
+#pragma once
 
 #include <mutex>
 

@@ -1,5 +1,3 @@
-#pragma once
-
 // Log categories, one per subsystem, so that a field log can be narrowed without a new build
 // (QT_LOGGING_RULES="quorlin.*.debug=false;quorlin.command.debug=true").
 //
@@ -11,6 +9,7 @@
 // May be used from any thread, also before the application object exists.
 //
 //     qCDebug(lcCommand) << "element" << index << document.toJson();
+#pragma once
 
 #include <QLoggingCategory>
 

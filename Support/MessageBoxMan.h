@@ -1,5 +1,3 @@
-#pragma once
-
 // The one message box of the tool: results, warnings and errors, always worded by the caller.
 //
 // Show opens the box modally and returns the button that the user pressed, a
@@ -16,6 +14,7 @@
 // Every Show starts clean: nothing of an earlier call is left. GUI thread.
 //
 //     m_messageBox.Show(2, "Open file", "Please choose the Cal/Ini file...", "", "", -1);
+#pragma once
 
 #include <QMessageBox>
 #include <QPointer>

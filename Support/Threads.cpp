@@ -65,9 +65,9 @@ void MakeLastCalls()
         call();
 }
 
-// The pool waits for its jobs when it is destroyed: by the application object, or by exit(), which
-// may be after Qt's codecs, resources and loggers have gone. What stood before the first job is
-// destroyed behind this.
+// The pool waits for its jobs when it is destroyed: by the application object, or by exit(). That
+// may be too late for Qt's codecs, resources and loggers. So the wait is registered with the first
+// job: objects that were there before it are destroyed after the wait.
 void WaitAtTheEnd()
 {
     static const QPointer<QThreadPool> pool(QThreadPool::globalInstance());

@@ -1,11 +1,11 @@
 // The two ways from one thread to another: a job for the pool, a call for the GUI thread.
 //
-// Qt tells a thread that there is something to do; what is to be done goes through a CJobQueue, so
-// that the order between the threads does not hang on Qt's own locks alone.
+// Qt only wakes the other thread. The work goes through a CJobQueue, whose lock orders the two
+// threads in a way that a thread sanitizer can follow.
 //
-// Any thread. Jobs own what they need: they run after whoever started them may be gone. The end of
-// the process, by exit() or with the application object, waits for them before it destroys what
-// they use; what is left for the GUI thread then does not run.
+// Any thread. A job owns what it needs, since its starter may be gone when it runs. The end of the
+// process, by exit() or with the application object, waits for the jobs before it destroys what
+// they use. Calls for the GUI thread that are left then do not run.
 //
 //   m_future = StartOnPool([document] {
 //       const std::string answer = Ask(document);
@@ -17,19 +17,19 @@
 
 #include "Support/JobQueue.h"
 
-// On a thread of the global pool.
+// Runs the job on a thread of the global pool.
 QFuture<void> StartOnPool(CJobQueue::Job job);
 
-// The same before all jobs that wait, and on a thread more when all are taken: the job begins
-// soon, whatever the others wait for.
+// The same, in front of all waiting jobs, and on an extra thread when all are busy. So the job
+// begins soon, whatever the others wait for.
 void StartOnPoolAtOnce(CJobQueue::Job job);
 
-// What the end of the process calls before it waits for the pool, on the thread that ends it; it
-// may start jobs, and may be called twice. As long as the process lives.
+// Adds a call for the end of the process. It is made before the wait for the pool, on the thread
+// that ends the process, maybe twice. It may start jobs. Nothing takes it back.
 void CallAtTheEnd(CJobQueue::Job call);
 
-// On the GUI thread, some time later; not at all once the application is going down.
+// Makes the call on the GUI thread, some time later. It is dropped when the application ends first.
 void PostToGui(CJobQueue::Job call);
 
-// All that was started on the pool has ended, and what it wrote can be read.
+// True when all jobs of the pool have ended. What they wrote can be read then.
 bool IsPoolIdle();

@@ -1,9 +1,9 @@
 // Turns at something that one thread may use at a time.
 //
-// Whoever calls Lock waits behind all who came before. A place goes in front of them all: it is
-// reserved at once, on any thread and without waiting, and whoever takes it later is next behind
-// the one who has the turn now. Nobody else gets a turn as long as a place is reserved, so it must
-// be taken soon, on a thread that is free for it. Who has a turn for long gives way now and then.
+// Lock waits behind all earlier callers. A place goes in front of them. It is reserved at once, on
+// any thread, without a wait; Take then gets the next turn behind the one that runs. As long as a
+// place is reserved, nobody else gets a turn. So take it soon, on a thread that is free for it.
+// Whoever has a turn for long calls GiveWay now and then.
 //
 // The thread that has the turn may lock again; the turn ends with the last Unlock. Nothing here
 // waits with a time limit.
@@ -28,15 +28,15 @@ public:
     void Unlock() override;
     bool TryLock() override;
 
-    // By the thread that has the turn: all places come first, and then it goes on before all
-    // others. Returns at once when there is no place.
+    // Called by the thread that has the turn. Lets all places have theirs, then goes on in front of
+    // all other callers. Returns at once when there is no place.
     void GiveWay();
 
     class CPlace
     {
     public:
         explicit CPlace(CTurns &turns);
-        // Ends the turn, on the thread that has taken the place; gives it back if nobody has.
+        // Ends the turn, on the thread that took the place. A place that nobody took is given back.
         ~CPlace();
         CPlace(const CPlace &) = delete;
         CPlace &operator=(const CPlace &) = delete;

@@ -1,5 +1,3 @@
-#pragma once
-
 // UTF-8 text to wide text and back, for the INI files, whose library works on wchar_t.
 //
 // Every input gives a result; nothing here fails or throws but for want of memory. A byte that is
@@ -10,6 +8,7 @@
 // No state, any thread.
 //
 //     WideFromUtf8("n78 \xC2\xB1") == L"n78 \u00B1"
+#pragma once
 
 #include <cstddef>
 #include <string>

@@ -109,7 +109,7 @@ VOND_OFFSET(SMMCalTxEntryV7, bandwidth, 0);
 VOND_OFFSET(SMMCalTxEntryV7, blockCount, 4);
 VOND_OFFSET(SMMCalTxEntryV7, route, 6);
 
-// The same in an upload answer of some targets, entry by entry in the place of the other.
+// Some targets use this layout in an upload answer, for all entries or for some.
 struct SMMCalTxEntryCountFirstV7
 {
     uint16_t blockCount;

@@ -1,5 +1,5 @@
-// The gain block that a gain search answers with and an RSSI command sends back: one layout, so
-// that what the target advised goes to it as it came.
+// The gain block of a gain search's answer and of an RSSI command. Both have one layout, so the
+// target's advice goes back to it unchanged.
 //
 // Little-endian and naturally aligned. All gains are dB in 1/32 dB. The record around the block
 // says which layout holds.

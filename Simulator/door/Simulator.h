@@ -29,7 +29,7 @@ struct SDut
     CFlash flash;
 };
 
-// Bytes that a caller handed over; null with a size is a null pointer where a record must be.
+// Bytes from the caller. Null with a size: the caller passed a null pointer in place of a record.
 struct SConstBytes
 {
     const void *data = nullptr;

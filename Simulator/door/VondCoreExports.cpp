@@ -42,7 +42,7 @@ struct SCapabilityRead
     uint32_t resultSize;
 };
 
-// Copies the request in and the record out, since the caller's bytes may lie anywhere.
+// Works on copies of request and record, since the caller's bytes may be unaligned.
 template <class Record, class Use>
 int32_t ReadCapability(const SCapabilityRead &read, const Use &use)
 {
@@ -67,7 +67,7 @@ int32_t ReadCapability(const SCapabilityRead &read, const Use &use)
     });
 }
 
-// Texts outlive any profile, as the callers may keep them.
+// Each text lives as long as the process, since callers may keep the pointer.
 const char *Kept(const char *text)
 {
     static std::set<std::string> *const texts = new std::set<std::string>;
@@ -88,7 +88,7 @@ extern "C" {
 
 VOND_RESULT VOND_QueryFunctionSupported_r(uint32_t h, uint32_t t, const char *function)
 {
-    // One byte at least, so that a null name is seen as such; the terminator stays out otherwise.
+    // A null name counts one byte, so that it is refused as a null pointer.
     const std::size_t length = function != nullptr ? strnlen(function, kLongestName) : 1;
     return Run({EFunction::QueryFunctionSupported, h, t, {function, length}},
                [&](SDut &dut) -> SVerdict {

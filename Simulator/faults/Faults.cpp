@@ -67,7 +67,7 @@ std::vector<uint8_t> ReadHex(CJsonReader &reader, const char *key)
     return bytes;
 }
 
-// A text function has nothing but its text and its delay to go wrong.
+// A function that returns a text can show a null text or a delay, and no other fault.
 bool CanShow(const SFunction &function, EFaultKind kind)
 {
     const bool isText = function.kind == EFunctionKind::Library;

@@ -71,7 +71,7 @@ public:
     void Add(const SFault &fault);
     void Clear();
 
-    // Counts a call to the function and says what befalls it.
+    // Counts a call of the function and tells what the faults do to it.
     SFaultPlan Plan(const SFunction &function);
 
 private:

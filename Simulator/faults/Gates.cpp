@@ -42,7 +42,7 @@ bool CGates::WaitUntilHeld(EFunction function, std::chrono::milliseconds timeout
 
 void CGates::Open(SGate &gate)
 {
-    // The callers that stand here are released with this, so they no longer count as held.
+    // The waiting callers go on now. They count as held no longer.
     gate.held = false;
     gate.waiting = 0;
     ++gate.releases;

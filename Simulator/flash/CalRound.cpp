@@ -18,7 +18,7 @@ SCalArea<Block> Area(int count, const Block *blocks, const Read &read)
     return area;
 }
 
-// Type 1 entries stand alike in both requests.
+// Type 1 entries have the same layout in both requests.
 template <class Request>
 SCalArea<SType1Block> Type1Of(const Request &request, const SType1Block *blocks)
 {
@@ -27,7 +27,7 @@ SCalArea<SType1Block> Type1Of(const Request &request, const SType1Block *blocks)
     });
 }
 
-// The route of an upload entry stands in it twice.
+// An upload entry names its route twice.
 std::string CheckTwice(const SMMGetCalDataReqV7 &request, std::size_t count)
 {
     for (std::size_t i = 0; i < count; ++i) {
@@ -97,7 +97,8 @@ std::string CheckCalBlocks(const SProfile &profile, const SCalArea<Block> &area)
         reason = CheckCalRecord(profile, entry.key, block, entry.blockCount);
         block += entry.blockCount;
     }
-    // The record is zeroed for each round, so a band behind the last block is one nobody counted.
+    // The tool zeroes the record for each round. A band behind the last block means that the
+    // entries count too few blocks.
     const Block *const end = area.blocks + SCalKind<Block>::kBlocksOfRound;
     if (reason.empty() && std::any_of(block, end, [](const Block &b) { return b.band != 0; }))
         reason = std::to_string(area.BlockTotal()) + " blocks counted, more are filled";

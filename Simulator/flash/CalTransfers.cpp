@@ -38,7 +38,7 @@ void Say(SMMCalVerdictV7 &verdict, const std::string &reason)
     reason.copy(text, kVondCalText - 1);
 }
 
-// A reason that is none of one kind's stands in all texts.
+// A reason that concerns the whole round stands in all three texts.
 void SayAll(SMMCalVerdictV7 &verdict, const std::string &reason)
 {
     verdict = {};
@@ -47,7 +47,7 @@ void SayAll(SMMCalVerdictV7 &verdict, const std::string &reason)
     Say<SAptBlock>(verdict, reason);
 }
 
-// A verdict of one reason for each kind, empty where all is well.
+// The verdict from a reason for each kind; an empty reason: the kind is good.
 SMMCalVerdictV7 VerdictOf(const std::string &type1, const std::string &type2, const std::string &tx)
 {
     SMMCalVerdictV7 verdict = {};
@@ -72,7 +72,7 @@ void CopyBlocks(const SFlashImage &image, const SCalArea<Block> &area, Block *to
     }
 }
 
-// Puts the blocks of a download in place and keeps what was there, so that it can go back.
+// Puts the blocks of a download in place. Keeps the old ones, so that it can be undone.
 template <class Block>
 class CExchange
 {
@@ -88,7 +88,7 @@ public:
         }
     }
 
-    // In reverse, as a record may stand in the round twice.
+    // In reverse: a record may stand in the round twice.
     void Undo()
     {
         for (auto old = m_old.rbegin(); old != m_old.rend(); ++old)

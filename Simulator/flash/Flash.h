@@ -21,8 +21,8 @@ public:
     // An empty path: no file.
     explicit CFlash(std::string path = {});
 
-    // A record for every place of the profile, a DUT that was never calibrated has empty ones. The
-    // profile must stay the same.
+    // All records of the profile's DUT; they are empty if it was never calibrated. Every call gets
+    // the same profile.
     SFlashImage &Image(const SProfile &profile);
     // Writes the image to the file, whole or not at all. False, and a line on stderr: it failed.
     bool Keep() const;

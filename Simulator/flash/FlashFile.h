@@ -18,8 +18,8 @@ public:
 };
 
 // Replaces the records of the image by those of the file. A missing or empty file changes nothing,
-// nor does a failure. The flash of another DUT is one whose records are not those of the image or
-// break the profile's limits; a damaged file is one whose checksum is wrong.
+// nor does a failure. A file is the flash of another DUT when its records have other names than the
+// image's, or break the profile's limits. It is damaged when its checksum is wrong.
 void LoadFlash(const std::string &path, const SProfile &profile, SFlashImage &image);
 
 // Writes beside the file and then puts the new one in its place, so that the file is the old or the

@@ -7,7 +7,7 @@
 
 namespace {
 
-// One for each 5 MHz, where the profile does not say.
+// Limits in kHz for each subband, where the profile gives no number.
 constexpr uint32_t kSubbandKhz = 5000;
 constexpr uint8_t kNormalTemperature = 3;
 
@@ -71,7 +71,7 @@ int SubbandCount(const SProfile &profile, const SCalPlace &place)
     return static_cast<int>(std::clamp(parts, 1u, static_cast<uint32_t>(most)));
 }
 
-// A record's own chance, which no other record shifts.
+// The source of chance of one record. Other records do not change it.
 template <class Block>
 CNoise NoiseOf(const SProfile &profile, const SCalPlace &place)
 {
@@ -80,14 +80,14 @@ CNoise NoiseOf(const SProfile &profile, const SCalPlace &place)
     return CNoise(name * 0x2545f4914f6cdd1du + profile.calibration.seed);
 }
 
-// Where a subband lies between the first and the last, 0 to 1.
+// Position of a subband in its record: 0 is the first one, 1 the last.
 double Position(std::size_t subband, std::size_t count)
 {
     return count > 1 ? double(subband) / double(count - 1) : 0.0;
 }
 
-// Empty blocks with their frequencies; write(block, subband of the block, position) fills the rest
-// of each subband.
+// Makes blocks that hold frequencies alone, then calls write(block, subband of the block, position)
+// for each subband.
 template <class Block, class Write>
 std::vector<Block> Blocks(const std::vector<uint32_t> &frequencies, const Block &head,
                           const Write &write)
@@ -136,7 +136,7 @@ std::vector<SAptBlock> Record(const SProfile &profile, const SCalPlace &place,
 }
 
 // The losses of a route at its lowest subband: one value for each pair and power mode that the gain
-// tables allow. The others stay 0, as nobody calibrates what the receiver never sets.
+// tables allow. The others stay 0: the receiver never uses them.
 struct SLoss
 {
     int pair;
@@ -186,8 +186,8 @@ void AddLosses(const SMMRfRxGainInfoV7 &gain, const SPowerMode &mode, CNoise &no
     }
 }
 
-// Of a type 2 route on one SRX path: those of the slots, and for each slot's gain those beside each
-// gain of the other SRX path that can run together with it.
+// The losses of a type 2 route on one SRX path: those of the slots, and for each slot's gain one
+// for each gain of the other SRX path that can run together with it.
 void AddLossesOf(int srx, EVondRxPath path, const SMMRfRxGainInfoV7 &gain, const SPowerMode &mode,
                  CNoise &noise, std::vector<SLoss> &losses)
 {

@@ -1,10 +1,9 @@
-// A DUT profile: everything that one simulated DUT is, apart from what its radio does at the
-// moment.
+// A DUT profile: all that is fixed of one simulated DUT.
 //
-// The records hold what the wire records of the capability reads tell, in units of their own: kHz,
-// band and route numbers as on the wire. A profile that ParseProfile has returned keeps within the
-// limits of the wire records and is consistent: every route stands on a listed band and paired TX
-// routes exist. Value type, no locks.
+// The records hold the content of the capability records. Frequencies are kHz; band and route
+// numbers are those of the wire. A profile that ParseProfile has returned keeps within the limits
+// of the wire records and is consistent: every route stands on a listed band and paired TX routes
+// exist. Value type, no locks.
 #pragma once
 
 #include <map>
@@ -38,7 +37,7 @@ struct SProfileBand
     SFreqLimits downlink;
 };
 
-// What stands behind a route; TX routes have one port and one path, type 1 routes one path.
+// The hardware of a route. TX routes have one port and one path, type 1 routes one path.
 struct SProfileHardware
 {
     uint32_t antMask = 0;
@@ -102,8 +101,8 @@ private:
     }
 };
 
-// Subbands of the calibration records of one kind; by the width of the limits, where no number is
-// given.
+// Number of subbands in the calibration records of one kind. None: one for each 5 MHz of the
+// limits.
 struct SProfileSubbands
 {
     std::optional<int> fallback;
@@ -118,7 +117,7 @@ enum class ETxEntries
     InTurn,  // the one and the other, entry by entry
 };
 
-// What the flash holds when no file brings it, and how it is told.
+// The content of the flash without a file, and the field order of an upload answer.
 struct SProfileCalibration
 {
     uint32_t seed = 1;

@@ -1,4 +1,4 @@
-// The profile's "calibration" key: what the DUT's flash holds when no file brings it. Used by
+// The profile's "calibration" key: the content of the flash without a file. Used by
 // ParseProfile alone; failures are std::runtime_error that name the place.
 #pragma once
 

@@ -25,8 +25,8 @@ std::vector<SProfileBand> BandsWith(const SProfile &profile, bool uplink)
     return bands;
 }
 
-// Hardware that tells one route from the next and uses every field; pairs are the next routes in
-// number order, around the end.
+// Hardware that differs from route to route and fills every field. The MIMO pairs are the next
+// route numbers; the first follows the last.
 SProfileHardware Hardware(uint16_t route, uint16_t first, uint16_t count, std::size_t pairs,
                           const std::string &port)
 {
@@ -85,8 +85,8 @@ void AddRxRoutes(const SProfile &profile, const SRxRule &rule, std::vector<SProf
     }
 }
 
-// Each limit takes 1 MHz off both edges of the band, so that it differs from the band's own; less
-// of a band that is narrower than 4 MHz, so that something is left.
+// Limits lie 1 MHz inside the edges of their band, so that they differ from the band's own. A band
+// narrower than 4 MHz loses less at each edge.
 template <class Route>
 void AddLimits(const SProfile &profile, const std::vector<Route> &routes,
                SFreqLimits SProfileBand::*direction, std::size_t count,

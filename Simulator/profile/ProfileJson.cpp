@@ -13,10 +13,10 @@ using nlohmann::json;
 
 namespace {
 
-// Keys of a profile file stay far below this; a larger file is a wrong path.
+// A profile is far smaller than this; a larger file is a wrong path.
 constexpr std::streamoff kLargestFile = 8 * 1024 * 1024;
 
-// No profile nests deeper; the limit keeps a broken file from running the stack out.
+// No profile nests deeper. With the limit a broken file cannot exhaust the stack.
 constexpr int kDeepest = 16;
 
 json ParseText(const std::string &text)

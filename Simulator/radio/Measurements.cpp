@@ -117,7 +117,7 @@ uint16_t RouteOfBand(const SProfile &profile, uint16_t band)
     return 0;
 }
 
-// Of all antennas together, each weighted by its own ratio.
+// The ratio of all antennas together: the sum of their ratios.
 double CombinedRatio(const SRsrpRun &run, const SReception *receptions)
 {
     double combined = receptions[0].ratio;
@@ -237,7 +237,7 @@ SMixRxReading MeasureMixRx(const SRsrpRun &run, CNoise &noise)
             SReception &reception = receptions[antenna];
             reception = ReceptionOf(run, antenna, run.fluctuation * noise.Bell());
             rssi[antenna][i] = Fixed(reception.total, 128);
-            // RSRP is the power of one resource element; what noise the estimate lets through is
+            // RSRP is the power of one resource element. Noise that the estimate lets through is
             // its floor.
             const double element =
                 PowerSum(reception.signal, reception.signal - reception.ratio - kSssGain);

@@ -14,9 +14,9 @@ class CNoise
 public:
     explicit CNoise(uint64_t seed = 1) : m_state(seed) {}
 
-    // From 0 up to, but not including, 1; all alike.
+    // Even from 0 to 1, without 1.
     double Uniform();
-    // Within -1 and 1, around 0 most: the mean of three uniform draws.
+    // From -1 to 1, most often near 0: the mean of three even draws.
     double Bell();
 
 private:

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Downlink minus uplink; the carrier of an FDD band keeps it over the whole band.
+// Duplex distance: downlink minus uplink. It is the same over a whole FDD band.
 int64_t DuplexDistance(const SProfileBand &band)
 {
     return int64_t(band.downlink.low) - int64_t(band.uplink.low);

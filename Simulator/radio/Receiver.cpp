@@ -105,7 +105,7 @@ SReception Receive(double signal, double noise, bool lowPower)
     reception.total = Limited(input + gain, kAdcFullScale) - gain;
     const double compression = input - reception.total;
     reception.signal = signal - compression;
-    // What the limiter takes off comes back as distortion.
+    // What the limiter cuts off counts as distortion.
     const double lost = Milliwatt(input) - Milliwatt(reception.total);
     reception.ratio = reception.signal - DBm(Milliwatt(noise - compression) + std::max(lost, 0.0));
     return reception;

@@ -1,5 +1,4 @@
-// The physics of the simulated receiver: thermal noise, gain steps, what saturates and what an
-// error rate hangs on.
+// The physics of the simulated receiver: noise, gain steps, saturation, block error rate.
 //
 // Powers are dBm, gains, losses and ratios dB. The chain is: antenna connector, front end (filter,
 // eLNA and mixer with the RF gain), ADC, digital gain. Powers are referred to the antenna connector
@@ -21,7 +20,7 @@ constexpr double kLowPowerLoss = 1.5;     // dB of gain and of noise figure in l
 constexpr double kDiversityLoss = 0.8;    // dB, of each further antenna
 constexpr double kRssiBandwidth = 5.0e6;  // Hz, measuring filter of the RSSI test
 
-// dBm of two powers that have nothing to do with each other.
+// Sum of two uncorrelated powers.
 double PowerSum(double one, double other);
 // Noise of the receiver in a bandwidth.
 double ThermalNoise(double bandwidthHz, double noiseFigure);

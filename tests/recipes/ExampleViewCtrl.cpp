@@ -12,6 +12,7 @@
 namespace {
 
 constexpr double kPowerScale = 256.0;  // dBm in 1/256 dB
+constexpr char kResultPath[] = "cmdIf.response.group1.memberProperty.pdValue.trait.defaultValue";
 
 struct SExampleAnswer
 {
@@ -19,7 +20,7 @@ struct SExampleAnswer
     std::string response;
 };
 
-// The answer of job reaches done on the GUI thread, if self still lives then.
+// The answer of job reaches done on the GUI thread, if ctrl still lives then.
 template <typename Job, typename Done>
 void RunOnPool(CExampleViewCtrl *ctrl, Job job, Done done)
 {
@@ -53,12 +54,11 @@ SExampleAnswer ReadPdValue(const std::string &text)
     if (values.value(QLatin1String("corrected")).toString() == QLatin1String("true"))
         power += values.value(QLatin1String("couplerLoss")).toString().toDouble();
     if (status == eStatusSuccess)
-        ModifyJsonValue(
-            document,
-            QStringLiteral("cmdIf.response.group1.memberProperty.pdValue.trait.defaultValue"),
-            QString::number(power, 'f', 2), 0);
-    return {{QStringLiteral("Example"), static_cast<int>(status), operation.GetErrorMessage()},
-            ModelToText(document)};
+        ModifyJsonValue(document, QLatin1String(kResultPath), QString::number(power, 'f', 2), 0);
+    return {.result = {.itemName = QStringLiteral("Example"),
+                       .status = static_cast<int>(status),
+                       .message = operation.GetErrorMessage()},
+            .response = ModelToText(document)};
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
 // The example page's part of a view controller and of the core behind it.
 //
-// The page's document and its one test: a reading of the power detector, with the coupler's loss
-// added when the document says so. Requests return at once; answers come on the GUI thread, and
-// none comes when this object is gone by then.
+// It stands in for the generic requests of CQuorlinViewCtrl and the page's row in the core, whose
+// tables are not open to a test. It gives the page's document and runs its one test: a reading of
+// the power detector, with the coupler's loss added when the document says so. Requests return at
+// once. Answers come on the GUI thread, and none comes when this object is gone by then.
 //
 //   connect(ctrl, &CExampleViewCtrl::Signal_ExampleTestDone, this, &Page::Slot_ExampleTestDone);
 //   ctrl->ExampleTest(document);

@@ -1,5 +1,5 @@
-// The checks, one function a subject. Each reports on its own and takes the page as it is: a check
-// skips what another one reports, such as a relation through a member of unknown type.
+// The checks, one function a subject. A check skips what another one reports, such as a relation
+// through a member of unknown type.
 #pragma once
 
 #include "tools/modelcheck/Finding.h"

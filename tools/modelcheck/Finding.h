@@ -2,8 +2,8 @@
 //
 // A finding says where a page breaks the format: the file, the place in it (a dotted path of the
 // document, an object name of the form), the kind, and the words. Kinds are what the allow list
-// names; each has one row in kKinds. Some kinds are no errors to the engine but mostly slips of the
-// hand, such as a list's default that is not among its items: they are reported like the others,
+// names; each has one row in kKinds. Some kinds are no errors to the engine but mostly slips,
+// such as a list's default that is not among its items: they are reported like the others,
 // and a page that means it says so in the allow list. Values only, any thread.
 //
 //   SReport report{"NrContRxV7.json", findings};

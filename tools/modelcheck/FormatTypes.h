@@ -3,8 +3,8 @@
 // The engine has rows of its own (View/engine/DataTypes.h), and it has the last word on names and
 // classes. They are not used here because they lie in the module of the pages: the program would
 // link every page and load Qt Widgets and the library of target commands to read two text files,
-// and could not be built while the page that it shall check does not compile. A test holds these
-// rows to the engine's.
+// and could not be built while the page that it shall check does not compile. A test compares
+// these rows with the engine's.
 //
 //   const SFormatType *type = FindFormatType("range");
 //   if (type && type->groups & GroupBit(2)) ...   // usable in a row table

@@ -3,7 +3,7 @@
 //   modelcheck PAGE.json [PAGE.ui] [PAGE.json [PAGE.ui] ...] [--allow FILE]
 //
 // A form stands behind its document; a document without one is checked alone.
-// Findings go to out, complaints about the call and the files to err. Returns the exit code.
+// Findings go to out; errors of the call and of the files go to err. Returns the exit code.
 //
 //   QTextStream out(stdout), err(stderr);
 //   return RunModelCheck({"NrContRxV7.json", "NrContRxDockWidgetV7.ui"}, out, err);
