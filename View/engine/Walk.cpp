@@ -8,7 +8,7 @@
 #include "Model/ModelText.h"
 #include "Support/Log.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
-#include "View/engine/GroupType.h"
+#include "View/engine/GroupTypes.h"
 #include "View/engine/WidgetIndex.h"
 
 // What a walk says of itself.

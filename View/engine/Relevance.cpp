@@ -13,7 +13,7 @@
 #include "Support/Log.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
 #include "View/engine/DataTypes.h"
-#include "View/engine/GroupType.h"
+#include "View/engine/GroupTypes.h"
 #include "View/engine/RelevanceWords.h"
 #include "View/engine/TableGroup.h"
 #include "View/engine/WidgetIndex.h"
