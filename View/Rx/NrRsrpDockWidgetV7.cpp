@@ -12,6 +12,7 @@
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
 #include "View/engine/TableGroup.h"
+#include "View/engine/TableSize.h"
 
 namespace {
 

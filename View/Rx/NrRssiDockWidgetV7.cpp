@@ -8,6 +8,7 @@
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
+#include "View/engine/TableSize.h"
 #include "ui_NrRssiDockWidgetV7.h"
 
 namespace {

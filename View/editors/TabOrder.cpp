@@ -1,13 +1,12 @@
 #include "View/editors/TabOrder.h"
 
-#include <QHeaderView>
-#include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
 
+#include "View/editors/ExactClass.h"
+#include "View/editors/ScrollIntoView.h"
 #include "View/editors/TableKeys.h"
-#include "View/engine/WidgetIndex.h"
 
 namespace {
 
@@ -53,7 +52,7 @@ bool MoveFocus(QWidget *window, bool next)
         if (!IsStop(widget, target, window))
             continue;
         target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-        ScrollIntoView(target);
+        ScrollIntoView(target, TableOf(target));
         return true;
     }
     return false;
@@ -63,24 +62,4 @@ void PlaceTabBar(QWidget *before, QTabWidget *tabs, QWidget *behind)
 {
     QWidget::setTabOrder(before, tabs->tabBar());
     QWidget::setTabOrder(tabs->tabBar(), behind);
-}
-
-void ScrollIntoView(QWidget *widget)
-{
-    int captions = 0;
-    if (QTableWidget *table = TableOf(widget)) {
-        table->scrollTo(table->indexAt(widget->geometry().center()));
-        // They may stand pinned above the cells.
-        captions = table->verticalHeader()->isVisible() ? table->verticalHeader()->width() : 0;
-    }
-    for (QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
-        auto *area = qobject_cast<QScrollArea *>(parent);
-        if (!area || !area->widget() || !area->widget()->isAncestorOf(widget))
-            continue;
-        const QPoint center = widget->mapTo(area->widget(), widget->rect().center());
-        const QSize room = area->viewport()->size() / 2;
-        area->ensureVisible(center.x(), center.y(),
-                            qMin(widget->width() / 2 + captions, room.width()),
-                            qMin(widget->height() / 2, room.height()));
-    }
 }

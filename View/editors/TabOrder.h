@@ -16,5 +16,3 @@ bool MoveFocus(QWidget *window, bool next);
 // Puts the bar of a tab widget between two widgets of a form. A form cannot: Qt cuts the order in
 // two when it lists a tab widget and then something on one of its tabs.
 void PlaceTabBar(QWidget *before, QTabWidget *tabs, QWidget *behind);
-// In its table and in all scroll areas around it.
-void ScrollIntoView(QWidget *widget);

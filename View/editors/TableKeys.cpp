@@ -5,7 +5,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
-#include "View/editors/TabOrder.h"
+#include "View/editors/ScrollIntoView.h"
 #include "View/editors/UnsignedSpinBox.h"
 
 namespace {
@@ -89,7 +89,7 @@ bool CTableKeys::eventFilter(QObject *object, QEvent *event)
         return false;
     if (widget != m_table) {
         m_last = widget;
-        ScrollIntoView(widget);
+        ScrollIntoView(widget, m_table);
     } else if (IsTabReason(static_cast<QFocusEvent *>(event)->reason())) {
         if (QWidget *cell = Entry())
             Focus(cell);

@@ -1,16 +1,22 @@
 #include "View/engine/AutoBindingDataModelDockWidget.h"
 
+#include <utility>
+
+#include <QDoubleSpinBox>
 #include <QEvent>
 #include <QGroupBox>
 #include <QPointer>
+#include <QSpinBox>
 
 #include "Model/JsonPath.h"
-#include "Model/MemberPath.h"
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
 #include "View/editors/FormFont.h"
-#include "View/engine/WidgetIndex.h"
+#include "View/engine/Binding.h"
+#include "View/engine/RangeCheck.h"
+#include "View/engine/TableSize.h"
+#include "View/engine/Walk.h"
 
 namespace {
 
@@ -19,11 +25,20 @@ const QLatin1String
 
 const QLatin1String kLineBreak("<br>");  // the box shows its text as rich text
 
+// Qt's JSON keeps the bytes of overwritten strings, so a document that is packaged for days is made
+// anew from its text now and then.
+constexpr int kPackagesBetweenRenewals = 256;
+
 void LogFramed(const char *words, const QString &title)
 {
     qCDebug(lcEngine) << kHyphens.data();
     qCDebug(lcEngine) << words << title;
     qCDebug(lcEngine) << kHyphens.data();
+}
+
+QString CheckText(int state)
+{
+    return state == Qt::Checked ? QStringLiteral("true") : QStringLiteral("false");
 }
 
 }  // namespace
@@ -34,26 +49,6 @@ CAutoBindingDataModelDockWidget::CAutoBindingDataModelDockWidget(QWidget *parent
     // Texts of the editors travel in documents, so a point is a point whatever the user's language.
     setLocale(QLocale::c());
     m_messageBox.SetOwner(this);
-}
-
-CAutoBindingDataModelDockWidget::CIndexScope::CIndexScope(CAutoBindingDataModelDockWidget *page)
-    : m_page(page), m_isOutermost(page->m_index == nullptr)
-{
-    if (m_isOutermost)
-        m_page->m_index = new CWidgetIndex(m_page->m_rootWidget);
-}
-
-CAutoBindingDataModelDockWidget::CIndexScope::~CIndexScope()
-{
-    if (!m_isOutermost)
-        return;
-    delete m_page->m_index;
-    m_page->m_index = nullptr;
-}
-
-const CWidgetIndex *CAutoBindingDataModelDockWidget::CIndexScope::operator->() const
-{
-    return m_page->m_index;
 }
 
 // The mouse does nothing in a page's title area, but for the double click.
@@ -88,6 +83,7 @@ void CAutoBindingDataModelDockWidget::StartInit()
     setStyleSheet(QStringLiteral("QGroupBox::title { color: rgb(32, 81, 124);}"));
     m_modelInterface = GetModelInterface();
     m_rootWidget = GetRootWidget();
+    m_index = CWidgetIndex(m_rootWidget);
     m_wheel.GuardAll(AllWidgets());
     RequestDataModel();
 }
@@ -108,6 +104,111 @@ void CAutoBindingDataModelDockWidget::Slot_GetDataModelDone(std::string dataMode
     }
     LogFramed(" Init Done: ", windowTitle());
     emit Signal_InitDone();
+}
+
+void CAutoBindingDataModelDockWidget::InitWidget()
+{
+    qCDebug(lcEngine) << "============ [Start] Init widget ============ ";
+    const QList<QWidget *> widgets = AllWidgets();
+    SetGroupBoxFonts(widgets);
+    InitMembers(BindingOf(m_dataModel), widgets);
+    SizeTables();
+    qCDebug(lcEngine) << "============ [Done] Init widget ============ ";
+}
+
+// All tables of a page at once: showing their headers shows every editor of the page again.
+void CAutoBindingDataModelDockWidget::SizeTables()
+{
+    const auto sizings = std::exchange(m_sizings, {});
+    if (sizings.empty())
+        return;
+    ShowHeaders(this);
+    for (const auto &size : sizings)
+        size();
+}
+
+SBinding CAutoBindingDataModelDockWidget::BindingOf(const QJsonObject &update)
+{
+    return {
+        .document = m_dataModel,
+        .update = update,
+        .modelInterface = m_modelInterface,
+        .index = m_index,
+        .page = *this,
+        .edits = m_edits,
+        .sizings = m_sizings,
+    };
+}
+
+void CAutoBindingDataModelDockWidget::UpdateWidget(QJsonObject update)
+{
+    m_modelReady = false;
+    Walk(kUpdateWalk, BindingOf(update));
+    const QPointer<CAutoBindingDataModelDockWidget> self(this);
+    CheckDateModelIntegrity(update);
+    if (self)
+        m_modelReady = true;
+}
+
+void CAutoBindingDataModelDockWidget::AppendWidget(QJsonObject update)
+{
+    Walk(kAppendWalk, BindingOf(update));
+}
+
+std::string CAutoBindingDataModelDockWidget::PackageMemberValue()
+{
+    FinishEdit();
+    Walk(kPackageWalk, BindingOf(m_dataModel));
+    const std::string text = ModelToText(m_dataModel);
+    qCDebug(lcEngine) << "============ [Done] Package MemberValue ============ " << text.c_str();
+    if (++m_packageCount % kPackagesBetweenRenewals == 0)
+        m_dataModel = ModelFromText(text);
+    return text;
+}
+
+void CAutoBindingDataModelDockWidget::Slot_ValueChange(QString currentText)
+{
+    Publish(ERelevance::Value, currentText);
+}
+
+void CAutoBindingDataModelDockWidget::Slot_EnableStatusChange(QString currentText)
+{
+    Publish(ERelevance::Status, currentText);
+}
+
+void CAutoBindingDataModelDockWidget::Slot_CheckBoxValueChange(int state)
+{
+    qCDebug(lcEngine) << "============ [Value Relevance]Check Box  =========== " << state;
+    Slot_ValueChange(CheckText(state));
+}
+
+void CAutoBindingDataModelDockWidget::Slot_CheckBoxEnableStatusChange(int state)
+{
+    qCDebug(lcEngine) << "============ [Status Relevance]Check Box  =========== " << state;
+    Slot_EnableStatusChange(CheckText(state));
+}
+
+void CAutoBindingDataModelDockWidget::Publish(ERelevance kind, const QString &currentText)
+{
+    const auto *publisher = qobject_cast<QWidget *>(sender());
+    if (!CRelevance::Takes(kind, publisher, currentText))
+        return;
+    // What another widget sets off may give the editor new limits.
+    if (!m_relevance.IsUnderWay() && publisher != m_edits.Editor())
+        FinishEdit();
+    m_relevance.Publish(kind, publisher, currentText);
+}
+
+void CAutoBindingDataModelDockWidget::Slot_RangeCheck()
+{
+    if (auto *box = qobject_cast<QSpinBox *>(sender()); m_edits.TakeEnded(box))
+        CheckRange(box);
+}
+
+void CAutoBindingDataModelDockWidget::Slot_PointRangeCheck()
+{
+    if (auto *box = qobject_cast<QDoubleSpinBox *>(sender()); m_edits.TakeEnded(box))
+        CheckRange(box);
 }
 
 void CAutoBindingDataModelDockWidget::CheckDateModelIntegrity(QJsonObject update)
@@ -168,9 +269,7 @@ void CAutoBindingDataModelDockWidget::ShowItemResult(const QString &title,
 
 int CAutoBindingDataModelDockWidget::GetGroupType(const QString &memberPath)
 {
-    const QString group = GroupPrefix(memberPath);
-    return group.isEmpty() ? 0
-                           : GetJsonValue(m_dataModel, group + QLatin1String("groupType")).toInt();
+    return GroupTypeOf(m_dataModel, memberPath);
 }
 
 QString CAutoBindingDataModelDockWidget::AbsoluteModelPath(const QString &relativePath) const

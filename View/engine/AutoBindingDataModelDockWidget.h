@@ -1,44 +1,37 @@
-// The binding engine: base class of every page.
+// The base class of every page: a form of plain Qt widgets, tied to a JSON document, its data model,
+// by object names alone.
 //
-// A page is a form of plain Qt widgets and a JSON document, its data model. The engine ties the two
-// together by objectName alone and moves values in four directions:
-//     Init     fills the widgets from the document, once, when the page is first shown
-//     Update   shows a result document in the widgets of its response or data section, and adopts
-//     it Append   adds rows to result tables Package  writes what the widgets hold into the
-//     document's memberValue objects
-// Between them, relevance follows the document's publish lists as the user edits.
+// Four walks move values between the two:
+//
+//   Init      fills the widgets from the document, once, when the page is first shown
+//   Update    shows a result document in the widgets of its response or data section, and adopts it
+//   Append    adds rows to result tables
+//   Package   writes what the widgets hold into the document's memberValue objects
+//
+// Between them, members follow each other as the user edits (Relevance.h).
 //
 // Name to path. "cmdIf_request_group1_memberProperty_band" is the path
 // "cmdIf.request.group1.memberProperty.band" of the document; with "_caption" behind it, the widget
 // names the member. A widget whose name holds neither "cmdIf_" nor "calDataIf_" is left alone.
 //
-// Order. A walk visits all widgets below the root depth-first, children in creation order; its
-// result does not depend on that order, since Init takes choices from the document's defaults,
-// never from another widget. No relevance runs during Init.
+// Order. A walk visits all widgets below the root depth-first, children in creation order. Its
+// result does not depend on that order: Init takes choices from the document's defaults, never from
+// another widget, and publishes nothing.
 //
-// Binding. The group's groupType decides first: 1 a scalar member in a widget of its own, 2 a row
-// table of results (QTableWidget named after a member of the group), 3 a column table of arrays
-// (the same). Then the member's dataType and the exact class of the widget must fit, as DataTypes.h
-// lists:
-//     list QComboBox, range QSpinBox, pointRange QDoubleSpinBox, label QLabel, boolean QCheckBox;
-//     in column tables also unsignedRange CUnsignedSpinBox.
+// Binding. First the group's groupType decides (GroupTypes.h), then the member's dataType and the
+// exact class of the widget, which must fit (DataTypes.h).
 //
-// Relevance. A change publishes to the members in publishValueList (new choices, limits, value) and
-// publishEnableStatusList (enabled or not). It runs at once and depth-first through Qt's own
-// signals: a list that gets new items publishes in turn, before the publisher's next target. Hidden
-// and disabled publishers publish no values; hidden targets are left as they are.
-//
-// Errors. Every failure of binding is a critical line of "quorlin.engine"; the widget stays as it
-// was and the walk goes on. The user sees the integrity box of a bad document and ShowItemResult
+// Errors. A failure of binding is a critical line of "quorlin.engine"; the widget stays as it was
+// and the walk goes on. The user sees the box of a document with failed patches and ShowItemResult
 // alone.
 //
-// Threads. GUI thread. Documents arrive as text through queued signals. A box shown here runs an
-// event loop in which the page may be destroyed: nothing touches the page after that. A page's own
-// slot on an editor's change must not open one, since a walk or a chain may be under way, and Qt's
-// own code of the editor: it sets m_boxesWait, and the box comes with the next turn of the loop.
+// Threads. GUI thread; documents arrive as text through queued signals. A box runs an event loop in
+// which the page may be destroyed: nothing touches the page after that. So a page's slot on an
+// editor's change opens no box, since a walk or a chain may be under way. It sets m_boxesWait, and
+// the box comes with the next turn of the event loop.
 //
-// Requests. What a button asks of the target begins with BeginRequest and ends with EndRequest. In
-// between, and after it, the focus is where it was or on nothing, whatever is turned off.
+// Requests. What a button asks of the target begins with BeginRequest and ends with EndRequest. From
+// then on the focus stays where it is or is on nothing, whatever is turned off.
 //
 // A page adds its form, its buttons and their answers:
 //
@@ -65,31 +58,19 @@
 
 #include <QDockWidget>
 #include <QFuture>
-#include <QJsonArray>
 #include <QJsonObject>
 #include <QPointer>
-#include <QTableWidget>
 
 #include "Model/OperationResult.h"
 #include "Support/MessageBoxMan.h"
 #include "View/editors/EditSession.h"
 #include "View/editors/WheelGuard.h"
+#include "View/engine/ModelInterface.h"
+#include "View/engine/Relevance.h"
 #include "View/engine/StatusProgress.h"
+#include "View/engine/WidgetIndex.h"
 
-class CWidgetIndex;
-struct SEntryWords;
-struct SRelevanceWords;
-struct SScalarTargetWords;
-struct STableGroup;
-struct STableRow;
-struct STableTargetWords;
-struct SWalkWords;
-
-enum EModelInterface
-{
-    eInterfaceCmdIf = 0,      // test pages
-    eInterfaceCalDataIf = 1,  // calibration pages
-};
+struct SBinding;
 
 class CAutoBindingDataModelDockWidget : public QDockWidget
 {
@@ -108,9 +89,8 @@ public:
     virtual void DisableTestControls() = 0;
     // Start on, Stop off; a running test's buttons stay as they are.
     virtual void EnableTestControls() = 0;
-    // Every test on the DUT was stopped by the tool: the page shows itself idle (buttons, inputs,
-    // timers, remembered stops), without a status line. A page that starts none has nothing to
-    // show.
+    // The tool has stopped every test on the DUT: the page shows itself idle (buttons, inputs,
+    // timers, remembered stops), without a status line. A page without a test has nothing to show.
     virtual void ShowTestStopped() {}
 
 signals:
@@ -119,6 +99,7 @@ signals:
     void Signal_PluginIsBusy(bool isBusy);                   // a target operation begins or ends
 
 public slots:
+    // A publisher's change; the sender is the publisher.
     void Slot_ValueChange(QString currentText);
     void Slot_EnableStatusChange(QString currentText);
     void Slot_CheckBoxValueChange(int state);
@@ -126,6 +107,7 @@ public slots:
     void Slot_GetDataModelDone(std::string dataModelStr);
     // Stops a running test; empty on a page without one.
     virtual void Slot_TriggerStopTest() = 0;
+    // The sender is the editor.
     void Slot_RangeCheck();
     void Slot_PointRangeCheck();
 
@@ -136,25 +118,26 @@ protected:
     // would be pressed by the next Space.
     bool focusNextPrevChild(bool next) override;
 
-    // The walks, for a page's own actions.
+    // The walks, for a page's own actions. The document's text.
     std::string PackageMemberValue();  // ends the edit under way first
     void UpdateWidget(QJsonObject update);
     void AppendWidget(QJsonObject update);
+
     // Ends the edit under way, as leaving its editor does; the focus stays. First thing of a
     // request, so that what is packaged is what the widgets show afterwards.
     void FinishEdit();
-    // How every request of a page begins and ends. BeginRequest ends the edit under way, remembers
-    // what has the focus, has turnOff bring the buttons and inputs to what they are during the
-    // request, and says busy; a progress bar comes when the answer takes long. False when a
-    // listener has taken the page out of its window by that, as a host does that resets: nothing
-    // may be asked of the target any more, and the end of busy is said by others. EndRequest has
-    // turnOn bring them back, gives the focus back, and says that the page is idle; false as above.
-    // Requests may overlap, if what they turn off does not.
-    // A request that cannot do without what is chosen asks HasAllChoices first: false when a combo
-    // box of the document's request that is visible and not turned off by relevance has no current
-    // item; the first of them was named in the status line and a box then. The page may be gone.
+    // For a request that cannot do without what is chosen, before it begins. False when a combo box
+    // of the document's request has no current item, is visible, and is not turned off by relevance;
+    // the first of them was named in the status line and in a box then. The page may be gone.
     bool HasAllChoices();
+    // Begins a request: ends the edit under way, remembers what has the focus, has turnOff bring
+    // buttons and inputs to what they are during the request, and says busy. A progress bar comes
+    // when the answer takes long. False when a listener has taken the page out of its window by
+    // that, as a host does that resets: nothing may be asked of the target any more, and others say
+    // the end of busy. Requests may overlap, if what they turn off does not.
     bool BeginRequest(const std::function<void()> &turnOff);
+    // Ends it: turnOn brings buttons and inputs back, the focus goes back, and the page says that it
+    // is idle. False as above.
     bool EndRequest(const std::function<void()> &turnOn);
     // As these, of what does not reach the target: the page does not say busy.
     bool BeginQuietRequest(const std::function<void()> &turnOff);
@@ -163,6 +146,7 @@ protected:
     bool BeginBusy();
     bool EndBusy();
     CStatusProgress &Progress() { return m_progress; }
+
     // Opens the result box; the page may be gone when it returns.
     void ShowItemResult(const QString &title, const SEachItemOperationResult &result);
     // Shows and drops the document's record of failed patches, and adopts the document if it is
@@ -170,34 +154,8 @@ protected:
     void CheckDateModelIntegrity(QJsonObject update);
     int GetGroupType(const QString &memberPath);
     QString AbsoluteModelPath(const QString &relativePath) const;
-
-    // groupType 1
-    void InitScalarMember(const QString &path, QWidget *widget);
-    void UpdateScalarMember(const QString &path, QWidget *widget, QJsonObject update);
-    void PackageScalarMember(const QString &path, QWidget *widget);
-    QJsonValue ResolveInitEntry(const QJsonValue &member, const QJsonValue &trait);
-    QString BuildInitKey(const QJsonArray &subscribeValueList);
-
-    // groupType 2
-    void InitRowTable(const QString &path, QWidget *widget);
-    void UpdateRowTable(const QString &path, QWidget *widget, QJsonObject update);
-    void AppendRowTable(const QString &path, QWidget *widget, QJsonObject update);
-    // Headers and all cells; the wide form counts the first 15 columns and leaves room for the
-    // horizontal scroll bar. Pixels.
-    static QSize FitTableSize(QTableWidget *table);
-    static QSize FitWideTableSize(QTableWidget *table);
-
-    // groupType 3
-    void InitColumnTable(const QString &path, QWidget *widget);
-    void UpdateColumnTable(const QString &path, QWidget *widget, QJsonObject update);
-    void PackageColumnTable(const QString &path, QWidget *widget);
-
-    // Relevance: target is an absolute path, key the publishers' current texts.
-    void ApplyScalarValueRelevance(const QString &target, const QString &key);
-    void ApplyTableValueRelevance(const QString &target, const QString &key);
-    void ApplyScalarStatusRelevance(const QString &target, const QString &key);
-    void ApplyTableStatusRelevance(const QString &target, const QString &key);
-    QString BuildLiveKey(const QJsonArray &list);
+    // The bound widgets; empty until the page is first shown.
+    const CWidgetIndex &Index() const { return m_index; }
 
     bool m_initStarted = false;
     bool m_boxesWait = false;   // in a slot on an editor's own change
@@ -205,62 +163,35 @@ protected:
     QJsonObject m_dataModel;
     QWidget *m_rootWidget = nullptr;  // null until the page is first shown
     int m_modelInterface = eInterfaceCmdIf;
-    QFuture<void> m_future;  // not used by the engine
+    QFuture<void> m_future;  // Prescribed; see docs/decisions/0036-prescribed-surface.md
     CMessageBoxMan m_messageBox;
 
 private:
-    // Holds one index of the widgets for the length of the outermost walk or relevance chain.
-    class CIndexScope
-    {
-    public:
-        explicit CIndexScope(CAutoBindingDataModelDockWidget *page);
-        ~CIndexScope();
-        CIndexScope(const CIndexScope &) = delete;
-        CIndexScope &operator=(const CIndexScope &) = delete;
-        const CWidgetIndex *operator->() const;
+    void StartInit();
+    void InitWidget();
+    void SizeTables();
+    static void SetGroupBoxFonts(const QList<QWidget *> &widgets);
+    QList<QWidget *> AllWidgets() const;
+    SBinding BindingOf(const QJsonObject &update);
+    void Publish(ERelevance kind, const QString &currentText);
+    void ShowErrorBox(const QString &text);
 
-    private:
-        CAutoBindingDataModelDockWidget *m_page;
-        bool m_isOutermost;
-    };
-
+    // AutoBindingDataModelDockWidgetRequests.cpp
     bool SayBusy(bool isBusy);
-    QString FirstEmptyChoice();
+    QString FirstEmptyChoice() const;
     QWidget *FocusWidget() const;
     void GiveFocusBack();
     void KeepFocusFromWandering();
-    void StartInit();
-    void ShowErrorBox(const QString &text);
-    void InitWidget();
-    void InitCaption(const QString &path, QWidget *widget, const QString &caption);
-    QList<QWidget *> AllWidgets() const;
-    static void SetGroupBoxFonts(const QList<QWidget *> &widgets);
-    template <typename Filter, typename Visit>
-    void WalkMembers(const SWalkWords &words, QJsonObject &source, Filter filter, Visit visit);
-    bool StoreMemberValue(const QString &path, const QJsonValue &value);
-    void ShowHeaders();
-    void SizeTables();
-    void InitColumnTableRow(QTableWidget *table, int row, const STableGroup &group);
-
-    void Publish(const SRelevanceWords &words, const QString &currentText);
-    void PublishTo(const SRelevanceWords &words, const QString &target, const QString &currentText);
-    QWidget *FindScalarTarget(const SScalarTargetWords &words, const QString &target);
-    STableRow FindTableTarget(const STableTargetWords &words, const QString &target);
-    QJsonValue FindEntry(const SEntryWords &words, const QString &target, const QString &key);
-
-    static const SRelevanceWords kValueWords;
-    static const SRelevanceWords kStatusWords;
 
     CStatusProgress m_progress{this};
     int m_requests = 0;         // under way
     QPointer<QWidget> m_focus;  // what had the focus when the last request began
     bool m_hasAsked = false;    // a request has begun
 
-    const CWidgetIndex *m_index = nullptr;         // of the walk under way
+    CWidgetIndex m_index;  // built when the page is first shown
+    CRelevance m_relevance{m_dataModel, m_modelInterface, m_index};
     std::vector<std::function<void()>> m_sizings;  // of the tables that Init has filled
     CEditSession m_edits;
     CWheelGuard m_wheel;
     int m_packageCount = 0;
-    int m_relevanceDepth = 0;  // publishers on the stack
-    int m_relevanceCount = 0;  // publications since the outermost one began
 };

@@ -1,10 +1,9 @@
-// The beginning and the end of a page's requests, and what becomes of the focus meanwhile.
+// How a request of a page begins and ends, and where the focus is meanwhile.
 #include <QComboBox>
 
 #include "Model/JsonPath.h"
 #include "View/editors/TabOrder.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
-#include "View/engine/WidgetIndex.h"
 
 bool CAutoBindingDataModelDockWidget::HasAllChoices()
 {
@@ -22,9 +21,8 @@ bool CAutoBindingDataModelDockWidget::HasAllChoices()
 }
 
 // The caption of the first one, in the order of the document.
-QString CAutoBindingDataModelDockWidget::FirstEmptyChoice()
+QString CAutoBindingDataModelDockWidget::FirstEmptyChoice() const
 {
-    const CIndexScope index(this);
     const QString request = AbsoluteModelPath(QStringLiteral("request"));
     const QJsonObject groups = GetJsonValueConst(m_dataModel, request).toObject();
     for (const QString &group : groups.keys()) {
@@ -33,7 +31,7 @@ QString CAutoBindingDataModelDockWidget::FirstEmptyChoice()
         for (const QJsonValue &member : record.value(QLatin1String("memberList")).toArray()) {
             const QString path = request + QLatin1Char('.') + group +
                                  QLatin1String(".memberProperty.") + member.toString();
-            const auto *box = ExactCast<QComboBox>(index->Find(path));
+            const auto *box = ExactCast<QComboBox>(m_index.Find(path));
             const bool isAsked =
                 box && box->isVisibleTo(this) && box->isEnabledTo(box->parentWidget());
             if (isAsked && box->currentIndex() < 0)

@@ -1,33 +1,24 @@
-// groupType 3: arrays edited in a table, a row a member, a column an element.
+#include "View/engine/ColumnTableGroup.h"
+
 #include <QHeaderView>
 #include <QTableWidget>
 
 #include "Model/JsonPath.h"
 #include "Model/MemberPath.h"
 #include "Support/Log.h"
-#include "View/engine/AutoBindingDataModelDockWidget.h"
+#include "View/editors/EditSession.h"
+#include "View/editors/ExactClass.h"
+#include "View/engine/Binding.h"
 #include "View/engine/DataTypes.h"
+#include "View/engine/InitEntry.h"
 #include "View/engine/TableCells.h"
 #include "View/engine/TableGroup.h"
-#include "View/engine/WidgetIndex.h"
+#include "View/engine/TableSize.h"
 
 namespace {
 
 constexpr int kColumnWidth = 58;    // pixels
 constexpr int kNarrowColumns = 16;  // columns up to which the table shows all of them
-
-// Keys of an entry that a data type looks at, and what is said of them.
-struct SEntryLog
-{
-    const char *dataType;
-    const char *key;
-    const char *text;
-};
-
-constexpr SEntryLog kEntryLogs[] = {
-    {"pointRange", "decimals", "== Has the decimals setting <--- "},
-    {"unsignedRange", "displayBase", "== It has displayBase <--- "},
-};
 
 QStringList ColumnHeaders(const STableGroup &group)
 {
@@ -51,16 +42,96 @@ QStringList ColumnHeaders(const STableGroup &group)
     return headers;
 }
 
+// The range check of a row, if its entry asks for one, and the values that its cells start with.
+struct SCellCheck
+{
+    QJsonArray defaults = {};  // of the columns
+    QString ranges = {};       // the list of what may be entered
+    bool isWanted = false;
+};
+
+SCellCheck ReadCheck(const SDataType &type, const QJsonObject &trait, const QJsonObject &entry)
+{
+    SCellCheck check = {.defaults = trait.value(QLatin1String("defaultValue")).toArray()};
+    const QJsonValue ranges = entry.value(QLatin1String("rangeCheck"));
+    if (!type.cellCheckSlot || !IsJsonValueValid(ranges))
+        return check;
+    qCDebug(lcEngine) << "---> [Init][type3] =="
+                      << "== Has the rangeCheck <--- " << ranges;
+    check.ranges = ranges.toString();
+    check.isWanted = true;
+    const QJsonValue value = entry.value(QLatin1String("value"));
+    if (IsJsonValueValid(value)) {
+        qCDebug(lcEngine) << "---> [Init][type3] =="
+                          << "== Has the value and rangeCheck <--- " << value;
+        check.defaults = QJsonArray{value};
+    }
+    return check;
+}
+
+void MakeCells(const SBinding &binding, QTableWidget *table, int row, const SDataType &type,
+               SCellWish wish, const SCellCheck &check, bool isEnabled)
+{
+    for (int c = 0; c < table->columnCount(); ++c) {
+        if (type.columnWidth != 0)
+            table->horizontalHeader()->resizeSection(c, type.columnWidth);
+        wish.value = ColumnElement(check.defaults, c);
+        QWidget *cell = type.makeCell(wish);
+        if (type.takesStatus)
+            cell->setEnabled(isEnabled);
+        PlaceEditor(table, row, c, cell);
+        binding.edits.Watch(cell);
+        if (check.isWanted) {
+            cell->setToolTip(check.ranges);
+            QObject::connect(cell, SIGNAL(editingFinished()), &binding.page, type.cellCheckSlot);
+        }
+    }
+}
+
+void InitRow(const SBinding &binding, QTableWidget *table, int row, const STableGroup &group)
+{
+    const QString member = group.rows[row];
+    const QJsonObject memberObject = group.properties.value(member).toObject();
+    const QJsonObject trait = memberObject.value(QLatin1String("trait")).toObject();
+    const QString dataType = trait.value(QLatin1String("dataType")).toString();
+    const bool isEnabled = memberObject.value(QLatin1String("defaultEnableStatus")).toInt() != 0;
+    qCDebug(lcEngine) << "---> [Init][type3] ==" << member << "== Member JSON Object  <---"
+                      << memberObject;
+    qCDebug(lcEngine) << "---> [Init][type3] ==" << member << "== DataType <--- " << dataType;
+
+    const SDataType *type = FindDataType(dataType);
+    if (!type || !type->makeCell) {
+        qCCritical(lcEngine)
+            << "---> [Fail][Init][type3] Cannot get the row info: dataType not support yet <--- "
+            << dataType;
+        return;
+    }
+    SCellWish wish = {.use = ECellUse::Column, .parent = table->viewport()};
+    if (type->cellReadsEntry)
+        wish.entry = ResolveInitEntry(binding, memberObject, trait).toObject();
+    const SCellCheck check = ReadCheck(*type, trait, wish.entry);
+    if (type->entryKey && IsJsonValueValid(wish.entry.value(QLatin1String(type->entryKey))))
+        qCDebug(lcEngine) << "---> [Init][type3] ==" << type->entryLog;
+    qCDebug(lcEngine) << "---> [Init][type3] =="
+                      << "== defaultValueArray <--- " << check.defaults;
+    if (type->hasItems) {
+        wish.items = trait.value(QLatin1String("value")).toArray();
+        qCDebug(lcEngine) << "---> [Init][type3] =="
+                          << "== listValue <--- " << wish.items;
+    }
+    MakeCells(binding, table, row, *type, wish, check, isEnabled);
+}
+
 }  // namespace
 
-void CAutoBindingDataModelDockWidget::InitColumnTable(const QString &path, QWidget *widget)
+void InitColumnTable(const SBinding &binding, const QString &path, QWidget *widget)
 {
     QTableWidget *table = AsTable(
         widget, "---> [[Fail][Init][type3] Now only support table widget(QTableWidget) <--- ");
     if (!table)
         return;
     qCDebug(lcEngine) << "---> [Init][type3] Initialize <---";
-    const STableGroup group(m_dataModel, path);
+    const STableGroup group(binding.document, path);
     const QStringList headers = ColumnHeaders(group);
     qCDebug(lcEngine) << "---> [Init][type3] Row info - from member list <---" << group.members;
     if (group.rows.isEmpty()) {
@@ -78,13 +149,13 @@ void CAutoBindingDataModelDockWidget::InitColumnTable(const QString &path, QWidg
         table->horizontalHeader()->resizeSection(c, kColumnWidth);
     for (int r = 0; r < group.rows.size(); ++r) {
         table->verticalHeader()->resizeSection(r, kCellRowHeight);
-        InitColumnTableRow(table, r, group);
+        InitRow(binding, table, r, group);
     }
     table->setHorizontalHeaderLabels(headers);
     table->setVerticalHeaderLabels(group.Captions(group.rows));
 
     const bool narrow = group.columns <= kNarrowColumns;
-    m_sizings.push_back([table, narrow] {
+    binding.sizings.push_back([table, narrow] {
         table->setMaximumSize(narrow ? FitTableSize(table) : FitWideTableSize(table));
         table->setMinimumSize(table->maximumSize());
         if (narrow)
@@ -93,77 +164,13 @@ void CAutoBindingDataModelDockWidget::InitColumnTable(const QString &path, QWidg
     });
 }
 
-void CAutoBindingDataModelDockWidget::InitColumnTableRow(QTableWidget *table, int row,
-                                                         const STableGroup &group)
-{
-    const QString member = group.rows[row];
-    const QJsonObject memberObject = group.properties.value(member).toObject();
-    const QJsonObject trait = memberObject.value(QLatin1String("trait")).toObject();
-    const QString dataType = trait.value(QLatin1String("dataType")).toString();
-    const bool enabled = memberObject.value(QLatin1String("defaultEnableStatus")).toInt() != 0;
-    qCDebug(lcEngine) << "---> [Init][type3] ==" << member << "== Member JSON Object  <---"
-                      << memberObject;
-    qCDebug(lcEngine) << "---> [Init][type3] ==" << member << "== DataType <--- " << dataType;
-
-    const SDataType *type = FindDataType(dataType);
-    if (!type || !type->makeCell) {
-        qCCritical(lcEngine)
-            << "---> [Fail][Init][type3] Cannot get the row info: dataType not support yet <--- "
-            << dataType;
-        return;
-    }
-    SCellWish wish{
-        ECellUse::Column, table->viewport(), {}, trait.value(QLatin1String("value")).toArray(), {}};
-    if (type->cellReadsEntry)
-        wish.entry = ResolveInitEntry(memberObject, trait).toObject();
-    QJsonArray defaults = trait.value(QLatin1String("defaultValue")).toArray();
-    const QJsonValue check = wish.entry.value(QLatin1String("rangeCheck"));
-    const bool isChecked = type->cellCheckSlot && IsJsonValueValid(check);
-    if (isChecked) {
-        qCDebug(lcEngine) << "---> [Init][type3] =="
-                          << "== Has the rangeCheck <--- " << check;
-        const QJsonValue value = wish.entry.value(QLatin1String("value"));
-        if (IsJsonValueValid(value)) {
-            qCDebug(lcEngine) << "---> [Init][type3] =="
-                              << "== Has the value and rangeCheck <--- " << value;
-            defaults = QJsonArray{value};
-        }
-    }
-    for (const SEntryLog &log : kEntryLogs) {
-        if (dataType == QLatin1String(log.dataType) &&
-            IsJsonValueValid(wish.entry.value(QLatin1String(log.key))))
-            qCDebug(lcEngine) << "---> [Init][type3] ==" << log.text;
-    }
-    qCDebug(lcEngine) << "---> [Init][type3] =="
-                      << "== defaultValueArray <--- " << defaults;
-    if (!type->cellReadsEntry)
-        qCDebug(lcEngine) << "---> [Init][type3] =="
-                          << "== listValue <--- " << wish.items;
-
-    for (int c = 0; c < group.columns; ++c) {
-        if (type->columnWidth != 0)
-            table->horizontalHeader()->resizeSection(c, type->columnWidth);
-        wish.value = ColumnElement(defaults, c);
-        QWidget *cell = type->makeCell(wish);
-        if (type->takesStatus)
-            cell->setEnabled(enabled);
-        PlaceEditor(table, row, c, cell);
-        m_edits.Watch(cell);
-        if (isChecked) {
-            cell->setToolTip(check.toString());
-            connect(cell, SIGNAL(editingFinished()), this, type->cellCheckSlot);
-        }
-    }
-}
-
-void CAutoBindingDataModelDockWidget::UpdateColumnTable(const QString &path, QWidget *widget,
-                                                        QJsonObject update)
+void UpdateColumnTable(const SBinding &binding, const QString &path, QWidget *widget)
 {
     QTableWidget *table = AsTable(
         widget, "---> [Fail][Update][type3] Now only support table widget(QTableWidget) <--- ");
     if (!table)
         return;
-    const STableGroup group(update, path);
+    const STableGroup group(binding.update, path);
     qCDebug(lcEngine) << "---> [Update][type3] Column info <--- dimention" << group.columns;
     qCDebug(lcEngine) << "---> [Update][type3] Row info - after checking the support status in "
                          "memeber list <---"
@@ -192,13 +199,13 @@ void CAutoBindingDataModelDockWidget::UpdateColumnTable(const QString &path, QWi
     table->setVerticalHeaderLabels(group.Captions(group.rows));
 }
 
-void CAutoBindingDataModelDockWidget::PackageColumnTable(const QString &path, QWidget *widget)
+void PackageColumnTable(const SBinding &binding, const QString &path, QWidget *widget)
 {
     QTableWidget *table = AsTable(
         widget, "---> [Fail][Package][type3] Now only support table widget(QTableWidget) <--- ");
     if (!table)
         return;
-    const STableGroup group(m_dataModel, path);
+    const STableGroup group(binding.document, path);
     for (int r = 0; r < group.rows.size(); ++r) {
         const QString member = group.rows[r];
         const SDataType *type = FindDataType(group.Member(member, "trait.dataType").toString());
@@ -217,7 +224,7 @@ void CAutoBindingDataModelDockWidget::PackageColumnTable(const QString &path, QW
         qCDebug(lcEngine) << "---> [Package][type3] Path in memberValue <--- "
                           << GroupValuePath(path) << " " << member;
         qCDebug(lcEngine) << "---> [Package][type3] Value array<--- " << values;
-        if (!StoreMemberValue(memberPath, values))
+        if (!binding.StoreMemberValue(memberPath, values))
             qCCritical(lcEngine) << "---> [Fail][Package][type3] : memberValuePath <--- "
                                  << GroupValuePath(path);
     }

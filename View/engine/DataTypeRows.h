@@ -5,7 +5,7 @@
 #include "Model/JsonPath.h"
 #include "Support/Log.h"
 #include "View/editors/FormFont.h"
-#include "View/engine/DataTypes.h"
+#include "View/engine/DataType.h"
 
 // DataTypesText.cpp
 SDataType ListType();

@@ -57,48 +57,48 @@ void ShowNumber(QWidget *widget, const QJsonObject &, const QString &text)
 
 // New limits; a test page starts in their middle, a calibration page at its default if that fits.
 template <typename Box>
-void FollowLimits(Box *box, const SRelevance &relevance)
+void FollowLimits(Box *box, const SRelation &relation)
 {
-    const auto limits = ReadLimits<Box>(relevance.entry.toObject());
+    const auto limits = ReadLimits<Box>(relation.entry.toObject());
     ApplyLimits(box, limits);
-    box->setValue(relevance.isTestPage ? limits.Middle()
-                                       : limits.Fit(SNumber<Box>::FromText(relevance.defaultText)));
+    box->setValue(relation.isTestPage ? limits.Middle()
+                                      : limits.Fit(SNumber<Box>::FromText(relation.defaultText)));
 }
 
-void RelateRange(QWidget *widget, const SRelevance &relevance)
+void RelateRange(QWidget *widget, const SRelation &relation)
 {
     auto *box = As<QSpinBox>(widget);
-    FollowLimits(box, relevance);
-    const QJsonObject entry = relevance.entry.toObject();
+    FollowLimits(box, relation);
+    const QJsonObject entry = relation.entry.toObject();
     if (Has(entry, kRangeCheck)) {
         qCDebug(lcEngine) << "---> [Value Relevance][type1] Has the range check <---";
         box->setToolTip(entry.value(kRangeCheck).toString());
     }
-    if (Has(entry, kValue) && relevance.isTestPage) {
+    if (Has(entry, kValue) && relation.isTestPage) {
         qCDebug(lcEngine) << "---> [Value Relevance][type1] Has the value in valuePair <---";
         ShowNumber<QSpinBox>(box, {}, entry.value(kValue).toString());
     }
     qCDebug(lcEngine) << "---> [Value Relevance][type1] Final Value <---" << box->value();
 }
 
-void RelatePointRange(QWidget *widget, const SRelevance &relevance)
+void RelatePointRange(QWidget *widget, const SRelation &relation)
 {
     auto *box = As<QDoubleSpinBox>(widget);
-    FollowLimits(box, relevance);
+    FollowLimits(box, relation);
     qCDebug(lcEngine) << "---> [Value Relevance][type1] Final Value <---" << box->value();
 }
 
 template <typename Box>
-void RelateNumberCell(QWidget *cell, const SRelevance &relevance)
+void RelateNumberCell(QWidget *cell, const SRelation &relation)
 {
     auto *box = As<Box>(cell);
-    FollowLimits(box, relevance);
-    qCDebug(lcEngine) << "---> [Value Relevance][type3] Final value <--- index[" << relevance.column
+    FollowLimits(box, relation);
+    qCDebug(lcEngine) << "---> [Value Relevance][type3] Final value <--- index[" << relation.column
                       << "] " << box->value();
-    const QJsonObject entry = relevance.entry.toObject();
+    const QJsonObject entry = relation.entry.toObject();
     if (!Has(entry, kRangeCheck))
         return;
-    if (Has(entry, kValue) && relevance.isTestPage)
+    if (Has(entry, kValue) && relation.isTestPage)
         ShowNumber<Box>(box, {}, entry.value(kValue).toString());
     box->setToolTip(entry.value(kRangeCheck).toString());
 }
@@ -164,7 +164,7 @@ QWidget *MakeUnsignedCell(const SCellWish &wish)
     return box;
 }
 
-// The radix is that of the fixed entry, also for a member that subscribes.
+// The radix is that of "value", also for a member that has a table of entries.
 void ShowUnsigned(QWidget *widget, const QJsonObject &member, const QString &text)
 {
     const QJsonValue base = member.value(QLatin1String("trait"))
@@ -183,67 +183,81 @@ QString UnsignedText(const QWidget *widget)
     return As<CUnsignedSpinBox>(widget)->text();
 }
 
-// What range and pointRange have in common.
-template <typename Box>
-SDataType NumberType()
+// A spin box says nothing of the height of its text; the text stands in the middle.
+Qt::Alignment NumberAlignment(const QWidget *cell)
 {
-    SDataType row;
-    row.className = Box::staticMetaObject.className();
-    row.readsEntry = true;
-    row.cellReadsEntry = true;
-    row.show = ShowNumber<Box>;
-    row.inRowTable = true;
-    row.updatesCell = true;
-    row.takesStatus = true;
-    row.makeCell = MakeNumberCell<Box>;
-    row.relateCell = RelateNumberCell<Box>;
-    return row;
+    return (As<QAbstractSpinBox>(cell)->alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter;
 }
 
 }  // namespace
 
+// A spin box that is enabled or disabled publishes nothing: documents rely on that.
 SDataType RangeType()
 {
-    SDataType row = NumberType<QSpinBox>();
-    row.name = "range";
-    row.initLog = "---> [Init][type1] Init Spin Box  <---";
-    row.init = InitRange;
-    row.text = RangeText;
-    row.relateLog = "---> [Value Relevance][type1] Spin Box <---";
-    row.relate = RelateRange;
-    row.keyText = [](const QWidget *widget) { return As<QSpinBox>(widget)->text(); };
-    row.statusSignal = SIGNAL(valueChanged(QString));
-    row.statusSlot = SLOT(Slot_EnableStatusChange(QString));
-    row.checkSlot = SLOT(Slot_RangeCheck());
-    row.cellCheckSlot = SLOT(Slot_RangeCheck());
-    row.relateCellLog = "---> [Value Relevance][type3] Spin Box <---";
-    return row;
+    return {
+        .name = "range",
+        .className = "QSpinBox",
+        .initLog = "---> [Init][type1] Init Spin Box  <---",
+        .readsEntry = true,
+        .init = InitRange,
+        .show = ShowNumber<QSpinBox>,
+        .text = RangeText,
+        .relateLog = "---> [Value Relevance][type1] Spin Box <---",
+        .relate = RelateRange,
+        .keyText = [](const QWidget *widget) { return As<QSpinBox>(widget)->text(); },
+        .statusSignal = SIGNAL(valueChanged(QString)),
+        .statusSlot = SLOT(Slot_EnableStatusChange(QString)),
+        .checkSlot = SLOT(Slot_RangeCheck()),
+        .cellCheckSlot = SLOT(Slot_RangeCheck()),
+        .makeCell = MakeNumberCell<QSpinBox>,
+        .takesStatus = true,
+        .inRowTable = true,
+        .alignment = NumberAlignment,
+        .cellReadsEntry = true,
+        .updatesCell = true,
+        .relateCellLog = "---> [Value Relevance][type3] Spin Box <---",
+        .relateCell = RelateNumberCell<QSpinBox>,
+    };
 }
 
 SDataType PointRangeType()
 {
-    SDataType row = NumberType<QDoubleSpinBox>();
-    row.name = "pointRange";
-    row.initLog = "---> [Init][type1] Init Double Spin Box  <---";
-    row.init = InitPointRange;
-    row.text = PointRangeText;
-    row.relateLog = "---> [Value Relevance][type1] Double Spin Box <---";
-    row.relate = RelatePointRange;
-    row.cellCheckSlot = SLOT(Slot_PointRangeCheck());
-    row.relateCellLog = "---> [Value Relevance][type3] Double Spin Box <---";
-    return row;
+    return {
+        .name = "pointRange",
+        .className = "QDoubleSpinBox",
+        .initLog = "---> [Init][type1] Init Double Spin Box  <---",
+        .readsEntry = true,
+        .init = InitPointRange,
+        .show = ShowNumber<QDoubleSpinBox>,
+        .text = PointRangeText,
+        .relateLog = "---> [Value Relevance][type1] Double Spin Box <---",
+        .relate = RelatePointRange,
+        .cellCheckSlot = SLOT(Slot_PointRangeCheck()),
+        .makeCell = MakeNumberCell<QDoubleSpinBox>,
+        .takesStatus = true,
+        .inRowTable = true,
+        .alignment = NumberAlignment,
+        .cellReadsEntry = true,
+        .entryKey = "decimals",
+        .entryLog = "== Has the decimals setting <--- ",
+        .updatesCell = true,
+        .relateCellLog = "---> [Value Relevance][type3] Double Spin Box <---",
+        .relateCell = RelateNumberCell<QDoubleSpinBox>,
+    };
 }
 
 SDataType UnsignedRangeType()
 {
-    SDataType row;
-    row.name = "unsignedRange";
-    row.className = "CUnsignedSpinBox";
-    row.cellReadsEntry = true;
-    row.show = ShowUnsigned;
-    row.text = UnsignedText;
-    row.updatesCell = true;
-    row.columnWidth = kUnsignedColumnWidth;
-    row.makeCell = MakeUnsignedCell;
-    return row;
+    return {
+        .name = "unsignedRange",
+        .className = "CUnsignedSpinBox",
+        .show = ShowUnsigned,
+        .text = UnsignedText,
+        .makeCell = MakeUnsignedCell,
+        .cellReadsEntry = true,
+        .entryKey = "displayBase",
+        .entryLog = "== It has displayBase <--- ",
+        .updatesCell = true,
+        .columnWidth = kUnsignedColumnWidth,
+    };
 }

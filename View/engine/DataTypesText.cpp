@@ -35,14 +35,14 @@ void ShowList(QWidget *widget, const QJsonObject &, const QString &text)
         box->setCurrentIndex(-1);
 }
 
-// A new list always starts at its first item. Qt makes that item current as it is added, so the
-// members that depend on this one are recomputed before the list is complete.
-void RelateList(QWidget *widget, const SRelevance &relevance)
+// A new list starts at its first item. Qt makes that item current as it is added: what depends on
+// this member follows before the list is complete.
+void RelateList(QWidget *widget, const SRelation &relation)
 {
     auto *box = As<QComboBox>(widget);
-    qCDebug(lcEngine) << "---> [Value Relevance][type1] Final value <---" << relevance.entry;
+    qCDebug(lcEngine) << "---> [Value Relevance][type1] Final value <---" << relation.entry;
     box->clear();
-    FillList(box, relevance.entry.toArray());
+    FillList(box, relation.entry.toArray());
     box->setCurrentIndex(0);
 }
 
@@ -60,6 +60,15 @@ QString ListText(const QWidget *widget)
     return As<QComboBox>(widget)->currentText();
 }
 
+// Whether it was enabled or disabled. Value relevance passes over a disabled publisher.
+void PublishListAgain(QWidget *widget)
+{
+    qCDebug(lcEngine)
+        << "---> [Status Relevance][type1] combox box publish current text change <---";
+    auto *box = As<QComboBox>(widget);
+    emit box->currentTextChanged(box->currentText());
+}
+
 // label
 
 void ShowLabel(QWidget *widget, const QJsonObject &, const QString &text)
@@ -72,10 +81,10 @@ void InitLabel(QWidget *widget, const QJsonObject &member, const QJsonValue &)
     ShowLabel(widget, member, LoggedDefault(member));
 }
 
-void RelateLabel(QWidget *widget, const SRelevance &relevance)
+void RelateLabel(QWidget *widget, const SRelation &relation)
 {
-    ShowLabel(widget, {}, relevance.entry.toString());
-    qCDebug(lcEngine) << "---> [Value Relevance][type1] Final Value <---" << relevance.entry;
+    ShowLabel(widget, {}, relation.entry.toString());
+    qCDebug(lcEngine) << "---> [Value Relevance][type1] Final Value <---" << relation.entry;
 }
 
 QWidget *MakeLabelCell(const SCellWish &wish)
@@ -98,6 +107,11 @@ QString LabelText(const QWidget *widget)
     return As<QLabel>(widget)->text();
 }
 
+Qt::Alignment LabelAlignment(const QWidget *widget)
+{
+    return As<QLabel>(widget)->alignment();
+}
+
 // boolean
 
 void SetChecked(QWidget *widget, const QString &text)
@@ -116,9 +130,9 @@ void InitBoolean(QWidget *widget, const QJsonObject &member, const QJsonValue &)
     ShowBoolean(widget, member, LoggedDefault(member));
 }
 
-void RelateBoolean(QWidget *widget, const SRelevance &relevance)
+void RelateBoolean(QWidget *widget, const SRelation &relation)
 {
-    SetChecked(widget, relevance.entry.toString());
+    SetChecked(widget, relation.entry.toString());
 }
 
 QString BooleanText(const QWidget *widget)
@@ -126,62 +140,75 @@ QString BooleanText(const QWidget *widget)
     return As<QCheckBox>(widget)->isChecked() ? QStringLiteral("true") : QStringLiteral("false");
 }
 
+void UncheckDisabled(QWidget *widget)
+{
+    if (widget->isEnabled())
+        return;
+    qCDebug(lcEngine)
+        << "---> [Status Relevance][type1] check box publish current check status <---";
+    As<QCheckBox>(widget)->setChecked(false);
+}
+
 }  // namespace
 
 SDataType ListType()
 {
-    SDataType row;
-    row.name = "list";
-    row.className = "QComboBox";
-    row.initLog = "---> [Init][type1] Init Combo Box  <---";
-    row.readsEntry = true;
-    row.init = InitList;
-    row.show = ShowList;
-    row.text = ListText;
-    row.relateLog = "---> [Value Relevance][type1] Combobox List <---";
-    row.relate = RelateList;
-    row.keyText = ListText;
-    row.valueSignal = SIGNAL(currentTextChanged(QString));
-    row.valueSlot = SLOT(Slot_ValueChange(QString));
-    row.statusSignal = SIGNAL(currentTextChanged(QString));
-    row.statusSlot = SLOT(Slot_EnableStatusChange(QString));
-    row.makeCell = MakeListCell;
-    return row;
+    return {
+        .name = "list",
+        .className = "QComboBox",
+        .initLog = "---> [Init][type1] Init Combo Box  <---",
+        .readsEntry = true,
+        .init = InitList,
+        .show = ShowList,
+        .text = ListText,
+        .relateLog = "---> [Value Relevance][type1] Combobox List <---",
+        .relate = RelateList,
+        .statusChanged = PublishListAgain,
+        .keyText = ListText,
+        .valueSignal = SIGNAL(currentTextChanged(QString)),
+        .valueSlot = SLOT(Slot_ValueChange(QString)),
+        .statusSignal = SIGNAL(currentTextChanged(QString)),
+        .statusSlot = SLOT(Slot_EnableStatusChange(QString)),
+        .makeCell = MakeListCell,
+        .hasItems = true,
+    };
 }
 
 SDataType LabelType()
 {
-    SDataType row;
-    row.name = "label";
-    row.className = "QLabel";
-    row.initLog = "---> [Init][type1] Init label  <---";
-    row.init = InitLabel;
-    row.show = ShowLabel;
-    row.text = LabelText;
-    row.relateLog = "---> [Value Relevance][type1] Label <---";
-    row.relate = RelateLabel;
-    row.inRowTable = true;
-    row.updatesCell = true;
-    row.takesStatus = true;
-    row.makeCell = MakeLabelCell;
-    return row;
+    return {
+        .name = "label",
+        .className = "QLabel",
+        .initLog = "---> [Init][type1] Init label  <---",
+        .init = InitLabel,
+        .show = ShowLabel,
+        .text = LabelText,
+        .relateLog = "---> [Value Relevance][type1] Label <---",
+        .relate = RelateLabel,
+        .makeCell = MakeLabelCell,
+        .takesStatus = true,
+        .inRowTable = true,
+        .alignment = LabelAlignment,
+        .updatesCell = true,
+    };
 }
 
 SDataType BooleanType()
 {
-    SDataType row;
-    row.name = "boolean";
-    row.className = "QCheckBox";
-    row.initLog = "---> [Init][type1] Init Check Box  <---";
-    row.init = InitBoolean;
-    row.show = ShowBoolean;
-    row.text = BooleanText;
-    row.relateLog = "---> [Value Relevance][type1] Check Box <---";
-    row.relate = RelateBoolean;
-    row.keyText = BooleanText;
-    row.valueSignal = SIGNAL(stateChanged(int));
-    row.valueSlot = SLOT(Slot_CheckBoxValueChange(int));
-    row.statusSignal = SIGNAL(stateChanged(int));
-    row.statusSlot = SLOT(Slot_CheckBoxEnableStatusChange(int));
-    return row;
+    return {
+        .name = "boolean",
+        .className = "QCheckBox",
+        .initLog = "---> [Init][type1] Init Check Box  <---",
+        .init = InitBoolean,
+        .show = ShowBoolean,
+        .text = BooleanText,
+        .relateLog = "---> [Value Relevance][type1] Check Box <---",
+        .relate = RelateBoolean,
+        .statusChanged = UncheckDisabled,
+        .keyText = BooleanText,
+        .valueSignal = SIGNAL(stateChanged(int)),
+        .valueSlot = SLOT(Slot_CheckBoxValueChange(int)),
+        .statusSignal = SIGNAL(stateChanged(int)),
+        .statusSlot = SLOT(Slot_CheckBoxEnableStatusChange(int)),
+    };
 }

@@ -1,11 +1,7 @@
-// The range checks: a spin box whose tool tip lists what may be entered.
-//
-// The list is tokens joined by ",": a number, or low~high with both limits inclusive. An entry that
-// no token allows is replaced by the first token: by the number itself, or by the middle of the
-// range. Only what the user has entered is checked: a value that a document brought stays.
+#include "View/engine/RangeCheck.h"
+
 #include "Support/Log.h"
 #include "View/editors/NumberBox.h"
-#include "View/engine/AutoBindingDataModelDockWidget.h"
 
 namespace {
 
@@ -22,7 +18,7 @@ bool IsSame(const QDoubleSpinBox *box, const QString &token)
 }
 
 template <typename Box>
-void CheckRange(Box *box, const char *title)
+void Check(Box *box, const char *title)
 {
     using Number = SNumber<Box>;
     const QStringList tokens = box->toolTip().split(QLatin1Char(','), Qt::KeepEmptyParts);
@@ -49,14 +45,12 @@ void CheckRange(Box *box, const char *title)
 
 }  // namespace
 
-void CAutoBindingDataModelDockWidget::Slot_RangeCheck()
+void CheckRange(QSpinBox *box)
 {
-    if (auto *box = qobject_cast<QSpinBox *>(sender()); m_edits.TakeEnded(box))
-        CheckRange(box, "---> Slot_RangeCheck <--- ");
+    Check(box, "---> Slot_RangeCheck <--- ");
 }
 
-void CAutoBindingDataModelDockWidget::Slot_PointRangeCheck()
+void CheckRange(QDoubleSpinBox *box)
 {
-    if (auto *box = qobject_cast<QDoubleSpinBox *>(sender()); m_edits.TakeEnded(box))
-        CheckRange(box, "---> Slot_PointRangeCheck <--- ");
+    Check(box, "---> Slot_PointRangeCheck <--- ");
 }

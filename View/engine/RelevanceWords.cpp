@@ -1,107 +1,106 @@
-// The words of value and status relevance.
 #include "View/engine/RelevanceWords.h"
 
-#include "View/engine/AutoBindingDataModelDockWidget.h"
-
-const SRelevanceWords CAutoBindingDataModelDockWidget::kValueWords = {
-    "============ [Start][Value Relevance] CurrentText  =========== ",
-    "---> [Value Relevance] Key  <--- ",
-    "publishValueList",
-    "---> [Value Relevance] Publish Value List <--- ",
-    "---> [Value Relevance] ====== Current Publish Value ====== <--- ",
-    "---> [Value Relevance] GroupType <--- ",
-    "subscribeValueList",
-    "---> [Value Relevance][type1] Has the subscribeValueList <--- ",
-    "---> [Value Relevance][type1] Key <--- ",
-    "---> [Fail][Value Relevance] Not support this group type yet <--- ",
-    "============ [Done][Value Relevance] =========== ",
-    true,
-    &CAutoBindingDataModelDockWidget::ApplyScalarValueRelevance,
-    &CAutoBindingDataModelDockWidget::ApplyTableValueRelevance,
-    {
-        "---> [Fail][Value Relevance][type1] Cannot find widget pointer <--- ",
-        "---> [Value Relevance][type1] Find!!!!!!! <--- ",
-        "---> Skip - invisible <--- ",
+const SRelevanceWords kValueWords = {
+    .publish =
         {
-            "valuePair",
-            nullptr,
-            "---> [Fail][Value Relevance][type1] Cannot get the Trait JSON object <--- ",
-            "---> [Value Relevance][type1] Vair Pair JSON object <--- ",
-            "---> [Fail][Value Relevance][type1] Cannot get the valuePair JSON object <--- ",
-            nullptr,
-            "---> [Fail][Value Relevance][type1] Cannot get the mapping of key and value in the "
-            "ValuePair JSON Object",
+            .start = "============ [Start][Value Relevance] CurrentText  =========== ",
+            .key = "---> [Value Relevance] Key  <--- ",
+            .publishFound = "---> [Value Relevance] Publish Value List <--- ",
+            .target = "---> [Value Relevance] ====== Current Publish Value ====== <--- ",
+            .groupType = "---> [Value Relevance] GroupType <--- ",
+            .subscribeFound = "---> [Value Relevance][type1] Has the subscribeValueList <--- ",
+            .targetKey = "---> [Value Relevance][type1] Key <--- ",
+            .unsupported = "---> [Fail][Value Relevance] Not support this group type yet <--- ",
+            .done = "============ [Done][Value Relevance] =========== ",
         },
-    },
-    {
-        "---> [Value Relevance][type3] Get row info <--- ",
-        "---> [Value Relevance][type3] Get column info <--- ",
-        "---> [Fail][Package][type3] Find the mapping name but it is not table widget type <--- ",
-        "---> [Value Relevance][type3] Find!!!!!!!!! <--- ",
-        "---> [Fail][Value Relevance][type3] Cannot fine widget pointer",
-        "---> [Fail][Value Relevance][type3] Cannot fine row index",
-        "---> [Value Relevance][type3] Find the row index <--- ",
+    .scalar =
         {
-            "valuePair",
-            nullptr,
-            "---> [Fail][Value Relevance][type3] Cannot fine the Trait JSON Object",
-            "---> [Value Relevance][type3] Vair Pair JSON object <--- ",
-            "---> [Fail][Value Relevance][type3] Cannot get the ValuePair JSON Object",
-            nullptr,
-            "---> [Fail][Value Relevance][type3] Cannot get the mapping of key and value in the "
-            "ValuePair JSON Object",
+            .none = "---> [Fail][Value Relevance][type1] Cannot find widget pointer <--- ",
+            .found = "---> [Value Relevance][type1] Find!!!!!!! <--- ",
+            .hidden = "---> Skip - invisible <--- ",
+            .entry =
+                {
+                    .noTrait = "---> [Fail][Value Relevance][type1] Cannot get the Trait JSON "
+                               "object <--- ",
+                    .pairFound = "---> [Value Relevance][type1] Vair Pair JSON object <--- ",
+                    .noPair = "---> [Fail][Value Relevance][type1] Cannot get the valuePair JSON "
+                              "object <--- ",
+                    .noEntry = "---> [Fail][Value Relevance][type1] Cannot get the mapping of key "
+                               "and value in the ValuePair JSON Object",
+                },
         },
-    },
+    .table =
+        {
+            .rows = "---> [Value Relevance][type3] Get row info <--- ",
+            .columns = "---> [Value Relevance][type3] Get column info <--- ",
+            .notATable = "---> [Fail][Package][type3] Find the mapping name but it is not table "
+                         "widget type <--- ",
+            .found = "---> [Value Relevance][type3] Find!!!!!!!!! <--- ",
+            .none = "---> [Fail][Value Relevance][type3] Cannot fine widget pointer",
+            .noRow = "---> [Fail][Value Relevance][type3] Cannot fine row index",
+            .rowFound = "---> [Value Relevance][type3] Find the row index <--- ",
+            .entry =
+                {
+                    .noTrait = "---> [Fail][Value Relevance][type3] Cannot fine the Trait JSON "
+                               "Object",
+                    .pairFound = "---> [Value Relevance][type3] Vair Pair JSON object <--- ",
+                    .noPair = "---> [Fail][Value Relevance][type3] Cannot get the ValuePair JSON "
+                              "Object",
+                    .noEntry = "---> [Fail][Value Relevance][type3] Cannot get the mapping of key "
+                               "and value in the ValuePair JSON Object",
+                },
+        },
 };
 
-const SRelevanceWords CAutoBindingDataModelDockWidget::kStatusWords = {
-    "============ [Start][Status Relevance] CurrentText =========== ",
-    "---> [Status Relevance] Key  <--- ",
-    "publishEnableStatusList",
-    "---> [Status Relevance] Publish Value List <--- ",
-    "====== [Status Relevance] Current Publish Value ====== ",
-    "---> [Status Relevance] GroupType <--- ",
-    "subscribeEnableStatusList",
-    "---> [Status Relevance][type1] Has the subscribeEnableStatusList <--- ",
-    "---> [Status Relevance][type1] Key <--- ",
-    "---> [Fail][Status Relevance] Not support this group type yet <--- ",
-    "============ [Done][Status Relevance] =========== ",
-    false,
-    &CAutoBindingDataModelDockWidget::ApplyScalarStatusRelevance,
-    &CAutoBindingDataModelDockWidget::ApplyTableStatusRelevance,
-    {
-        "---> [Fail][Status Relevance][type1] Cannot find widget pointer <--- ",
-        "---> [Status Relevance][type1] Find the widget pointer!!!!!!!!! <--- ",
-        "---> Skip: invisible <--- ",
+const SRelevanceWords kStatusWords = {
+    .publish =
         {
-            "enableStatusPair",
-            nullptr,
-            "---> [Fail][Status Relevance][type1] Cannot find the trait JSON object <--- ",
-            "---> [Status Relevance][type1] Enable Status Pair <--- ",
-            "---> [Fail][Status Relevance][type1] Cannot find the EnableStatusPair JSON object "
-            "<--- ",
-            "---> [Status Relevance][type1] Final enable <--- ",
-            "---> [Fail][Status Relevance][type1] Cannot get the mapping of key and value in the "
-            "ValuePair JSON Object",
+            .start = "============ [Start][Status Relevance] CurrentText =========== ",
+            .key = "---> [Status Relevance] Key  <--- ",
+            .publishFound = "---> [Status Relevance] Publish Value List <--- ",
+            .target = "====== [Status Relevance] Current Publish Value ====== ",
+            .groupType = "---> [Status Relevance] GroupType <--- ",
+            .subscribeFound = "---> [Status Relevance][type1] Has the subscribeEnableStatusList "
+                              "<--- ",
+            .targetKey = "---> [Status Relevance][type1] Key <--- ",
+            .unsupported = "---> [Fail][Status Relevance] Not support this group type yet <--- ",
+            .done = "============ [Done][Status Relevance] =========== ",
         },
-    },
-    {
-        "---> [Status Relevance][type3] Get row info <--- ",
-        nullptr,
-        "---> [Fail][Package][type3]Find the mapping name but It is not table widget type <--- ",
-        "---> [Status Relevance][type3] Find the widget pointer!!!!!!!!! <--- ",
-        "---> [Fail][Status Relevance][type3] Cannot fine widget pointer",
-        nullptr,
-        "---> [Status Relevance][type3] Find the row index <--- ",
+    .scalar =
         {
-            "enableStatusPair",
-            "---> [Status Relevance][type3] Trait Object <--- ",
-            "---> [Fail][Status Relevance][type3] Cannot fine the Trait JSON Object",
-            nullptr,
-            "---> [Fail][Status Relevance][type3] Cannot fine the EnableStatusPair JSON Object",
-            "---> [Status Relevance][type3] Final enable <--- ",
-            "---> [Fail][Status Relevance][type3] Cannot get the mapping of key and value in the "
-            "ValuePair JSON Object",
+            .none = "---> [Fail][Status Relevance][type1] Cannot find widget pointer <--- ",
+            .found = "---> [Status Relevance][type1] Find the widget pointer!!!!!!!!! <--- ",
+            .hidden = "---> Skip: invisible <--- ",
+            .entry =
+                {
+                    .noTrait = "---> [Fail][Status Relevance][type1] Cannot find the trait JSON "
+                               "object <--- ",
+                    .pairFound = "---> [Status Relevance][type1] Enable Status Pair <--- ",
+                    .noPair = "---> [Fail][Status Relevance][type1] Cannot find the "
+                              "EnableStatusPair JSON object <--- ",
+                    .entryFound = "---> [Status Relevance][type1] Final enable <--- ",
+                    .noEntry = "---> [Fail][Status Relevance][type1] Cannot get the mapping of "
+                               "key and value in the ValuePair JSON Object",
+                },
         },
-    },
+    .table =
+        {
+            .rows = "---> [Status Relevance][type3] Get row info <--- ",
+            .notATable = "---> [Fail][Package][type3]Find the mapping name but It is not table "
+                         "widget type <--- ",
+            .found = "---> [Status Relevance][type3] Find the widget pointer!!!!!!!!! <--- ",
+            .none = "---> [Fail][Status Relevance][type3] Cannot fine widget pointer",
+            .rowFound = "---> [Status Relevance][type3] Find the row index <--- ",
+            .entry =
+                {
+                    .traitFound = "---> [Status Relevance][type3] Trait Object <--- ",
+                    .noTrait = "---> [Fail][Status Relevance][type3] Cannot fine the Trait JSON "
+                               "Object",
+                    .noPair = "---> [Fail][Status Relevance][type3] Cannot fine the "
+                              "EnableStatusPair JSON Object",
+                    .entryFound = "---> [Status Relevance][type3] Final enable <--- ",
+                    .noEntry = "---> [Fail][Status Relevance][type3] Cannot get the mapping of "
+                               "key and value in the ValuePair JSON Object",
+                },
+        },
 };

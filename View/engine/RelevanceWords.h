@@ -1,65 +1,63 @@
-// What the two kinds of relevance have in common, and what sets them apart, as data.
+// The log lines of value relevance and of status relevance.
 //
-// Value relevance recomputes the choices and value of a dependent member, status relevance whether
-// it is enabled. Both follow a publish list of the document, form a key for each target, and look
-// it up in a table of the target's trait. A null log text is not logged.
+// Words alone: what the two do differently is in Relevance.cpp. A null text is not logged.
+//
+//   qCDebug(lcEngine) << kValueWords.publish.start << currentText;
 #pragma once
 
-class CAutoBindingDataModelDockWidget;
-class QString;
+// A change on its way to the targets.
+struct SPublishWords
+{
+    const char *start = nullptr;
+    const char *key = nullptr;
+    const char *publishFound = nullptr;
+    const char *target = nullptr;
+    const char *groupType = nullptr;
+    const char *subscribeFound = nullptr;
+    const char *targetKey = nullptr;
+    const char *unsupported = nullptr;
+    const char *done = nullptr;
+};
 
-// Looking up a target's entry for a key.
+// The look for a target's entry.
 struct SEntryWords
 {
-    const char *pair;  // "valuePair" or "enableStatusPair"
-    const char *traitFound;
-    const char *noTrait;
-    const char *pairFound;
-    const char *noPair;
-    const char *entryFound;
-    const char *noEntry;
+    const char *traitFound = nullptr;
+    const char *noTrait = nullptr;
+    const char *pairFound = nullptr;
+    const char *noPair = nullptr;
+    const char *entryFound = nullptr;
+    const char *noEntry = nullptr;
 };
 
-// Finding a target with a widget of its own.
+// The look for a target with a widget of its own.
 struct SScalarTargetWords
 {
-    const char *none;
-    const char *found;
-    const char *hidden;
-    SEntryWords entry;
+    const char *none = nullptr;
+    const char *found = nullptr;
+    const char *hidden = nullptr;
+    SEntryWords entry = {};
 };
 
-// Finding a target that is a row of a table.
+// The look for a target that is a row of a table.
 struct STableTargetWords
 {
-    const char *rows;
-    const char *columns;
-    const char *notATable;
-    const char *found;
-    const char *none;
-    const char *noRow;
-    const char *rowFound;
-    SEntryWords entry;
+    const char *rows = nullptr;
+    const char *columns = nullptr;
+    const char *notATable = nullptr;
+    const char *found = nullptr;
+    const char *none = nullptr;
+    const char *noRow = nullptr;
+    const char *rowFound = nullptr;
+    SEntryWords entry = {};
 };
 
 struct SRelevanceWords
 {
-    const char *start;
-    const char *key;
-    const char *publishList;  // key in the publisher's member
-    const char *publishFound;
-    const char *target;
-    const char *groupType;
-    const char *subscribeList;  // key in the target's member
-    const char *subscribeFound;
-    const char *targetKey;
-    const char *unsupported;
-    const char *done;
-    bool needsEnabledSender;  // a disabled publisher publishes no values, but still its status
-
-    void (CAutoBindingDataModelDockWidget::*applyScalar)(const QString &target, const QString &key);
-    void (CAutoBindingDataModelDockWidget::*applyTable)(const QString &target, const QString &key);
-
-    SScalarTargetWords scalar;
-    STableTargetWords table;
+    SPublishWords publish = {};
+    SScalarTargetWords scalar = {};
+    STableTargetWords table = {};
 };
+
+extern const SRelevanceWords kValueWords;
+extern const SRelevanceWords kStatusWords;

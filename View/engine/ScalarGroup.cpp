@@ -1,10 +1,12 @@
-// groupType 1: one value in one editor widget.
+#include "View/engine/ScalarGroup.h"
+
 #include "Model/JsonPath.h"
 #include "Model/MemberPath.h"
 #include "Support/Log.h"
-#include "View/engine/AutoBindingDataModelDockWidget.h"
+#include "View/editors/EditSession.h"
+#include "View/engine/Binding.h"
 #include "View/engine/DataTypes.h"
-#include "View/engine/WidgetIndex.h"
+#include "View/engine/InitEntry.h"
 
 namespace {
 
@@ -12,71 +14,34 @@ const QLatin1String kTrait("trait");
 const QLatin1String kDataType("dataType");
 const QLatin1String kDefaultValue("defaultValue");
 
-QJsonValue ValuePairEntry(const QJsonValue &trait, const QString &key)
-{
-    return GetJsonValueConst(trait.toObject(), QLatin1String("valuePair.") + key);
-}
-
 bool PublishesTo(const QJsonObject &member, const char *list)
 {
     return !member.value(QLatin1String(list)).toArray().isEmpty();
 }
 
+// Behind Init of the widget, which publishes nothing.
+void FollowChanges(const SBinding &binding, QWidget *widget, const SDataType &type,
+                   const QJsonObject &member, const QJsonObject &entry)
+{
+    if (type.checkSlot && HasJsonValue(entry, QStringLiteral("rangeCheck")))
+        QObject::connect(widget, SIGNAL(editingFinished()), &binding.page, type.checkSlot);
+    if (type.valueSignal && PublishesTo(member, "publishValueList")) {
+        qCDebug(lcEngine) << "---> [Init][type1] Has the publish value list: register value "
+                             "publish and subscribe <---";
+        QObject::connect(widget, type.valueSignal, &binding.page, type.valueSlot);
+    }
+    if (type.statusSignal && PublishesTo(member, "publishEnableStatusList")) {
+        qCDebug(lcEngine) << "---> [Init][type1] Has the enable status list: register enable "
+                             "status publish and subscribe <---";
+        QObject::connect(widget, type.statusSignal, &binding.page, type.statusSlot);
+    }
+}
+
 }  // namespace
 
-QJsonValue CAutoBindingDataModelDockWidget::ResolveInitEntry(const QJsonValue &member,
-                                                             const QJsonValue &trait)
+void InitScalarMember(const SBinding &binding, const QString &path, QWidget *widget)
 {
-    const QJsonObject memberObject = member.toObject();
-    const QJsonValue publisher = memberObject.value(QLatin1String("subscribeValue"));
-    const QJsonArray publishers = memberObject.value(QLatin1String("subscribeValueList")).toArray();
-    QJsonValue entry;
-    if (IsJsonValueValid(publisher)) {
-        const QString path = AbsoluteModelPath(publisher.toString());
-        qCDebug(lcEngine) << "---> [Init] Has the subscibe value <---";
-        const QJsonValue source = GetJsonValue(m_dataModel, path);
-        if (!IsJsonValueValid(source)) {
-            qCCritical(lcEngine) << "---> [Init] Failed to initialize:  Cannot get the mapping "
-                                    "data by KEY info <---";
-            return {};
-        }
-        const QString key =
-            GetJsonValueConst(source.toObject(), QStringLiteral("trait.defaultValue")).toString();
-        qCDebug(lcEngine) << "---> [Init] Subscribe Key info <--- " << path
-                          << " default value: " << key;
-        entry = ValuePairEntry(trait, key);
-    } else if (!publishers.isEmpty()) {
-        qCDebug(lcEngine) << "---> [Init] Has the subscribeValueList <--- ";
-        const QString key = BuildInitKey(publishers);
-        qCDebug(lcEngine) << "---> [Init] Rebuild the key <--- " << key;
-        entry = ValuePairEntry(trait, key);
-    } else {
-        entry = trait.toObject().value(QLatin1String("value"));
-    }
-    qCDebug(lcEngine) << "---> [Init] Final value oject <--- " << entry;
-    return entry;
-}
-
-QString CAutoBindingDataModelDockWidget::BuildInitKey(const QJsonArray &subscribeValueList)
-{
-    const CIndexScope index(this);
-    QString key;
-    for (int i = 0; i < subscribeValueList.size(); ++i) {
-        const QString path = AbsoluteModelPath(subscribeValueList.at(i).toString());
-        qCDebug(lcEngine) << "---> subscribeValue <---" << path;
-        const QString trait = path + QLatin1String(".trait.");
-        if (!index->Find(path) || !HasJsonValue(m_dataModel, trait + kDataType))
-            continue;
-        key += GetJsonValue(m_dataModel, trait + kDefaultValue).toString();
-        if (i + 1 < subscribeValueList.size())
-            key += QLatin1Char(',');
-    }
-    return key;
-}
-
-void CAutoBindingDataModelDockWidget::InitScalarMember(const QString &path, QWidget *widget)
-{
-    const QJsonObject member = GetJsonValue(m_dataModel, path).toObject();
+    const QJsonObject member = GetJsonValue(binding.document, path).toObject();
     if (member.value(QLatin1String("defaultSupport")).toInt() == 0) {
         widget->setVisible(false);
         return;
@@ -97,29 +62,16 @@ void CAutoBindingDataModelDockWidget::InitScalarMember(const QString &path, QWid
         return;
     }
     qCDebug(lcEngine) << type->initLog;
-    const QJsonValue entry = type->readsEntry ? ResolveInitEntry(member, trait) : QJsonValue();
+    const QJsonValue entry =
+        type->readsEntry ? ResolveInitEntry(binding, member, trait) : QJsonValue();
     type->init(widget, member, entry);
-    m_edits.Watch(widget);
-
-    // After the widget is filled: Init itself publishes nothing.
-    if (type->checkSlot && HasJsonValue(entry.toObject(), QStringLiteral("rangeCheck")))
-        connect(widget, SIGNAL(editingFinished()), this, type->checkSlot);
-    if (type->valueSignal && PublishesTo(member, "publishValueList")) {
-        qCDebug(lcEngine) << "---> [Init][type1] Has the publish value list: register value "
-                             "publish and subscribe <---";
-        connect(widget, type->valueSignal, this, type->valueSlot);
-    }
-    if (type->statusSignal && PublishesTo(member, "publishEnableStatusList")) {
-        qCDebug(lcEngine) << "---> [Init][type1] Has the enable status list: register enable "
-                             "status publish and subscribe <---";
-        connect(widget, type->statusSignal, this, type->statusSlot);
-    }
+    binding.edits.Watch(widget);
+    FollowChanges(binding, widget, *type, member, entry.toObject());
 }
 
-void CAutoBindingDataModelDockWidget::UpdateScalarMember(const QString &path, QWidget *widget,
-                                                         QJsonObject update)
+void UpdateScalarMember(const SBinding &binding, const QString &path, QWidget *widget)
 {
-    const QJsonObject member = GetJsonValue(update, path).toObject();
+    const QJsonObject member = GetJsonValueConst(binding.update, path).toObject();
     const QJsonValue trait = member.value(kTrait);
     qCDebug(lcEngine) << "---> [Update][type1] Trait JSON object <---" << trait;
     if (!IsJsonValueValid(trait)) {
@@ -139,7 +91,7 @@ void CAutoBindingDataModelDockWidget::UpdateScalarMember(const QString &path, QW
         qCCritical(lcEngine) << "---> [Fail][Update][type1] Not support this data type yet <---";
 }
 
-void CAutoBindingDataModelDockWidget::PackageScalarMember(const QString &path, QWidget *widget)
+void PackageScalarMember(const SBinding &binding, const QString &path, QWidget *widget)
 {
     const SDataType *type = FindScalarTypeOfWidget(widget);
     if (!type || !type->text) {
@@ -151,7 +103,7 @@ void CAutoBindingDataModelDockWidget::PackageScalarMember(const QString &path, Q
     qCDebug(lcEngine) << "---> [Package][type1] Path in memberValue <--- " << GroupValuePath(path)
                       << " " << MemberKey(path);
     qCDebug(lcEngine) << "---> [Package][type1] Value <--- " << value;
-    if (!StoreMemberValue(path, value))
+    if (!binding.StoreMemberValue(path, value))
         qCCritical(lcEngine) << "---> [Fail][Package][type1] : memberValuePath <--- "
                              << GroupValuePath(path);
 }

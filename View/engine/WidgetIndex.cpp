@@ -28,7 +28,12 @@ void CWidgetIndex::Add(const QObject *parent)
     }
 }
 
-bool IsExactClass(const QWidget *widget, const char *className)
+QList<QWidget *> CWidgetIndex::BoundWidgets() const
 {
-    return qstrcmp(widget->metaObject()->className(), className) == 0;
+    QList<QWidget *> widgets;
+    for (const QPointer<QWidget> &widget : m_bound) {
+        if (widget)
+            widgets.append(widget);
+    }
+    return widgets;
 }

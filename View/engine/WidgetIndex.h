@@ -1,10 +1,9 @@
 // The widgets of a page by the document path that their names stand for.
 //
-// Built once a walk from all widgets below a root, depth-first with children in creation order. A
-// widget's kind is told by its exact class name, so a subclass of a Qt class is another kind. The
-// inside of a table is left out: its cells come and go by the thousand, and none is bound by a
-// name. GUI thread; the index holds plain pointers to widgets of the form, which live as long as
-// the page.
+// A page builds its index once, when it is first shown; all walks use it, and so does relevance. It
+// lists the bound widgets below a root depth-first, children in creation order. The inside of a
+// table is left out: its cells come and go by the thousand, and none is bound by a name. A widget
+// that is destroyed leaves the index. GUI thread.
 //
 //   const CWidgetIndex index(page);
 //   for (QWidget *widget : index.BoundWidgets()) ...
@@ -14,33 +13,28 @@
 
 #include <QHash>
 #include <QList>
+#include <QPointer>
 #include <QString>
+#include <QVector>
 #include <QWidget>
+
+#include "View/editors/ExactClass.h"
 
 class CWidgetIndex
 {
 public:
+    CWidgetIndex() = default;  // empty
+    // root: null for an empty index.
     explicit CWidgetIndex(const QWidget *root);
 
     // The widgets whose names the engine binds.
-    const QList<QWidget *> &BoundWidgets() const { return m_bound; }
+    QList<QWidget *> BoundWidgets() const;
     // First widget whose name maps to the path; null when there is none.
     QWidget *Find(const QString &path) const { return m_byPath.value(path); }
 
 private:
     void Add(const QObject *parent);
 
-    QList<QWidget *> m_bound;
-    QHash<QString, QWidget *> m_byPath;
+    QVector<QPointer<QWidget>> m_bound;
+    QHash<QString, QPointer<QWidget>> m_byPath;
 };
-
-// True when the widget's class is className itself, no subclass of it.
-bool IsExactClass(const QWidget *widget, const char *className);
-
-template <typename Widget>
-Widget *ExactCast(QWidget *widget)
-{
-    return widget && IsExactClass(widget, Widget::staticMetaObject.className())
-               ? static_cast<Widget *>(widget)
-               : nullptr;
-}

@@ -13,6 +13,7 @@
 #include "Model/StatusTable.h"
 #include "Support/FileDialogMan.h"
 #include "Support/Log.h"
+#include "View/engine/TableSize.h"
 #include "View/pages/CalibrationRemarks.h"
 #include "View/pages/ScrollPane.h"
 

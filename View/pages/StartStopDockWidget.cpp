@@ -6,7 +6,6 @@
 #include "Model/MemberPath.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
-#include "View/engine/WidgetIndex.h"
 
 namespace {
 
@@ -138,8 +137,7 @@ void CStartStopDockWidget::ShowInputs(bool areOn)
 QVector<QWidget *> CStartStopDockWidget::RequestEditors() const
 {
     QVector<QWidget *> editors;
-    const CWidgetIndex index(m_rootWidget);
-    for (QWidget *widget : index.BoundWidgets()) {
+    for (QWidget *widget : Index().BoundWidgets()) {
         const QString name = widget->objectName();
         if (name.startsWith(kRequestName) && !IsCaptionName(name) &&
             !qobject_cast<QLabel *>(widget))

@@ -7,6 +7,7 @@
 #include <QTableWidget>
 #include <QtTest>
 
+#include "View/engine/TableSize.h"
 #include "tests/view/engine/LogCatcher.h"
 #include "tests/view/engine/RowTableDocument.h"
 #include "tests/view/engine/TestPage.h"
@@ -198,7 +199,7 @@ private slots:
         page.Init();
         table->setFixedHeight(120);
         page.AppendWidget(RowDocument(Values(60)).Json());
-        QCOMPARE(table->minimumWidth(), CTestPage::FitTableSize(table).width() + 20);
+        QCOMPARE(table->minimumWidth(), FitTableSize(table).width() + 20);
         QCOMPARE(table->verticalScrollBar()->value(), table->verticalScrollBar()->maximum());
         QVERIFY(table->verticalScrollBar()->maximum() > 0);
     }

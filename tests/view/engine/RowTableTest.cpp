@@ -6,6 +6,7 @@
 #include <QTableWidget>
 #include <QtTest>
 
+#include "View/engine/TableSize.h"
 #include "tests/view/engine/LogCatcher.h"
 #include "tests/view/engine/RowTableDocument.h"
 #include "tests/view/engine/TestPage.h"
@@ -31,7 +32,7 @@ private slots:
         QCOMPARE(CellTexts(table, 1), Values(2)[1]);
         QCOMPARE(table->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
         QCOMPARE(table->minimumSize(), table->maximumSize());
-        QCOMPARE(table->maximumSize(), CTestPage::FitTableSize(table));
+        QCOMPARE(table->maximumSize(), FitTableSize(table));
     }
 
     void cellsAreMadeByTheirDataType()

@@ -60,9 +60,6 @@ public:
     bool IsModelReady() const { return m_modelReady; }
 
     using CAutoBindingDataModelDockWidget::AppendWidget;
-    using CAutoBindingDataModelDockWidget::BuildLiveKey;
-    using CAutoBindingDataModelDockWidget::FitTableSize;
-    using CAutoBindingDataModelDockWidget::FitWideTableSize;
     using CAutoBindingDataModelDockWidget::GetGroupType;
     using CAutoBindingDataModelDockWidget::PackageMemberValue;
     using CAutoBindingDataModelDockWidget::ShowItemResult;

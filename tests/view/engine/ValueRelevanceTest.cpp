@@ -262,45 +262,6 @@ private slots:
         QCOMPARE(sub->text(), QString("NA"));
     }
 
-    void joinedKeyTakesListsNumbersAndFlagsInListOrder()
-    {
-        CTestDocument document;
-        document.Member("request.group1.list",
-                        "{'trait':{'dataType':'list','value':['11 RB'],'defaultValue':''}}");
-        document.Member("request.group1.range", "{'trait':{'dataType':'range','value':{'min':0,"
-                                                "'max':255,'displayBase':16},"
-                                                "'defaultValue':'254'}}");
-        document.Member("request.group1.flag",
-                        "{'trait':{'dataType':'boolean','defaultValue':'true'}}");
-        document.Member("request.group1.label",
-                        "{'trait':{'dataType':'label','defaultValue':'no part'}}");
-        document.Member("request.group1.untyped", "{'caption':'no trait'}");
-        CTestPage page(document);
-        page.Add<QComboBox>("request.group1.list");
-        page.Add<QSpinBox>("request.group1.range");
-        page.Add<QCheckBox>("request.group1.flag");
-        page.Add<QLabel>("request.group1.label");
-        page.Add<QComboBox>("request.group1.untyped");
-        page.Init();
-        const auto key = [&](const QStringList &members) {
-            QJsonArray list;
-            for (const QString &member : members)
-                list.append("request.group1.memberProperty." + member);
-            return page.BuildLiveKey(list);
-        };
-        const QString number =
-            page.findChild<QSpinBox *>(document.ObjectName("request.group1.range"))->text();
-        QCOMPARE(number.toInt(nullptr, 16), 254);
-        QCOMPARE(key({"list", "range", "flag"}), "11 RB," + number + ",true");
-        QCOMPARE(key({"flag", "list"}), QString("true,11 RB"));
-        QCOMPARE(key({"list"}), QString("11 RB"));
-        // What gives no part gives no comma; the part in front keeps its own.
-        QCOMPARE(key({"label", "list"}), QString("11 RB"));
-        QCOMPARE(key({"list", "label"}), QString("11 RB,"));
-        QCOMPARE(key({"list", "gone", "untyped", "flag"}), QString("11 RB,true"));
-        QCOMPARE(key({}), QString());
-    }
-
     void plainAndJoinedKeysServeTheTargetsOfOnePublisher()
     {
         CTestDocument document =
