@@ -137,7 +137,8 @@ void CNrRxPathlossDockWidgetV7::
     const QString mode =
         arg1.contains(QLatin1Char('H')) ? QStringLiteral("HPM") : QStringLiteral("LPM");
     QStringList gains;
-    for (const QJsonValue gain : GetJsonValueConst(m_dataModel, kGainInfo + mode).toArray())
+    const QJsonArray entry = GetJsonValueConst(m_dataModel, kGainInfo + mode).toArray();
+    for (const QJsonValue &gain : entry)
         gains.append(gain.toString());
     if (ChangeSelection("==================== powerMode change", arg1))
         m_ui->calDataIf_data_group5_memberProperty_main->setHorizontalHeaderLabels(

@@ -8,7 +8,6 @@
 CUnsignedSpinBox::CUnsignedSpinBox(QWidget *parent, int base)
     : QLineEdit(parent), m_base(ValidBase(base))
 {
-    installEventFilter(this);
     connect(this, &QLineEdit::textChanged, this, &CUnsignedSpinBox::validate);
     setFont(FormFont(parent));
 }
