@@ -5,14 +5,14 @@
 namespace {
 
 constexpr SStartStopPage kPage = {
-    "Cont Rx",
-    &CQuorlinViewCtrl::GetContRxDataModel,
-    &CQuorlinViewCtrl::Signal_GetContRxDataModelDone,
-    &CQuorlinViewCtrl::ContRxTest,
-    &CQuorlinViewCtrl::Signal_ContRxTestDone,
-    static_cast<ResultSlot>(&CNrContRxDockWidgetV7::Slot_ContRxTestDone),
-    &CQuorlinViewCtrl::MultiRatTestStop,
-    static_cast<ResultSlot>(&CNrContRxDockWidgetV7::Slot_ContRxTestStopDone),
+    .test = "Cont Rx",
+    .getDataModel = &CQuorlinViewCtrl::GetContRxDataModel,
+    .dataModelDone = &CQuorlinViewCtrl::Signal_GetContRxDataModelDone,
+    .start = &CQuorlinViewCtrl::ContRxTest,
+    .startDone = &CQuorlinViewCtrl::Signal_ContRxTestDone,
+    .startSlot = static_cast<ResultSlot>(&CNrContRxDockWidgetV7::Slot_ContRxTestDone),
+    .stop = &CQuorlinViewCtrl::MultiRatTestStop,
+    .stopSlot = static_cast<ResultSlot>(&CNrContRxDockWidgetV7::Slot_ContRxTestStopDone),
 };
 
 }  // namespace

@@ -6,27 +6,29 @@ using Page = CNrRsrpForceDockWidgetV7;
 using Ctrl = CQuorlinViewCtrl;
 
 constexpr SRsrpPage CNrRsrpForceDockWidgetV7::kPage = {
-    {
-        "Rsrp",
-        &Ctrl::GetRsrpForceDataModel,
-        &Ctrl::Signal_GetRsrpForceDataModelDone,
-        &Ctrl::RsrpForceTest,
-        &Ctrl::Signal_RsrpForceTestDone,
-        static_cast<ResultSlot>(&Page::Slot_RsrpForceTestDone),
-        &Ctrl::NrTestStop,
-        static_cast<ResultSlot>(&Page::Slot_RsrpForceTestStopDone),
-    },
-    "Slot_RsrpForceTestDone",
-    "Slot_RsrpForceTestStopDone",
-    &Ctrl::RsrpForceFetchReport,
-    &Ctrl::Signal_RsrpForceFetchReportDone,
-    static_cast<SRsrpPage::Slot<SEachItemOperationResult, std::string>>(
+    .test =
+        {
+            .test = "Rsrp",
+            .getDataModel = &Ctrl::GetRsrpForceDataModel,
+            .dataModelDone = &Ctrl::Signal_GetRsrpForceDataModelDone,
+            .start = &Ctrl::RsrpForceTest,
+            .startDone = &Ctrl::Signal_RsrpForceTestDone,
+            .startSlot = static_cast<ResultSlot>(&Page::Slot_RsrpForceTestDone),
+            .stop = &Ctrl::NrTestStop,
+            .stopSlot = static_cast<ResultSlot>(&Page::Slot_RsrpForceTestStopDone),
+        },
+    .testDoneLog = "Slot_RsrpForceTestDone",
+    .stopDoneLog = "Slot_RsrpForceTestStopDone",
+    .fetch = &Ctrl::RsrpForceFetchReport,
+    .fetchDone = &Ctrl::Signal_RsrpForceFetchReportDone,
+    .onFetchDone = static_cast<SRsrpPage::Slot<SEachItemOperationResult, std::string>>(
         &Page::Slot_RsrpForceFetchReportDone),
-    "CNrRsrpForceDockWidgetV7::Slot_RsrpForceFetchReportDone()",
-    static_cast<SRsrpPage::Slot<>>(&Page::Slot_RsrpRxTimerTimeout),
-    "CNrRsrpForceDockWidgetV7::Slot_RsrpRxTimerTimeout()",
-    static_cast<SRsrpPage::Slot<SEachItemOperationResult>>(&Page::Slot_RsrpResetCounterDone),
-    static_cast<SRsrpPage::Slot<std::string>>(&Page::Slot_RsrpClearReportDone),
+    .fetchDoneLog = "CNrRsrpForceDockWidgetV7::Slot_RsrpForceFetchReportDone()",
+    .onTick = static_cast<SRsrpPage::Slot<>>(&Page::Slot_RsrpRxTimerTimeout),
+    .tickLog = "CNrRsrpForceDockWidgetV7::Slot_RsrpRxTimerTimeout()",
+    .onResetDone =
+        static_cast<SRsrpPage::Slot<SEachItemOperationResult>>(&Page::Slot_RsrpResetCounterDone),
+    .onClearDone = static_cast<SRsrpPage::Slot<std::string>>(&Page::Slot_RsrpClearReportDone),
 };
 
 CNrRsrpForceDockWidgetV7::CNrRsrpForceDockWidgetV7(QWidget *parent)
@@ -34,15 +36,15 @@ CNrRsrpForceDockWidgetV7::CNrRsrpForceDockWidgetV7(QWidget *parent)
 {
     m_ui->setupUi(this);
     UseWidgets({
-        {m_ui->groupBox_rx, m_ui->groupBox_tx},
-        m_ui->m_start,
-        m_ui->m_stop,
-        m_ui->resetPushButton,
-        m_ui->clearPushButton,
-        m_ui->cmdIf_request_group1_memberProperty_band,
-        m_ui->cmdIf_request_group1_memberProperty_dlFrequency,
-        m_ui->cmdIf_request_group3_memberProperty_ulFrequency,
-        {m_ui->cmdIf_response_group1_memberProperty_RSRP0},
+        .inputGroups = {m_ui->groupBox_rx, m_ui->groupBox_tx},
+        .start = m_ui->m_start,
+        .stop = m_ui->m_stop,
+        .reset = m_ui->resetPushButton,
+        .clear = m_ui->clearPushButton,
+        .band = m_ui->cmdIf_request_group1_memberProperty_band,
+        .dlFrequency = m_ui->cmdIf_request_group1_memberProperty_dlFrequency,
+        .ulFrequency = m_ui->cmdIf_request_group3_memberProperty_ulFrequency,
+        .results = {m_ui->cmdIf_response_group1_memberProperty_RSRP0},
     });
 }
 

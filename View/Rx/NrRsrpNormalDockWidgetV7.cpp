@@ -6,27 +6,29 @@ using Page = CNrRsrpNormalDockWidgetV7;
 using Ctrl = CQuorlinViewCtrl;
 
 constexpr SRsrpPage CNrRsrpNormalDockWidgetV7::kPage = {
-    {
-        "Rsrp",
-        &Ctrl::GetRsrpNormalDataModel,
-        &Ctrl::Signal_GetRsrpNormalDataModelDone,
-        &Ctrl::RsrpNormalTest,
-        &Ctrl::Signal_RsrpNormalTestDone,
-        static_cast<ResultSlot>(&Page::Slot_RsrpNormalTestDone),
-        &Ctrl::NrTestStop,
-        static_cast<ResultSlot>(&Page::Slot_RsrpNormalTestStopDone),
-    },
-    "Slot_RsrpNormalTestDone",
-    "Slot_RsrpNormalTestStopDone",
-    &Ctrl::RsrpNormalFetchReport,
-    &Ctrl::Signal_RsrpNormalFetchReportDone,
-    static_cast<SRsrpPage::Slot<SEachItemOperationResult, std::string>>(
+    .test =
+        {
+            .test = "Rsrp",
+            .getDataModel = &Ctrl::GetRsrpNormalDataModel,
+            .dataModelDone = &Ctrl::Signal_GetRsrpNormalDataModelDone,
+            .start = &Ctrl::RsrpNormalTest,
+            .startDone = &Ctrl::Signal_RsrpNormalTestDone,
+            .startSlot = static_cast<ResultSlot>(&Page::Slot_RsrpNormalTestDone),
+            .stop = &Ctrl::NrTestStop,
+            .stopSlot = static_cast<ResultSlot>(&Page::Slot_RsrpNormalTestStopDone),
+        },
+    .testDoneLog = "Slot_RsrpNormalTestDone",
+    .stopDoneLog = "Slot_RsrpNormalTestStopDone",
+    .fetch = &Ctrl::RsrpNormalFetchReport,
+    .fetchDone = &Ctrl::Signal_RsrpNormalFetchReportDone,
+    .onFetchDone = static_cast<SRsrpPage::Slot<SEachItemOperationResult, std::string>>(
         &Page::Slot_RsrpNormalFetchReportDone),
-    "CNrRsrpNormalDockWidgetV7::Slot_RsrpNormalFetchReportDone()",
-    static_cast<SRsrpPage::Slot<>>(&Page::Slot_RsrpRxTimerTimeout),
-    "CNrRsrpNormalDockWidgetV7::Slot_RsrpRxTimerTimeout()",
-    static_cast<SRsrpPage::Slot<SEachItemOperationResult>>(&Page::Slot_RsrpResetCounterDone),
-    static_cast<SRsrpPage::Slot<std::string>>(&Page::Slot_RsrpClearReportDone),
+    .fetchDoneLog = "CNrRsrpNormalDockWidgetV7::Slot_RsrpNormalFetchReportDone()",
+    .onTick = static_cast<SRsrpPage::Slot<>>(&Page::Slot_RsrpRxTimerTimeout),
+    .tickLog = "CNrRsrpNormalDockWidgetV7::Slot_RsrpRxTimerTimeout()",
+    .onResetDone =
+        static_cast<SRsrpPage::Slot<SEachItemOperationResult>>(&Page::Slot_RsrpResetCounterDone),
+    .onClearDone = static_cast<SRsrpPage::Slot<std::string>>(&Page::Slot_RsrpClearReportDone),
 };
 
 CNrRsrpNormalDockWidgetV7::CNrRsrpNormalDockWidgetV7(QWidget *parent)
@@ -34,16 +36,16 @@ CNrRsrpNormalDockWidgetV7::CNrRsrpNormalDockWidgetV7(QWidget *parent)
 {
     m_ui->setupUi(this);
     UseWidgets({
-        {m_ui->groupBox_rx, m_ui->groupBox_tx},
-        m_ui->m_start,
-        m_ui->m_stop,
-        m_ui->resetPushButton,
-        m_ui->clearPushButton,
-        m_ui->cmdIf_request_group1_memberProperty_band,
-        m_ui->cmdIf_request_group1_memberProperty_dlFrequency,
-        m_ui->cmdIf_request_group2_memberProperty_ulFrequency,
-        {m_ui->cmdIf_response_group1_memberProperty_RSRP0,
-         m_ui->cmdIf_response_group2_memberProperty_RSRP0},
+        .inputGroups = {m_ui->groupBox_rx, m_ui->groupBox_tx},
+        .start = m_ui->m_start,
+        .stop = m_ui->m_stop,
+        .reset = m_ui->resetPushButton,
+        .clear = m_ui->clearPushButton,
+        .band = m_ui->cmdIf_request_group1_memberProperty_band,
+        .dlFrequency = m_ui->cmdIf_request_group1_memberProperty_dlFrequency,
+        .ulFrequency = m_ui->cmdIf_request_group2_memberProperty_ulFrequency,
+        .results = {m_ui->cmdIf_response_group1_memberProperty_RSRP0,
+                    m_ui->cmdIf_response_group2_memberProperty_RSRP0},
     });
 }
 

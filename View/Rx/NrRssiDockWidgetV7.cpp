@@ -34,9 +34,15 @@ void FitCells(QTableWidget *table)
 }  // namespace
 
 const CNrRssiDockWidgetV7::SWords CNrRssiDockWidgetV7::kTestWords = {
-    "Fetch RSSI done", "Fetch RSSI failed.", "Fetch RSSI failed."};
+    .done = "Fetch RSSI done",
+    .failed = "Fetch RSSI failed.",
+    .failedTitle = "Fetch RSSI failed.",
+};
 const CNrRssiDockWidgetV7::SWords CNrRssiDockWidgetV7::kCalculatorWords = {
-    "Fetch Gain info done", "Fetch Gain info failed", "Fetch Gain info failed."};
+    .done = "Fetch Gain info done",
+    .failed = "Fetch Gain info failed",
+    .failedTitle = "Fetch Gain info failed.",
+};
 
 CNrRssiDockWidgetV7::CNrRssiDockWidgetV7(QWidget *parent)
     : CAutoBindingDataModelDockWidget(parent), m_ui(std::make_unique<Ui::CNrRssiDockWidgetV7>()),

@@ -13,18 +13,34 @@ using Page = CNrRxPathlossDockWidgetV7;
 using Ctrl = CQuorlinViewCtrl;
 
 constexpr SCalibrationPage kPage = {
-    &Ctrl::GetPathLossDataModel,
-    &Ctrl::Signal_GetPathLossDataModelDone,
-    {&Ctrl::PathLossUploadFromFlash, &Ctrl::Signal_PathLossUploadFromFlashDone,
-     static_cast<CalibrationReadSlot>(&Page::Slot_PathLossUploadFromFlashDone)},
-    {&Ctrl::PathLossDownloadToFlash, &Ctrl::Signal_PathLossDownloadToFlashDone,
-     static_cast<CalibrationWriteSlot>(&Page::Slot_PathLossDownloadToFlashDone)},
-    {&Ctrl::PathLossLoadFromFile, &Ctrl::Signal_PathLossLoadFromFileDone,
-     static_cast<CalibrationReadSlot>(&Page::Slot_PathLossLoadFromFileDone)},
-    {&Ctrl::PathLossSaveToFile, &Ctrl::Signal_PathLossSaveToFileDone,
-     static_cast<CalibrationWriteSlot>(&Page::Slot_PathLossSaveToFileDone)},
-    &Ctrl::SetPathLossCalibrationData,
-    &Ctrl::GetPathLossCalibrationData,
+    .getDataModel = &Ctrl::GetPathLossDataModel,
+    .dataModelDone = &Ctrl::Signal_GetPathLossDataModelDone,
+    .upload =
+        {
+            .request = &Ctrl::PathLossUploadFromFlash,
+            .done = &Ctrl::Signal_PathLossUploadFromFlashDone,
+            .slot = static_cast<CalibrationReadSlot>(&Page::Slot_PathLossUploadFromFlashDone),
+        },
+    .download =
+        {
+            .request = &Ctrl::PathLossDownloadToFlash,
+            .done = &Ctrl::Signal_PathLossDownloadToFlashDone,
+            .slot = static_cast<CalibrationWriteSlot>(&Page::Slot_PathLossDownloadToFlashDone),
+        },
+    .load =
+        {
+            .request = &Ctrl::PathLossLoadFromFile,
+            .done = &Ctrl::Signal_PathLossLoadFromFileDone,
+            .slot = static_cast<CalibrationReadSlot>(&Page::Slot_PathLossLoadFromFileDone),
+        },
+    .save =
+        {
+            .request = &Ctrl::PathLossSaveToFile,
+            .done = &Ctrl::Signal_PathLossSaveToFileDone,
+            .slot = static_cast<CalibrationWriteSlot>(&Page::Slot_PathLossSaveToFileDone),
+        },
+    .store = &Ctrl::SetPathLossCalibrationData,
+    .fetch = &Ctrl::GetPathLossCalibrationData,
 };
 
 constexpr int kType1Page = 0;
@@ -51,15 +67,17 @@ CNrRxPathlossDockWidgetV7::CNrRxPathlossDockWidgetV7(QWidget *parent)
     : CCalibrationDockWidget(kPage, parent), m_ui(std::make_unique<Ui::CNrRxPathlossDockWidgetV7>())
 {
     m_ui->setupUi(this);
-    SetForm({m_ui->dockWidgetContents,
-             {m_ui->m_btnUpload, m_ui->m_btnDownload, m_ui->m_btnLoad, m_ui->m_btnSave},
-             {m_ui->calDataIf_config_group1_memberProperty_band,
-              m_ui->calDataIf_config_group1_memberProperty_routeType,
-              m_ui->calDataIf_config_group1_memberProperty_route,
-              m_ui->calDataIf_config_group1_memberProperty_powerMode,
-              m_ui->calDataIf_config_group1_memberProperty_freqIdx,
-              m_ui->calDataIf_config_group1_memberProperty_path,
-              m_ui->calDataIf_config_group1_memberProperty_type2GainModeIdx}});
+    SetForm({
+        .contents = m_ui->dockWidgetContents,
+        .buttons = {m_ui->m_btnUpload, m_ui->m_btnDownload, m_ui->m_btnLoad, m_ui->m_btnSave},
+        .selectors = {m_ui->calDataIf_config_group1_memberProperty_band,
+                      m_ui->calDataIf_config_group1_memberProperty_routeType,
+                      m_ui->calDataIf_config_group1_memberProperty_route,
+                      m_ui->calDataIf_config_group1_memberProperty_powerMode,
+                      m_ui->calDataIf_config_group1_memberProperty_freqIdx,
+                      m_ui->calDataIf_config_group1_memberProperty_path,
+                      m_ui->calDataIf_config_group1_memberProperty_type2GainModeIdx},
+    });
     m_ui->m_lblFreq->setText(QStringLiteral("0"));
     PlaceTabBar(m_ui->calDataIf_config_group1_memberProperty_type2GainModeIdx, m_ui->m_type1Tables,
                 m_ui->calDataIf_data_group2_memberProperty_lna0);

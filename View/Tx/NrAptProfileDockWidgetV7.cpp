@@ -10,18 +10,34 @@ using Page = CNrAptProfileDockWidgetV7;
 using Ctrl = CQuorlinViewCtrl;
 
 constexpr SCalibrationPage kPage = {
-    &Ctrl::GetAptDataModel,
-    &Ctrl::Signal_GetAptDataModelDone,
-    {&Ctrl::AptUploadFromFlash, &Ctrl::Signal_AptUploadFromFlashDone,
-     static_cast<CalibrationReadSlot>(&Page::Slot_AptUploadFromFlashDone)},
-    {&Ctrl::AptDownloadToFlash, &Ctrl::Signal_AptDownloadToFlashDone,
-     static_cast<CalibrationWriteSlot>(&Page::Slot_AptDownloadToFlashDone)},
-    {&Ctrl::AptLoadFromFile, &Ctrl::Signal_AptLoadFromFileDone,
-     static_cast<CalibrationReadSlot>(&Page::Slot_AptLoadFromFileDone)},
-    {&Ctrl::AptSaveToFile, &Ctrl::Signal_AptSaveToFileDone,
-     static_cast<CalibrationWriteSlot>(&Page::Slot_AptSaveToFileDone)},
-    &Ctrl::SetAptCalibrationData,
-    &Ctrl::GetAptCalibrationData,
+    .getDataModel = &Ctrl::GetAptDataModel,
+    .dataModelDone = &Ctrl::Signal_GetAptDataModelDone,
+    .upload =
+        {
+            .request = &Ctrl::AptUploadFromFlash,
+            .done = &Ctrl::Signal_AptUploadFromFlashDone,
+            .slot = static_cast<CalibrationReadSlot>(&Page::Slot_AptUploadFromFlashDone),
+        },
+    .download =
+        {
+            .request = &Ctrl::AptDownloadToFlash,
+            .done = &Ctrl::Signal_AptDownloadToFlashDone,
+            .slot = static_cast<CalibrationWriteSlot>(&Page::Slot_AptDownloadToFlashDone),
+        },
+    .load =
+        {
+            .request = &Ctrl::AptLoadFromFile,
+            .done = &Ctrl::Signal_AptLoadFromFileDone,
+            .slot = static_cast<CalibrationReadSlot>(&Page::Slot_AptLoadFromFileDone),
+        },
+    .save =
+        {
+            .request = &Ctrl::AptSaveToFile,
+            .done = &Ctrl::Signal_AptSaveToFileDone,
+            .slot = static_cast<CalibrationWriteSlot>(&Page::Slot_AptSaveToFileDone),
+        },
+    .store = &Ctrl::SetAptCalibrationData,
+    .fetch = &Ctrl::GetAptCalibrationData,
 };
 
 }  // namespace
@@ -30,11 +46,13 @@ CNrAptProfileDockWidgetV7::CNrAptProfileDockWidgetV7(QWidget *parent)
     : CCalibrationDockWidget(kPage, parent), m_ui(std::make_unique<Ui::CNrAptProfileDockWidgetV7>())
 {
     m_ui->setupUi(this);
-    SetForm({m_ui->dockWidgetContents,
-             {m_ui->m_btnUpload, m_ui->m_btnDownload, m_ui->m_btnLoad, m_ui->m_btnSave},
-             {m_ui->calDataIf_config_group1_memberProperty_band,
-              m_ui->calDataIf_config_group1_memberProperty_txRoute,
-              m_ui->calDataIf_config_group1_memberProperty_aggBwRegion}});
+    SetForm({
+        .contents = m_ui->dockWidgetContents,
+        .buttons = {m_ui->m_btnUpload, m_ui->m_btnDownload, m_ui->m_btnLoad, m_ui->m_btnSave},
+        .selectors = {m_ui->calDataIf_config_group1_memberProperty_band,
+                      m_ui->calDataIf_config_group1_memberProperty_txRoute,
+                      m_ui->calDataIf_config_group1_memberProperty_aggBwRegion},
+    });
     PlaceTabBar(m_ui->calDataIf_data_group12_memberProperty_ulFreq, m_ui->m_tables,
                 m_ui->calDataIf_data_group7_memberProperty_paHighPaGain);
 }

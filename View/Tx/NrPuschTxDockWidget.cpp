@@ -7,29 +7,29 @@ namespace {
 SStartStopPage TestOf(const SPuschMode &mode)
 {
     return {
-        "Pusch TX",
-        mode.getDataModel,
-        mode.dataModelDone,
-        mode.start,
-        mode.startDone,
-        mode.startSlot,
-        &CQuorlinViewCtrl::NrTestStop,
-        mode.stopSlot,
+        .test = "Pusch TX",
+        .getDataModel = mode.getDataModel,
+        .dataModelDone = mode.dataModelDone,
+        .start = mode.start,
+        .startDone = mode.startDone,
+        .startSlot = mode.startSlot,
+        .stop = &CQuorlinViewCtrl::NrTestStop,
+        .stopSlot = mode.stopSlot,
     };
 }
 
 STxReading DlFreqOf(const SPuschMode &mode)
 {
     return {
-        "Start fetch DL frequence...",
-        "Finish fetch DL frequence.",
-        mode.getDlFreq,
-        &CQuorlinViewCtrl::Signal_GetPuschTxDlFreqDone,
-        mode.dlFreqSlot,
-        true,
-        true,
-        mode.calculateRestsDuringTest,
-        mode.dlFreqStaysConnected,
+        .startStatus = "Start fetch DL frequence...",
+        .doneStatus = "Finish fetch DL frequence.",
+        .request = mode.getDlFreq,
+        .done = &CQuorlinViewCtrl::Signal_GetPuschTxDlFreqDone,
+        .slot = mode.dlFreqSlot,
+        .takesTestButtons = true,
+        .needsChoices = true,
+        .restsDuringTest = mode.calculateRestsDuringTest,
+        .staysConnected = mode.dlFreqStaysConnected,
     };
 }
 

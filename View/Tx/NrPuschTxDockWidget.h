@@ -7,7 +7,7 @@
 //
 // A page is its form, its slots and its record:
 //
-//   constexpr SPuschMode kMode = {&CQuorlinViewCtrl::GetPuschTxForceDataModel, ...};
+//   constexpr SPuschMode kMode = {.getDataModel = &CQuorlinViewCtrl::GetPuschTxForceDataModel, ...};
 //   CNrPuschTxForcedDockWidgetV7::CNrPuschTxForcedDockWidgetV7(QWidget *parent)
 //       : CNrPuschTxDockWidget(kMode, parent), m_ui(...)
 //   {

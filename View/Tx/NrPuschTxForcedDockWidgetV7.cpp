@@ -5,16 +5,17 @@
 namespace {
 
 constexpr SPuschMode kMode = {
-    &CQuorlinViewCtrl::GetPuschTxForceDataModel,
-    &CQuorlinViewCtrl::Signal_GetPuschTxForceDataModelDone,
-    &CQuorlinViewCtrl::PuschTxForceTest,
-    &CQuorlinViewCtrl::Signal_PuschTxForceTestDone,
-    static_cast<ResultSlot>(&CNrPuschTxForcedDockWidgetV7::Slot_PuschTxForceTestDone),
-    static_cast<ResultSlot>(&CNrPuschTxForcedDockWidgetV7::Slot_PuschTxForceTestStopDone),
-    &CQuorlinViewCtrl::GetPuschTxForceDlFreq,
-    static_cast<TextSlot>(&CNrPuschTxForcedDockWidgetV7::Slot_PuschTxForceDlFreqDone),
-    false,
-    false,
+    .getDataModel = &CQuorlinViewCtrl::GetPuschTxForceDataModel,
+    .dataModelDone = &CQuorlinViewCtrl::Signal_GetPuschTxForceDataModelDone,
+    .start = &CQuorlinViewCtrl::PuschTxForceTest,
+    .startDone = &CQuorlinViewCtrl::Signal_PuschTxForceTestDone,
+    .startSlot = static_cast<ResultSlot>(&CNrPuschTxForcedDockWidgetV7::Slot_PuschTxForceTestDone),
+    .stopSlot =
+        static_cast<ResultSlot>(&CNrPuschTxForcedDockWidgetV7::Slot_PuschTxForceTestStopDone),
+    .getDlFreq = &CQuorlinViewCtrl::GetPuschTxForceDlFreq,
+    .dlFreqSlot = static_cast<TextSlot>(&CNrPuschTxForcedDockWidgetV7::Slot_PuschTxForceDlFreqDone),
+    .calculateRestsDuringTest = false,
+    .dlFreqStaysConnected = false,
 };
 
 }  // namespace

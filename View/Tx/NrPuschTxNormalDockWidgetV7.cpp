@@ -5,16 +5,18 @@
 namespace {
 
 constexpr SPuschMode kMode = {
-    &CQuorlinViewCtrl::GetPuschTxNormalDataModel,
-    &CQuorlinViewCtrl::Signal_GetPuschTxNormalDataModelDone,
-    &CQuorlinViewCtrl::PuschTxNormalTest,
-    &CQuorlinViewCtrl::Signal_PuschTxNormalTestDone,
-    static_cast<ResultSlot>(&CNrPuschTxNormalDockWidgetV7::Slot_PuschTxNormalTestDone),
-    static_cast<ResultSlot>(&CNrPuschTxNormalDockWidgetV7::Slot_PuschTxNormalTestStopDone),
-    &CQuorlinViewCtrl::GetPuschTxNormalDlFreq,
-    static_cast<TextSlot>(&CNrPuschTxNormalDockWidgetV7::Slot_PuschTxNormalDlFreqDone),
-    true,
-    true,
+    .getDataModel = &CQuorlinViewCtrl::GetPuschTxNormalDataModel,
+    .dataModelDone = &CQuorlinViewCtrl::Signal_GetPuschTxNormalDataModelDone,
+    .start = &CQuorlinViewCtrl::PuschTxNormalTest,
+    .startDone = &CQuorlinViewCtrl::Signal_PuschTxNormalTestDone,
+    .startSlot = static_cast<ResultSlot>(&CNrPuschTxNormalDockWidgetV7::Slot_PuschTxNormalTestDone),
+    .stopSlot =
+        static_cast<ResultSlot>(&CNrPuschTxNormalDockWidgetV7::Slot_PuschTxNormalTestStopDone),
+    .getDlFreq = &CQuorlinViewCtrl::GetPuschTxNormalDlFreq,
+    .dlFreqSlot =
+        static_cast<TextSlot>(&CNrPuschTxNormalDockWidgetV7::Slot_PuschTxNormalDlFreqDone),
+    .calculateRestsDuringTest = true,
+    .dlFreqStaysConnected = true,
 };
 
 }  // namespace

@@ -5,26 +5,27 @@
 namespace {
 
 constexpr SStartStopPage kPage = {
-    "Single Tone Tx",
-    &CQuorlinViewCtrl::GetSingleToneTxDataModel,
-    &CQuorlinViewCtrl::Signal_GetSingleToneTxDataModelDone,
-    &CQuorlinViewCtrl::SingleToneTxTest,
-    &CQuorlinViewCtrl::Signal_SingleToneTxTestDone,
-    static_cast<ResultSlot>(&CNrSingleToneTxDockWidgetV7::Slot_SingleToneTxTestDone),
-    &CQuorlinViewCtrl::MultiRatTestStop,
-    static_cast<ResultSlot>(&CNrSingleToneTxDockWidgetV7::Slot_SingleToneTxTestStopDone),
+    .test = "Single Tone Tx",
+    .getDataModel = &CQuorlinViewCtrl::GetSingleToneTxDataModel,
+    .dataModelDone = &CQuorlinViewCtrl::Signal_GetSingleToneTxDataModelDone,
+    .start = &CQuorlinViewCtrl::SingleToneTxTest,
+    .startDone = &CQuorlinViewCtrl::Signal_SingleToneTxTestDone,
+    .startSlot = static_cast<ResultSlot>(&CNrSingleToneTxDockWidgetV7::Slot_SingleToneTxTestDone),
+    .stop = &CQuorlinViewCtrl::MultiRatTestStop,
+    .stopSlot =
+        static_cast<ResultSlot>(&CNrSingleToneTxDockWidgetV7::Slot_SingleToneTxTestStopDone),
 };
 
 constexpr STxReading kPdValue = {
-    "Start fetch PD value...",
-    "Finish fetch PD value.",
-    &CQuorlinViewCtrl::GetSingleToneTxPdValue,
-    &CQuorlinViewCtrl::Signal_GetSingleToneTxPdValueDone,
-    static_cast<TextSlot>(&CNrSingleToneTxDockWidgetV7::Slot_GetSingleToneTxPdValueDone),
-    false,
-    false,
-    false,
-    false,
+    .startStatus = "Start fetch PD value...",
+    .doneStatus = "Finish fetch PD value.",
+    .request = &CQuorlinViewCtrl::GetSingleToneTxPdValue,
+    .done = &CQuorlinViewCtrl::Signal_GetSingleToneTxPdValueDone,
+    .slot = static_cast<TextSlot>(&CNrSingleToneTxDockWidgetV7::Slot_GetSingleToneTxPdValueDone),
+    .takesTestButtons = false,
+    .needsChoices = false,
+    .restsDuringTest = false,
+    .staysConnected = false,
 };
 
 }  // namespace

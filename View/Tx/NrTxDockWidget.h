@@ -6,7 +6,7 @@
 //
 // GUI thread; the box of a failed reading may outlive the page.
 //
-//   constexpr STxReading kPdValue = {"Start fetch PD value...", "Finish fetch PD value.", ...};
+//   constexpr STxReading kPdValue = {.startStatus = "Start fetch PD value...", ...};
 //   void CNrSingleToneTxDockWidgetV7::on_m_btnFetchPd_clicked() { StartReading(); }
 #pragma once
 

@@ -1,5 +1,8 @@
 #include "View/pages/CalibrationDockWidget.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include <QAbstractButton>
 #include <QDoubleSpinBox>
 #include <QEvent>
@@ -31,6 +34,7 @@ bool MayComeBeforeAChange(QEvent::Type type)
 // What the user and the log read of a flow.
 struct CCalibrationDockWidget::SFlowWords
 {
+    ECalibrationFlow flow;
     const char *log;
     const char *running;  // in front of how far it is, and over what it left out
     const char *done;
@@ -40,16 +44,37 @@ struct CCalibrationDockWidget::SFlowWords
 const CCalibrationDockWidget::SFlowWords &CCalibrationDockWidget::Words(ECalibrationFlow flow)
 {
     static constexpr SFlowWords kWords[] = {
-        {"on_m_btnUploadFromFlash_clicked", "Read data from target",
-         "Read data from target successfully.", "Read data from target failed"},
-        {"on_m_btnDownloadToFlash_clicked", "Write data to target",
-         "Write data to target successfully.", "Write data to target failed"},
-        {"on_m_btnLoadFromFile_clicked", "Import data from file",
-         "Import data from file successfully.", "Import data from file failed"},
-        {"on_m_btnSaveToFile_clicked", "Export data to file", "Export data to file successfully.",
-         "Export data to file failed"},
+        {
+            .flow = ECalibrationFlow::Upload,
+            .log = "on_m_btnUploadFromFlash_clicked",
+            .running = "Read data from target",
+            .done = "Read data from target successfully.",
+            .failed = "Read data from target failed",
+        },
+        {
+            .flow = ECalibrationFlow::Download,
+            .log = "on_m_btnDownloadToFlash_clicked",
+            .running = "Write data to target",
+            .done = "Write data to target successfully.",
+            .failed = "Write data to target failed",
+        },
+        {
+            .flow = ECalibrationFlow::Load,
+            .log = "on_m_btnLoadFromFile_clicked",
+            .running = "Import data from file",
+            .done = "Import data from file successfully.",
+            .failed = "Import data from file failed",
+        },
+        {
+            .flow = ECalibrationFlow::Save,
+            .log = "on_m_btnSaveToFile_clicked",
+            .running = "Export data to file",
+            .done = "Export data to file successfully.",
+            .failed = "Export data to file failed",
+        },
     };
-    return kWords[static_cast<int>(flow)];
+    return *std::find_if(std::begin(kWords), std::end(kWords),
+                         [flow](const SFlowWords &words) { return words.flow == flow; });
 }
 
 CCalibrationDockWidget::CCalibrationDockWidget(const SCalibrationPage &page, QWidget *parent)

@@ -26,12 +26,12 @@
 // Threads. GUI thread. An answer's connection lives for one flow. Storing and fetching a selection
 // works on the core's copy and does not wait for the target.
 //
-//   constexpr SCalibrationPage kPage = {&CQuorlinViewCtrl::GetAptDataModel, ...};
+//   constexpr SCalibrationPage kPage = {.getDataModel = &CQuorlinViewCtrl::GetAptDataModel, ...};
 //   CNrAptProfileDockWidgetV7::CNrAptProfileDockWidgetV7(QWidget *parent)
 //       : CCalibrationDockWidget(kPage, parent), m_ui(...)
 //   {
 //       m_ui->setupUi(this);
-//       SetForm({m_ui->dockWidgetContents, {...}, {m_ui->..._band, m_ui->..._txRoute}});
+//       SetForm({.contents = m_ui->dockWidgetContents, .buttons = {...}, .selectors = {...}});
 //   }
 //   void CNrAptProfileDockWidgetV7::Slot_AptDownloadToFlashDone(SEachItemOperationResult result)
 //   {

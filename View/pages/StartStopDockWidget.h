@@ -27,7 +27,7 @@
 // Threads. GUI thread. An answer's connection lives for one request: made just before it, taken
 // down first thing when the answer comes.
 //
-//   constexpr SStartStopPage kPage = {"Cont Rx", &CQuorlinViewCtrl::GetContRxDataModel, ...};
+//   constexpr SStartStopPage kPage = {.test = "Cont Rx", ...};
 //   CNrContRxDockWidgetV7::CNrContRxDockWidgetV7(QWidget *parent)
 //       : CStartStopDockWidget(kPage, parent), m_ui(...)
 //   {
