@@ -82,8 +82,8 @@ void CNrRssiDockWidgetV7::DisableTestControls()
 
 void CNrRssiDockWidgetV7::EnableTestControls()
 {
-    m_ui->m_start->setEnabled(true);
-    m_ui->m_btnRssiSeqSrhCalculator->setEnabled(true);
+    m_ui->m_start->setEnabled(!HasRequest());
+    m_ui->m_btnRssiSeqSrhCalculator->setEnabled(!HasRequest());
 }
 
 void CNrRssiDockWidgetV7::Slot_TriggerStopTest() {}

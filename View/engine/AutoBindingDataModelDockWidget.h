@@ -87,7 +87,8 @@ public:
     virtual void RequestDataModel() = 0;
     // Start and Stop off; a running test's Stop stays on.
     virtual void DisableTestControls() = 0;
-    // Start on, Stop off; a running test's buttons stay as they are.
+    // Start on, Stop off; a running test's buttons stay as they are. While a request of the page is
+    // under way its buttons stay off, whatever a host enables: EndRequest turns them on.
     virtual void EnableTestControls() = 0;
     // The tool has stopped every test on the DUT: the page shows itself idle (buttons, inputs,
     // timers, remembered stops), without a status line. A page without a test has nothing to show.
@@ -142,6 +143,8 @@ protected:
     // As these, of what does not reach the target: the page does not say busy.
     bool BeginQuietRequest(const std::function<void()> &turnOff);
     void EndQuietRequest(const std::function<void()> &turnOn);
+    // Between the two; over when turnOn is called.
+    bool HasRequest() const { return m_requests > 0; }
     // The signal alone, of both.
     bool BeginBusy();
     bool EndBusy();

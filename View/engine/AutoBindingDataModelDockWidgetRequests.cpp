@@ -63,9 +63,10 @@ bool CAutoBindingDataModelDockWidget::BeginQuietRequest(const std::function<void
 
 void CAutoBindingDataModelDockWidget::EndQuietRequest(const std::function<void()> &turnOn)
 {
+    const bool isLast = m_requests > 0 && --m_requests == 0;
     turnOn();
     GiveFocusBack();
-    if (m_requests > 0 && --m_requests == 0)
+    if (isLast)
         m_progress.End();
 }
 

@@ -126,7 +126,7 @@ void CCalibrationDockWidget::DisableTestControls()
 
 void CCalibrationDockWidget::EnableTestControls()
 {
-    SetButtonsEnabled(true);
+    SetButtonsEnabled(!HasRequest());
 }
 
 void CCalibrationDockWidget::Slot_TriggerStopTest() {}

@@ -38,6 +38,8 @@ private slots:
     void otherGenerationLeavesThePageAsItWas_data();
     void otherGenerationLeavesThePageAsItWas();
     void hostCanDisableAndEnableThePage();
+    void hostsEnableLetsNoRequestBeginDuringAnother_data() { AddRequestRows(); }
+    void hostsEnableLetsNoRequestBeginDuringAnother();
 };
 
 void RssiLifetimeTest::answerArrivesBehindAnotherTab_data()
@@ -192,6 +194,25 @@ void RssiLifetimeTest::hostCanDisableAndEnableThePage()
     QCOMPARE(session.Enabled(), QString("none"));
     session->EnablePages();
     QCOMPARE(session.Enabled(), QString("both"));
+}
+
+void RssiLifetimeTest::hostsEnableLetsNoRequestBeginDuringAnother()
+{
+    QFETCH(QString, button);
+    QFETCH(QByteArray, function);
+    QFETCH(QString, done);
+    CRssiSession session;
+    QVERIFY(session.ShowAndWait());
+    VondSim_Hold(function);
+    session.Press(button);
+    QVERIFY(VondSim_WaitUntilHeld(function, 20000));
+    session->DisablePages();
+    session->EnablePages();
+    QCOMPARE(session.Enabled(), QString("none"));
+    VondSim_Release(function);
+    QVERIFY(session.WaitForStatus(done));
+    QCOMPARE(session.Enabled(), QString("both"));
+    QCOMPARE(session.busy, (QVector<bool>{true, false}));
 }
 
 QTEST_MAIN(RssiLifetimeTest)
