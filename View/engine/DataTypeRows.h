@@ -2,19 +2,15 @@
 // only; everyone else asks DataTypes.h.
 #pragma once
 
+#include <vector>
+
 #include "Model/JsonPath.h"
 #include "Support/Log.h"
 #include "View/editors/FormFont.h"
 #include "View/engine/DataType.h"
 
-// DataTypesText.cpp
-SDataType ListType();
-SDataType LabelType();
-SDataType BooleanType();
-// DataTypesNumber.cpp
-SDataType RangeType();
-SDataType PointRangeType();
-SDataType UnsignedRangeType();
+std::vector<SDataType> TextTypes();    // DataTypesText.cpp
+std::vector<SDataType> NumberTypes();  // DataTypesNumber.cpp
 
 // The widget as the class that its row names.
 template <typename Widget>

@@ -1,19 +1,29 @@
 #include "View/engine/DataTypes.h"
 
+#include "View/editors/ExactClass.h"
 #include "View/engine/DataTypeRows.h"
-#include "View/engine/WidgetIndex.h"
 
 namespace {
 
 // Made at run time: Qt's SIGNAL() and SLOT() are no constants in a debug build.
-const SDataType kTypes[] = {
-    ListType(), RangeType(), PointRangeType(), LabelType(), BooleanType(), UnsignedRangeType(),
-};
+std::vector<SDataType> AllTypes()
+{
+    std::vector<SDataType> types = TextTypes();
+    const std::vector<SDataType> numbers = NumberTypes();
+    types.insert(types.end(), numbers.begin(), numbers.end());
+    return types;
+}
+
+const std::vector<SDataType> &Types()
+{
+    static const std::vector<SDataType> types = AllTypes();
+    return types;
+}
 
 template <typename Match>
 const SDataType *FindRow(Match match)
 {
-    for (const SDataType &row : kTypes) {
+    for (const SDataType &row : Types()) {
         if (match(row))
             return &row;
     }

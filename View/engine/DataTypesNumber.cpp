@@ -189,8 +189,6 @@ Qt::Alignment NumberAlignment(const QWidget *cell)
     return (As<QAbstractSpinBox>(cell)->alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter;
 }
 
-}  // namespace
-
 // A spin box that is enabled or disabled publishes nothing: documents rely on that.
 SDataType RangeType()
 {
@@ -260,4 +258,11 @@ SDataType UnsignedRangeType()
         .updatesCell = true,
         .columnWidth = kUnsignedColumnWidth,
     };
+}
+
+}  // namespace
+
+std::vector<SDataType> NumberTypes()
+{
+    return {RangeType(), PointRangeType(), UnsignedRangeType()};
 }

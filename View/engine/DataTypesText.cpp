@@ -149,8 +149,6 @@ void UncheckDisabled(QWidget *widget)
     As<QCheckBox>(widget)->setChecked(false);
 }
 
-}  // namespace
-
 SDataType ListType()
 {
     return {
@@ -211,4 +209,11 @@ SDataType BooleanType()
         .statusSignal = SIGNAL(stateChanged(int)),
         .statusSlot = SLOT(Slot_CheckBoxEnableStatusChange(int)),
     };
+}
+
+}  // namespace
+
+std::vector<SDataType> TextTypes()
+{
+    return {ListType(), LabelType(), BooleanType()};
 }
