@@ -213,7 +213,7 @@ void CNrRsrpDockWidgetV7::ShapeResults()
     }
 }
 
-// The table of offsets holds the distance from DL to UL of each band with a pair of them.
+// The label's valuePair has the distance from DL to UL frequency of each paired band.
 void CNrRsrpDockWidgetV7::ShowUlFrequency(int dlFrequency)
 {
     if (!m_modelReady)

@@ -1,24 +1,26 @@
-// What the two RSRP pages have in common, which is all but names: a receive test in which the
-// target keeps measuring while the page fetches its reports on a timer.
+// What the two RSRP pages have in common, all but names: a receive test in which the target keeps
+// measuring while the page fetches its reports on a timer.
 //
-// A page that starts and stops, as StartStopDockWidget.h has it, and beyond that:
-//     idle      timer stopped; Reset Counter and Clear on
-//     starting  timer stopped, all off
-//     running   timer on; Reset Counter on
-//     stopping  timer stopped, all off; it stays stopped when the stop failed
-// While counters are reset or reports cleared, all is off for that moment.
+// A page that starts and stops (StartStopDockWidget.h), and beyond that:
 //
-// Reports. A tick asks for one report, and is skipped while an answer is on its way: a slow target
-// costs ticks, never rows. The answer is the page's document with the new rows in it; it becomes
-// the document, and the result table gets the rows that it lacks. Then the document lets go of
-// their cells and keeps their numbers alone: the table has the texts, and a text of megabytes would
-// have to be read on the GUI thread at each fetch. So a fetch costs next to nothing for the rows
-// that are shown already. An answer that comes after Stop still counts. An answer without a
+//   | state    | timer                                        | Reset Counter | Clear |
+//   | idle     | stopped                                      | on            | on    |
+//   | starting | stopped                                      | off           | off   |
+//   | running  | on                                           | on            | off   |
+//   | stopping | stopped, and stays so when the stop failed   | off           | off   |
+//
+// While counters are reset or reports are cleared, all buttons and inputs are off.
+//
+// Reports. A tick asks for one report; while an answer is on its way the tick is skipped, so a slow
+// target costs ticks, never rows. The answer is the page's document with the new rows in it. It
+// becomes the document, and the result table gets the rows that it lacks. Then the document drops
+// the cells of all rows and keeps the rows' numbers: otherwise each fetch would read megabytes of
+// shown rows on the GUI thread. An answer that comes after Stop still counts. An answer without a
 // document changes nothing.
 //
-// Clear. Empties document and table and leaves the target alone; Start begins with it. What was
-// asked for before a clear goes with the rows that it clears, so that its answer cannot bring them
-// back, and no report is asked for until the clear is done.
+// Clear. Empties document and table and leaves the target alone; Start begins with it. A report
+// that was asked for before the clear is dropped when it comes: it would bring the rows back. No
+// report is asked for until the clear is done.
 //
 // Threads. GUI thread. A box shown here runs an event loop in which the page may be destroyed:
 // nothing touches the page after that.
@@ -39,6 +41,7 @@ class CNrRsrpDockWidgetV7;
 class QComboBox;
 class QLabel;
 class QSpinBox;
+class QTableWidget;
 
 // What one page asks of its view controller, where the answers go, and what it writes to the log.
 struct SRsrpPage

@@ -1,13 +1,11 @@
 // The RSSI page: measures received signal strength at up to five frequencies, and has a calculator
 // that asks the target which gains suit the gain modes chosen.
 //
-// Each click is one request and one answer, so nothing runs between two clicks and there is no
-// Stop. The page is in one of
-//     idle  both buttons on
-//     busy  both off             -> idle with the answer, good or bad
-// An answer is a document: results, or "ERROR" in the cells of the paths that were asked for. One
-// that is empty, since nothing ran, leaves the page as it was. A failure is told in the status line
-// and a box; the page may be gone when the box closes.
+// Each click is one request with one answer, so there is nothing to stop. Both buttons are off from
+// the click to the answer.
+// An answer is a document: results, or "ERROR" in the cells of the paths that were asked for. When
+// nothing ran the answer is empty, and the page stays as it was. A failure is told in the status
+// line and in a box; the page may be gone when the box closes.
 //
 // Results are grey while they are not of the settings shown. The gains are results of the
 // calculator, and settings of the measurement.
@@ -46,6 +44,7 @@ public:
     void EnableTestControls() override;
 
 public slots:
+    // Nothing to stop. Prescribed; see docs/decisions/0036-prescribed-surface.md
     void Slot_TriggerStopTest() override;
 
 private slots:

@@ -1,8 +1,9 @@
 // TX pages: start, stop, and beside them one reading of the DUT, shown in the document's response.
 //
-// The reading has a button of its own. Its answer is the page's document with the value in it, or
-// with an error text and the reason in modelIntegrity, which the user then sees in a box. An answer
-// that is no document leaves the page as it is. The page is busy until the answer is there.
+// The reading has a button of its own. Its answer is the page's document with the value in it. A
+// reading that failed has an error text for its value, and the reason in modelIntegrity, which is
+// shown in a box. An answer that is no document leaves the page as it is. The page is busy until the
+// answer is there.
 //
 // GUI thread; the box of a failed reading may outlive the page.
 //

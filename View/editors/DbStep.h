@@ -1,9 +1,9 @@
 // The steps of a dB value on the wire.
 //
-// The target holds gains, losses and offsets in 1/32 dB, in 16 bits with a sign. Five decimals show
-// a step without loss, so an editor of five decimals is one of such a value: its step is one of the
-// wire, and what the user enters goes to the nearest one that the wire holds. What a document
-// brings is shown as it is. Free functions; GUI thread.
+// The target holds gains, losses and offsets in steps of 1/32 dB, in 16 bits with a sign. An editor
+// with five decimals is one of such a value: five decimals show a step exactly. It steps by one step
+// of the wire, and what the user enters goes to the nearest step. A value from a document is shown
+// as it is. Free functions; GUI thread.
 //
 //   box->setDecimals(5);
 //   SetDbStep(box);                // 0.03125
@@ -12,8 +12,8 @@
 
 class QDoubleSpinBox;
 
-// Gives an editor of five decimals the step of the wire; leaves others as they are.
+// Gives an editor with five decimals the step of the wire; leaves others as they are.
 void SetDbStep(QDoubleSpinBox *box);
-// The value that the box should show of its own: the nearest step within its limits and those of
-// the wire. That of an editor of other decimals is its value.
+// The step nearest to the box's value, within the limits of the box and of the wire. The value
+// itself, if the box has not five decimals or no step lies within its limits.
 double ToDbStep(const QDoubleSpinBox *box);

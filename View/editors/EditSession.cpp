@@ -15,7 +15,7 @@
 
 namespace {
 
-// Tells the kind at run time: a widget that is being destroyed loses its focus as a plain QWidget.
+// Asks at run time: a widget that is being destroyed is a plain QWidget when it loses the focus.
 bool IsEditor(const QWidget *widget)
 {
     return qobject_cast<const QSpinBox *>(widget) || qobject_cast<const QDoubleSpinBox *>(widget) ||

@@ -1,9 +1,9 @@
 // The edit under way on a page: text that the user is still typing.
 //
 // A mnemonic and a timer leave the focus where it is, so a request can come in the middle of a
-// number. What a spin box holds then is not what the user means: with keyboard tracking an emptied
-// box has gone through every shorter number to 0. The session remembers the value that the editor
-// had when the edit began, and ends the edit in one place.
+// number. The value of the spin box is not what the user means then: a box that is being emptied
+// goes through every shorter number down to 0. The session remembers the value that the editor had
+// when the edit began, and ends the edit in one place.
 //
 // An edit begins with the first key, paste or step that changes the text, and ends when the editor
 // loses the focus or is hidden, with Enter, and with Finish(). At its end
@@ -12,8 +12,8 @@
 //     page's range check, which asks TakeEnded() first.
 // Without an edit, leaving an editor changes nothing: a value from a document stays as it came.
 //
-// Watches QSpinBox, QDoubleSpinBox and CUnsignedSpinBox. The text's values on the way are published
-// as the user types. GUI thread; an editor that is destroyed takes its edit along.
+// Watches QSpinBox, QDoubleSpinBox and CUnsignedSpinBox. An editor still signals each value on the
+// way as the user types. GUI thread; an editor that is destroyed takes its edit along.
 //
 //   m_edits.Watch(box);     // once
 //   m_edits.Finish();       // first thing of a request; the focus stays
@@ -30,7 +30,8 @@ class CEditSession : public QObject
     Q_OBJECT
 
 public:
-    // Another kind of widget is left alone. A key that the editor refuses shows its limits.
+    // Another kind of widget is left alone. From now on the editor tells its limits when it refuses
+    // a key.
     void Watch(QWidget *editor);
     // Ends the edit under way, as leaving its editor does.
     void Finish();

@@ -1,4 +1,4 @@
-// Tells the user at an editor what it lets in, when it refuses a key.
+// Shows the limits of an editor that refuses a key.
 //
 // A spin box drops a key that would take it beyond its limits without a word: "99.5" becomes 9.5.
 // The tip shows the limits as the editor's own tool tip has them. GUI thread.

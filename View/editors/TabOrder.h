@@ -1,8 +1,7 @@
 // Where Tab and Shift+Tab go.
 //
-// The order is that of the forms. Two kinds of widgets are no controls of their own: the cells of a
-// table, which is one control (TableKeys.h), and a scroll area, whose contents are reached by their
-// own. What gets the focus is scrolled into view. GUI thread.
+// The order is that of the forms. A table is one control, whatever its cells (TableKeys.h). A scroll
+// area is none: its contents are. What gets the focus is scrolled into view. GUI thread.
 //
 //   bool focusNextPrevChild(bool next) override { return MoveFocus(window(), next); }
 #pragma once

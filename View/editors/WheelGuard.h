@@ -1,10 +1,9 @@
 // Keeps a stray turn of the wheel from changing what a page holds.
 //
-// Spin boxes and combo boxes take the wheel wherever the pointer is, and Qt gives them the focus by
-// it before the event comes. A guarded editor gets no focus by the wheel, and without the focus it
-// leaves the wheel to what is around it. A guarded tab bar always does: a turn over it would change
-// the page and stop a test. Stateless; the guard must outlive the widgets, or be one of their
-// ancestors. GUI thread.
+// A Qt spin box or combo box under the pointer takes the wheel without having the focus, and gets
+// the focus by it. A guarded editor gets no focus by the wheel; without the focus it leaves the wheel
+// to what is around it. A guarded tab bar always does: a turn over it would change the page and stop
+// a test. Stateless; the guard must outlive the widgets. GUI thread.
 //
 //   m_wheel.GuardAll(page->findChildren<QWidget *>());
 //   m_wheel.Release(selector);   // one that is meant to turn

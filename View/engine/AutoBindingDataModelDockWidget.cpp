@@ -46,7 +46,7 @@ QString CheckText(int state)
 CAutoBindingDataModelDockWidget::CAutoBindingDataModelDockWidget(QWidget *parent)
     : QDockWidget(parent)
 {
-    // Texts of the editors travel in documents, so a point is a point whatever the user's language.
+    // The editors' texts go into documents: a decimal point, whatever the user's language.
     setLocale(QLocale::c());
     m_messageBox.SetOwner(this);
 }

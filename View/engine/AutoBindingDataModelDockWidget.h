@@ -95,9 +95,10 @@ public:
     virtual void ShowTestStopped() {}
 
 signals:
-    void Signal_UpdateStatus(QString msg, int timeout = 0);  // text for the status bar
-    void Signal_InitDone();                                  // goes out on every path
-    void Signal_PluginIsBusy(bool isBusy);                   // a target operation begins or ends
+    // Text for the status bar. timeout: Prescribed; see docs/decisions/0036-prescribed-surface.md
+    void Signal_UpdateStatus(QString msg, int timeout = 0);
+    void Signal_InitDone();                 // goes out on every path
+    void Signal_PluginIsBusy(bool isBusy);  // a target operation begins or ends
 
 public slots:
     // A publisher's change; the sender is the publisher.

@@ -106,16 +106,16 @@ QWidget *CAutoBindingDataModelDockWidget::FocusWidget() const
     return isAncestorOf(focus) ? focus : nullptr;
 }
 
-// Only from nothing: the user may have gone elsewhere meanwhile. What is still off, as the inputs
-// of a running test are, does not get it.
+// Only if nothing has the focus: the user may have gone elsewhere. An input that is still off, as
+// during a test, does not get it.
 void CAutoBindingDataModelDockWidget::GiveFocusBack()
 {
     if (m_focus && m_focus->isEnabled() && m_focus->isVisible() && !window()->focusWidget())
         m_focus->setFocus(Qt::OtherFocusReason);
 }
 
-// Qt gives the focus to the first control of a window that becomes active, as behind a box, when
-// nothing has it. The page itself takes no keys.
+// When a window becomes active, as after a box, and nothing has the focus, Qt gives it to the first
+// control. The page gets it instead, which takes no keys.
 void CAutoBindingDataModelDockWidget::KeepFocusFromWandering()
 {
     if (m_hasAsked && isEnabled() && !window()->focusWidget())

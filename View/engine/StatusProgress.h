@@ -1,10 +1,9 @@
 // A progress bar in the status bar of the window that a page is docked in, while a request runs.
 //
-// A request that can tell how far it is calls Show() each time; the bar is there at once. Any other
-// one calls Await() at its beginning: a bar without bounds comes when the request takes longer than
-// 300 ms, so that a quick one makes nothing flicker. End() takes the bar away; the status line
-// beside it is left alone. A page without a window has no bar. GUI thread; the bar goes with this
-// object.
+// A request that knows how far it is calls Show(): the bar comes at once. Any other request calls
+// Await(): a bar without bounds comes after 300 ms, so that a quick request makes nothing flicker.
+// End() takes the bar away; the status line beside it stays. A page without a window has no bar. GUI
+// thread; the bar goes with this object.
 //
 //   m_progress.Await();          // the request is on its way
 //   m_progress.Show(3, 12);      // three routes of twelve

@@ -7,8 +7,8 @@
 
 namespace {
 
-// The standard delegate works out the look of the item behind an editor each time that editors are
-// placed, for every editor of the table.
+// Qt's own delegate works out the look of the item behind an editor, for every editor of the table,
+// each time that editors are placed.
 class CCellDelegate : public QStyledItemDelegate
 {
 public:

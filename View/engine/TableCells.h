@@ -1,8 +1,8 @@
 // Editors in the cells of a table, of a result table and of a column table alike.
 //
-// Placing an editor is what a table of hundreds of them costs, so a cell fills its place without
-// the look of an item behind it being worked out, is a child of the viewport from the start, and is
-// not asked for its best size. GUI thread.
+// A table of hundreds of editors spends its time on placing them. So the item behind an editor is
+// not asked for its look, an editor is a child of the viewport from the start, and it is not asked
+// for its best size. GUI thread.
 //
 //   FillPlaces(table);  // once, before the first cell
 //   SCellWish wish{ECellUse::Column, table->viewport(), ...};

@@ -17,7 +17,7 @@ int ReadColumns(const QJsonObject &properties)
     return qBound(0, columns, kMaxColumns);
 }
 
-// Rows are numbered from 1 on, so a row's place in the list is known from its name.
+// A row's name is its number, from 1 on, and tells its place in the list.
 bool IsRow(const QJsonArray &instances, const QString &key)
 {
     const int number = key.toInt();

@@ -1,9 +1,9 @@
-// What a table binds to: the group of its document, read once for a walk over the table.
+// The group of the document that a table shows, read once for a walk over the table.
 //
-// A column table shows one row a supported member (defaultSupport exactly 1), in list order, and
-// one column an element of the members' arrays. Values only; GUI thread.
+// A column table has one row a supported member (defaultSupport exactly 1), in list order, and one
+// column an element of the members' arrays. Values only; GUI thread.
 //
-//   const STableGroup group(m_dataModel, path);
+//   const STableGroup group(binding.document, path);
 //   for (const QString &member : group.rows) ...
 #pragma once
 
@@ -35,11 +35,11 @@ struct STableGroup
 QJsonValue ColumnElement(const QJsonArray &array, int column);
 QStringList ToStringList(const QJsonArray &array);
 
-// Takes the cells of a row table's rows out of the document, and leaves the rows in its list, so
-// that the next row gets the next number. For a document whose rows are all on the table: it goes
-// back and forth between threads as text, and cells that nobody reads again would be most of it. A
-// table of such a document is appended to alone: Update would show the missing cells as empty ones.
-// A document without such a group is left as it is.
+// Removes the cells of a row table's rows from the document. The rows stay in its instanceList, so
+// that the next one gets the next number. For a document whose rows are all on the table: it travels
+// between threads as text, and most of it would be cells that nobody reads again. Such a document is
+// only appended to; Update would show its missing cells as empty. A document without such a group
+// is left as it is.
 void DropRowCells(QJsonObject &document, const QString &memberPath);
 
 // The widget as a table; null, with the failure on the critical log, when it is of another class.

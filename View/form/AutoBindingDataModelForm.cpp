@@ -44,7 +44,7 @@ CAutoBindingDataModelForm::CAutoBindingDataModelForm(QWidget *parent) : QMainWin
     m_messageBox.SetOwner(this);
 }
 
-// Pages go first, cut off from this window: they would tell half a window of their hiding.
+// Pages go first, and are disconnected: their hiding would reach a window that is half destroyed.
 CAutoBindingDataModelForm::~CAutoBindingDataModelForm()
 {
     RemovePages();
@@ -123,15 +123,15 @@ void CAutoBindingDataModelForm::closeEvent(QCloseEvent *event)
     QMainWindow::closeEvent(event);
 }
 
-// Whoever runs behind the scenes runs unseen.
+// No test runs in a hidden window.
 void CAutoBindingDataModelForm::hideEvent(QHideEvent *event)
 {
     QMainWindow::hideEvent(event);
     StopTests();
 }
 
-// A page that stops says so, and the host may reset in that: it stops the tests of the pages that
-// leave, so these have nothing to stop any more.
+// A page that stops signals busy, and the host may reset then. A reset stops the tests of all pages,
+// so the others have nothing to stop any more.
 bool CAutoBindingDataModelForm::StopTests()
 {
     const QPointer<CAutoBindingDataModelForm> self(this);
@@ -144,8 +144,8 @@ bool CAutoBindingDataModelForm::StopTests()
     return true;
 }
 
-// The window system closes a floating page, whatever its features. It docks when its own window is
-// through with that.
+// The window system can close a floating page, whatever its features. The page docks again when its
+// own window has closed.
 bool CAutoBindingDataModelForm::eventFilter(QObject *watched, QEvent *event)
 {
     auto *page = qobject_cast<CAutoBindingDataModelDockWidget *>(watched);
@@ -362,7 +362,7 @@ void CAutoBindingDataModelForm::ShowContextMenu(const QPoint &pos)
         m_pageMenu->exec(widget->mapToGlobal(pos));
 }
 
-// Of the docked pages, the others of a tab bar are out of sight.
+// Of docked pages that share a tab bar, only the one on top is in sight.
 void CAutoBindingDataModelForm::MarkPageOnTop()
 {
     QString onTop;

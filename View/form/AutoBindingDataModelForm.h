@@ -7,8 +7,8 @@
 // switching tabs stops a test that runs on any page, and so does the window when it hides or
 // closes. A floating page that is closed docks again, and its test is stopped.
 //
-// Busy. The window says so each time somebody in it gets busy, and that it is over when nobody is
-// any more.
+// Busy. The window signals busy each time that a page or RF Off begins to work on the target, and
+// idle when nothing does any more.
 //
 // Lifetime. Pages may be removed, or the window itself destroyed, while the init flow waits (the
 // host resets or unloads the plug-in); the flow then ends without touching what is gone. A reset
@@ -44,6 +44,7 @@ public:
 
     // Can the tool run on the DUT? Blocks on the link; reason is empty when it can.
     virtual bool QueryPluginSupport(QString &reason) = 0;
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     virtual bool QueryPluginState() = 0;
     // Destroys all pages; the next show builds them anew.
     virtual void ResetPages() = 0;
@@ -78,11 +79,12 @@ protected:
     // returns.
     void SetBusy(const QObject *who, bool isBusy);
 
-    bool m_isInitStarted = false;    // the page init flow was started
-    int m_allInitPageCount = 0;      // names in the page list
-    int m_currentInitPageCount = 0;  // pages that reported init done
-    QSet<const QObject *> m_busy;    // who is busy
-    QPointer<QMenu> m_pageMenu;      // the "View" menu of pages
+    bool m_isInitStarted = false;  // the page init flow was started
+    int m_allInitPageCount = 0;    // names in the page list
+    // Pages that reported init done. Prescribed; see docs/decisions/0036-prescribed-surface.md
+    int m_currentInitPageCount = 0;
+    QSet<const QObject *> m_busy;  // who is busy
+    QPointer<QMenu> m_pageMenu;    // the "View" menu of pages
 
 private:
     CAutoBindingDataModelDockWidget *CreatePage(const QString &name, QStringList &failedPages);

@@ -66,7 +66,7 @@ void CQuorlinForm::Highlight(bool isOn)
                            QLatin1String(isOn ? kHighlightedStyle : ""));
 }
 
-// On its way before anybody hears of it.
+// The request goes out before anybody hears of it.
 void CQuorlinForm::RfOff()
 {
     qCDebug(lcForm) << "RF off";
@@ -172,7 +172,7 @@ void CQuorlinForm::ResetPages()
         setEnabled(true);
         statusBar()->clearMessage();
     }
-    // Who was busy can no longer say that it is done; the target's own end counts.
+    // The pages that were busy are gone: busy ends when the target itself is idle.
     if (!isBusy && !isStopping)
         return;
     m_busy = {&m_viewCtrl};

@@ -22,7 +22,8 @@
 
 namespace {
 
-// Events of a selector. It may keep the focus while the page changes, by a button that takes none.
+// Events after which a selector may change. It may have had the focus all along: not every button
+// takes it away.
 bool MayComeBeforeAChange(QEvent::Type type)
 {
     return type == QEvent::FocusIn || type == QEvent::Wheel || type == QEvent::KeyPress ||
@@ -163,7 +164,7 @@ bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &sel
     if (!BeginRequest([this] { SetButtonsEnabled(false); }))
         return false;
     qCDebug(lcForm) << log;
-    // Without a snapshot the user has not been to a selector, and no data were shown by one.
+    // Without a snapshot there is nothing to store: the user has not been to a selector.
     if (!m_lastDocument.empty())
         (m_viewCtrl.get()->*m_page.store)(m_lastDocument);
     {

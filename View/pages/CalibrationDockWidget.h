@@ -5,15 +5,14 @@
 // the status bar tells how far it is, and a progress bar moves beside it. Each ends in one answer:
 // a status line, the result box when it failed, and one more box when it left something out.
 //
-// A page shows one selection at a time (band, route, power mode and so on). The core's copy holds
-// the rest, so a change of selection stores what was shown and shows what is there instead. The
-// selector's signal comes when the widgets name the new selection already. So the page takes a
-// snapshot, the document under the old selection, when the user goes to a selector: with the focus,
-// or with the wheel, which turns a selector that has no focus too, or with a key or a click there.
+// A page shows one selection at a time (band, route, power mode and so on); the core's copy holds
+// all. A change of selection stores what was shown and shows what the copy has under the new one.
+// When a selector signals the change, the widgets name the new selection already. So the page takes
+// a snapshot before that, the document under the old selection: when the user goes to a selector, by
+// the focus, the wheel, a key or a click.
 //
-// Whatever ends a flow, good or bad, the page then shows what the core's copy holds under the
-// selection, valid or not, and takes that as its snapshot: only what the user changes after that is
-// an edit.
+// After a flow, good or bad, the page shows what the core's copy holds under the selection, valid or
+// not. That is the new snapshot: only what the user changes from then on is an edit.
 //
 // Until the page has its document, and while a result is being shown, its selectors get no events.
 //
@@ -114,7 +113,8 @@ public:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 public slots:
-    void Slot_TriggerStopTest() override;  // the page has no test
+    // Nothing to stop. Prescribed; see docs/decisions/0036-prescribed-surface.md
+    void Slot_TriggerStopTest() override;
 
 protected slots:
     void on_m_btnUpload_clicked();
@@ -136,7 +136,7 @@ protected:
                     const std::string &document);
 
     // For a selector's slot: stores the snapshot and shows the data of the new selection. False
-    // when there was nothing to do, or the page has left its window.
+    // when nothing was shown: the page has no document yet, or has left its window.
     bool ChangeSelection(const char *log, const QString &selected);
 
     // A snapshot has been taken, or new data are shown.

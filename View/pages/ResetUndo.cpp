@@ -43,7 +43,7 @@ struct CResetUndo::SReset : QObject
             connect(text, &QLineEdit::textEdited, this, forget);
     }
 
-    // Takes the cells along: each of them reports the change.
+    // Empties the list first: each cell reports its change, which erases its entry.
     void Restore()
     {
         const std::map<QDoubleSpinBox *, double> values = std::move(before);
@@ -123,7 +123,8 @@ void CResetUndo::ShowButton()
         m_button->setToolTip(QLatin1String("Takes back ") + m_resets.back()->name);
 }
 
-// Hidden with the focus it would hand that on to some other button. It may stand in its own click.
+// A button that is hidden with the focus hands that on to another one. It may be in the midst of its
+// own click, so it is deleted later.
 void CResetUndo::RemoveButton()
 {
     if (!m_button)

@@ -1,14 +1,14 @@
 // What a reset button does to tables, and its way back.
 //
-// Zero() sets all editors of decimal numbers in the tables to 0 and leaves a button "Undo" in the
-// status bar of the window that the page is docked in. Undo gives each cell that was zeroed and has
-// not been edited since its value of before; its tool tip names the reset. Resets in a row are
-// undone one by one, the last one first, and one that changed nothing has no undo. Typing in a cell
-// edits it, also when its value comes out the same.
+// Zero() sets all editors of decimal numbers in the tables to 0 and puts a button "Undo" into the
+// status bar of the window that the page is docked in; its tool tip names the reset. Undo gives the
+// cells their values back, but for those that were edited since; typing the same value is an edit,
+// too. Several resets are undone one by one, the last one first. A reset that changed nothing has no
+// undo.
 //
-// Forget() takes the button away: the page shows other data, or begins a flow. So does the page
-// when it is hidden, as by a change of tabs. A page without a window has no button. GUI thread; the
-// tables' cells may go before this object does.
+// Forget() takes the button away, for when the page shows other data or begins a flow. It also goes
+// when the page is hidden, as by a change of tabs. A page without a window has no button. GUI
+// thread; the tables' cells may go before this object does.
 //
 //   CResetUndo m_undo{this, [this] { FinishEdit(); }};
 //   m_undo.Zero("Reset PD", {m_ui->...powerDetector});

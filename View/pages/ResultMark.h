@@ -1,9 +1,8 @@
 // Greys results that are not of the settings that the page shows.
 //
-// Results are grey until they were measured, and whenever a visible editor of the request shows
-// something else than what was packaged for them; they are as usual again when it shows that again.
-// Style alone: texts and states stay. A label whose text has been taken back since counts as never
-// measured. GUI thread; the widgets outlive this object.
+// Results are grey until they are measured, and while a visible editor of the request shows another
+// value than was packaged for them. Style alone: texts and states stay. A label whose text has
+// changed since the measurement is grey. GUI thread; the widgets outlive this object.
 //
 //   m_mark = std::make_unique<CResultMark>(this, QList<QWidget *>{m_ui->pdValue});
 //   m_mark->Watch();      // the document is in place

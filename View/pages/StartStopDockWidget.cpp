@@ -17,7 +17,7 @@ bool IsOn(const QWidget *widget)
     return widget->isEnabledTo(widget->parentWidget());
 }
 
-// A start that failed so reached the target; what it did there is not known.
+// A start with one of these failures has reached the target; what it did there is not known.
 bool MayRun(int status)
 {
     return status == eStatusVondFailed || status == eStatusTargetFailed;
@@ -71,8 +71,8 @@ void CStartStopDockWidget::EnableTestControls()
     ShowControls();
 }
 
-// A start or a stop that is under way ends with its own answer. A start may have been asked for
-// since: its page's stop is still due.
+// A start or a stop under way ends with its own answer. A stop that was asked for during a start
+// stays due.
 void CStartStopDockWidget::ShowTestStopped()
 {
     if (m_underWay != EUnderWay::Nothing) {
@@ -133,7 +133,7 @@ void CStartStopDockWidget::ShowInputs(bool areOn)
     }
 }
 
-// The labels among the members are the DUT's words, and follow the editors.
+// Without the labels, which show what the DUT says and follow the editors.
 QVector<QWidget *> CStartStopDockWidget::RequestEditors() const
 {
     QVector<QWidget *> editors;

@@ -1,23 +1,24 @@
 // Pages that start something on the target and stop it later.
 //
 // Start starts the target and returns; what was started goes on until Stop. The page is in one of
-//     idle      Start on, Stop off
-//     starting  both off, busy     -> running, or what it was before when the target refused
-//     running   Start off, Stop on
-//     stopping  both off, busy     -> idle, or running when the stop failed, so that it can be
-//     tried again
-// From Start until the test is over, the inputs that Start packages are off, each by itself, so
-// that the page shows what the target runs on; then each is again what relevance had made it.
-// The binding carries all inputs; this class is the buttons and their answers, and what one
-// page has other than the next is its record. A record's test name words everything that the user
-// sees: "Cont Rx" gives the status lines "Cont Rx start...", "Cont Rx start failed...", "Cont Rx
-// stop." and "Cont Rx stop failed.", and the boxes "Cont Rx start failed" and "Cont Rx stop
-// failed".
 //
-// A stop from outside (another page comes to the front, the window goes) is never lost. While the
-// page cannot stop, since a start or another request of its own is under way, it remembers the
-// stop, and asks for it as soon as that has ended with a test that runs, or that may run: a start
-// that failed on the target.
+//   | state    | Start | Stop |      | next                                                     |
+//   | idle     | on    | off  |      | starting                                                 |
+//   | starting | off   | off  | busy | running; when the target refused, the state before       |
+//   | running  | off   | on   |      | stopping                                                 |
+//   | stopping | off   | off  | busy | idle; when the stop failed, running: it can be repeated  |
+//
+// From Start until the test is over, the inputs that Start packages are off, so that the page shows
+// what the target runs on. Then each is again what relevance has made it.
+//
+// The binding carries all inputs, this class the buttons and their answers. A page is its record.
+// The record's test name is in all that the user reads: "Cont Rx" gives the status lines "Cont Rx
+// start...", "Cont Rx start failed...", "Cont Rx stop." and "Cont Rx stop failed.", and the boxes
+// "Cont Rx start failed" and "Cont Rx stop failed".
+//
+// A stop from outside (another page comes to the front, the window goes) is never lost. While a
+// start or another request of the page is under way, the page remembers the stop. When that request
+// has ended, it stops what runs, or may run: a start that failed on the target may have begun there.
 //
 // Host. While it disables the pages, no test starts; the Stop of a running one stays on.
 //
@@ -118,13 +119,13 @@ protected:
     virtual void TakeStep(ETestStep step);
     // Brings buttons and inputs in line with the state of the page; a page with more adds them.
     virtual void ShowControls();
-    // Another request of the page has Start and Stop; and the inputs.
+    // Another request of the page keeps Start and Stop off; the inputs, too.
     virtual bool HoldsButtons() const { return false; }
     virtual bool HoldsInputs() const { return false; }
     // The document is packaged; the start is next.
     virtual void PrepareStart(const std::string &document);
 
-    // Start can be pressed though a test runs, until that is over.
+    // From now on Start can be pressed though a test runs, until the test is over.
     void LetStartAgain();
     // No request of the page has the buttons.
     bool IsFree() const { return m_underWay == EUnderWay::Nothing && !HoldsButtons(); }
