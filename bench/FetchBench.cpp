@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QSpinBox>
+#include <QTableWidget>
 #include <QThreadPool>
 
 #include "Controller/responses/NrDataModelResponseBuilder.h"

@@ -2,6 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QLabel>
 

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QMainWindow>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QThreadPool>
 #include <QtConcurrent>
