@@ -2,8 +2,12 @@
 
 #include "ui_NrRsrpForceDockWidgetV7.h"
 
+namespace {
+
 using Page = CNrRsrpForceDockWidgetV7;
 using Ctrl = CQuorlinViewCtrl;
+
+}  // namespace
 
 constexpr SRsrpPage CNrRsrpForceDockWidgetV7::kPage = {
     .test =

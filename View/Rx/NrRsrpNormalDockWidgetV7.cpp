@@ -2,8 +2,12 @@
 
 #include "ui_NrRsrpNormalDockWidgetV7.h"
 
+namespace {
+
 using Page = CNrRsrpNormalDockWidgetV7;
 using Ctrl = CQuorlinViewCtrl;
+
+}  // namespace
 
 constexpr SRsrpPage CNrRsrpNormalDockWidgetV7::kPage = {
     .test =
