@@ -1,9 +1,10 @@
 // How a request of a page begins and ends, and where the focus is meanwhile.
+#include "View/engine/AutoBindingDataModelDockWidget.h"
+
 #include <QComboBox>
 
 #include "Model/JsonPath.h"
 #include "View/editors/TabOrder.h"
-#include "View/engine/AutoBindingDataModelDockWidget.h"
 
 bool CAutoBindingDataModelDockWidget::HasAllChoices()
 {

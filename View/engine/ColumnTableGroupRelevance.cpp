@@ -1,9 +1,10 @@
 // groupType 3 as the target of a change: one row of its table.
+#include "View/engine/ColumnTableGroup.h"
+
 #include "Model/JsonPath.h"
 #include "Model/MemberPath.h"
 #include "Support/Log.h"
 #include "View/editors/ExactClass.h"
-#include "View/engine/ColumnTableGroup.h"
 #include "View/engine/DataTypes.h"
 #include "View/engine/RelevanceTarget.h"
 #include "View/engine/TableGroup.h"

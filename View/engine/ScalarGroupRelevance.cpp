@@ -1,11 +1,12 @@
 // groupType 1 as the target of a change.
+#include "View/engine/ScalarGroup.h"
+
 #include <QWidget>
 
 #include "Model/JsonPath.h"
 #include "Support/Log.h"
 #include "View/engine/DataTypes.h"
 #include "View/engine/RelevanceTarget.h"
-#include "View/engine/ScalarGroup.h"
 #include "View/engine/WidgetIndex.h"
 
 namespace {

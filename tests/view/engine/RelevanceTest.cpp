@@ -1,4 +1,6 @@
 // Relevance without a page: a document, an interface, and the index of some widgets.
+#include "View/engine/Relevance.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -6,7 +8,6 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
-#include "View/engine/Relevance.h"
 #include "View/engine/WidgetIndex.h"
 #include "tests/view/engine/LogCatcher.h"
 #include "tests/view/engine/TestDocument.h"
