@@ -70,6 +70,12 @@ Operations Support|Vond
 Controller Model|Operations|Support|Vond
 ViewController Controller|Model|Support
 View Model|Support|ViewController
+View/editors Support
+View/engine View/editors|Model|Support
+View/pages View/engine|View/editors|Model|Support|ViewController
+View/form View/engine|View/editors|Model|Support|ViewController
+View/Rx View/pages|View/engine|View/editors|Model|Support|ViewController
+View/Tx View/pages|View/engine|View/editors|Model|Support|ViewController
 PluginInterface View|Support
 Host PluginInterface
 Simulator Vond
