@@ -61,7 +61,7 @@ CBenchHost::CBenchHost(CPluginHandle &plugin, QWidget *parent)
     connect(&m_plugin, &CPluginHandle::Signal_Busy, this, [this](const QString &name, bool isBusy) {
         AddEvent("Busy", QString("%1: %2").arg(name, isBusy ? "on" : "off"));
         ShowState();
-        // The page turns its buttons when it has said so.
+        // The page changes its buttons after this signal.
         QMetaObject::invokeMethod(this, &CBenchHost::ShowState, Qt::QueuedConnection);
     });
     qApp->installEventFilter(this);
@@ -136,7 +136,7 @@ void CBenchHost::AddEvent(const QString &event, const QString &detail)
     m_ui->m_events->scrollToItem(item);
 }
 
-// Logged before the call: the signals that it raises come behind.
+// Logged before the call, in front of the signals that the call raises.
 void CBenchHost::ShowTool()
 {
     AddEvent("Show", {});

@@ -69,7 +69,7 @@ void CDemo::OnStatus(const QString &text)
         return;
     emit Signal_Said(QString("The tool says \"%1\"").arg(text));
     if (text == QLatin1String(m_stage->badStatus)) {
-        // Behind the report of a box that the page has opened along with the line: it tells more.
+        // Queued behind the report of a box that came with this line, since the box tells more.
         const QString failure = QString("No success with %1.").arg(m_stage->what);
         QMetaObject::invokeMethod(
             this, [this, failure] { End(failure); }, Qt::QueuedConnection);
@@ -143,7 +143,7 @@ bool CDemo::eventFilter(QObject *watched, QEvent *event)
         if (auto *box = qobject_cast<QMessageBox *>(watched))
             ReportBox(box);
     }
-    // A press is queued: the page is in the midst of its own doing.
+    // Queued: the page is still inside the code that led here.
     if (watched == m_button && (isShow || event->type() == QEvent::EnabledChange))
         QMetaObject::invokeMethod(this, &CDemo::PressIfOn, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);

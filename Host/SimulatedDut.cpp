@@ -13,7 +13,7 @@ constexpr char kProfileName[] = "VondSim_ProfileName";
 
 }  // namespace
 
-// Nothing is loaded: the plug-in may be on the real libraries, which come first then.
+// Loads nothing: when the plug-in runs on the real libraries, there is no simulated DUT.
 QStringList SimulatedProfiles()
 {
     void *library = dlopen(kLibrary, RTLD_NOW | RTLD_NOLOAD);

@@ -50,8 +50,7 @@ bool CToolWindow::Attach()
     QStatusBar *bar = m_window ? m_window->findChild<QStatusBar *>() : nullptr;
     if (!bar)
         return false;
-    // Queued: whoever hears a line may click the next button, which is no business of the slot that
-    // has just set the line.
+    // Queued: a listener may click the next button, after the code that set the line has returned.
     connect(bar, &QStatusBar::messageChanged, this, &CToolWindow::Signal_Status,
             Qt::QueuedConnection);
     return true;

@@ -116,7 +116,7 @@ int main(int argc, char **argv)
         qputenv("VOND_SIM_PROFILE", options.profile.toUtf8());
     QLoggingCategory::setFilterRules(options.isVerbose ? "quorlin.*.debug=true"
                                                        : "quorlin.*.debug=false");
-    // Without the options: Qt knows a "-plugin" of its own. Its settings come by environment.
+    // Qt gets no options: it knows a "-plugin" of its own. Its settings come from the environment.
     int programNameOnly = 1;
     const std::unique_ptr<QApplication> application = MakeApplication(programNameOnly, argv);
     application->setProperty("vondTargetHandle", options.handle);

@@ -45,8 +45,8 @@ QStringView FirstMissing(const QJsonObject &object, QStringView path)
     }
 }
 
-// Applies change to the place of a value that is known to exist. Each parent lets go of its child
-// before the child is changed: otherwise the child is shared at that moment and Qt copies it whole.
+// Applies change to the place of a value that is known to exist. Each parent drops its child before
+// the child is changed. Otherwise the child would be shared, and Qt would copy it whole.
 // A text read from an object shares the object too, so the old value is not even looked at.
 template <typename Change>
 void Rewrite(QJsonObject &object, QStringView path, const Change &change)
@@ -63,7 +63,7 @@ void Rewrite(QJsonObject &object, QStringView path, const Change &change)
     *place = child;
 }
 
-// Both ways of writing say what they miss; only a value that is replaced calls that an error.
+// Logs the first segment that is missing.
 bool LogMissing(const char *words, QStringView segment)
 {
     qCDebug(lcModel) << words << segment.toString();

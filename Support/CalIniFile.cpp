@@ -17,7 +17,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-// Wide text without the library's own converters, which the package lacks; ours takes their place.
+// The library with our own converter: its package lacks the library's.
 #define SI_NO_CONVERSION
 // The package's header hides the function bodies, which an instantiation of our own needs.
 #define SI_IMPLEMENTATION
@@ -39,7 +39,7 @@ constexpr bool kMultiLine = false;
 constexpr bool kByteOrderMark = true;
 constexpr bool kReplaceAll = true;
 
-// No INI file of this tool comes near; above it a file is taken for something else.
+// No INI file of this tool comes near this size. A larger file is something else.
 constexpr qint64 kMaxFileBytes = 256 * 1024 * 1024;
 // Sign, the 309 digits of the greatest double, point and six decimals.
 constexpr size_t kMaxDoubleText = 320;
@@ -77,7 +77,7 @@ bool Write(QSaveFile &file, const std::string &text)
     return file.write(text.data(), size) == size;
 }
 
-// Errors that show no sooner than the disk takes the bytes; commit would not tell of them.
+// Finds errors that show only when the disk takes the bytes. commit() does not report them.
 bool Sync(const QSaveFile &file)
 {
     int result = 0;
@@ -194,7 +194,7 @@ CIniSection CCalIniFile::ReadSection(const std::string &section)
     std::vector<const SIni::TKeyVal::value_type *> lines;
     lines.reserve(keys->size());
     for (const auto &line : *keys) {
-        // Of a key that comes again the library has the first one first.
+        // Of a key with several values the library lists the first one first.
         if (lines.empty() || keys->key_comp()(lines.back()->first, line.first))
             lines.push_back(&line);
     }
@@ -273,7 +273,7 @@ void CCalIniFile::SetValue(const std::string &section, const std::string &key,
         throw std::runtime_error(WriteFailure(section, key));
 }
 
-// A section that is new needs nothing of the library but its place in the file, which is the end.
+// A new section goes to the end of the file, without the library.
 // False for one that is there, and for text that a file may hold in another form.
 bool CCalIniFile::AppendSection(CIniSection &section)
 {
@@ -356,7 +356,7 @@ CCalIniFile::CBatch::~CBatch()
     try {
         Commit();
     } catch (const std::exception &) {
-        // Told to nobody by contract; a destructor can't.
+        // By contract nobody is told: a destructor can't.
     }
 }
 

@@ -7,7 +7,7 @@
 
 #include "Support/FileFilter.h"
 
-// What tells the two dialogs apart.
+// What differs between the two dialogs.
 struct CFileDialogMan::SDialogKind
 {
     QFileDialog::AcceptMode acceptMode;
@@ -19,8 +19,8 @@ namespace {
 
 constexpr char kDefaultFilter[] = "INI files (*.ini)|*.ini|All files (*.*)|*.*";
 
-// The outermost window above the active one. A page may float in a window of its own and is
-// destroyed on a reset, which would take a dialog that runs as its child along.
+// The outermost window above the active one. A page may float in a window of its own, which a reset
+// destroys together with its children; a dialog must not be one of them.
 QWidget *DialogParent()
 {
     QWidget *window = QApplication::activeWindow();

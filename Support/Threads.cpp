@@ -109,10 +109,10 @@ void StartOnPoolAtOnce(CJobQueue::Job job)
 {
     QThreadPool *const pool = QThreadPool::globalInstance();
     if (!pool)
-        return;  // the application object has taken it along
+        return;  // destroyed with the application object
     UrgentJobs().Push(std::move(job), [pool] {
         pool->start(&RunNextUrgentJob, std::numeric_limits<int>::max());
-        pool->releaseThread();  // of which there may be none: one more may run for as long
+        pool->releaseThread();  // so that the job runs at once: one thread more meanwhile
     });
     WaitAtTheEnd();
 }

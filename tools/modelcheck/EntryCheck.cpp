@@ -92,7 +92,7 @@ void CheckStatusPair(const SPageMember &member, const SReport &report)
     }
 }
 
-// Which of value and valuePair a member reads hangs on whether it subscribes.
+// A member that subscribes reads valuePair, any other value.
 void CheckSource(const SPageMember &member, const SReport &report)
 {
     const bool subscribes = !member.Publishers().isEmpty();
