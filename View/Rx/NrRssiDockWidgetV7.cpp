@@ -33,12 +33,12 @@ void FitCells(QTableWidget *table)
 
 }  // namespace
 
-const CNrRssiDockWidgetV7::SWords CNrRssiDockWidgetV7::kTestWords = {
+const CNrRssiDockWidgetV7::STexts CNrRssiDockWidgetV7::kTestTexts = {
     .done = "Fetch RSSI done",
     .failed = "Fetch RSSI failed.",
     .failedTitle = "Fetch RSSI failed.",
 };
-const CNrRssiDockWidgetV7::SWords CNrRssiDockWidgetV7::kCalculatorWords = {
+const CNrRssiDockWidgetV7::STexts CNrRssiDockWidgetV7::kCalculatorTexts = {
     .done = "Fetch Gain info done",
     .failed = "Fetch Gain info failed",
     .failedTitle = "Fetch Gain info failed.",
@@ -149,7 +149,7 @@ void CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone(SEachItemOperationResult r
 {
     qCDebug(lcForm) << "Slot_RssiGainCalculatorDone";
     disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiGainCalculatorDone, this, nullptr);
-    EndAsking(*m_calculatorMark, kCalculatorWords, result, responseStr);
+    EndAsking(*m_calculatorMark, kCalculatorTexts, result, responseStr);
 }
 
 void CNrRssiDockWidgetV7::Slot_RssiTestDone(SEachItemOperationResult result,
@@ -157,7 +157,7 @@ void CNrRssiDockWidgetV7::Slot_RssiTestDone(SEachItemOperationResult result,
 {
     qCDebug(lcForm) << "Slot_RssiTestDone";
     disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiTestDone, this, nullptr);
-    EndAsking(*m_testMark, kTestWords, result, responseStr);
+    EndAsking(*m_testMark, kTestTexts, result, responseStr);
 }
 
 // False when nothing may be asked any more, see BeginRequest.
@@ -166,7 +166,7 @@ bool CNrRssiDockWidgetV7::BeginAsking()
     return HasAllChoices() && BeginRequest([this] { DisableTestControls(); });
 }
 
-void CNrRssiDockWidgetV7::EndAsking(CResultMark &mark, const SWords &words,
+void CNrRssiDockWidgetV7::EndAsking(CResultMark &mark, const STexts &texts,
                                     const SEachItemOperationResult &result,
                                     const std::string &responseStr)
 {
@@ -184,9 +184,9 @@ void CNrRssiDockWidgetV7::EndAsking(CResultMark &mark, const SWords &words,
         mark.Forget();
     EndRequest([this] { EnableTestControls(); });
     if (isSuccess) {
-        emit Signal_UpdateStatus(QLatin1String(words.done));
+        emit Signal_UpdateStatus(QLatin1String(texts.done));
         return;
     }
-    emit Signal_UpdateStatus(QLatin1String(words.failed));
-    ShowItemResult(QLatin1String(words.failedTitle), result);
+    emit Signal_UpdateStatus(QLatin1String(texts.failed));
+    ShowItemResult(QLatin1String(texts.failedTitle), result);
 }

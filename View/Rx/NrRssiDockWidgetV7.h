@@ -57,21 +57,21 @@ public slots:
 
 private:
     // How a request's answer is told.
-    struct SWords
+    struct STexts
     {
         const char *done;         // status line
         const char *failed;       // status line
         const char *failedTitle;  // of the box
     };
 
-    static const SWords kTestWords;
-    static const SWords kCalculatorWords;
+    static const STexts kTestTexts;
+    static const STexts kCalculatorTexts;
 
     void FixLayout();
     void MarkResults();
     bool BeginAsking();
     // mark: of the results that the answer brings.
-    void EndAsking(CResultMark &mark, const SWords &words, const SEachItemOperationResult &result,
+    void EndAsking(CResultMark &mark, const STexts &texts, const SEachItemOperationResult &result,
                    const std::string &responseStr);
 
     std::unique_ptr<Ui::CNrRssiDockWidgetV7> m_ui;

@@ -33,7 +33,7 @@ bool MayComeBeforeAChange(QEvent::Type type)
 }  // namespace
 
 // What the user and the log read of a flow.
-struct CCalibrationDockWidget::SFlowWords
+struct CCalibrationDockWidget::SFlowTexts
 {
     ECalibrationFlow flow;
     const char *log;
@@ -42,9 +42,9 @@ struct CCalibrationDockWidget::SFlowWords
     const char *failed;  // with a point behind it in the status bar
 };
 
-const CCalibrationDockWidget::SFlowWords &CCalibrationDockWidget::Words(ECalibrationFlow flow)
+const CCalibrationDockWidget::SFlowTexts &CCalibrationDockWidget::Texts(ECalibrationFlow flow)
 {
-    static constexpr SFlowWords kWords[] = {
+    static constexpr SFlowTexts kTexts[] = {
         {
             .flow = ECalibrationFlow::Upload,
             .log = "on_m_btnUploadFromFlash_clicked",
@@ -74,8 +74,8 @@ const CCalibrationDockWidget::SFlowWords &CCalibrationDockWidget::Words(ECalibra
             .failed = "Export data to file failed",
         },
     };
-    return *std::find_if(std::begin(kWords), std::end(kWords),
-                         [flow](const SFlowWords &words) { return words.flow == flow; });
+    return *std::find_if(std::begin(kTexts), std::end(kTexts),
+                         [flow](const SFlowTexts &texts) { return texts.flow == flow; });
 }
 
 CCalibrationDockWidget::CCalibrationDockWidget(const SCalibrationPage &page, QWidget *parent)
@@ -194,7 +194,7 @@ void CCalibrationDockWidget::StartFlow(ECalibrationFlow kind, const Flow &flow,
     };
     if (!BeginRequest(turnOff))
         return;
-    qCDebug(lcForm) << Words(kind).log;
+    qCDebug(lcForm) << Texts(kind).log;
     const std::string document = PackageMemberValue();
     m_remarks = {};
     connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalRemarks, this,
@@ -304,25 +304,25 @@ bool CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
     TakeSnapshot();
     ShowSelectionDetails();
     const bool isDone = result.status == eStatusSuccess;
-    const SFlowWords &words = Words(flow);
-    emit Signal_UpdateStatus(isDone ? QString(QLatin1String(words.done))
-                                    : QLatin1String(words.failed) + QLatin1Char('.'));
-    ShowOutcome(words, result, std::exchange(m_remarks, {}));
+    const SFlowTexts &texts = Texts(flow);
+    emit Signal_UpdateStatus(isDone ? QString(QLatin1String(texts.done))
+                                    : QLatin1String(texts.failed) + QLatin1Char('.'));
+    ShowOutcome(texts, result, std::exchange(m_remarks, {}));
     return self && isDone;
 }
 
 // The page may be gone when a box has closed.
-void CCalibrationDockWidget::ShowOutcome(const SFlowWords &words,
+void CCalibrationDockWidget::ShowOutcome(const SFlowTexts &texts,
                                          const SEachItemOperationResult &result,
                                          const SCalRemarks &remarks)
 {
     const QPointer<CCalibrationDockWidget> self(this);
     if (result.status != eStatusSuccess)
-        ShowItemResult(QLatin1String(words.failed), result);
+        ShowItemResult(QLatin1String(texts.failed), result);
     if (!self || remarks.IsEmpty())
         return;
     const SRemarkBox box = RemarkBox(result.itemName, remarks);
-    m_messageBox.Show(eBoxWarningAsIs, QLatin1String(words.running), box.text, {}, box.detail, -1);
+    m_messageBox.Show(eBoxWarningAsIs, QLatin1String(texts.running), box.text, {}, box.detail, -1);
 }
 
 void CCalibrationDockWidget::ShowProgress(ECalibrationFlow kind, int round, int routesDone,
@@ -331,7 +331,7 @@ void CCalibrationDockWidget::ShowProgress(ECalibrationFlow kind, int round, int 
     Progress().Show(routesDone, routesInAll);
     if (routesInAll == 0)
         return;
-    QString text = QLatin1String(Words(kind).running) + QLatin1String(": ");
+    QString text = QLatin1String(Texts(kind).running) + QLatin1String(": ");
     if (round > 0)
         text += QStringLiteral("round %1, ").arg(round);
     emit Signal_UpdateStatus(text +

@@ -150,7 +150,7 @@ protected:
     void ResetTables(const QString &reset, const QList<QTableWidget *> &tables);
 
 private:
-    struct SFlowWords;
+    struct SFlowTexts;
 
     template <typename Flow, typename... Arguments>
     void StartFlow(ECalibrationFlow kind, const Flow &flow, const Arguments &...arguments);
@@ -160,7 +160,7 @@ private:
     // The file that the user chooses; empty when the dialog was cancelled, which has been said
     // then.
     QString AskFile(bool isSave);
-    void ShowOutcome(const SFlowWords &words, const SEachItemOperationResult &result,
+    void ShowOutcome(const SFlowTexts &texts, const SEachItemOperationResult &result,
                      const SCalRemarks &remarks);
     void SetButtonsEnabled(bool isEnabled);
     void TakeSnapshot();
@@ -168,7 +168,7 @@ private:
     void ShowDocument(const std::string &document);
     // round: the transfer under way, 0 for a file; routesInAll: 0 while that is not known yet.
     void ShowProgress(ECalibrationFlow kind, int round, int routesDone, int routesInAll);
-    static const SFlowWords &Words(ECalibrationFlow flow);
+    static const SFlowTexts &Texts(ECalibrationFlow flow);
 
     const SCalibrationPage m_page;
     std::string m_lastDocument;  // as it stood when the user went to a selector

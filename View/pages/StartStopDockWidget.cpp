@@ -168,11 +168,11 @@ void CStartStopDockWidget::FinishStart(const char *slot, const SEachItemOperatio
         m_isRunning = true;
     const bool isHere =
         EndRequest([&] { TakeStep(isSuccess ? ETestStep::Started : ETestStep::StartFailed); });
-    emit Signal_UpdateStatus(Words(isSuccess ? "start..." : "start failed..."));
+    emit Signal_UpdateStatus(Text(isSuccess ? "start..." : "start failed..."));
     if (isHere)
         StopIfAsked();
     if (!isSuccess)
-        ShowItemResult(Words("start failed"), result);
+        ShowItemResult(Text("start failed"), result);
 }
 
 void CStartStopDockWidget::StopTest()
@@ -189,9 +189,9 @@ void CStartStopDockWidget::FinishStop(const char *slot, const SEachItemOperation
     disconnect(ViewCtrl(), &CQuorlinViewCtrl::Signal_TestStopDone, this, nullptr);
     const bool isSuccess = result.status == eStatusSuccess;
     EndRequest([&] { TakeStep(isSuccess ? ETestStep::Stopped : ETestStep::StopFailed); });
-    emit Signal_UpdateStatus(Words(isSuccess ? "stop." : "stop failed."));
+    emit Signal_UpdateStatus(Text(isSuccess ? "stop." : "stop failed."));
     if (!isSuccess)
-        ShowItemResult(Words("stop failed"), result);
+        ShowItemResult(Text("stop failed"), result);
 }
 
 void CStartStopDockWidget::StopRunningTest()
@@ -211,7 +211,7 @@ void CStartStopDockWidget::StopIfAsked()
         StopTest();
 }
 
-QString CStartStopDockWidget::Words(const char *outcome) const
+QString CStartStopDockWidget::Text(const char *outcome) const
 {
     return QLatin1String(m_page.test) + QLatin1Char(' ') + QLatin1String(outcome);
 }

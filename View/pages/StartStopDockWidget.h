@@ -143,7 +143,7 @@ private:
 
     void ShowInputs(bool areOn);
     QVector<QWidget *> RequestEditors() const;
-    QString Words(const char *outcome) const;
+    QString Text(const char *outcome) const;
 
     const SStartStopPage m_page;
     const std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
