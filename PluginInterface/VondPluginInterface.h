@@ -3,8 +3,7 @@
 // A host loads the library through QPluginLoader, casts the root object to VondPluginInterface with
 // qobject_cast, and connects to two signals of the root object:
 //     Signal_PluginIsActivated(QString pluginName, bool isActivated)   its window shows or hides
-//     Signal_PluginIsBusy(QString pluginName, bool isBusy)             a target operation runs or
-//     ended
+//     Signal_PluginIsBusy(QString pluginName, bool isBusy)             it works on the target or not
 // All calls are made on the GUI thread, in any order and at any time, also from inside a signal.
 // The order in which the virtual operations are declared is part of the contract.
 //

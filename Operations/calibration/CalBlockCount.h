@@ -5,8 +5,8 @@
 // been read so. A file with the frequencies that a record has already says nothing new about its
 // blocks: what the DUT told stays. Any thread.
 //
-//   record.blockCount = ImportedBlockCount(record, store.IsValid(place) ? &store.At(place) :
-//   nullptr);
+//   record.blockCount =
+//       ImportedBlockCount(record, store.IsValid(place) ? &store.At(place) : nullptr);
 #pragma once
 
 #include <algorithm>

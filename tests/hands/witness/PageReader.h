@@ -3,9 +3,8 @@
 // It shares no line with the tool's: a number is the editor's value, not its text, so that a text
 // which is still being typed shows as a difference (Unfinished names it).
 //
-//   const QJsonObject filled = FillFrom(page, document);   // every memberValue as the page shows
-//   it const QString text = Unfinished(page);                 // empty: no editor is being typed
-//   into
+//   const QJsonObject filled = FillFrom(page, document);   // every memberValue as the page shows it
+//   const QString text = Unfinished(page);                 // empty: nobody types into an editor
 #pragma once
 
 #include <QDockWidget>
