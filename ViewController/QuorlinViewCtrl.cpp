@@ -1,7 +1,7 @@
 #include "ViewController/QuorlinViewCtrl.h"
 
 #include "Controller/core/PageTable.h"
-#include "ViewController/PoolRequest.h"
+#include "ViewController/QuorlinViewCtrlJobs.h"
 
 void CQuorlinViewCtrl::SetTargetHandle(uint32_t handle)
 {

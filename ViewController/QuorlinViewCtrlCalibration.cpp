@@ -4,7 +4,7 @@
 
 #include "Controller/core/CalItemTable.h"
 #include "Support/CalIniFile.h"
-#include "ViewController/PoolRequest.h"
+#include "ViewController/QuorlinViewCtrlJobs.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // Tests and stops of the view controller. The core answers tests through a signal of its own.
 #include "Controller/core/PageTable.h"
-#include "ViewController/PoolRequest.h"
+#include "ViewController/QuorlinViewCtrlJobs.h"
 
 void CQuorlinViewCtrl::RequestTest(const char *internalName, EPageId page, std::string document,
                                    TestDoneSlot done)

@@ -1,6 +1,6 @@
 // Reads beside a test: a page's document goes to the core, and comes back with what was read.
 #include "Controller/core/PageTable.h"
-#include "ViewController/PoolRequest.h"
+#include "ViewController/QuorlinViewCtrlJobs.h"
 
 void CQuorlinViewCtrl::RequestDlFreq(EPageId page, std::string document)
 {

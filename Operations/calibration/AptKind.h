@@ -5,8 +5,8 @@
 //   CCalRegionOf<SAptKind> region(store);
 #pragma once
 
+#include "Operations/calibration/CalAreaOf.h"
 #include "Operations/calibration/CalRecords.h"
-#include "Operations/calibration/CalRegionOf.h"
 
 struct SAptKind
 {

@@ -33,7 +33,7 @@
 #include <QStringList>
 
 #include "Operations/GeneralOperation.h"
-#include "Operations/calibration/CalRegion.h"
+#include "Operations/calibration/CalArea.h"
 #include "Operations/calibration/CalSections.h"
 #include "Operations/calibration/CalValueWatch.h"
 

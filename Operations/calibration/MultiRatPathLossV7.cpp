@@ -1,6 +1,6 @@
 #include "Operations/calibration/MultiRatPathLossV7.h"
 
-#include "Operations/calibration/CalVerdict.h"
+#include "Operations/calibration/CalVerdictText.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 //   CCalRegionOf<SType1Kind> region(store);
 #pragma once
 
+#include "Operations/calibration/CalAreaOf.h"
 #include "Operations/calibration/CalRecords.h"
-#include "Operations/calibration/CalRegionOf.h"
 
 struct SType1Kind
 {

@@ -31,7 +31,7 @@
 #include <memory>
 #include <vector>
 
-#include "Operations/calibration/CalRegion.h"
+#include "Operations/calibration/CalArea.h"
 #include "Operations/calibration/CalStore.h"
 #include "Support/Log.h"
 
