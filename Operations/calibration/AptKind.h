@@ -1,8 +1,8 @@
 // TX routes in the calibration transfers: a record for each bandwidth region, cut into APT blocks.
 //
-// A kind of CCalRegionOf, see there. Pure functions, any thread.
+// A kind of CCalAreaOf, see there. Pure functions, any thread.
 //
-//   CCalRegionOf<SAptKind> region(store);
+//   CCalAreaOf<SAptKind> area(store);
 #pragma once
 
 #include "Operations/calibration/CalAreaOf.h"

@@ -1,12 +1,12 @@
-// One kind of route as it passes to and from the target's flash: type 1, type 2 or TX, each with a
-// region of its own in the transfer records.
+// The area of a kind of route in the transfer records: type 1, type 2 and TX have one each. Records
+// pass through it to the target's flash and back.
 //
-// This is what the transfers of an item see; CCalRegionOf fills it for a kind of route. A transfer
+// This is what the transfers of an item see; CCalAreaOf fills it for a kind of route. A transfer
 // is one thread's; the records of the store belong to it while it runs.
 //
-//   for (const SCalPlace &place : WalkRoutes(table, region.Kind()))
-//       if (region.IsValid(place))
-//           ... region.Put(request, at, place, region.BlocksToWrite(place));
+//   for (const SCalPlace &place : WalkRoutes(table, area.Kind()))
+//       if (area.IsValid(place))
+//           ... area.Put(request, at, place, area.BlocksToWrite(place));
 #pragma once
 
 #include <vector>
@@ -23,17 +23,17 @@ struct SFlashBlocks
     {
         eCounted,  // so many blocks; 0: there is none
         eNotListed,
-        eTotalAlone,  // so many for all regions of the route, which they don't fill evenly
+        eTotalAlone,  // so many for all bandwidth regions of the route, which they don't fill evenly
     };
 
     EKnown known = eNotListed;
     int count = 0;
 };
 
-class CCalRegion
+class CCalArea
 {
 public:
-    virtual ~CCalRegion() = default;
+    virtual ~CCalArea() = default;
 
     virtual ECalRoute Kind() const = 0;
     virtual int BlocksOfRound() const = 0;

@@ -1,4 +1,4 @@
-// CCalRegion for a kind of route, which tells its differences as types and static functions:
+// CCalArea for a kind of route, which tells its differences as types and static functions:
 //
 //   struct STxKind
 //   {
@@ -43,12 +43,12 @@ struct SCalEntry
 };
 
 template <typename TKind>
-class CCalRegionOf : public CCalRegion
+class CCalAreaOf : public CCalArea
 {
 public:
     using Record = typename TKind::Record;
 
-    explicit CCalRegionOf(CCalStore<Record> &store) : m_store(store) {}
+    explicit CCalAreaOf(CCalStore<Record> &store) : m_store(store) {}
 
     ECalRoute Kind() const override { return TKind::kRoute; }
     int BlocksOfRound() const override { return TKind::kBlocksOfRound; }
@@ -97,7 +97,7 @@ private:
 };
 
 template <typename TKind>
-int CCalRegionOf<TKind>::BlocksToWrite(const SCalPlace &place) const
+int CCalAreaOf<TKind>::BlocksToWrite(const SCalPlace &place) const
 {
     const Record &record = *m_store.Find(place.route, place.region);
     int blocks = static_cast<int>(std::min<uint32_t>(record.blockCount, kVondCalMaxBlocks));
@@ -114,8 +114,8 @@ int CCalRegionOf<TKind>::BlocksToWrite(const SCalPlace &place) const
 }
 
 template <typename TKind>
-void CCalRegionOf<TKind>::Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at,
-                              const SCalPlace &place, int blocks) const
+void CCalAreaOf<TKind>::Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at,
+                            const SCalPlace &place, int blocks) const
 {
     const Record &record = *m_store.Find(place.route, place.region);
     qCDebug(lcCalibration).noquote().nospace()
@@ -130,7 +130,7 @@ void CCalRegionOf<TKind>::Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPl
 }
 
 template <typename TKind>
-void CCalRegionOf<TKind>::BeginUpload()
+void CCalAreaOf<TKind>::BeginUpload()
 {
     m_asked.clear();
     m_order = kNoOrder;
@@ -138,15 +138,15 @@ void CCalRegionOf<TKind>::BeginUpload()
 }
 
 template <typename TKind>
-void CCalRegionOf<TKind>::Ask(SMMGetCalDataReqV7 &request, int entry, const SCalPlace &place,
-                              int blocks)
+void CCalAreaOf<TKind>::Ask(SMMGetCalDataReqV7 &request, int entry, const SCalPlace &place,
+                            int blocks)
 {
     TKind::Ask(request, entry, {place.route, place.bwKhz, blocks});
     m_asked.push_back({place, blocks, 0, nullptr});
 }
 
 template <typename TKind>
-void CCalRegionOf<TKind>::Take(const SMMGetCalDataCnfV7 &answer, std::vector<SCalLeftOut> &leftOut)
+void CCalAreaOf<TKind>::Take(const SMMGetCalDataCnfV7 &answer, std::vector<SCalLeftOut> &leftOut)
 {
     TakeEntries(answer);
     for (const SAsked &asked : m_asked) {
@@ -158,7 +158,7 @@ void CCalRegionOf<TKind>::Take(const SMMGetCalDataCnfV7 &answer, std::vector<SCa
 }
 
 template <typename TKind>
-void CCalRegionOf<TKind>::TakeEntries(const SMMGetCalDataCnfV7 &answer)
+void CCalAreaOf<TKind>::TakeEntries(const SMMGetCalDataCnfV7 &answer)
 {
     const int entries = std::min(TKind::EntryCount(answer), TKind::kBlocksOfRound);
     if (entries < TKind::EntryCount(answer))
@@ -183,7 +183,7 @@ void CCalRegionOf<TKind>::TakeEntries(const SMMGetCalDataCnfV7 &answer)
 }
 
 template <typename TKind>
-typename CCalRegionOf<TKind>::SAsked *CCalRegionOf<TKind>::FindAsked(const SCalEntry &entry)
+typename CCalAreaOf<TKind>::SAsked *CCalAreaOf<TKind>::FindAsked(const SCalEntry &entry)
 {
     const auto asked = std::find_if(m_asked.begin(), m_asked.end(), [&entry](const SAsked &one) {
         return one.place.route == entry.route && one.place.bwKhz == entry.bwKhz;
@@ -194,7 +194,7 @@ typename CCalRegionOf<TKind>::SAsked *CCalRegionOf<TKind>::FindAsked(const SCalE
 }
 
 template <typename TKind>
-typename CCalRegionOf<TKind>::SAsked *CCalRegionOf<TKind>::AskedOf(const SCalEntry &entry)
+typename CCalAreaOf<TKind>::SAsked *CCalAreaOf<TKind>::AskedOf(const SCalEntry &entry)
 {
     SAsked *const asked = FindAsked(entry);
     if (!asked)
@@ -204,14 +204,14 @@ typename CCalRegionOf<TKind>::SAsked *CCalRegionOf<TKind>::AskedOf(const SCalEnt
 }
 
 template <typename TKind>
-bool CCalRegionOf<TKind>::NamesAsked(const SMMGetCalDataCnfV7 &answer, int index, int order)
+bool CCalAreaOf<TKind>::NamesAsked(const SMMGetCalDataCnfV7 &answer, int index, int order)
 {
     return FindAsked(TKind::Entry(answer, index, order)) != nullptr;
 }
 
 // The first entry has none before it: it goes by the first one that leaves no doubt.
 template <typename TKind>
-void CCalRegionOf<TKind>::FindFirstOrder(const SMMGetCalDataCnfV7 &answer, int entries)
+void CCalAreaOf<TKind>::FindFirstOrder(const SMMGetCalDataCnfV7 &answer, int entries)
 {
     if (m_order != kNoOrder)
         return;
@@ -226,7 +226,7 @@ void CCalRegionOf<TKind>::FindFirstOrder(const SMMGetCalDataCnfV7 &answer, int e
 }
 
 template <typename TKind>
-SCalEntry CCalRegionOf<TKind>::EntryInItsOrder(const SMMGetCalDataCnfV7 &answer, int index)
+SCalEntry CCalAreaOf<TKind>::EntryInItsOrder(const SMMGetCalDataCnfV7 &answer, int index)
 {
     if constexpr (kHasOrders) {
         const bool first = NamesAsked(answer, index, 0);
@@ -243,7 +243,7 @@ SCalEntry CCalRegionOf<TKind>::EntryInItsOrder(const SMMGetCalDataCnfV7 &answer,
 }
 
 template <typename TKind>
-void CCalRegionOf<TKind>::TakeBlock(SAsked &asked, const typename TKind::Block &block)
+void CCalAreaOf<TKind>::TakeBlock(SAsked &asked, const typename TKind::Block &block)
 {
     if (asked.read == asked.blocks) {
         qCCritical(lcCalibration) << TKind::kName << "answer has a block too many for route"

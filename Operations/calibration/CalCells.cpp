@@ -6,8 +6,6 @@
 #include <cstdlib>
 #include <limits>
 
-#include "Operations/calibration/CalValueWatch.h"
-
 namespace {
 
 constexpr int kUnitsADb = 32;
@@ -232,7 +230,7 @@ void CCalCells::AppendTo(std::string &text, ECalValue kind) const
     text.resize(before + static_cast<size_t>(end - begin));
 }
 
-const char *CCalCells::Read(std::string_view text, ECalValue kind, CCalValueWatch *watch) const
+const char *CCalCells::Read(std::string_view text, ECalValue kind, ICalCellWatch *watch) const
 {
     return std::visit(
         [&](auto *first) -> const char * {

@@ -6,7 +6,7 @@
 //
 // Reading is lenient, since people edit these files. Blanks around a number are skipped and so is
 // what follows it; text that is no number, or one beyond all computing (1e999), counts as 0; a
-// number beyond the range of its field is held to the range; places without a number become 0 and
+// number beyond the range of its field is limited to the range; places without a number become 0 and
 // numbers beyond the last place are left out. dB and voltages are truncated towards 0. Only a
 // voltage that is no number is a failure. The decimal point is '.' in every locale. Pure functions,
 // any thread.
@@ -39,13 +39,21 @@ public:
 
     int64_t Get() const;
     const void *Address() const;
-    void Set(int64_t value);  // held to the range of the field
+    void Set(int64_t value);  // limited to the range of the field
 
 private:
     std::variant<uint8_t *, uint16_t *, int16_t *, uint32_t *> m_field;
 };
 
-class CCalValueWatch;
+// Sees the values of a file as they are read.
+class ICalCellWatch
+{
+public:
+    virtual ~ICalCellWatch() = default;
+    // value: before it is limited to the range of its field.
+    virtual void See(CCalCell cell, std::string_view text, ECalValue kind, int64_t value,
+                     bool isNumber) = 0;
+};
 
 // The fields of a record that one value of a file holds: a lone one, or a list of fields that lie
 // at equal distances.
@@ -75,7 +83,7 @@ public:
     void AppendTo(std::string &text, ECalValue kind) const;
     // Null, or the words of the failure; the fields before the failed one are set then.
     // watch, if any, sees each value.
-    const char *Read(std::string_view text, ECalValue kind, CCalValueWatch *watch = nullptr) const;
+    const char *Read(std::string_view text, ECalValue kind, ICalCellWatch *watch = nullptr) const;
 
 private:
     template <typename T>

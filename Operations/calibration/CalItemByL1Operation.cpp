@@ -17,7 +17,7 @@ ICalItemByL1Operation::ICalItemByL1Operation(ERadioKind kind, SWords words,
 bool ICalItemByL1Operation::HasData() const
 {
     return std::any_of(m_parts.begin(), m_parts.end(),
-                       [](const SPart &part) { return part.region->HasValid(); });
+                       [](const SPart &part) { return part.area->HasValid(); });
 }
 
 bool ICalItemByL1Operation::IsInFile(CCalIniFile &file) const
@@ -111,10 +111,10 @@ void ICalItemByL1Operation::BeginMove()
 void ICalItemByL1Operation::NotePassedOver(const SMMRfRouteTableV7 &table)
 {
     for (const SPart &part : m_parts) {
-        const ECalRoute kind = part.region->Kind();
+        const ECalRoute kind = part.area->Kind();
         std::set<std::pair<int, int>> walked;
         for (const SCalPlace &place : WalkRoutes(table, kind)) {
-            if (part.region->IsEdited(place) && walked.insert({place.route, place.region}).second)
+            if (part.area->IsEdited(place) && walked.insert({place.route, place.region}).second)
                 m_remarks.leftOut.push_back({kind, place, ECalLeftOut::NeverFilled});
         }
     }

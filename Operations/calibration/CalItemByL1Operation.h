@@ -54,6 +54,7 @@ public:
     // Outlives them.
     void SetPageLimits(ICalPageLimits *limits) { m_limits = limits; }
     void SetProgress(Progress progress) { m_progress = std::move(progress); }
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     bool HasData() const;  // some record is valid
     // Of the last move.
     const SCalMoveRemarks &Remarks() const { return m_remarks; }
@@ -65,7 +66,7 @@ protected:
     // One kind of route of the item; both are the item's own and outlive it.
     struct SPart
     {
-        CCalRegion *region;
+        CCalArea *area;
         CCalSections *sections;
     };
     // What differs between the items.

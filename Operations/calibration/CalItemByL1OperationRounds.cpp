@@ -29,7 +29,7 @@ uint32_t ICalItemByL1Operation::Upload()
     if (!table)
         return kCalGeneralError;
     for (const SPart &part : m_parts)
-        part.region->BeginUpload();
+        part.area->BeginUpload();
 
     SMMCalBlkInfoCnfV7 info = {};
     const VOND_RESULT result = VOND_MMRf_GetCalBlkInfoV7_r(TargetHandle(), kTargetTimeoutMs,
@@ -74,8 +74,8 @@ uint32_t ICalItemByL1Operation::MoveRounds(const SMMRfRouteTableV7 &table, const
     std::vector<int> limits;
     int routesInAll = 0;
     for (const SPart &part : m_parts) {
-        limits.push_back(part.region->BlocksOfRound());
-        routesInAll += RouteRows(table, part.region->Kind());
+        limits.push_back(part.area->BlocksOfRound());
+        routesInAll += RouteRows(table, part.area->Kind());
     }
     int routesWalked = 0;
     int routesDone = 0;
@@ -88,7 +88,7 @@ uint32_t ICalItemByL1Operation::MoveRounds(const SMMRfRouteTableV7 &table, const
 
     int rowsBefore = 0;
     for (size_t part = 0; part < m_parts.size(); ++part) {
-        const ECalRoute kind = m_parts[part].region->Kind();
+        const ECalRoute kind = m_parts[part].area->Kind();
         std::set<std::pair<int, int>> walked;
         for (const SCalPlace &place : WalkRoutes(table, kind)) {
             if (!walked.insert({place.route, place.region}).second)
@@ -112,17 +112,17 @@ uint32_t ICalItemByL1Operation::AskRecord(CCalRounds &rounds, int part, const SC
                                           const SMMCalBlkInfoCnfV7 &info,
                                           SMMGetCalDataReqV7 &request)
 {
-    CCalRegion &region = *m_parts[part].region;
+    CCalArea &area = *m_parts[part].area;
     const auto leaveOut = [&](ECalLeftOut why, int count, int most) {
-        m_remarks.leftOut.push_back({region.Kind(), place, why, count, most});
+        m_remarks.leftOut.push_back({area.Kind(), place, why, count, most});
         return kCalSuccess;
     };
-    const SFlashBlocks held = region.BlocksInFlash(info, place);
+    const SFlashBlocks held = area.BlocksInFlash(info, place);
     const int blocks = held.count;
-    const int most = std::min(kVondCalMaxBlocks, region.BlocksOfRound());
+    const int most = std::min(kVondCalMaxBlocks, area.BlocksOfRound());
     if (held.known != SFlashBlocks::eCounted || blocks == 0) {
-        qCDebug(lcCalibration).noquote() << "Failed to get Blk info in L1 data: Route"
-                                         << PlaceText(place, region.Kind()).c_str();
+        qCDebug(lcCalibration).noquote()
+            << "Failed to get Blk info in L1 data: Route" << PlaceText(place, area.Kind()).c_str();
         if (held.known == SFlashBlocks::eNotListed)
             return leaveOut(ECalLeftOut::NotListed, 0, 0);
         if (held.known == SFlashBlocks::eTotalAlone)
@@ -130,17 +130,17 @@ uint32_t ICalItemByL1Operation::AskRecord(CCalRounds &rounds, int part, const SC
         return kCalSuccess;  // there is nothing to read
     }
     qCDebug(lcCalibration).noquote().nospace()
-        << m_words.uploadRoute[part] << PlaceText(place, region.Kind()).c_str();
+        << m_words.uploadRoute[part] << PlaceText(place, area.Kind()).c_str();
     if (blocks > most) {
         // Taken over in part it could be written back in part.
         qCCritical(lcCalibration).noquote().nospace()
-            << region.Name() << " route " << PlaceText(place, region.Kind()).c_str() << " has "
+            << area.Name() << " route " << PlaceText(place, area.Kind()).c_str() << " has "
             << blocks << " blocks in flash, more than the " << most << " that can be read";
         return leaveOut(ECalLeftOut::TooManyBlocks, blocks, most);
     }
     if (uint32_t code = rounds.MakeRoom(part, place.route, blocks))
         return code;
-    region.Ask(request, rounds.Add(part, blocks).entry, place, blocks);
+    area.Ask(request, rounds.Add(part, blocks).entry, place, blocks);
     return kCalSuccess;
 }
 
@@ -158,33 +158,33 @@ uint32_t ICalItemByL1Operation::ReceiveRound(SMMGetCalDataReqV7 &request)
     if (code != kCalSuccess)
         return code;
     for (const SPart &part : m_parts)
-        part.region->Take(answer, m_remarks.leftOut);
+        part.area->Take(answer, m_remarks.leftOut);
     return kCalSuccess;
 }
 
 uint32_t ICalItemByL1Operation::WriteRecord(CCalRounds &rounds, int part, const SCalPlace &place,
                                             SMMSetCalDataReqV7 &request, QStringList &refused)
 {
-    CCalRegion &region = *m_parts[part].region;
-    const bool valid = region.IsValid(place);
+    CCalArea &area = *m_parts[part].area;
+    const bool valid = area.IsValid(place);
     qCDebug(lcCalibration).noquote().nospace()
-        << "add to download: route " << PlaceText(place, region.Kind()).c_str()
+        << "add to download: route " << PlaceText(place, area.Kind()).c_str()
         << "    isValid = " << valid;
     if (!valid)
         return kCalSuccess;
-    const int blocks = region.BlocksToWrite(place);
-    if (blocks > region.BlocksOfRound()) {
+    const int blocks = area.BlocksToWrite(place);
+    if (blocks > area.BlocksOfRound()) {
         refused.append(QStringLiteral("%1 route %2 has %3 blocks, more than the %4 that one "
                                       "transfer holds. It was not written.")
-                           .arg(QLatin1String(region.Name()))
+                           .arg(QLatin1String(area.Name()))
                            .arg(place.route)
                            .arg(blocks)
-                           .arg(region.BlocksOfRound()));
+                           .arg(area.BlocksOfRound()));
         return kCalSuccess;
     }
     if (uint32_t code = rounds.MakeRoom(part, place.route, blocks))
         return code;
-    region.Put(request, rounds.Add(part, blocks), place, blocks);
+    area.Put(request, rounds.Add(part, blocks), place, blocks);
     return kCalSuccess;
 }
 

@@ -1,6 +1,6 @@
 // Packs the blocks of routes into rounds, the transfers that the target takes.
 //
-// A transfer record has a region for each kind of route, its parts here, with room for a number of
+// A transfer record has an area for each kind of route, its parts here, with room for a number of
 // blocks and for as many entries. Routes come in order; one that has no room left in its part makes
 // the round go out and starts the next one, with all parts empty. So a route is never split, and no
 // packing that keeps the order needs fewer rounds. A route that has more blocks than its part holds

@@ -37,7 +37,7 @@ public:
     virtual const SCalShown *Of(ECalRoute kind, const SCalPlace &place, size_t offset) = 0;
 };
 
-class CCalValueWatch
+class CCalValueWatch : public ICalCellWatch
 {
 public:
     // limits: null where none are known.
@@ -48,8 +48,8 @@ public:
 
     void BeginRecord(ECalRoute kind, const SCalPlace &place, const void *record);
     void BeginKey(const std::string &section, std::string_view key);
-    // value: before it is held to the range of its field.
-    void See(CCalCell cell, std::string_view text, ECalValue kind, int64_t value, bool isNumber);
+    void See(CCalCell cell, std::string_view text, ECalValue kind, int64_t value,
+             bool isNumber) override;
     // The record is complete and about to be taken over.
     void EndRecord();
 

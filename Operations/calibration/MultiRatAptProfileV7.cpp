@@ -18,7 +18,7 @@ CMultiRatAptProfileV7::CMultiRatAptProfileV7(ERadioKind kind)
                              "Failed to get Blk info before reading APT from target: ",
                              "INI file is NULL",
                              RefusedText},
-                            {{&m_region, &m_sections}})
+                            {{&m_area, &m_sections}})
 {
 }
 

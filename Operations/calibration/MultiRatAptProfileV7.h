@@ -34,6 +34,6 @@ public:
 
 private:
     CCalStore<SAptRouteBwRecord> m_records{kVondMaxBwRegions};
-    CCalRegionOf<SAptKind> m_region{m_records};
+    CCalAreaOf<SAptKind> m_area{m_records};
     CAptSections m_sections{m_records};
 };

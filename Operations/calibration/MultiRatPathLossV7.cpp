@@ -20,7 +20,7 @@ CMultiRatPathLossV7::CMultiRatPathLossV7(ERadioKind kind)
            "Failed to get Blk info before reading RX path loss from target: ",
            "",
            RefusedText},
-          {{&m_type1Region, &m_type1Sections}, {&m_type2Region, &m_type2Sections}})
+          {{&m_type1Area, &m_type1Sections}, {&m_type2Area, &m_type2Sections}})
 {
 }
 

@@ -27,6 +27,7 @@ public:
     uint32_t DownloadToFlash() override { return Download(); }
     uint32_t LoadFromFile(CCalIniFile *file) override { return LoadFromFile(file, file); }
     uint32_t SaveToFile(CCalIniFile *file) override { return SaveToFile(file, file); }
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     uint32_t LoadFromFile(CCalIniFile *type1File, CCalIniFile *type2File);
     uint32_t SaveToFile(CCalIniFile *type1File, CCalIniFile *type2File);
 
@@ -62,8 +63,8 @@ private:
 
     CCalStore<SMMType1PathlossByRouteV7> m_type1;
     CCalStore<SMMType2PathlossByRouteV7> m_type2;
-    CCalRegionOf<SType1Kind> m_type1Region{m_type1};
-    CCalRegionOf<SType2Kind> m_type2Region{m_type2};
+    CCalAreaOf<SType1Kind> m_type1Area{m_type1};
+    CCalAreaOf<SType2Kind> m_type2Area{m_type2};
     CPathLossSections<SMMType1PathlossByRouteV7> m_type1Sections{m_type1};
     CPathLossSections<SMMType2PathlossByRouteV7> m_type2Sections{m_type2};
 };

@@ -1,8 +1,8 @@
 // RX routes in the calibration transfers: type 1 and type 2, a record for each route.
 //
-// Kinds of CCalRegionOf, see there. Pure functions, any thread.
+// Kinds of CCalAreaOf, see there. Pure functions, any thread.
 //
-//   CCalRegionOf<SType1Kind> region(store);
+//   CCalAreaOf<SType1Kind> area(store);
 #pragma once
 
 #include "Operations/calibration/CalAreaOf.h"
