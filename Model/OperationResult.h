@@ -1,8 +1,8 @@
 // The outcome of one operation on one item, as it travels from the core to the page.
 //
 // A value: copied freely, passed through queued signals. RegisterOperationResultTypes() makes it,
-// its vector and std::string known to Qt's type system under the names that queued connections look
-// up; call it once before the first such connection (the tool form does).
+// its vector, SCalRemarks and std::string known to Qt's type system under the names that queued
+// connections look up; call it once before the first such connection (the tool form does).
 //
 //   SEachItemOperationResult result{"Continuous RX", 203, "Status error code (1) :..."};
 #pragma once
