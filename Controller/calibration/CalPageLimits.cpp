@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "Controller/calibration/CalEditor.h"
-#include "Controller/calibration/CalWalks.h"
+#include "Controller/calibration/CalRecordTable.h"
 #include "Model/JsonPath.h"
 
 namespace {
@@ -15,29 +15,6 @@ constexpr int64_t kUnitsADb = 32;
 
 // Where the document has no limits that are surely the route's.
 constexpr SCalShown kAnyFrequency{0, UINT32_MAX};
-
-// Where a record has its frequencies, and the losses, which have the limits of the first subband.
-struct SLayout
-{
-    size_t freq;
-    size_t loss;
-    size_t lossOfSubband;  // 0: no losses
-};
-
-SLayout LayoutOf(ECalRoute kind)
-{
-    using Type1 = SMMType1PathlossByRouteV7;
-    using Type2 = SMMType2PathlossByRouteV7;
-    switch (kind) {
-    case ECalRoute::Type1:
-        return {offsetof(Type1, freq), offsetof(Type1, loss), sizeof(Type1::loss[0])};
-    case ECalRoute::Type2:
-        return {offsetof(Type2, freq), offsetof(Type2, loss), sizeof(Type2::loss[0])};
-    case ECalRoute::Tx:
-        break;
-    }
-    return {offsetof(SAptRouteBwRecord, freq), 0, 0};
-}
 
 std::optional<SCalShown> ShownBy(const CCalEditor &editor, ECalText kind)
 {
@@ -127,24 +104,6 @@ private:
     std::optional<SCalShown> m_shown;
 };
 
-// All that the page of a kind of record shows, selection by selection; of type 2 the first subband.
-void WalkAll(ICalMove &move, ECalRoute kind, void *record)
-{
-    if (kind == ECalRoute::Tx)
-        return MoveApt(move, *static_cast<SAptRouteBwRecord *>(record));
-    for (auto half : {&SMMLossPair::hpm, &SMMLossPair::lpm}) {
-        if (kind == ECalRoute::Type1) {
-            MoveType1(move, *static_cast<SMMType1PathlossByRouteV7 *>(record), {half});
-            continue;
-        }
-        for (int path = 0; path < kVondSrxPaths; ++path) {
-            for (int bigG = 0; bigG < kVondGainRows; ++bigG)
-                MoveType2(move, *static_cast<SMMType2PathlossByRouteV7 *>(record),
-                          {half, 0, path, bigG});
-        }
-    }
-}
-
 constexpr const char *kRouteMembers[] = {"route", "txRoute"};  // a page has one of them
 
 // As packaged by a page that has the route selected.
@@ -181,20 +140,16 @@ std::map<uint16_t, std::set<QString>> BandsOfRoutes(const QJsonObject &document)
     return bands;
 }
 
-// Room for a record of any kind, to be walked over.
-using Room = SMMType2PathlossByRouteV7;
-static_assert(sizeof(Room) >= sizeof(SAptRouteBwRecord) &&
-              sizeof(Room) >= sizeof(SMMType1PathlossByRouteV7));
-
 }  // namespace
 
 const CCalPageLimits::Fields &CCalPageLimits::FieldsOf(ECalRoute kind)
 {
     const auto [place, isNew] = m_fields.try_emplace(kind);
     if (isNew) {
-        const auto room = std::make_unique<Room>();
-        CFieldFinder finder(m_document, room.get(), place->second);
-        WalkAll(finder, kind, room.get());
+        const SCalRecordRow &row = FindCalRecord(kind);
+        const std::shared_ptr<void> record = row.make();
+        CFieldFinder finder(m_document, record.get(), place->second);
+        row.walkAll(finder, record.get());
     }
     return place->second;
 }
@@ -209,10 +164,10 @@ const SCalShown &CCalPageLimits::FrequencyOf(ECalRoute kind, uint16_t route)
     const auto [place, isNew] = m_frequencies.try_emplace(route, kAnyFrequency);
     const auto bands = m_bandsOfRoutes.find(route);
     if (isNew && bands != m_bandsOfRoutes.end() && bands->second.size() == 1) {
-        const auto room = std::make_unique<Room>();
+        const SCalRecordRow &row = FindCalRecord(kind);
         const QJsonObject document = WithRoute(m_document, route);
         CFrequencyFinder finder(document);
-        WalkAll(finder, kind, room.get());
+        row.walkAll(finder, row.make().get());
         place->second = finder.Shown().value_or(kAnyFrequency);
     }
     return place->second;
@@ -220,7 +175,7 @@ const SCalShown &CCalPageLimits::FrequencyOf(ECalRoute kind, uint16_t route)
 
 const SCalShown *CCalPageLimits::Of(ECalRoute kind, const SCalPlace &place, size_t offset)
 {
-    const SLayout layout = LayoutOf(kind);
+    const SCalRecordRow &layout = FindCalRecord(kind);
     if (offset >= layout.freq && offset < layout.freq + kVondCalMaxSubbands * sizeof(uint32_t))
         return &FrequencyOf(kind, place.route);
     const size_t losses = layout.lossOfSubband * kVondCalMaxSubbands;

@@ -2,26 +2,13 @@
 
 namespace {
 
-const char *KindText(ECalRoute kind)
-{
-    switch (kind) {
-    case ECalRoute::Tx:
-        return "TX";
-    case ECalRoute::Type1:
-        return "T1";
-    case ECalRoute::Type2:
-        return "T2";
-    }
-    return "";
-}
-
 // "T2 route 101", "TX route 7 BW0": as the pages' selectors name them.
 QString RecordText(const SCalLeftOut &record)
 {
     QString text = QStringLiteral("%1 route %2")
-                       .arg(QLatin1String(KindText(record.kind)))
+                       .arg(QLatin1String(RouteName(record.kind)))
                        .arg(record.place.route);
-    if (record.kind == ECalRoute::Tx)
+    if (HasRegions(record.kind))
         text += QStringLiteral(" BW%1").arg(record.place.region);
     return text;
 }

@@ -1,5 +1,7 @@
-// The walk over a route table that all moves of calibration data share: one place for each record
-// of a kind of route, in the order of the table.
+// The kinds of route that have calibration records, and the walk over a route table that all moves
+// share: one place for each record of a kind, in the order of the table.
+//
+// What is known of a kind is its row in CalRoutes.cpp.
 //
 // A route may stand in a table more than once, on several bands: it has several places then, but
 // the one record of its number. Pure functions, any thread.
@@ -19,6 +21,7 @@ enum class ECalRoute
     Tx,     // a record for each bandwidth region of a route
     Type1,  // a record for each route
     Type2,
+    Count,
 };
 
 struct SCalPlace
@@ -32,6 +35,8 @@ struct SCalPlace
     int row = 0;         // row of the table
 };
 
+const char *RouteName(ECalRoute kind);  // "TX", "T1", "T2"
+bool HasRegions(ECalRoute kind);
 int RouteRows(const SMMRfRouteTableV7 &table, ECalRoute kind);
 std::vector<SCalPlace> WalkRoutes(const SMMRfRouteTableV7 &table, ECalRoute kind);
 
