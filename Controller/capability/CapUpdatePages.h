@@ -1,11 +1,12 @@
-// What each page wants of the capability update: paths as constant data.
+// What each page wants of the capability update: paths, and the steps that write there.
 //
-// A page's record names where its bands and frequencies go; the records of its steps stand beside
-// it. The steps that a page takes are its driver's (NrDataModelCapUpdaterDrivers.cpp). Constant
-// data.
+// The records of the steps stand by step; the update of a page stands at the end, one row a page.
+// The RSRP pages, whose bands go by mode, have drivers of their own
+// (NrDataModelCapUpdaterDrivers.cpp). Constant data.
 #pragma once
 
 #include "Controller/capability/CapUpdatePaths.h"
+#include "Controller/capability/CapUpdateSteps.h"
 
 namespace CapUpdatePages {
 
@@ -176,5 +177,28 @@ constexpr SRxGainInfoPathV7 kRssiGain{
     {ValuePairOf(kRequest1, "path1DivSearch"), ValuePairOf(kRequest1, "path1MainSearch")},
     {},
     {}};
+
+// The pages.
+using namespace CapUpdateSteps;
+constexpr SPageUpdate kPuschForcedUpdate{
+    .freq = kModulatedOrToneFreq,
+    .withRangeCheck = false,
+    .steps = {ModulationTxCommon<kPuschForced>, TxHwByScsRb<kTxHw>}};
+constexpr SPageUpdate kPuschNormalUpdate{.freq = kPuschNormalFreq,
+                                         .withRangeCheck = false,
+                                         .steps = {ModulationTxCommon<kPuschNormal, true>}};
+constexpr SPageUpdate kSingleToneUpdate{.freq = kModulatedOrToneFreq,
+                                        .withRangeCheck = false,
+                                        .steps = {CwTxCommon<kSingleTone>, TxHwByBwRegion<kTxHw>}};
+constexpr SPageUpdate kAptProfileUpdate{.freq = kAptFreq,
+                                        .withRangeCheck = true,
+                                        .steps = {CwTxCommon<kAptProfile>, TxHwByBwRegion<kAptHw>}};
+constexpr SPageUpdate kContRxUpdate{
+    .freq = kContRxFreq, .withRangeCheck = false, .steps = {RxCommon<kContRx>}};
+constexpr SPageUpdate kRssiUpdate{.freq = kRssiFreq,
+                                  .withRangeCheck = false,
+                                  .steps = {RxCommon<kRssi>, RssiGain<kRssiGain>, RxHw<kRssiHw>}};
+constexpr SPageUpdate kPathLossUpdate{
+    .freq = kPathLossFreq, .withRangeCheck = true, .steps = {RxCommon<kPathLoss>, LnaCaptions}};
 
 }  // namespace CapUpdatePages

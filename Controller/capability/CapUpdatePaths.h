@@ -14,6 +14,9 @@
 
 #include "Operations/capability/CapabilityInfo.h"
 
+class CNrDataModelCapUpdater;
+class QJsonObject;
+
 struct SPath
 {
     const char *group = "";   // dotted path of the group
@@ -165,6 +168,18 @@ struct SRxGainInfoPathV7
     SPaths path1ValuePairPaths;
     SPaths path0DefaultPaths;
     SPaths path1DefaultPaths;
+};
+
+// A step of an update: false, and told in the document, when it failed.
+using CapUpdateStep = bool (*)(CNrDataModelCapUpdater &updater, QJsonObject &doc,
+                               const QJsonArray &bands);
+
+// The whole update of a page.
+struct SPageUpdate
+{
+    const SBandFreqPathV7 &freq;  // bands and frequencies, its first step
+    bool withRangeCheck;          // 0 is allowed, too, and the page marks what is out of range
+    CapUpdateStep steps[3];       // the further ones, in order; null behind the last
 };
 
 template <typename Paths>

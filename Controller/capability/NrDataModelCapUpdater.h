@@ -3,8 +3,8 @@
 // The resource of a page names one band, one route and a few sample values. The updater crosses
 // what the DUT reports (bands, routes, hardware settings, frequency limits, gain modes) with the
 // 3GPP band tables of Nr3gpp.json, and writes the results into the document as choices, limits,
-// enable states and defaults. One driver a page (NrDataModelCapUpdaterDrivers.cpp) names the paths
-// and the steps; the steps stand by subject in CapUpdate*.cpp.
+// enable states and defaults. Which steps a page takes, and where they write, stands in
+// CapUpdatePages.h; the steps stand by subject in the sources that carry this name.
 //
 // All frequencies and bandwidths are kHz. A step that fails logs and reports into the document's
 // integrity record and returns false; what was written before stays, what was to come stays as the
@@ -36,6 +36,14 @@ public:
     // False, with a critical log line, when the tables cannot be read; the bands then mean nothing.
     bool New3gppDataModel();
 
+    // The update of a page: bands and frequencies, then its further steps until one fails.
+    bool Update(QJsonObject &doc, const SPageUpdate &page);
+    // The same as a driver of the page table.
+    template <const SPageUpdate &page>
+    bool UpdateBy(QJsonObject &doc)
+    {
+        return Update(doc, page);
+    }
     // The drivers: a page's document patched in place.
     bool UpdatePuschTxForceModeV7(QJsonObject &doc);
     bool UpdatePuschTxNormalModeV7(QJsonObject &doc);

@@ -1,5 +1,7 @@
-// The drivers: which steps a page takes, in order. What each step writes where stands in
-// CapUpdatePages.h.
+// The drivers. What the update of a page is made of stands in CapUpdatePages.h; the RSRP pages go
+// their own way here.
+#include <algorithm>
+
 #include "Controller/capability/CapUpdatePages.h"
 #include "Controller/capability/DocumentWriter.h"
 #include "Controller/capability/EntryTable.h"
@@ -24,59 +26,48 @@ SPathsForBands<Paths> For(const Paths &paths, const QJsonArray &bands)
 
 }  // namespace
 
-bool CNrDataModelCapUpdater::UpdatePuschTxForceModeV7(QJsonObject &doc)
+bool CNrDataModelCapUpdater::Update(QJsonObject &doc, const SPageUpdate &page)
 {
     QJsonArray bands;
-    return UpdateBandAndFrequency(doc, kModulatedOrToneFreq, false) &&
-           GetSupportedBandArray(bands, kTx) &&
-           UpdateModulationTxCommonV7(doc, For(kPuschForced, bands), false) &&
-           UpdateTxHwSettingByScsRBv7(doc, For(kTxHw, bands));
+    return UpdateBandAndFrequency(doc, page.freq, page.withRangeCheck) &&
+           GetSupportedBandArray(bands, page.freq.bandFilter) &&
+           std::all_of(std::begin(page.steps), std::end(page.steps),
+                       [&](CapUpdateStep step) { return !step || step(*this, doc, bands); });
+}
+
+bool CNrDataModelCapUpdater::UpdatePuschTxForceModeV7(QJsonObject &doc)
+{
+    return Update(doc, kPuschForcedUpdate);
 }
 
 bool CNrDataModelCapUpdater::UpdatePuschTxNormalModeV7(QJsonObject &doc)
 {
-    QJsonArray bands;
-    return UpdateBandAndFrequency(doc, kPuschNormalFreq, false) &&
-           GetSupportedBandArray(bands, kTx) &&
-           UpdateModulationTxCommonV7(doc, For(kPuschNormal, bands), true);
+    return Update(doc, kPuschNormalUpdate);
 }
 
 bool CNrDataModelCapUpdater::UpdateSingleToneTxV7(QJsonObject &doc)
 {
-    QJsonArray bands;
-    return UpdateBandAndFrequency(doc, kModulatedOrToneFreq, false) &&
-           GetSupportedBandArray(bands, kTx) && UpdateCwTxCommonV7(doc, For(kSingleTone, bands)) &&
-           UpdateTxHwSettingByBwRegion(doc, For(kTxHw, bands));
+    return Update(doc, kSingleToneUpdate);
 }
 
 bool CNrDataModelCapUpdater::UpdateAptProfileV7(QJsonObject &doc)
 {
-    QJsonArray bands;
-    return UpdateBandAndFrequency(doc, kAptFreq, true) && GetSupportedBandArray(bands, kTx) &&
-           UpdateCwTxCommonV7(doc, For(kAptProfile, bands)) &&
-           UpdateTxHwSettingByBwRegion(doc, For(kAptHw, bands));
+    return Update(doc, kAptProfileUpdate);
 }
 
 bool CNrDataModelCapUpdater::UpdateContRxV7(QJsonObject &doc)
 {
-    QJsonArray bands;
-    return UpdateBandAndFrequency(doc, kContRxFreq, false) && GetSupportedBandArray(bands, kRx) &&
-           UpdateRxCommonV7(doc, For(kContRx, bands));
+    return Update(doc, kContRxUpdate);
 }
 
 bool CNrDataModelCapUpdater::UpdateRssiV7(QJsonObject &doc)
 {
-    QJsonArray bands;
-    return UpdateBandAndFrequency(doc, kRssiFreq, false) && GetSupportedBandArray(bands, kRx) &&
-           UpdateRxCommonV7(doc, For(kRssi, bands)) && UpdateRSSIGainInfoV7(doc, kRssiGain) &&
-           UpdateRxHwSettingAndTxRouteV7(doc, For(kRssiHw, bands), {}, {});
+    return Update(doc, kRssiUpdate);
 }
 
 bool CNrDataModelCapUpdater::UpdatePathLossV7(QJsonObject &doc)
 {
-    QJsonArray bands;
-    return UpdateBandAndFrequency(doc, kPathLossFreq, true) && GetSupportedBandArray(bands, kRx) &&
-           UpdateRxCommonV7(doc, For(kPathLoss, bands)) && UpdateLnaCaptionsV7(doc);
+    return Update(doc, kPathLossUpdate);
 }
 
 bool CNrDataModelCapUpdater::UpdateRsrpForceModeV7(QJsonObject &doc)

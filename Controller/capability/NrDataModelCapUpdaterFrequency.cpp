@@ -31,14 +31,6 @@ bool HasRouteRanges(const SRouteFreqRangeHalf &half, int band)
 
 }  // namespace
 
-QJsonObject FrequencyRange(int low, int high, bool withRangeCheck)
-{
-    if (!withRangeCheck)
-        return {{"min", low}, {"max", high}};
-    return {
-        {"min", 0}, {"max", high}, {"rangeCheck", QStringLiteral("0,%1~%2").arg(low).arg(high)}};
-}
-
 bool CNrDataModelCapUpdater::UpdateBandAndFrequency(QJsonObject &doc, const SBandFreqPathV7 path,
                                                     const bool withRangeCheck)
 {
