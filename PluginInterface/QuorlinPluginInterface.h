@@ -25,6 +25,7 @@ public:
     void ShowPlugin() override;
     void HidePlugin() override;
     SPluginToolLaunchRequirement QueryLaunchRequirement() override;
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     QString GetPluginNote() override;
     void HostNotifyAfter(uint32_t) override;
     void DisablePages() override;
@@ -41,6 +42,7 @@ private slots:
 private:
     CQuorlinForm &Form();  // the form, with the host's target handle taken
 
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     QString m_reserved;
     CQuorlinForm m_form;
 };

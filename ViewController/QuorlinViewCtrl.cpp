@@ -1,7 +1,9 @@
 #include "ViewController/QuorlinViewCtrl.h"
 
-#include "Controller/core/PageTable.h"
-#include "ViewController/QuorlinViewCtrlJobs.h"
+#include <QPointer>
+
+#include "Controller/core/NrCore.h"
+#include "Support/Threads.h"
 
 void CQuorlinViewCtrl::SetTargetHandle(uint32_t handle)
 {
@@ -28,71 +30,4 @@ void CQuorlinViewCtrl::ReportIdle()
                 emit self->Signal_Idle();
         });
     });
-}
-
-void CQuorlinViewCtrl::GetInitPageList()
-{
-    RunOnPool("GetInitPageListInternal", &CQuorlinViewCtrl::Signal_GetInitPageListDone,
-              [](CNrCore &core) { return std::make_tuple(core.GetAllSupportPage()); });
-}
-
-void CQuorlinViewCtrl::RequestDataModel(const char *internalName, EPageId page,
-                                        DocumentSignal answer)
-{
-    RunOnPool(internalName, answer,
-              [page](CNrCore &core) { return std::make_tuple(core.GetDataModel(PageName(page))); });
-}
-
-void CQuorlinViewCtrl::GetPuschTxForceDataModel()
-{
-    RequestDataModel("GetPuschTxForceDataModelInternal", EPageId::PuschTxForce,
-                     &CQuorlinViewCtrl::Signal_GetPuschTxForceDataModelDone);
-}
-
-void CQuorlinViewCtrl::GetPuschTxNormalDataModel()
-{
-    RequestDataModel("GetPuschTxNormalDataModelInternal", EPageId::PuschTxNormal,
-                     &CQuorlinViewCtrl::Signal_GetPuschTxNormalDataModelDone);
-}
-
-void CQuorlinViewCtrl::GetSingleToneTxDataModel()
-{
-    RequestDataModel("GetSingleToneTxDataModelInternal", EPageId::SingleToneTx,
-                     &CQuorlinViewCtrl::Signal_GetSingleToneTxDataModelDone);
-}
-
-void CQuorlinViewCtrl::GetRsrpForceDataModel()
-{
-    RequestDataModel("GetRsrpForceDataModelInternal", EPageId::RsrpForce,
-                     &CQuorlinViewCtrl::Signal_GetRsrpForceDataModelDone);
-}
-
-void CQuorlinViewCtrl::GetRsrpNormalDataModel()
-{
-    RequestDataModel("GetRsrpNormalDataModelInternal", EPageId::RsrpNormal,
-                     &CQuorlinViewCtrl::Signal_GetRsrpNormalDataModelDone);
-}
-
-void CQuorlinViewCtrl::GetContRxDataModel()
-{
-    RequestDataModel("GetContRxDataModelInternal", EPageId::ContRx,
-                     &CQuorlinViewCtrl::Signal_GetContRxDataModelDone);
-}
-
-void CQuorlinViewCtrl::GetRssiDataModel()
-{
-    RequestDataModel("GetRssiDataModelInternal", EPageId::Rssi,
-                     &CQuorlinViewCtrl::Signal_GetRssiDataModelDone);
-}
-
-void CQuorlinViewCtrl::GetAptDataModel()
-{
-    RequestDataModel("GetAptDataModelInternal", EPageId::AptProfile,
-                     &CQuorlinViewCtrl::Signal_GetAptDataModelDone);
-}
-
-void CQuorlinViewCtrl::GetPathLossDataModel()
-{
-    RequestDataModel("GetPathLossDataModelInternal", EPageId::RxPathLoss,
-                     &CQuorlinViewCtrl::Signal_GetPathLossDataModelDone);
 }

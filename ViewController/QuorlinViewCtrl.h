@@ -8,6 +8,10 @@
 // it needs and reaches this object only through a guarded call on the GUI thread, so it ends
 // without touching what is gone, and its answer is dropped.
 //
+// What a page's requests ask the core for, and by which signals they answer, stands in two tables:
+// of the pages (QuorlinViewCtrlPages.cpp) and of the calibration items
+// (QuorlinViewCtrlCalibration.cpp).
+//
 // A calibration request that stores or asks for a record takes the page's packaged document with
 // it; its file, where it has one, lives as long as its flow, whatever becomes of the page.
 //
@@ -16,6 +20,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include <QFuture>
@@ -23,13 +28,14 @@
 #include <QStringList>
 
 #include "Controller/Interface/CoreInterface.h"
+#include "Controller/core/CalItemTable.h"
+#include "Controller/core/PageId.h"
 #include "Model/CalRemarks.h"
 #include "Model/OperationResult.h"
 #include "Support/JobQueue.h"
 
 class CCoreAnswers;
 class CNrCore;
-enum class EPageId;
 
 class CQuorlinViewCtrl : public QObject
 {
@@ -46,41 +52,83 @@ public:
 
     void GetInitPageList();
 
+    // Requests of any page and calibration item. One without requests of its own below is answered
+    // by Signal_DataModelDone, Signal_TestDone and Signal_FlowDone.
+    enum class ECalFlow
+    {
+        Upload,
+        Download,
+        Save,
+        Load,
+        Count,
+    };
+    void RequestDataModel(EPageId page);
+    void RequestTest(EPageId page, std::string document);
+    // path: of the file, of a save or load.
+    void RequestFlow(ECalItem item, ECalFlow flow, std::string document, QString path = {});
+
     // Documents, one request a page.
-    void GetPuschTxForceDataModel();
-    void GetPuschTxNormalDataModel();
-    void GetSingleToneTxDataModel();
-    void GetRsrpForceDataModel();
-    void GetRsrpNormalDataModel();
-    void GetContRxDataModel();
-    void GetRssiDataModel();
-    void GetAptDataModel();
-    void GetPathLossDataModel();
+    void GetPuschTxForceDataModel() { RequestDataModel(EPageId::PuschTxForce); }
+    void GetPuschTxNormalDataModel() { RequestDataModel(EPageId::PuschTxNormal); }
+    void GetSingleToneTxDataModel() { RequestDataModel(EPageId::SingleToneTx); }
+    void GetRsrpForceDataModel() { RequestDataModel(EPageId::RsrpForce); }
+    void GetRsrpNormalDataModel() { RequestDataModel(EPageId::RsrpNormal); }
+    void GetContRxDataModel() { RequestDataModel(EPageId::ContRx); }
+    void GetRssiDataModel() { RequestDataModel(EPageId::Rssi); }
+    void GetAptDataModel() { RequestDataModel(EPageId::AptProfile); }
+    void GetPathLossDataModel() { RequestDataModel(EPageId::RxPathLoss); }
 
     // Tests, one request a page; the document is the packaged one. All but RSSI start something
     // that goes on until a stop.
-    void PuschTxForceTest(std::string document);
-    void PuschTxNormalTest(std::string document);
-    void SingleToneTxTest(std::string document);
-    void RsrpForceTest(std::string document);
-    void RsrpNormalTest(std::string document);
-    void ContRxTest(std::string document);
-    void RssiTest(std::string document);
+    void PuschTxForceTest(std::string document)
+    {
+        RequestTest(EPageId::PuschTxForce, std::move(document));
+    }
+    void PuschTxNormalTest(std::string document)
+    {
+        RequestTest(EPageId::PuschTxNormal, std::move(document));
+    }
+    void SingleToneTxTest(std::string document)
+    {
+        RequestTest(EPageId::SingleToneTx, std::move(document));
+    }
+    void RsrpForceTest(std::string document)
+    {
+        RequestTest(EPageId::RsrpForce, std::move(document));
+    }
+    void RsrpNormalTest(std::string document)
+    {
+        RequestTest(EPageId::RsrpNormal, std::move(document));
+    }
+    void ContRxTest(std::string document) { RequestTest(EPageId::ContRx, std::move(document)); }
+    void RssiTest(std::string document) { RequestTest(EPageId::Rssi, std::move(document)); }
 
     // Reads beside a test: the answer is the document with what was read.
-    void GetPuschTxForceDlFreq(std::string document);
-    void GetPuschTxNormalDlFreq(std::string document);
+    void GetPuschTxForceDlFreq(std::string document)
+    {
+        RequestDlFreq(EPageId::PuschTxForce, std::move(document));
+    }
+    void GetPuschTxNormalDlFreq(std::string document)
+    {
+        RequestDlFreq(EPageId::PuschTxNormal, std::move(document));
+    }
     void GetSingleToneTxPdValue(std::string document);
-    void RsrpForceFetchReport(std::string document);
-    void RsrpNormalFetchReport(std::string document);
+    void RsrpForceFetchReport(std::string document)
+    {
+        RequestReport(EPageId::RsrpForce, std::move(document));
+    }
+    void RsrpNormalFetchReport(std::string document)
+    {
+        RequestReport(EPageId::RsrpNormal, std::move(document));
+    }
     void RsrpResetCounter();
     void RsrpClearReport(std::string document);
     void RssiGainCalculator(std::string document);
 
     // Stops: of the NR tests, and of the multi-RAT ones; under the handle of the last test that was
     // asked for here.
-    void NrTestStop();
-    void MultiRatTestStop();
+    void NrTestStop() { RequestStop("NrTestStopInternal", EStop::Nr); }
+    void MultiRatTestStop() { RequestStop("MultiRatTestStopInternal", EStop::MultiRat); }
     // Stops every test on the target, before all that waits; starts that have not reached it answer
     // 4.
     void RfOff();
@@ -94,27 +142,70 @@ public:
     // Calibration data. Upload and load answer with the document of the selected record; download
     // and save store the page's record first. A file that can't be read or written is told in the
     // answer.
-    void AptUploadFromFlash(std::string document);
-    void AptDownloadToFlash(std::string document);
-    void AptSaveToFile(std::string document, QString path);
-    void AptLoadFromFile(std::string document, QString path);
-    void PathLossUploadFromFlash(std::string document);
-    void PathLossDownloadToFlash(std::string document);
-    void PathLossSaveToFile(std::string document, QString path);
-    void PathLossLoadFromFile(std::string document, QString path);
+    void AptUploadFromFlash(std::string document)
+    {
+        RequestFlow(ECalItem::Apt, ECalFlow::Upload, std::move(document));
+    }
+    void AptDownloadToFlash(std::string document)
+    {
+        RequestFlow(ECalItem::Apt, ECalFlow::Download, std::move(document));
+    }
+    void AptSaveToFile(std::string document, QString path)
+    {
+        RequestFlow(ECalItem::Apt, ECalFlow::Save, std::move(document), path);
+    }
+    void AptLoadFromFile(std::string document, QString path)
+    {
+        RequestFlow(ECalItem::Apt, ECalFlow::Load, std::move(document), path);
+    }
+    void PathLossUploadFromFlash(std::string document)
+    {
+        RequestFlow(ECalItem::PathLoss, ECalFlow::Upload, std::move(document));
+    }
+    void PathLossDownloadToFlash(std::string document)
+    {
+        RequestFlow(ECalItem::PathLoss, ECalFlow::Download, std::move(document));
+    }
+    void PathLossSaveToFile(std::string document, QString path)
+    {
+        RequestFlow(ECalItem::PathLoss, ECalFlow::Save, std::move(document), path);
+    }
+    void PathLossLoadFromFile(std::string document, QString path)
+    {
+        RequestFlow(ECalItem::PathLoss, ECalFlow::Load, std::move(document), path);
+    }
 
     // The record that a page's document selects, on the calling thread and from memory: for a page
     // whose selection changes.
-    std::string GetAptCalibrationData(std::string document);
-    void SetAptCalibrationData(const std::string &document);
-    std::string GetPathLossCalibrationData(std::string document);
-    void SetPathLossCalibrationData(const std::string &document);
+    std::string GetCalibrationData(ECalItem item, const std::string &document);
+    void SetCalibrationData(ECalItem item, const std::string &document);
+    std::string GetAptCalibrationData(std::string document)
+    {
+        return GetCalibrationData(ECalItem::Apt, document);
+    }
+    void SetAptCalibrationData(const std::string &document)
+    {
+        SetCalibrationData(ECalItem::Apt, document);
+    }
+    std::string GetPathLossCalibrationData(std::string document)
+    {
+        return GetCalibrationData(ECalItem::PathLoss, document);
+    }
+    void SetPathLossCalibrationData(const std::string &document)
+    {
+        SetCalibrationData(ECalItem::PathLoss, document);
+    }
 
     // Signal_Idle as soon as no job of the core runs.
     void ReportIdle();
 
 signals:
     void Signal_GetInitPageListDone(QStringList pageList);
+    void Signal_DataModelDone(std::string dataModel);
+    void Signal_TestDone(SEachItemOperationResult result, std::string response);
+    // With the document of the selected record, of an upload or load.
+    void Signal_FlowDone(SEachItemOperationResult result, std::string resultDataModel);
+
     void Signal_GetPuschTxForceDataModelDone(std::string dataModel);
     void Signal_GetPuschTxNormalDataModelDone(std::string dataModel);
     void Signal_GetSingleToneTxDataModelDone(std::string dataModel);
@@ -166,52 +257,27 @@ signals:
 
     void Signal_Idle();
 
-private slots:
-    void Slot_PuschTxForceTestDone(SEachItemOperationResult result, std::string response);
-    void Slot_PuschTxNormalTestDone(SEachItemOperationResult result, std::string response);
-    void Slot_SingleToneTxTestDone(SEachItemOperationResult result, std::string response);
-    void Slot_RsrpForceTestDone(SEachItemOperationResult result, std::string response);
-    void Slot_RsrpNormalTestDone(SEachItemOperationResult result, std::string response);
-    void Slot_ContRxTestDone(SEachItemOperationResult result, std::string response);
-    void Slot_RssiTestDone(SEachItemOperationResult result, std::string response);
-
-    void Slot_AptUploadFromFlashDone(bool result, QVector<SEachItemOperationResult> itemResult);
-    void Slot_AptDownloadToFlashDone(bool result, QVector<SEachItemOperationResult> itemResult);
-    void Slot_AptSaveToFileDone(bool result, QVector<SEachItemOperationResult> itemResult);
-    void Slot_AptLoadFromFileDone(bool result, QVector<SEachItemOperationResult> itemResult);
-    void Slot_PathLossUploadFromFlashDone(bool result,
-                                          QVector<SEachItemOperationResult> itemResult);
-    void Slot_PathLossDownloadToFlashDone(bool result,
-                                          QVector<SEachItemOperationResult> itemResult);
-    void Slot_PathLossSaveToFileDone(bool result, QVector<SEachItemOperationResult> itemResult);
-    void Slot_PathLossLoadFromFileDone(bool result, QVector<SEachItemOperationResult> itemResult);
-
 private:
     using DocumentSignal = void (CQuorlinViewCtrl::*)(std::string);
     using ResultSignal = void (CQuorlinViewCtrl::*)(SEachItemOperationResult);
     using ResponseSignal = void (CQuorlinViewCtrl::*)(SEachItemOperationResult, std::string);
-    using TestDoneSlot = void (CQuorlinViewCtrl::*)(SEachItemOperationResult, std::string);
 
-    void RequestDataModel(const char *internalName, EPageId page, DocumentSignal answer);
-    void RequestTest(const char *internalName, EPageId page, std::string document,
-                     TestDoneSlot done);
-    void RequestStop(const char *internalName, bool isNr);
+    struct SPageRequests;  // the requests of one page
+    static const SPageRequests &RequestsOf(EPageId page);
+    void RequestReport(EPageId page, std::string document);
     void RequestDlFreq(EPageId page, std::string document);
-    void RequestReport(const char *internalName, EPageId page, std::string document,
-                       ResponseSignal answer);
-    bool TakeAnswer(EPageId page, const SEachItemOperationResult &result);
-    // Passes a test's answer on to the page, without the document.
-    void PassAnswer(EPageId page, const SEachItemOperationResult &result, ResultSignal signal);
+    void RequestStop(const char *internalName, EStop kind);
+    void PassTestAnswer(EPageId page, const SEachItemOperationResult &result,
+                        const std::string &response);
 
-    enum class ECalRequest;
-    struct SCalFlow;     // what the requests of both items share
-    struct SCalItem;     // what the requests of one item share
-    struct SCalRequest;  // one of the eight
-    static const SCalRequest &CalRequest(ECalRequest id);
-    void RequestFlow(ECalRequest id, std::string document,
-                     std::shared_ptr<CCalIniFile> file = nullptr);
-    void AwaitFlow(const SCalRequest &request);
-    void PassFlowAnswer(ECalRequest id, const QVector<SEachItemOperationResult> &itemResult);
+    struct SCalFlow;      // what a flow is for all items
+    struct SCalRequest;   // a flow of one item
+    struct SCalRequests;  // the flows of one item
+    static const SCalFlow &FlowOf(ECalFlow flow);
+    static const SCalRequest &CalRequest(ECalItem item, ECalFlow flow);
+    void AwaitFlow(ECalItem item, ECalFlow flow);
+    void PassFlowAnswer(ECalItem item, ECalFlow flow,
+                        const QVector<SEachItemOperationResult> &itemResult);
 
     template <typename Done, typename... Answers>
     void AwaitAnswer(void (CCoreAnswers::*signal)(Answers...), Done done);
@@ -223,8 +289,10 @@ private:
     CJobQueue::Job PoolJob(const char *internalName, void (CQuorlinViewCtrl::*signal)(Answers...),
                            Job job);
 
-    QFuture<void> m_future;  // job last started; kept, never waited on
-    int m_epoch = 0;         // changes with a reset
-    std::string m_document;  // of the upload or load that runs, for its done slot
-    QString m_testPage;      // whose test was asked for last
+    // The job last started; nothing waits for it.
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
+    QFuture<void> m_future;
+    int m_epoch = 0;                    // changes with a reset
+    std::string m_document;             // of the upload or load that runs, for its done slot
+    std::optional<EPageId> m_testPage;  // whose test was asked for last
 };

@@ -1,8 +1,9 @@
 // Calibration requests of the view controller: the flows of the core, which answer through signals
-// of their own, and the records of the pages.
+// of their own, and the records of the pages. One row an item.
+#include <algorithm>
+#include <array>
 #include <exception>
 
-#include "Controller/core/CalItemTable.h"
 #include "Support/CalIniFile.h"
 #include "ViewController/QuorlinViewCtrlJobs.h"
 
@@ -17,255 +18,170 @@ File FileAt(const QString &path)
 
 }  // namespace
 
-// The order of the rows.
-enum class CQuorlinViewCtrl::ECalRequest
-{
-    AptUploadFromFlash,
-    AptDownloadToFlash,
-    AptSaveToFile,
-    AptLoadFromFile,
-    PathLossUploadFromFlash,
-    PathLossDownloadToFlash,
-    PathLossSaveToFile,
-    PathLossLoadFromFile,
-};
-
 struct CQuorlinViewCtrl::SCalFlow
 {
     void (*start)(CNrCore &core, const QStringList &items, File file);
     void (CCoreAnswers::*coreDone)(bool, QVector<SEachItemOperationResult>);
     bool storesFirst;  // the page's record goes into memory before the flow
+    bool hasFile;
 };
 
-struct CQuorlinViewCtrl::SCalItem
-{
-    ECalItem id;
-    std::string (CNrCore::*get)(std::string);
-    void (CNrCore::*set)(const std::string &);
-};
-
+// One that is left out answers by the signal for any item.
 struct CQuorlinViewCtrl::SCalRequest
 {
-    const char *internalName;
-    const SCalItem &item;
-    const SCalFlow &flow;
-    void (CQuorlinViewCtrl::*done)(bool, QVector<SEachItemOperationResult>);
-    ResultSignal result;      // null: the answer has a document
-    ResponseSignal response;  // with the document of the selected record
+    const char *job = "FlowInternal";  // name in the log
+    ResultSignal result = nullptr;     // in place of response
+    // With the document of the selected record.
+    ResponseSignal response = &CQuorlinViewCtrl::Signal_FlowDone;
 };
 
-const CQuorlinViewCtrl::SCalRequest &CQuorlinViewCtrl::CalRequest(ECalRequest id)
+struct CQuorlinViewCtrl::SCalRequests
 {
-    using Ctrl = CQuorlinViewCtrl;
+    ECalItem item = ECalItem::Count;
+    SCalRequest upload = {};
+    SCalRequest download = {};
+    SCalRequest save = {};
+    SCalRequest load = {};
+};
+
+const CQuorlinViewCtrl::SCalFlow &CQuorlinViewCtrl::FlowOf(ECalFlow flow)
+{
     using Core = CCoreAnswers;
-    static constexpr SCalItem kApt{ECalItem::Apt, &CNrCore::GetAptCalibrationData,
-                                   &CNrCore::SetAptCalibrationData};
-    static constexpr SCalItem kPathLoss{ECalItem::PathLoss, &CNrCore::GetPathLossCalibrationData,
-                                        &CNrCore::SetPathLossCalibrationData};
-    static constexpr SCalFlow kUpload{
-        [](CNrCore &core, const QStringList &items, File) { core.UploadFromFlashStart(items); },
-        &Core::Signal_UploadFromFlashDone, false};
-    static constexpr SCalFlow kDownload{
-        [](CNrCore &core, const QStringList &items, File) { core.DownloadToFlashStart(items); },
-        &Core::Signal_DownloadToFlashDone, true};
-    static constexpr SCalFlow kSave{[](CNrCore &core, const QStringList &items, File file) {
-                                        core.SaveToFileStart(std::move(file), items);
-                                    },
-                                    &Core::Signal_SaveToFileDone, true};
-    static constexpr SCalFlow kLoad{[](CNrCore &core, const QStringList &items, File file) {
-                                        core.LoadFromFileStart(std::move(file), items);
-                                    },
-                                    &Core::Signal_LoadFromFileDone, false};
-    static constexpr SCalRequest kRequests[] = {
-        {"AptUploadFromFlashInternal", kApt, kUpload, &Ctrl::Slot_AptUploadFromFlashDone, nullptr,
-         &Ctrl::Signal_AptUploadFromFlashDone},
-        {"AptDownloadToFlashInternal", kApt, kDownload, &Ctrl::Slot_AptDownloadToFlashDone,
-         &Ctrl::Signal_AptDownloadToFlashDone, nullptr},
-        {"AptSaveToFileInternal", kApt, kSave, &Ctrl::Slot_AptSaveToFileDone,
-         &Ctrl::Signal_AptSaveToFileDone, nullptr},
-        {"AptLoadFromFileInternal", kApt, kLoad, &Ctrl::Slot_AptLoadFromFileDone, nullptr,
-         &Ctrl::Signal_AptLoadFromFileDone},
-        {"PathLossUploadFromFlashInternal", kPathLoss, kUpload,
-         &Ctrl::Slot_PathLossUploadFromFlashDone, nullptr,
-         &Ctrl::Signal_PathLossUploadFromFlashDone},
-        {"PathLossDownloadToFlashInternal", kPathLoss, kDownload,
-         &Ctrl::Slot_PathLossDownloadToFlashDone, &Ctrl::Signal_PathLossDownloadToFlashDone,
-         nullptr},
-        {"PathLossSaveToFileInternal", kPathLoss, kSave, &Ctrl::Slot_PathLossSaveToFileDone,
-         &Ctrl::Signal_PathLossSaveToFileDone, nullptr},
-        {"PathLossLoadFromFileInternal", kPathLoss, kLoad, &Ctrl::Slot_PathLossLoadFromFileDone,
-         nullptr, &Ctrl::Signal_PathLossLoadFromFileDone},
+    static constexpr std::array<SCalFlow, static_cast<size_t>(ECalFlow::Count)> kFlows = {
+        SCalFlow{.start = [](CNrCore &core, const QStringList &items,
+                             File) { core.UploadFromFlashStart(items); },
+                 .coreDone = &Core::Signal_UploadFromFlashDone,
+                 .storesFirst = false,
+                 .hasFile = false},
+        SCalFlow{.start = [](CNrCore &core, const QStringList &items,
+                             File) { core.DownloadToFlashStart(items); },
+                 .coreDone = &Core::Signal_DownloadToFlashDone,
+                 .storesFirst = true,
+                 .hasFile = false},
+        SCalFlow{.start = [](CNrCore &core, const QStringList &items,
+                             File file) { core.SaveToFileStart(std::move(file), items); },
+                 .coreDone = &Core::Signal_SaveToFileDone,
+                 .storesFirst = true,
+                 .hasFile = true},
+        SCalFlow{.start = [](CNrCore &core, const QStringList &items,
+                             File file) { core.LoadFromFileStart(std::move(file), items); },
+                 .coreDone = &Core::Signal_LoadFromFileDone,
+                 .storesFirst = false,
+                 .hasFile = true},
     };
-    return kRequests[static_cast<int>(id)];
+    return kFlows[static_cast<size_t>(flow)];
 }
 
-void CQuorlinViewCtrl::AwaitFlow(const SCalRequest &request)
+const CQuorlinViewCtrl::SCalRequest &CQuorlinViewCtrl::CalRequest(ECalItem item, ECalFlow flow)
 {
-    AwaitAnswer(request.flow.coreDone, request.done);
+    using Ctrl = CQuorlinViewCtrl;
+    static constexpr std::array kItems = {
+        SCalRequests{.item = ECalItem::PathLoss,
+                     .upload = {.job = "PathLossUploadFromFlashInternal",
+                                .response = &Ctrl::Signal_PathLossUploadFromFlashDone},
+                     .download = {.job = "PathLossDownloadToFlashInternal",
+                                  .result = &Ctrl::Signal_PathLossDownloadToFlashDone},
+                     .save = {.job = "PathLossSaveToFileInternal",
+                              .result = &Ctrl::Signal_PathLossSaveToFileDone},
+                     .load = {.job = "PathLossLoadFromFileInternal",
+                              .response = &Ctrl::Signal_PathLossLoadFromFileDone}},
+        SCalRequests{
+            .item = ECalItem::Apt,
+            .upload = {.job = "AptUploadFromFlashInternal",
+                       .response = &Ctrl::Signal_AptUploadFromFlashDone},
+            .download = {.job = "AptDownloadToFlashInternal",
+                         .result = &Ctrl::Signal_AptDownloadToFlashDone},
+            .save = {.job = "AptSaveToFileInternal", .result = &Ctrl::Signal_AptSaveToFileDone},
+            .load = {.job = "AptLoadFromFileInternal",
+                     .response = &Ctrl::Signal_AptLoadFromFileDone}},
+    };
+    static constexpr SCalRequest SCalRequests::*kOfFlow[] = {
+        &SCalRequests::upload, &SCalRequests::download, &SCalRequests::save, &SCalRequests::load};
+    static_assert(std::size(kOfFlow) == static_cast<size_t>(ECalFlow::Count));
+    static constexpr SCalRequests kOther;
+    const auto *const row =
+        std::find_if(kItems.begin(), kItems.end(),
+                     [item](const SCalRequests &requests) { return requests.item == item; });
+    const SCalRequests &requests = row == kItems.end() ? kOther : *row;
+    return requests.*kOfFlow[static_cast<size_t>(flow)];
+}
+
+void CQuorlinViewCtrl::AwaitFlow(ECalItem item, ECalFlow flow)
+{
+    AwaitAnswer(FlowOf(flow).coreDone,
+                [item, flow](CQuorlinViewCtrl *self, bool,
+                             const QVector<SEachItemOperationResult> &itemResult) {
+                    self->PassFlowAnswer(item, flow, itemResult);
+                });
     AwaitAnswer(&CCoreAnswers::Signal_CalProgress,
-                [name = CalItemName(request.item.id)](CQuorlinViewCtrl *self, const QString &item,
-                                                      int round, int routesDone, int routesInAll) {
-                    if (item == name)
+                [own = CalItemName(item)](CQuorlinViewCtrl *self, const QString &name, int round,
+                                          int routesDone, int routesInAll) {
+                    if (name == own)
                         emit self->Signal_CalProgress(round, routesDone, routesInAll);
                 });
     AwaitAnswer(&CCoreAnswers::Signal_CalRemarks,
-                [name = CalItemName(request.item.id)](CQuorlinViewCtrl *self, const QString &item,
-                                                      const SCalRemarks &remarks) {
-                    if (item == name)
+                [own = CalItemName(item)](CQuorlinViewCtrl *self, const QString &name,
+                                          const SCalRemarks &remarks) {
+                    if (name == own)
                         emit self->Signal_CalRemarks(remarks);
                 });
 }
 
-void CQuorlinViewCtrl::RequestFlow(ECalRequest id, std::string document, File file)
+void CQuorlinViewCtrl::RequestFlow(ECalItem item, ECalFlow flow, std::string document, QString path)
 {
-    const SCalRequest &request = CalRequest(id);
-    AwaitFlow(request);
-    m_document = request.response ? document : std::string();
-    m_future = StartOnPool([&request, &core = GetCore(), file = std::move(file),
-                            document = std::move(document), epoch = m_epoch,
+    const SCalRequest &request = CalRequest(item, flow);
+    File file = FlowOf(flow).hasFile ? FileAt(path) : nullptr;
+    AwaitFlow(item, flow);
+    m_document = request.result ? std::string() : document;
+    m_future = StartOnPool([item, flow, job = request.job, &core = GetCore(),
+                            file = std::move(file), document = std::move(document), epoch = m_epoch,
                             self = QPointer<CQuorlinViewCtrl>(this)]() mutable {
-        qCDebug(lcCore) << request.internalName;
-        const QString item = CalItemName(request.item.id);
+        qCDebug(lcCore) << job;
+        const QString name = CalItemName(item);
         QString failure;
         try {
-            if (request.flow.storesFirst)
-                (core.*request.item.set)(document);
-            request.flow.start(core, {item}, std::move(file));
+            if (FlowOf(flow).storesFirst)
+                core.SetCalibrationData(item, document);
+            FlowOf(flow).start(core, {name}, std::move(file));
             return;
         } catch (const std::exception &thrown) {
             failure = QString::fromUtf8(thrown.what());
         }
-        qCCritical(lcCore) << request.internalName << "ended by an exception" << failure;
-        PostToGui([&request, self, epoch, item, failure] {
+        qCCritical(lcCore) << job << "ended by an exception" << failure;
+        PostToGui([item, flow, self, epoch, name, failure] {
             if (self && self->m_epoch == epoch)
-                (self->*request.done)(false, {{item, eStatusNotExecuted, failure}});
+                self->PassFlowAnswer(item, flow, {{name, eStatusNotExecuted, failure}});
         });
     });
 }
 
-// The core has one signal for the flows of both items. An answer of the other one, which was under
-// way when ours began, is not ours.
-void CQuorlinViewCtrl::PassFlowAnswer(ECalRequest id,
+// The core has one signal for the flows of all items. An answer of another one, which was under way
+// when ours began, is not ours.
+void CQuorlinViewCtrl::PassFlowAnswer(ECalItem item, ECalFlow flow,
                                       const QVector<SEachItemOperationResult> &itemResult)
 {
-    const SCalRequest &request = CalRequest(id);
     const SEachItemOperationResult answer = itemResult.value(0);
-    if (answer.itemName != CalItemName(request.item.id))
+    if (answer.itemName != CalItemName(item))
         return;
     CCoreAnswers &core = CCoreAnswers::Get();
-    disconnect(&core, request.flow.coreDone, this, nullptr);
+    disconnect(&core, FlowOf(flow).coreDone, this, nullptr);
     disconnect(&core, &CCoreAnswers::Signal_CalProgress, this, nullptr);
     disconnect(&core, &CCoreAnswers::Signal_CalRemarks, this, nullptr);
+    const SCalRequest &request = CalRequest(item, flow);
     if (request.result) {
         emit(this->*request.result)(answer);
         return;
     }
     const std::string document = std::exchange(m_document, {});
-    emit(this->*request.response)(answer, (GetCore().*request.item.get)(document));
+    emit(this->*request.response)(answer, GetCore().GetCalibrationData(item, document));
 }
 
-void CQuorlinViewCtrl::AptUploadFromFlash(std::string document)
+std::string CQuorlinViewCtrl::GetCalibrationData(ECalItem item, const std::string &document)
 {
-    RequestFlow(ECalRequest::AptUploadFromFlash, std::move(document));
+    return GetCore().GetCalibrationData(item, document);
 }
 
-void CQuorlinViewCtrl::AptDownloadToFlash(std::string document)
+void CQuorlinViewCtrl::SetCalibrationData(ECalItem item, const std::string &document)
 {
-    RequestFlow(ECalRequest::AptDownloadToFlash, std::move(document));
-}
-
-void CQuorlinViewCtrl::AptSaveToFile(std::string document, QString path)
-{
-    RequestFlow(ECalRequest::AptSaveToFile, std::move(document), FileAt(path));
-}
-
-void CQuorlinViewCtrl::AptLoadFromFile(std::string document, QString path)
-{
-    RequestFlow(ECalRequest::AptLoadFromFile, std::move(document), FileAt(path));
-}
-
-void CQuorlinViewCtrl::PathLossUploadFromFlash(std::string document)
-{
-    RequestFlow(ECalRequest::PathLossUploadFromFlash, std::move(document));
-}
-
-void CQuorlinViewCtrl::PathLossDownloadToFlash(std::string document)
-{
-    RequestFlow(ECalRequest::PathLossDownloadToFlash, std::move(document));
-}
-
-void CQuorlinViewCtrl::PathLossSaveToFile(std::string document, QString path)
-{
-    RequestFlow(ECalRequest::PathLossSaveToFile, std::move(document), FileAt(path));
-}
-
-void CQuorlinViewCtrl::PathLossLoadFromFile(std::string document, QString path)
-{
-    RequestFlow(ECalRequest::PathLossLoadFromFile, std::move(document), FileAt(path));
-}
-
-void CQuorlinViewCtrl::Slot_AptUploadFromFlashDone(bool,
-                                                   QVector<SEachItemOperationResult> itemResult)
-{
-    PassFlowAnswer(ECalRequest::AptUploadFromFlash, itemResult);
-}
-
-void CQuorlinViewCtrl::Slot_AptDownloadToFlashDone(bool,
-                                                   QVector<SEachItemOperationResult> itemResult)
-{
-    PassFlowAnswer(ECalRequest::AptDownloadToFlash, itemResult);
-}
-
-void CQuorlinViewCtrl::Slot_AptSaveToFileDone(bool, QVector<SEachItemOperationResult> itemResult)
-{
-    PassFlowAnswer(ECalRequest::AptSaveToFile, itemResult);
-}
-
-void CQuorlinViewCtrl::Slot_AptLoadFromFileDone(bool, QVector<SEachItemOperationResult> itemResult)
-{
-    PassFlowAnswer(ECalRequest::AptLoadFromFile, itemResult);
-}
-
-void CQuorlinViewCtrl::Slot_PathLossUploadFromFlashDone(
-    bool, QVector<SEachItemOperationResult> itemResult)
-{
-    PassFlowAnswer(ECalRequest::PathLossUploadFromFlash, itemResult);
-}
-
-void CQuorlinViewCtrl::Slot_PathLossDownloadToFlashDone(
-    bool, QVector<SEachItemOperationResult> itemResult)
-{
-    PassFlowAnswer(ECalRequest::PathLossDownloadToFlash, itemResult);
-}
-
-void CQuorlinViewCtrl::Slot_PathLossSaveToFileDone(bool,
-                                                   QVector<SEachItemOperationResult> itemResult)
-{
-    PassFlowAnswer(ECalRequest::PathLossSaveToFile, itemResult);
-}
-
-void CQuorlinViewCtrl::Slot_PathLossLoadFromFileDone(bool,
-                                                     QVector<SEachItemOperationResult> itemResult)
-{
-    PassFlowAnswer(ECalRequest::PathLossLoadFromFile, itemResult);
-}
-
-std::string CQuorlinViewCtrl::GetAptCalibrationData(std::string document)
-{
-    return GetCore().GetAptCalibrationData(std::move(document));
-}
-
-void CQuorlinViewCtrl::SetAptCalibrationData(const std::string &document)
-{
-    GetCore().SetAptCalibrationData(document);
-}
-
-std::string CQuorlinViewCtrl::GetPathLossCalibrationData(std::string document)
-{
-    return GetCore().GetPathLossCalibrationData(std::move(document));
-}
-
-void CQuorlinViewCtrl::SetPathLossCalibrationData(const std::string &document)
-{
-    GetCore().SetPathLossCalibrationData(document);
+    GetCore().SetCalibrationData(item, document);
 }

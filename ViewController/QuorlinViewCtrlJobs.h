@@ -61,8 +61,8 @@ void CQuorlinViewCtrl::RunOnPool(const char *internalName,
     m_future = StartOnPool(PoolJob(internalName, signal, std::move(job)));
 }
 
-// The connection lives for one request: made here, taken down in the done slot. What was asked for
-// before a reset is not answered after it. done: a slot, or what takes this object and the answers.
+// The connection lives for one request: made here, taken down when done has its answer. What was
+// asked for before a reset is not answered after it. done: takes this object and the answers.
 template <typename Done, typename... Answers>
 void CQuorlinViewCtrl::AwaitAnswer(void (CCoreAnswers::*signal)(Answers...), Done done)
 {

@@ -1,155 +1,131 @@
-// Tests and stops of the view controller. The core answers tests through a signal of its own.
-#include "Controller/core/PageTable.h"
+// Requests of the pages: documents, tests and reports. One row a page.
+#include <algorithm>
+#include <array>
+
 #include "ViewController/QuorlinViewCtrlJobs.h"
 
-void CQuorlinViewCtrl::RequestTest(const char *internalName, EPageId page, std::string document,
-                                   TestDoneSlot done)
+// What is left out answers by the signals for any page.
+struct CQuorlinViewCtrl::SPageRequests
 {
-    AwaitAnswer(&CCoreAnswers::Signal_TestDone, done);
-    m_testPage = PageName(page);
+    EPageId page = EPageId::ErrorPage;
+    const char *dataModelJob = "GetDataModelInternal";  // names in the log
+    DocumentSignal dataModelDone = &CQuorlinViewCtrl::Signal_DataModelDone;
+    const char *testJob = "TestInternal";
+    ResultSignal testDone = nullptr;  // in place of testDoneWithDocument
+    ResponseSignal testDoneWithDocument = &CQuorlinViewCtrl::Signal_TestDone;
+    const char *reportJob = nullptr;  // null: the page has no report
+    ResponseSignal reportDone = nullptr;
+};
+
+const CQuorlinViewCtrl::SPageRequests &CQuorlinViewCtrl::RequestsOf(EPageId page)
+{
+    using Ctrl = CQuorlinViewCtrl;
+    static constexpr std::array kRequests = {
+        SPageRequests{.page = EPageId::PuschTxForce,
+                      .dataModelJob = "GetPuschTxForceDataModelInternal",
+                      .dataModelDone = &Ctrl::Signal_GetPuschTxForceDataModelDone,
+                      .testJob = "PuschTxForceTestInternal",
+                      .testDone = &Ctrl::Signal_PuschTxForceTestDone},
+        SPageRequests{.page = EPageId::PuschTxNormal,
+                      .dataModelJob = "GetPuschTxNormalDataModelInternal",
+                      .dataModelDone = &Ctrl::Signal_GetPuschTxNormalDataModelDone,
+                      .testJob = "PuschTxNormalTestInternal",
+                      .testDone = &Ctrl::Signal_PuschTxNormalTestDone},
+        SPageRequests{.page = EPageId::SingleToneTx,
+                      .dataModelJob = "GetSingleToneTxDataModelInternal",
+                      .dataModelDone = &Ctrl::Signal_GetSingleToneTxDataModelDone,
+                      .testJob = "SingleToneTxTestInternal",
+                      .testDone = &Ctrl::Signal_SingleToneTxTestDone},
+        SPageRequests{.page = EPageId::RsrpForce,
+                      .dataModelJob = "GetRsrpForceDataModelInternal",
+                      .dataModelDone = &Ctrl::Signal_GetRsrpForceDataModelDone,
+                      .testJob = "RsrpForceTestInternal",
+                      .testDone = &Ctrl::Signal_RsrpForceTestDone,
+                      .reportJob = "RsrpForceFetchReportInternal",
+                      .reportDone = &Ctrl::Signal_RsrpForceFetchReportDone},
+        SPageRequests{.page = EPageId::RsrpNormal,
+                      .dataModelJob = "GetRsrpNormalDataModelInternal",
+                      .dataModelDone = &Ctrl::Signal_GetRsrpNormalDataModelDone,
+                      .testJob = "RsrpNormalTestInternal",
+                      .testDone = &Ctrl::Signal_RsrpNormalTestDone,
+                      .reportJob = "RsrpNormalFetchReportInternal",
+                      .reportDone = &Ctrl::Signal_RsrpNormalFetchReportDone},
+        SPageRequests{.page = EPageId::ContRx,
+                      .dataModelJob = "GetContRxDataModelInternal",
+                      .dataModelDone = &Ctrl::Signal_GetContRxDataModelDone,
+                      .testJob = "ContRxTestInternal",
+                      .testDone = &Ctrl::Signal_ContRxTestDone},
+        SPageRequests{.page = EPageId::Rssi,
+                      .dataModelJob = "GetRssiDataModelInternal",
+                      .dataModelDone = &Ctrl::Signal_GetRssiDataModelDone,
+                      .testJob = "RssiTestInternal",
+                      .testDoneWithDocument = &Ctrl::Signal_RssiTestDone},
+        SPageRequests{.page = EPageId::AptProfile,
+                      .dataModelJob = "GetAptDataModelInternal",
+                      .dataModelDone = &Ctrl::Signal_GetAptDataModelDone},
+        SPageRequests{.page = EPageId::RxPathLoss,
+                      .dataModelJob = "GetPathLossDataModelInternal",
+                      .dataModelDone = &Ctrl::Signal_GetPathLossDataModelDone},
+    };
+    static constexpr SPageRequests kOther;
+    const auto *const row =
+        std::find_if(kRequests.begin(), kRequests.end(),
+                     [page](const SPageRequests &requests) { return requests.page == page; });
+    return row == kRequests.end() ? kOther : *row;
+}
+
+void CQuorlinViewCtrl::GetInitPageList()
+{
+    RunOnPool("GetInitPageListInternal", &CQuorlinViewCtrl::Signal_GetInitPageListDone,
+              [](CNrCore &core) { return std::make_tuple(core.GetAllSupportPage()); });
+}
+
+void CQuorlinViewCtrl::RequestDataModel(EPageId page)
+{
+    const SPageRequests &row = RequestsOf(page);
+    RunOnPool(row.dataModelJob, row.dataModelDone,
+              [page](CNrCore &core) { return std::make_tuple(core.GetDataModel(PageName(page))); });
+}
+
+// The core answers tests through a signal of its own.
+void CQuorlinViewCtrl::RequestTest(EPageId page, std::string document)
+{
+    AwaitAnswer(
+        &CCoreAnswers::Signal_TestDone,
+        [page](CQuorlinViewCtrl *self, const SEachItemOperationResult &result,
+               const std::string &response) { self->PassTestAnswer(page, result, response); });
+    m_testPage = page;
     CNrCore &core = GetCore();
-    m_future = StartOnPool(
-        [internalName, &core, page, document = std::move(document), asked = core.Moment()] {
-            qCDebug(lcCore) << internalName;
-            core.Test(PageName(page), document, asked);
-        });
-}
-
-// Each asker gets the answer of its own stop; the core's signal is for all of them.
-void CQuorlinViewCtrl::RequestStop(const char *internalName, bool isNr)
-{
-    RunOnPool(internalName, &CQuorlinViewCtrl::Signal_TestStopDone,
-              [isNr, page = m_testPage, asked = GetCore().Moment()](CNrCore &core) {
-                  return std::make_tuple(core.StopTest(isNr, page, asked));
-              });
-}
-
-void CQuorlinViewCtrl::RfOff()
-{
-    StartOnPoolAtOnce(PoolJob("RfOffInternal", &CQuorlinViewCtrl::Signal_RfOffDone,
-                              [place = GetCore().BeginRfOff()](CNrCore &core) mutable {
-                                  return std::make_tuple(core.FinishRfOff(std::move(place)));
-                              }));
-}
-
-void CQuorlinViewCtrl::StopRunningTests()
-{
-    GetCore().StopRunningTests();
-}
-
-bool CQuorlinViewCtrl::HasRunningTests() const
-{
-    return GetCore().HasRunningTests();
-}
-
-void CQuorlinViewCtrl::WatchTests()
-{
-    connect(&CCoreAnswers::Get(), &CCoreAnswers::Signal_TestsRun, this,
-            &CQuorlinViewCtrl::Signal_TestsRun, Qt::UniqueConnection);
-    emit Signal_TestsRun(GetCore().HasRunningTests());
-}
-
-void CQuorlinViewCtrl::PuschTxForceTest(std::string document)
-{
-    RequestTest("PuschTxForceTestInternal", EPageId::PuschTxForce, std::move(document),
-                &CQuorlinViewCtrl::Slot_PuschTxForceTestDone);
-}
-
-void CQuorlinViewCtrl::PuschTxNormalTest(std::string document)
-{
-    RequestTest("PuschTxNormalTestInternal", EPageId::PuschTxNormal, std::move(document),
-                &CQuorlinViewCtrl::Slot_PuschTxNormalTestDone);
-}
-
-void CQuorlinViewCtrl::SingleToneTxTest(std::string document)
-{
-    RequestTest("SingleToneTxTestInternal", EPageId::SingleToneTx, std::move(document),
-                &CQuorlinViewCtrl::Slot_SingleToneTxTestDone);
-}
-
-void CQuorlinViewCtrl::RsrpForceTest(std::string document)
-{
-    RequestTest("RsrpForceTestInternal", EPageId::RsrpForce, std::move(document),
-                &CQuorlinViewCtrl::Slot_RsrpForceTestDone);
-}
-
-void CQuorlinViewCtrl::RsrpNormalTest(std::string document)
-{
-    RequestTest("RsrpNormalTestInternal", EPageId::RsrpNormal, std::move(document),
-                &CQuorlinViewCtrl::Slot_RsrpNormalTestDone);
-}
-
-void CQuorlinViewCtrl::ContRxTest(std::string document)
-{
-    RequestTest("ContRxTestInternal", EPageId::ContRx, std::move(document),
-                &CQuorlinViewCtrl::Slot_ContRxTestDone);
-}
-
-void CQuorlinViewCtrl::RssiTest(std::string document)
-{
-    RequestTest("RssiTestInternal", EPageId::Rssi, std::move(document),
-                &CQuorlinViewCtrl::Slot_RssiTestDone);
-}
-
-void CQuorlinViewCtrl::NrTestStop()
-{
-    RequestStop("NrTestStopInternal", true);
-}
-
-void CQuorlinViewCtrl::MultiRatTestStop()
-{
-    RequestStop("MultiRatTestStopInternal", false);
+    m_future = StartOnPool([job = RequestsOf(page).testJob, &core, page,
+                            document = std::move(document), asked = core.Moment()] {
+        qCDebug(lcCore) << job;
+        core.Test(PageName(page), document, asked);
+    });
 }
 
 // The core has one signal for the tests of all pages. An answer of another page's test, which was
 // under way when ours began, is not ours.
-bool CQuorlinViewCtrl::TakeAnswer(EPageId page, const SEachItemOperationResult &result)
+void CQuorlinViewCtrl::PassTestAnswer(EPageId page, const SEachItemOperationResult &result,
+                                      const std::string &response)
 {
     if (result.itemName != PageName(page))
-        return false;
+        return;
     disconnect(&CCoreAnswers::Get(), &CCoreAnswers::Signal_TestDone, this, nullptr);
-    return true;
+    const SPageRequests &row = RequestsOf(page);
+    if (row.testDone)
+        emit(this->*row.testDone)(result);
+    else
+        emit(this->*row.testDoneWithDocument)(result, response);
 }
 
-void CQuorlinViewCtrl::PassAnswer(EPageId page, const SEachItemOperationResult &result,
-                                  ResultSignal signal)
+void CQuorlinViewCtrl::RequestReport(EPageId page, std::string document)
 {
-    if (TakeAnswer(page, result))
-        emit(this->*signal)(result);
-}
-
-void CQuorlinViewCtrl::Slot_PuschTxForceTestDone(SEachItemOperationResult result, std::string)
-{
-    PassAnswer(EPageId::PuschTxForce, result, &CQuorlinViewCtrl::Signal_PuschTxForceTestDone);
-}
-
-void CQuorlinViewCtrl::Slot_PuschTxNormalTestDone(SEachItemOperationResult result, std::string)
-{
-    PassAnswer(EPageId::PuschTxNormal, result, &CQuorlinViewCtrl::Signal_PuschTxNormalTestDone);
-}
-
-void CQuorlinViewCtrl::Slot_SingleToneTxTestDone(SEachItemOperationResult result, std::string)
-{
-    PassAnswer(EPageId::SingleToneTx, result, &CQuorlinViewCtrl::Signal_SingleToneTxTestDone);
-}
-
-void CQuorlinViewCtrl::Slot_RsrpForceTestDone(SEachItemOperationResult result, std::string)
-{
-    PassAnswer(EPageId::RsrpForce, result, &CQuorlinViewCtrl::Signal_RsrpForceTestDone);
-}
-
-void CQuorlinViewCtrl::Slot_RsrpNormalTestDone(SEachItemOperationResult result, std::string)
-{
-    PassAnswer(EPageId::RsrpNormal, result, &CQuorlinViewCtrl::Signal_RsrpNormalTestDone);
-}
-
-void CQuorlinViewCtrl::Slot_ContRxTestDone(SEachItemOperationResult result, std::string)
-{
-    PassAnswer(EPageId::ContRx, result, &CQuorlinViewCtrl::Signal_ContRxTestDone);
-}
-
-void CQuorlinViewCtrl::Slot_RssiTestDone(SEachItemOperationResult result, std::string response)
-{
-    if (TakeAnswer(EPageId::Rssi, result))
-        emit Signal_RssiTestDone(result, response);
+    const SPageRequests &row = RequestsOf(page);
+    RunOnPool(row.reportJob, row.reportDone,
+              [page, document = std::move(document)](CNrCore &core) mutable {
+                  SEachItemOperationResult result;
+                  std::string response =
+                      core.FetchMixRxReport(PageName(page), std::move(document), result);
+                  return std::make_tuple(result, std::move(response));
+              });
 }

@@ -56,6 +56,7 @@ public:
     bool ReadDataModel(QFile &file, QJsonObject &out);
 
 private:
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     QJsonObject m_lastModel;
 };
 
@@ -69,6 +70,7 @@ public:
     // Starts a page's test on the pool.
     virtual void Test(QString pageName, std::string document) = 0;
     // Not the way to stop a test; answers so.
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     virtual void Stop() = 0;
 };
 
@@ -78,6 +80,7 @@ class IRfCoreCalDataOperation : public QObject
 
 public:
     // Names of the calibration items that the DUT has. Blocks on the link.
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     virtual void GetAllCalItem(QStringList &out) = 0;
     // The same, of those that have a section in the file; none for a file that can't be read. The
     // caller keeps the file. Blocks on the link.
@@ -95,10 +98,12 @@ public:
     virtual SRfSupportStatus GetSupportStatus() = 0;
 
     // Last text from an operation; cleared when a request starts.
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     QString GetErrorMessage() const { return m_errorMessage; }
 
 signals:
     // Items that are behind: 0 with an empty result when the first begins, then 1 and up.
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     void Signal_FinishItemCount(int itemFinshCount, SEachItemOperationResult itemResult);
     void Signal_UploadFromFlashDone(bool isAllSuccess,
                                     QVector<SEachItemOperationResult> itemResult);
@@ -123,6 +128,7 @@ protected:
     QString m_errorMessage;
     QVector<SEachItemOperationResult> m_itemResults;
     bool m_isAllSuccess = true;
-    // Asks a flow to end before its next item; taken back by a reset. Nothing sets it yet.
+    // Asks a flow to end before its next item; taken back by a reset. Nothing sets it.
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     std::atomic<bool> m_isStop{false};
 };

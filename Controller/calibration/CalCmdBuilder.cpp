@@ -1,12 +1,10 @@
-// Calibration halves of the command builder: what a page shows goes back into the record.
+#include "Controller/calibration/CalCmdBuilder.h"
+
 #include "Controller/calibration/CalWalks.h"
 #include "Controller/calibration/LossConfig.h"
-#include "Controller/commands/NrCoreCmdBuilder.h"
-#include "Controller/fields/CommandConversions.h"
 #include "Support/Log.h"
 
-SAptRouteBwRecord CNrCoreCmdBuilder::GetAptCmdV7(QJsonObject document,
-                                                 SAptRouteBwRecord record) const
+SAptRouteBwRecord CCalCmdBuilder::GetAptCmdV7(QJsonObject document, SAptRouteBwRecord record) const
 {
     CCalFill fill(document);
     MoveApt(fill, record);
@@ -14,8 +12,8 @@ SAptRouteBwRecord CNrCoreCmdBuilder::GetAptCmdV7(QJsonObject document,
 }
 
 SMMType1PathlossByRouteV7
-CNrCoreCmdBuilder::GetType1PathLossCmdV7(const QJsonObject &document,
-                                         SMMType1PathlossByRouteV7 record) const
+CCalCmdBuilder::GetType1PathLossCmdV7(const QJsonObject &document,
+                                      SMMType1PathlossByRouteV7 record) const
 {
     const SLossConfig config = ReadLossConfig(document);
     qCDebug(lcCommand) << "GetType1PathLossCmdV7: powerMode:" << config.powerMode;
@@ -25,8 +23,8 @@ CNrCoreCmdBuilder::GetType1PathLossCmdV7(const QJsonObject &document,
 }
 
 SMMType2PathlossByRouteV7
-CNrCoreCmdBuilder::GetType2PathLossCmdV7(const QJsonObject &document,
-                                         SMMType2PathlossByRouteV7 record) const
+CCalCmdBuilder::GetType2PathLossCmdV7(const QJsonObject &document,
+                                      SMMType2PathlossByRouteV7 record) const
 {
     const SLossConfig config = ReadLossConfig(document);
     // The words of the response, which users' log filters know for both.

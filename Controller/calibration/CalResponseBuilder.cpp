@@ -1,7 +1,7 @@
-// Calibration halves of the response builder: a record goes into the document for the page to show.
+#include "Controller/calibration/CalResponseBuilder.h"
+
 #include "Controller/calibration/CalWalks.h"
 #include "Controller/calibration/LossConfig.h"
-#include "Controller/responses/NrDataModelResponseBuilder.h"
 #include "Model/ModelText.h"
 
 namespace {
@@ -25,37 +25,35 @@ QStringList SlotCaptions(const SMMRfRxGainInfoV7 &gains)
 
 }  // namespace
 
-std::string CNrDataModelResponseBuilder::GetAptDataModelV7(QJsonObject document,
-                                                           SAptRouteBwRecord record) const
+std::string CCalResponseBuilder::GetAptDataModelV7(QJsonObject document,
+                                                   SAptRouteBwRecord record) const
 {
     CCalShow show(document);
     MoveApt(show, record);
     return ModelToText(document);
 }
 
-const SMMRfRxGainInfoV7 *CNrDataModelResponseBuilder::GainsFor(const QJsonObject &document) const
+const SMMRfRxGainInfoV7 *CCalResponseBuilder::GainsFor(const QJsonObject &document) const
 {
     return m_target.GetSupportRxGainInfoV7(
         ERadioKind::Nr, ShownPowerMode(ReadLossConfig(document).powerMode).gainMode);
 }
 
-std::string
-CNrDataModelResponseBuilder::GetType1PathLossDataModelV7(QJsonObject document,
-                                                         SMMType1PathlossByRouteV7 record) const
+std::string CCalResponseBuilder::GetType1PathLossDataModelV7(QJsonObject document,
+                                                             SMMType1PathlossByRouteV7 record) const
 {
     return ShowType1PathLoss(document, record, GainsFor(document));
 }
 
-std::string
-CNrDataModelResponseBuilder::GetType2PathLossDataModelV7(QJsonObject document,
-                                                         SMMType2PathlossByRouteV7 record) const
+std::string CCalResponseBuilder::GetType2PathLossDataModelV7(QJsonObject document,
+                                                             SMMType2PathlossByRouteV7 record) const
 {
     return ShowType2PathLoss(document, record, GainsFor(document));
 }
 
-std::string CNrDataModelResponseBuilder::ShowType1PathLoss(QJsonObject document,
-                                                           SMMType1PathlossByRouteV7 record,
-                                                           const SMMRfRxGainInfoV7 *gains) const
+std::string CCalResponseBuilder::ShowType1PathLoss(QJsonObject document,
+                                                   SMMType1PathlossByRouteV7 record,
+                                                   const SMMRfRxGainInfoV7 *gains) const
 {
     const SPowerMode &mode = ShownPowerMode(ReadLossConfig(document).powerMode);
     SLossView view{mode.half};
@@ -70,9 +68,9 @@ std::string CNrDataModelResponseBuilder::ShowType1PathLoss(QJsonObject document,
 }
 
 // Without the supported gains nobody can tell which gain a column stands for.
-std::string CNrDataModelResponseBuilder::ShowType2PathLoss(QJsonObject document,
-                                                           SMMType2PathlossByRouteV7 record,
-                                                           const SMMRfRxGainInfoV7 *gains) const
+std::string CCalResponseBuilder::ShowType2PathLoss(QJsonObject document,
+                                                   SMMType2PathlossByRouteV7 record,
+                                                   const SMMRfRxGainInfoV7 *gains) const
 {
     const SLossConfig config = ReadLossConfig(document);
     LogType2Config(config);

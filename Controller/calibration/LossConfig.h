@@ -6,10 +6,14 @@
 //   ShownPowerMode(config.powerMode).half;   // &SMMLossPair::hpm for "HPM"
 #pragma once
 
+#include <array>
+#include <optional>
+
 #include <QJsonObject>
 #include <QString>
 
 #include "Operations/calibration/CalRecords.h"
+#include "Vond/VondCapabilityRecords.h"
 
 struct SLossConfig
 {
@@ -22,6 +26,14 @@ struct SLossConfig
 // The packaged selection; a text that is no number counts as 0.
 SLossConfig ReadLossConfig(const QJsonObject &document);
 void LogType2Config(const SLossConfig &config);
+
+constexpr uint32_t kPowerModes = 2;
+// The gains that the DUT supports.
+struct SSupportedGains
+{
+    // By SPowerMode::gainMode; none where the read failed.
+    std::array<std::optional<SMMRfRxGainInfoV7>, kPowerModes> byMode{};
+};
 
 struct SPowerMode
 {

@@ -1,25 +1,19 @@
-// Turns the packaged document of a page into the record that goes to the target.
+// Turns the packaged document of a page into the command record that goes to the target.
 //
-// A builder reads only memberValue objects, at fixed paths, takes the document by value and returns
-// the record by value, zeroed where the document says nothing. The calibration builders take the
-// record as it is and give it back with what the page shows: the rest of it stays. They ask the
-// members' options and limits as well, so as to leave alone a value that a page has merely shown
-// (CalEditor.h).
+// A builder reads only memberValue objects, at fixed paths. It takes the document by value and
+// returns the record by value, zeroed where the document says nothing. What fills which field
+// stands in the tables of the sources that carry this name; the record headers give each field's
+// unit. The documents of calibration pages have a builder of their own (CalCmdBuilder.h).
 //
 // A builder holds no state and never fails outward: a missing key reads as an empty text, and so as
-// 0 or an enumeration's default; of a calibration record it leaves its field alone. The two
-// receiver commands with a route kind ask the cached route table for it, so builders run under the
-// core's lock.
-//
-// Values travel as texts; the record headers give each field's unit. What fills which field stands
-// in the tables of the sources that carry this name and, for calibration, CalWalks.cpp.
+// 0 or an enumeration's default. The two receiver commands with a route kind ask the cached route
+// table for it, so builders run under the core's lock.
 //
 //   const SMMContRxCmdV7 command = builder.GetContRxCmdV7(document);
 #pragma once
 
 #include <QJsonObject>
 
-#include "Operations/calibration/CalRecords.h"
 #include "Operations/capability/TargetCapability.h"
 #include "Vond/VondCommandRecords.h"
 
@@ -42,14 +36,6 @@ public:
     // The two steps of the RSSI page: the second runs with the gains that the first has found.
     SMMGainSearchCmdV7 GetGainSearchCmdV7(QJsonObject document) const;
     SMMRssiCmdV7 GetRssiCmdV7(QJsonObject document) const;
-
-    SAptRouteBwRecord GetAptCmdV7(QJsonObject document, SAptRouteBwRecord record) const;
-    // Stores the losses of the page's power mode; those of the other mode stay.
-    SMMType1PathlossByRouteV7 GetType1PathLossCmdV7(const QJsonObject &document,
-                                                    SMMType1PathlossByRouteV7 record) const;
-    // Stores the losses of the page's power mode, path, gain mode and subband.
-    SMMType2PathlossByRouteV7 GetType2PathLossCmdV7(const QJsonObject &document,
-                                                    SMMType2PathlossByRouteV7 record) const;
 
 private:
     CTargetCapability m_target;

@@ -1,30 +1,92 @@
 #include "Controller/core/CalItemTable.h"
 
+#include <algorithm>
+#include <array>
+
+#include "Controller/calibration/AptDocument.h"
+#include "Controller/calibration/PathLossDocument.h"
+
 namespace {
 
-// A row's position is its id.
-constexpr const char *kCalItems[] = {"RX PathLoss", "APT Profile"};
+template <typename Item>
+std::unique_ptr<ICalItemByL1Operation> Make()
+{
+    return std::make_unique<Item>(ERadioKind::Nr);
+}
+
+template <typename Item, auto ShowDocument>
+std::optional<std::string> Show(const ICalItemByL1Operation &item, const QJsonObject &document,
+                                const SSupportedGains &gains)
+{
+    return ShowDocument(static_cast<const Item &>(item), document, gains);
+}
+
+template <typename Item, auto StoreDocument>
+void Store(ICalItemByL1Operation &item, const QJsonObject &document)
+{
+    StoreDocument(static_cast<Item &>(item), document);
+}
+
+constexpr std::array kCalItems = {
+    SCalItemRow{.id = ECalItem::PathLoss,
+                .name = "RX PathLoss",
+                .page = EPageId::RxPathLoss,
+                .showsGains = true,
+                .make = &Make<CMultiRatPathLossV7>,
+                .show = &Show<CMultiRatPathLossV7, ShowPathLossDocument>,
+                .store = &Store<CMultiRatPathLossV7, StorePathLossDocument>},
+    SCalItemRow{.id = ECalItem::Apt,
+                .name = "APT Profile",
+                .page = EPageId::AptProfile,
+                .showsGains = false,
+                .make = &Make<CMultiRatAptProfileV7>,
+                .show = &Show<CMultiRatAptProfileV7, ShowAptDocument>,
+                .store = &Store<CMultiRatAptProfileV7, StoreAptDocument>},
+};
+
+constexpr bool PositionsAreIds()
+{
+    for (size_t i = 0; i < kCalItems.size(); ++i) {
+        if (Index(kCalItems[i].id) != i)
+            return false;
+    }
+    return kCalItems.size() == kCalItemCount;
+}
+static_assert(PositionsAreIds(), "kCalItems is indexed by item id");
+
+template <typename Matches>
+std::optional<ECalItem> Find(Matches matches)
+{
+    const auto *const row = std::find_if(kCalItems.begin(), kCalItems.end(), matches);
+    return row == kCalItems.end() ? std::nullopt : std::optional(row->id);
+}
 
 }  // namespace
 
+const SCalItemRow &FindCalItem(ECalItem item)
+{
+    return kCalItems[Index(item)];
+}
+
 QString CalItemName(ECalItem item)
 {
-    return QString::fromLatin1(kCalItems[static_cast<int>(item)]);
+    return QString::fromLatin1(FindCalItem(item).name);
 }
 
 QStringList CalItemNames()
 {
     QStringList names;
-    for (const char *name : kCalItems)
-        names.append(QString::fromLatin1(name));
+    for (const SCalItemRow &row : kCalItems)
+        names.append(QString::fromLatin1(row.name));
     return names;
 }
 
-QMap<QString, int> BuildCalItemMap()
+std::optional<ECalItem> CalItemByName(const QString &name)
 {
-    QMap<QString, int> map;
-    const QStringList names = CalItemNames();
-    for (int id = 0; id < names.size(); ++id)
-        map.insert(names[id], id);
-    return map;
+    return Find([&](const SCalItemRow &row) { return name == QLatin1String(row.name); });
+}
+
+std::optional<ECalItem> CalItemOfPage(EPageId page)
+{
+    return Find([page](const SCalItemRow &row) { return row.page == page; });
 }

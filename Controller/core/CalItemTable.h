@@ -1,23 +1,58 @@
-// The table of calibration items: item names and ids.
+// The table of calibration items: all that the core knows of an item, one row an item.
 //
-// An item's name is what travels through the requests; the id is what the core switches on.
-// Constant data, any thread.
+// An item's name travels through the requests. The core turns it into the item's id once; inside it
+// is the id, which is the place of the row. The four flows are the operations of
+// ICalItemByL1Operation. Constant data, any thread.
 //
-//   CalItemName(ECalItem::Apt);   // "APT Profile"
+//   const std::optional<ECalItem> item = CalItemByName("APT Profile");   // ECalItem::Apt
+//   m_items[Index(*item)].operation = FindCalItem(*item).make();
 #pragma once
 
-#include <QMap>
+#include <memory>
+#include <optional>
+#include <string>
+
 #include <QString>
 #include <QStringList>
+
+#include "Controller/core/PageId.h"
+
+class ICalItemByL1Operation;
+class QJsonObject;
+struct SSupportedGains;
 
 enum class ECalItem
 {
     PathLoss = 0,
     Apt = 1,
+    Count,
+};
+constexpr size_t kCalItemCount = static_cast<size_t>(ECalItem::Count);
+
+constexpr size_t Index(ECalItem item)
+{
+    return static_cast<size_t>(item);
+}
+
+struct SCalItemRow
+{
+    ECalItem id;
+    const char *name;
+    EPageId page;     // that shows the item's records
+    bool showsGains;  // the page shows values by the gains that the DUT supports
+    // An item without a valid record.
+    std::unique_ptr<ICalItemByL1Operation> (*make)();
+    // The record that a packaged document selects: the document with it (none: there is no such
+    // record), and what the page shows taken over. The item is one that make has made.
+    std::optional<std::string> (*show)(const ICalItemByL1Operation &item,
+                                       const QJsonObject &document, const SSupportedGains &gains);
+    void (*store)(ICalItemByL1Operation &item, const QJsonObject &document);
 };
 
+const SCalItemRow &FindCalItem(ECalItem item);
 QString CalItemName(ECalItem item);
 // All names, by id.
 QStringList CalItemNames();
-// Item name to item id.
-QMap<QString, int> BuildCalItemMap();
+std::optional<ECalItem> CalItemByName(const QString &name);
+// The item whose records a page shows, if it is such a page.
+std::optional<ECalItem> CalItemOfPage(EPageId page);

@@ -2,8 +2,6 @@
 
 #include <exception>
 
-#include "Controller/core/CalItemTable.h"
-#include "Controller/core/PageTable.h"
 #include "Model/ModelResources.h"
 #include "Operations/link/TargetLink.h"
 #include "Support/CalIniFile.h"
@@ -28,7 +26,7 @@ CNrCore &GetCore()
     return *core;
 }
 
-CNrCore::CNrCore() : m_pageMap(BuildPageMap()), m_calItemMap(BuildCalItemMap())
+CNrCore::CNrCore()
 {
     InitModelResources();
 }
@@ -46,11 +44,6 @@ QString CNrCore::GetPageName(int pageId) const
 QString CNrCore::GetCalItemName(int itemId) const
 {
     return CalItemName(static_cast<ECalItem>(itemId));
-}
-
-EPageId CNrCore::PageId(const QString &name) const
-{
-    return static_cast<EPageId>(m_pageMap.value(name, static_cast<int>(EPageId::ErrorPage)));
 }
 
 void CNrCore::DropCaches()
@@ -126,10 +119,11 @@ void CNrCore::GetCalItemInFile(QStringList &out, CCalIniFile *file)
     GetAllCalItem(items);
     RenewCalItems();
     out.clear();
-    for (const QString &item : items) {
+    for (const QString &name : items) {
         try {
-            if (file && FindCalItem(item)->IsInFile(*file))
-                out.append(item);
+            const std::optional<ECalItem> item = CalItemByName(name);
+            if (file && item && CalItem(*item).operation->IsInFile(*file))
+                out.append(name);
         } catch (const std::exception &failure) {
             qCCritical(lcCore) << "no items of a file:" << failure.what();
         }

@@ -16,6 +16,10 @@
 // page changes its selection while the target works for another one. Signals are emitted on pool
 // threads.
 //
+// Pages and calibration items travel by their names through the requests. Each request turns the
+// name into the id of its table at once; inside it is the id. What there is of a page or an item is
+// its row (PageTable.h, CalItemTable.h).
+//
 // Tests that go on until a stop are known to the core from their start on, each with the handle of
 // its start (RunningTests.h): it stops them when nobody shows them any more, and no other handle's.
 //
@@ -27,24 +31,16 @@
 #include <atomic>
 #include <optional>
 
-#include <QMap>
-
 #include "Controller/Interface/CoreInterface.h"
+#include "Controller/calibration/LossConfig.h"
 #include "Controller/capability/NrDataModelCapUpdater.h"
-#include "Controller/commands/NrCoreCmdBuilder.h"
 #include "Controller/core/CalItemTable.h"
 #include "Controller/core/PageTable.h"
 #include "Controller/core/RunningTests.h"
-#include "Controller/responses/NrDataModelResponseBuilder.h"
+#include "Controller/core/TestSteps.h"
 #include "Model/OperationResult.h"
-#include "Operations/calibration/MultiRatAptProfileV7.h"
-#include "Operations/calibration/MultiRatPathLossV7.h"
+#include "Operations/calibration/CalItemByL1Operation.h"
 #include "Operations/capability/TargetCapability.h"
-#include "Operations/tests/MultiRatContRxV7.h"
-#include "Operations/tests/MultiRatRssiV7.h"
-#include "Operations/tests/MultiRatSingleToneTxV7.h"
-#include "Operations/tests/NrPuschTxV7.h"
-#include "Operations/tests/NrRsrpV7.h"
 #include "Operations/tests/TestStop.h"
 #include "Support/Lock.h"
 #include "Support/Turns.h"
@@ -75,6 +71,7 @@ public:
     void Stop() override;
     // Stops a running test on the pool: an NR one (PUSCH, RSRP) or a multi-RAT one (single tone,
     // continuous RX).
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     void TestStopStart(bool isNr);
 
     // The same, asked for at an earlier moment: what was called off since then does not reach the
@@ -82,9 +79,9 @@ public:
     uint64_t Moment() const { return m_runningTests.Moment(); }
     void Test(QString pageName, std::string document, uint64_t asked);
     // Pool threads only. Stops the page's test, under the handle of its start; for a page without
-    // one, and for an empty name, the last test of that kind, or what runs under the current
-    // handle. A test that was stopped since the question, with all others, is not stopped again.
-    SEachItemOperationResult StopTest(bool isNr, const QString &pageName, uint64_t asked);
+    // one, and without a page, the last test of that kind, or what runs under the current handle. A
+    // test that was stopped since the question, with all others, is not stopped again.
+    SEachItemOperationResult StopTest(EStop kind, std::optional<EPageId> page, uint64_t asked);
 
     // RF off, in two steps. On any thread, without waiting: calls off the starts that have not
     // reached the target, and is next at the target. On a pool thread that waits for no other job:
@@ -114,10 +111,24 @@ public:
     // shows. Storing makes no record valid. On another generation Get answers with an empty text
     // and Set does nothing. Any thread; they work on what is in memory and wait for no job but a
     // flow of their own item, once the page has its document.
-    std::string GetAptCalibrationData(std::string document);
-    void SetAptCalibrationData(const std::string &document);
-    std::string GetPathLossCalibrationData(std::string document);
-    void SetPathLossCalibrationData(const std::string &document);
+    std::string GetCalibrationData(ECalItem item, const std::string &document);
+    void SetCalibrationData(ECalItem item, const std::string &document);
+    std::string GetAptCalibrationData(std::string document)
+    {
+        return GetCalibrationData(ECalItem::Apt, document);
+    }
+    void SetAptCalibrationData(const std::string &document)
+    {
+        SetCalibrationData(ECalItem::Apt, document);
+    }
+    std::string GetPathLossCalibrationData(std::string document)
+    {
+        return GetCalibrationData(ECalItem::PathLoss, document);
+    }
+    void SetPathLossCalibrationData(const std::string &document)
+    {
+        SetCalibrationData(ECalItem::PathLoss, document);
+    }
 
     // Returns when the job that runs has ended. Pool threads only.
     void WaitForTurn();
@@ -130,6 +141,7 @@ signals:
     // status 0 means started: a continuous test goes on until a stop. resultModel is the document
     // with results, of the pages that answer with one.
     void Signal_TestDone(SEachItemOperationResult itemResult, std::string resultModel);
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     void Signal_TestStopDone(SEachItemOperationResult itemResult);
     // The first test runs, or none does any more.
     void Signal_TestsRun(bool isAny);
@@ -142,9 +154,8 @@ protected:
     void TestInternal(const QString &pageName, const std::string &document, uint64_t asked);
     void TestStopInternal(bool isNr, uint64_t asked);
 
-    std::string GetDataModelV7(const QString &pageName);
-    std::string LoadDataModel(const QString &pageName, const SPageRow &page,
-                              const QString &resource);
+    std::string GetDataModelV7(EPageId page);
+    std::string LoadDataModel(const SPageRow &page, const QString &resource);
 
 private:
     struct SCalFlow;  // one of the four moves
@@ -153,25 +164,19 @@ private:
     {
         bool isKnown = false;
         int generation = 0;
-        // Supported gains by power mode, of path loss; none when the read failed.
-        std::array<std::optional<SMMRfRxGainInfoV7>, 2> gains;
+        SSupportedGains gains;
     };
-
-    struct STestRun  // a test on its way
+    // A calibration item with its records.
+    struct SCalItem
     {
-        QString page;
-        uint64_t asked;
-        std::string answer;  // the document with results, of the page that answers with one
+        std::unique_ptr<ICalItemByL1Operation> operation;
+        PortableCriticalSection lock;  // of the records; taken behind m_targetLock or without it
+        SCalView view;                 // under m_viewLock
     };
 
     SRfSupportStatus DecideSupportStatus();
     bool IsC2kModem() const;
-    // ErrorPage for a name that no page has.
-    EPageId PageId(const QString &name) const;
-    int RunTestStep(STestRun &run, QJsonObject document);
-    template <auto Build, auto Operation, auto Run, EStop Kind>
-    int RunCommand(STestRun &run, QJsonObject &document);
-    int RunRssiTest(STestRun &run, QJsonObject &document);
+    int RunTestStep(const SPageRow &page, STestRun &run, QJsonObject document);
     // Sends one stop; its text, if it failed.
     uint32_t SendStop(const STargetStop &stop, QString &message);
     void QueueStops();
@@ -188,44 +193,29 @@ private:
     // Items without records in place of those of an earlier connection: what was read of one DUT is
     // not for the next.
     void RenewCalItems();
-    ICalItemByL1Operation *FindCalItem(const QString &name);
-    void TellRemarks(const QString &name);
+    SCalItem &CalItem(ECalItem item) { return m_calItems[Index(item)]; }
+    void TellRemarks(ECalItem item);
     // Of the item's page; the capability reads are cached.
-    std::unique_ptr<ICalPageLimits> PageLimits(const QString &name);
+    std::unique_ptr<ICalPageLimits> PageLimits(ECalItem item);
     // Under m_targetLock.
     void LookForCalItem(ECalItem item);
     SCalView CalView(ECalItem item);
-    PortableCriticalSection &RecordLock(ECalItem item);
-    template <typename Record, typename Build, typename Walk>
-    void StorePathLoss(uint16_t route, const QJsonObject &object, Build build, Walk walk);
     // The status of the move; its text is in m_errorMessage then.
-    int RunCalItem(const SCalFlow &flow, const QString &name, CCalIniFile *file);
+    int RunCalItem(const SCalFlow &flow, ECalItem item, CCalIniFile *file);
 
     CTurns m_targetLock;
-    // By item, taken behind m_targetLock or without it.
-    std::array<PortableCriticalSection, 2> m_recordLocks;
     PortableCriticalSection m_viewLock;  // the innermost one
-    std::array<SCalView, 2> m_calViews;  // by item
+    std::array<SCalItem, kCalItemCount> m_calItems;
     CTargetCapability m_target;
-    QMap<QString, int> m_pageMap;     // page name to page id
-    QMap<QString, int> m_calItemMap;  // calibration item name to item id
     CRunningTests m_runningTests{[this](bool isAny) { emit Signal_TestsRun(isAny); }};
     std::atomic<bool> m_areStopsDue{false};  // a job is to stop what runs
     std::atomic<bool> m_isDropDue{false};    // and then to drop the caches
+    STestOperations m_operations;
     CNrTestStop m_nrTestStop;
-    CNrPuschTxV7 m_puschTx;
-    CMultiRatSingleToneTxV7 m_singleToneTx;
-    CNrRsrpV7 m_rsrp;
-    CMultiRatContRxV7 m_contRx;
     CMultiRatTestStopV7 m_testStop;
-    CMultiRatRssiV7 m_rssi;
-    std::unique_ptr<CMultiRatAptProfileV7> m_aptProfile;
-    std::unique_ptr<CMultiRatPathLossV7> m_pathLoss;
     std::atomic<bool> m_areItemsStale{true};  // their records are of an earlier connection
     CNrDataModelCapUpdater m_capUpdater;
     std::atomic<bool> m_isUpdaterStale{true};  // its caches are of an earlier connection
-    CNrCoreCmdBuilder m_cmdBuilder;
-    CNrDataModelResponseBuilder m_responseBuilder;
 };
 
 CNrCore &GetCore();

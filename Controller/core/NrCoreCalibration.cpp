@@ -1,9 +1,9 @@
 // Calibration flows of the core.
+#include <deque>
 #include <exception>
 
 #include "Controller/calibration/CalPageLimits.h"
 #include "Controller/calibration/CalRemarkText.h"
-#include "Controller/core/CalItemTable.h"
 #include "Controller/core/NrCore.h"
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
@@ -27,65 +27,48 @@ struct CNrCore::SCalFlow
 };
 
 const CNrCore::SCalFlow CNrCore::SCalFlow::kUpload = {
-    "[CNrCore]UploadFromFlashStart()",
-    "[CNrCore]UploadFromFlashInternal---itemCount",
-    "UploadFromFlashInternal()",
-    "[CNrCore]UploadFromFlashInternal()--",
-    [](ICalItemByL1Operation &item, CCalIniFile *) { return item.UploadFromFlash(); },
-    kCalGeneralError,
-    false,
-    &IRfCoreCalDataOperation::Signal_UploadFromFlashDone,
+    .startLog = "[CNrCore]UploadFromFlashStart()",
+    .countLog = "[CNrCore]UploadFromFlashInternal---itemCount",
+    .itemLog = "UploadFromFlashInternal()",
+    .endLog = "[CNrCore]UploadFromFlashInternal()--",
+    .move = [](ICalItemByL1Operation &item, CCalIniFile *) { return item.UploadFromFlash(); },
+    .thrownStatus = kCalGeneralError,
+    .looksAtValues = false,
+    .done = &IRfCoreCalDataOperation::Signal_UploadFromFlashDone,
 };
 
 const CNrCore::SCalFlow CNrCore::SCalFlow::kDownload = {
-    "[CNrCore]DownloadToFlashStart()",
-    "[CNrCore] DownloadToFlashInternal--- itemCount",
-    "[CNrCore] DownloadToFlashInternal()",
-    "[CNrCore]DownloadToFlashInternal()--",
-    [](ICalItemByL1Operation &item, CCalIniFile *) { return item.DownloadToFlash(); },
-    kCalGeneralError,
-    false,
-    &IRfCoreCalDataOperation::Signal_DownloadToFlashDone,
+    .startLog = "[CNrCore]DownloadToFlashStart()",
+    .countLog = "[CNrCore] DownloadToFlashInternal--- itemCount",
+    .itemLog = "[CNrCore] DownloadToFlashInternal()",
+    .endLog = "[CNrCore]DownloadToFlashInternal()--",
+    .move = [](ICalItemByL1Operation &item, CCalIniFile *) { return item.DownloadToFlash(); },
+    .thrownStatus = kCalGeneralError,
+    .looksAtValues = false,
+    .done = &IRfCoreCalDataOperation::Signal_DownloadToFlashDone,
 };
 
 const CNrCore::SCalFlow CNrCore::SCalFlow::kLoad = {
-    nullptr,
-    "[CNrCore] LoadFromFileInternal--- itemCount",
-    "[CNrCore] LoadFromFileInternal()",
-    "[CNrCore] LoadFromFileInternal---",
-    [](ICalItemByL1Operation &item, CCalIniFile *file) { return item.LoadFromFile(file); },
-    kCalNoFile,
-    true,
-    &IRfCoreCalDataOperation::Signal_LoadFromFileDone,
+    .startLog = nullptr,
+    .countLog = "[CNrCore] LoadFromFileInternal--- itemCount",
+    .itemLog = "[CNrCore] LoadFromFileInternal()",
+    .endLog = "[CNrCore] LoadFromFileInternal---",
+    .move = [](ICalItemByL1Operation &item, CCalIniFile *file) { return item.LoadFromFile(file); },
+    .thrownStatus = kCalNoFile,
+    .looksAtValues = true,
+    .done = &IRfCoreCalDataOperation::Signal_LoadFromFileDone,
 };
 
 const CNrCore::SCalFlow CNrCore::SCalFlow::kSave = {
-    nullptr,
-    "[CNrCore] SaveToFileInternal--- itemCount",
-    "[CNrCore] SaveToFileInternal()",
-    "[CNrCore] SaveToFileInternal---",
-    [](ICalItemByL1Operation &item, CCalIniFile *file) { return item.SaveToFile(file); },
-    kCalNoFile,
-    false,
-    &IRfCoreCalDataOperation::Signal_SaveToFileDone,
+    .startLog = nullptr,
+    .countLog = "[CNrCore] SaveToFileInternal--- itemCount",
+    .itemLog = "[CNrCore] SaveToFileInternal()",
+    .endLog = "[CNrCore] SaveToFileInternal---",
+    .move = [](ICalItemByL1Operation &item, CCalIniFile *file) { return item.SaveToFile(file); },
+    .thrownStatus = kCalNoFile,
+    .looksAtValues = false,
+    .done = &IRfCoreCalDataOperation::Signal_SaveToFileDone,
 };
-
-void IRfCoreCalDataOperation::ResetItemResults()
-{
-    m_isAllSuccess = true;
-    m_itemResults.clear();
-    m_errorMessage.clear();
-}
-
-void IRfCoreCalDataOperation::AddItemResult(const QString &item, int status, const QString &message)
-{
-    m_itemResults.append({item, status, message});
-}
-
-SEachItemOperationResult IRfCoreCalDataOperation::GetItemResult(int index) const
-{
-    return m_itemResults.value(index);
-}
 
 void CNrCore::UploadFromFlashStart(QStringList items)
 {
@@ -152,81 +135,75 @@ void CNrCore::RunFlowItems(const SCalFlow &flow, const QStringList &items, CCalI
         if (i == 0)
             emit Signal_FinishItemCount(0, {});
         qCDebug(lcCore) << flow.itemLog << items[i];
-        if (FindCalItem(items[i]))
-            status = RunCalItem(flow, items[i], file);
+        const std::optional<ECalItem> item = CalItemByName(items[i]);
+        if (item)
+            status = RunCalItem(flow, *item, file);
         if (status != eStatusSuccess)
             m_isAllSuccess = false;
-        TellRemarks(items[i]);
+        if (item)
+            TellRemarks(*item);
         AddItemResult(items[i], status, m_errorMessage);
         emit Signal_FinishItemCount(i + 1, GetItemResult(i));
     }
 }
 
-void CNrCore::TellRemarks(const QString &name)
+void CNrCore::TellRemarks(ECalItem item)
 {
-    const ICalItemByL1Operation *item = FindCalItem(name);
-    const SCalRemarks remarks = item ? CalRemarksOf(item->Remarks()) : SCalRemarks();
+    const SCalRemarks remarks = CalRemarksOf(CalItem(item).operation->Remarks());
     if (!remarks.IsEmpty())
-        emit Signal_CalRemarks(name, remarks);
+        emit Signal_CalRemarks(CalItemName(item), remarks);
 }
 
 void CNrCore::RenewCalItems()
 {
     if (!m_areItemsStale.exchange(false))
         return;
-    const CLockSentry pathLoss(RecordLock(ECalItem::PathLoss));
-    const CLockSentry apt(RecordLock(ECalItem::Apt));
+    std::deque<CLockSentry> locks;
+    std::array<std::unique_ptr<ICalItemByL1Operation>, kCalItemCount> made;
     try {
-        auto aptProfile = std::make_unique<CMultiRatAptProfileV7>(ERadioKind::Nr);
-        m_pathLoss = std::make_unique<CMultiRatPathLossV7>(ERadioKind::Nr);
-        m_aptProfile = std::move(aptProfile);
+        for (SCalItem &item : m_calItems)
+            locks.emplace_back(item.lock);
+        for (size_t i = 0; i < kCalItemCount; ++i) {
+            const SCalItemRow &row = FindCalItem(static_cast<ECalItem>(i));
+            made[i] = row.make();
+            made[i]->SetProgress(
+                [this, name = CalItemName(row.id)](int round, int routesDone, int routesInAll) {
+                    emit Signal_CalProgress(name, round, routesDone, routesInAll);
+                    m_targetLock.GiveWay();  // between two rounds, to a stop of all tests
+                });
+        }
     } catch (...) {
         m_areItemsStale.store(true);  // the next job must not find the last DUT's records
         throw;
     }
-    const QStringList names = m_calItemMap.keys();
-    for (const QString &name : names) {
-        FindCalItem(name)->SetProgress([this, name](int round, int routesDone, int routesInAll) {
-            emit Signal_CalProgress(name, round, routesDone, routesInAll);
-            m_targetLock.GiveWay();  // between two rounds, to a stop of all tests
-        });
-    }
+    for (size_t i = 0; i < kCalItemCount; ++i)
+        m_calItems[i].operation = std::move(made[i]);
 }
 
-ICalItemByL1Operation *CNrCore::FindCalItem(const QString &name)
+std::unique_ptr<ICalPageLimits> CNrCore::PageLimits(ECalItem item)
 {
-    const auto id = m_calItemMap.find(name);
-    if (id == m_calItemMap.end())
-        return nullptr;
-    if (static_cast<ECalItem>(*id) == ECalItem::PathLoss)
-        return m_pathLoss.get();
-    return m_aptProfile.get();
-}
-
-// A calibration page bears its item's name.
-std::unique_ptr<ICalPageLimits> CNrCore::PageLimits(const QString &name)
-{
-    const SPageRow &page = FindPage(static_cast<EPageId>(m_pageMap.value(name)));
+    const SPageRow &page = FindPage(FindCalItem(item).page);
     return std::make_unique<CCalPageLimits>(
-        ModelFromText(LoadDataModel(name, page, QString::fromLatin1(page.resource))));
+        ModelFromText(LoadDataModel(page, QString::fromLatin1(page.resource))));
 }
 
-int CNrCore::RunCalItem(const SCalFlow &flow, const QString &name, CCalIniFile *file)
+int CNrCore::RunCalItem(const SCalFlow &flow, ECalItem item, CCalIniFile *file)
 {
-    const CLockSentry lock(RecordLock(static_cast<ECalItem>(m_calItemMap.value(name))));
-    ICalItemByL1Operation &item = *FindCalItem(name);
+    const CLockSentry lock(CalItem(item).lock);
+    ICalItemByL1Operation &operation = *CalItem(item).operation;
     try {
         const std::unique_ptr<ICalPageLimits> limits =
-            flow.looksAtValues ? PageLimits(name) : nullptr;
-        item.SetPageLimits(limits.get());
-        const uint32_t status = flow.move(item, file);
-        m_errorMessage = item.GetErrorMessage();
+            flow.looksAtValues ? PageLimits(item) : nullptr;
+        operation.SetPageLimits(limits.get());
+        const uint32_t status = flow.move(operation, file);
+        m_errorMessage = operation.GetErrorMessage();
         return static_cast<int>(status);
     } catch (const std::exception &failure) {
         m_errorMessage = QString::fromUtf8(failure.what());
     } catch (...) {
         m_errorMessage.clear();
     }
-    qCCritical(lcCore) << flow.itemLog << "ended by an exception" << name << m_errorMessage;
+    qCCritical(lcCore) << flow.itemLog << "ended by an exception" << CalItemName(item)
+                       << m_errorMessage;
     return static_cast<int>(flow.thrownStatus);
 }

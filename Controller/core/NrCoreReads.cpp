@@ -1,6 +1,5 @@
 // Reads of the core beside a test: power detector, DL frequency, RSRP report, RSSI gains.
 #include "Controller/core/NrCore.h"
-#include "Controller/core/PageTable.h"
 #include "Model/JsonPath.h"
 #include "Model/ModelIntegrity.h"
 #include "Model/ModelText.h"
@@ -63,20 +62,21 @@ std::string CNrCore::GetPdValue(std::string document)
 {
     return FillDocument(document, [this](QJsonObject &object) {
         int16_t value = 0;
-        const uint32_t status = m_singleToneTx.GetPdValue(kPdNr, &value);
+        const uint32_t status = m_operations.singleToneTx.GetPdValue(kPdNr, &value);
         ShowRead(object, kPdValue, status, QString::number(value * kDbmPerPdUnit, 'g', 6),
-                 m_singleToneTx);
+                 m_operations.singleToneTx);
     });
 }
 
 std::string CNrCore::GetDlFreqForPuschTx(QString pageName, std::string document)
 {
     return FillDocument(document, [this, &pageName](QJsonObject &object) {
-        const bool isNormal = PageId(pageName) == EPageId::PuschTxNormal;
-        const SNrDlFreqCmdV7 command = m_cmdBuilder.GetPuschDlFreqCmd(object, isNormal);
+        const bool isNormal = PageByName(pageName) == EPageId::PuschTxNormal;
+        const SNrDlFreqCmdV7 command = m_operations.commands.GetPuschDlFreqCmd(object, isNormal);
         SNrDlFreqCnfV7 downlink = {};
-        const uint32_t status = m_puschTx.GetDlFreq(&command, &downlink);
-        ShowRead(object, kDlFrequency, status, QString::number(downlink.dlFrequency), m_puschTx);
+        const uint32_t status = m_operations.puschTx.GetDlFreq(&command, &downlink);
+        ShowRead(object, kDlFrequency, status, QString::number(downlink.dlFrequency),
+                 m_operations.puschTx);
     });
 }
 
@@ -86,20 +86,14 @@ std::string CNrCore::FetchMixRxReport(QString pageName, std::string document,
     result = NothingRan();
     return FillDocument(document, [&](QJsonObject &object) {
         NRfTestResult_GetMixRxReportV7 report = {};
-        const uint32_t status = m_rsrp.GetMixRxReport(&report);
-        switch (PageId(pageName)) {
-        case EPageId::RsrpForce:
-            m_responseBuilder.UpdateMixRxResultV7(object, report, status == 0);
-            break;
-        case EPageId::RsrpNormal:
-            m_responseBuilder.UpdateMixRxNormalResultV7(object, report, status == 0);
-            break;
-        default:
+        const uint32_t status = m_operations.rsrp.GetMixRxReport(&report);
+        if (const auto show = FindPage(PageByName(pageName)).showReport)
+            (m_operations.responses.*show)(object, report, status == 0);
+        else
             AddModelUpdateResult(object, false,
                                  QLatin1String("No support such page for fetch MixRX report --> ") +
                                      pageName);
-        }
-        result = {pageName, static_cast<int>(status), m_rsrp.GetErrorMessage()};
+        result = {pageName, static_cast<int>(status), m_operations.rsrp.GetErrorMessage()};
     });
 }
 
@@ -108,14 +102,15 @@ SEachItemOperationResult CNrCore::ResetMixRxCounter()
     const CLockSentry lock(m_targetLock);
     if (m_target.GetNrGeneration() != 1)
         return NothingRan();
-    const uint32_t status = m_rsrp.ResetMixRxReport();
-    return {QString(), static_cast<int>(status), m_rsrp.GetErrorMessage()};
+    const uint32_t status = m_operations.rsrp.ResetMixRxReport();
+    return {QString(), static_cast<int>(status), m_operations.rsrp.GetErrorMessage()};
 }
 
 std::string CNrCore::ClearMixRxReport(std::string document)
 {
-    return FillDocument(
-        document, [this](QJsonObject &object) { m_responseBuilder.CleanMixRxReportV7(object); });
+    return FillDocument(document, [this](QJsonObject &object) {
+        m_operations.responses.CleanMixRxReportV7(object);
+    });
 }
 
 std::string CNrCore::RssiGainCalculate(std::string document, SEachItemOperationResult &result)
@@ -123,11 +118,11 @@ std::string CNrCore::RssiGainCalculate(std::string document, SEachItemOperationR
     result = NothingRan();
     return FillDocument(document, [&](QJsonObject &object) {
         SMMGainSearchCnfV7 gains = {};
-        const uint32_t status =
-            m_rssi.RunGainSearch(m_cmdBuilder.GetGainSearchCmdV7(object), &gains);
+        const uint32_t status = m_operations.rssi.RunGainSearch(
+            m_operations.commands.GetGainSearchCmdV7(object), &gains);
         result.status = static_cast<int>(status);
         if (status != 0)
-            result.message = m_rssi.GetErrorMessage();
-        m_responseBuilder.UpdateRssiGainResultV7(object, gains, status == 0);
+            result.message = m_operations.rssi.GetErrorMessage();
+        m_operations.responses.UpdateRssiGainResultV7(object, gains, status == 0);
     });
 }

@@ -27,16 +27,15 @@ void CNrCore::TestStopStart(bool isNr)
 
 void CNrCore::TestStopInternal(bool isNr, uint64_t asked)
 {
-    StopTest(isNr, QString(), asked);
+    StopTest(isNr ? EStop::Nr : EStop::MultiRat, std::nullopt, asked);
 }
 
-SEachItemOperationResult CNrCore::StopTest(bool isNr, const QString &pageName, uint64_t asked)
+SEachItemOperationResult CNrCore::StopTest(EStop kind, std::optional<EPageId> page, uint64_t asked)
 {
     const CLockSentry lock(m_targetLock);
     SEachItemOperationResult result{QString(), eStatusNotExecuted, QString()};
     try {
-        const EStop kind = isNr ? EStop::Nr : EStop::MultiRat;
-        const std::optional<uint32_t> handle = m_runningTests.HandleOf(kind, pageName);
+        const std::optional<uint32_t> handle = m_runningTests.HandleOf(kind, page);
         if (handle || !m_runningTests.IsCalledOff(asked)) {
             const STargetStop stop{kind, handle.value_or(TargetHandle())};
             result.status = static_cast<int>(SendStop(stop, result.message));
@@ -44,7 +43,8 @@ SEachItemOperationResult CNrCore::StopTest(bool isNr, const QString &pageName, u
             result.status = eStatusSuccess;
         }
     } catch (...) {
-        qCCritical(lcCore) << "CNrCore::StopTest ended by an exception" << pageName;
+        qCCritical(lcCore) << "CNrCore::StopTest ended by an exception"
+                           << (page ? PageName(*page) : QString());
     }
     m_errorMessage = result.message;
     emit Signal_TestStopDone(result);

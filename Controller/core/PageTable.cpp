@@ -1,60 +1,149 @@
 #include "Controller/core/PageTable.h"
 
-#include <iterator>
+#include <algorithm>
+#include <array>
 
 #include "Controller/capability/NrDataModelCapUpdater.h"
+#include "Controller/core/TestSteps.h"
 
 namespace {
 
-// A row's position is its id.
-constexpr SPageRow kPages[] = {
-    {EPageId::Rssi, "RSSI", ":/NrRssiV7.json", &CNrDataModelCapUpdater::UpdateRssiV7},
-    {EPageId::RssiScan, "RSSI Scan", nullptr, nullptr},
-    {EPageId::ContRx, "Continuous RX", ":/NrContRxV7.json",
-     &CNrDataModelCapUpdater::UpdateContRxV7},
-    {EPageId::RouteCalculator, "Route Calculator", nullptr, nullptr},
-    {EPageId::RxPathLoss, "RX PathLoss", ":/NrRxPathLossV7.json",
-     &CNrDataModelCapUpdater::UpdatePathLossV7},
-    {EPageId::RsrpForce, "RSRP Force Mode", ":/NrRsrpForceModeV7.json",
-     &CNrDataModelCapUpdater::UpdateRsrpForceModeV7},
-    {EPageId::RsrpNormal, "RSRP Normal Mode", ":/NrRsrpNormalModeV7.json",
-     &CNrDataModelCapUpdater::UpdateRsrpNormalModeV7},
-    {EPageId::SingleToneTx, "Single Tone TX", ":/NrSingleToneTxV7.json",
-     &CNrDataModelCapUpdater::UpdateSingleToneTxV7},
-    {EPageId::PuschTxForce, "PUSCH TX Force Mode", ":/NrPuschTxForceModeV7.json",
-     &CNrDataModelCapUpdater::UpdatePuschTxForceModeV7},
-    {EPageId::PuschTxNormal, "PUSCH TX Normal Mode", ":/NrPuschTxNormalModeV7.json",
-     &CNrDataModelCapUpdater::UpdatePuschTxNormalModeV7},
-    {EPageId::PrachTx, "PRACH TX", nullptr, nullptr},
-    {EPageId::PucchTx, "PUCCH TX", nullptr, nullptr},
-    {EPageId::SrsTx, "SRS TX", nullptr, nullptr},
-    {EPageId::AptProfile, "APT Profile", ":/NrAptProfileV7.json",
-     &CNrDataModelCapUpdater::UpdateAptProfileV7},
-    {EPageId::CcaBwCalculator, "CCA BW Calculator", nullptr, nullptr},
-    {EPageId::ErrorPage, "Error Page", nullptr, nullptr},
+using Updater = CNrDataModelCapUpdater;
+using Builder = CNrCoreCmdBuilder;
+using Responses = CNrDataModelResponseBuilder;
+using Operations = STestOperations;
+
+constexpr std::array kPages = {
+    SPageRow{.id = EPageId::Rssi,
+             .name = "RSSI",
+             .className = "CNrRssiDockWidgetV7",
+             .tab = 1,
+             .resource = ":/NrRssiV7.json",
+             .driver = &Updater::UpdateRssiV7,
+             .step = &RunRssiTest},
+    SPageRow{.id = EPageId::RssiScan, .name = "RSSI Scan"},
+    SPageRow{.id = EPageId::ContRx,
+             .name = "Continuous RX",
+             .className = "CNrContRxDockWidgetV7",
+             .tab = 3,
+             .resource = ":/NrContRxV7.json",
+             .driver = &Updater::UpdateContRxV7,
+             .step = &RunCommand<&Builder::GetContRxCmdV7, &Operations::contRx,
+                                 &CMultiRatContRxV7::RunContRx>,
+             .stop = EStop::MultiRat},
+    SPageRow{.id = EPageId::RouteCalculator, .name = "Route Calculator"},
+    SPageRow{.id = EPageId::RxPathLoss,
+             .name = "RX PathLoss",
+             .className = "CNrRxPathlossDockWidgetV7",
+             .tab = 2,
+             .resource = ":/NrRxPathLossV7.json",
+             .driver = &Updater::UpdatePathLossV7},
+    SPageRow{.id = EPageId::RsrpForce,
+             .name = "RSRP Force Mode",
+             .className = "CNrRsrpForceDockWidgetV7",
+             .tab = 4,
+             .resource = ":/NrRsrpForceModeV7.json",
+             .driver = &Updater::UpdateRsrpForceModeV7,
+             .step =
+                 &RunCommand<&Builder::GetRsrpForceCmdV7, &Operations::rsrp, &CNrRsrpV7::RunRsrp>,
+             .stop = EStop::Nr,
+             .showReport = &Responses::UpdateMixRxResultV7},
+    SPageRow{.id = EPageId::RsrpNormal,
+             .name = "RSRP Normal Mode",
+             .className = "CNrRsrpNormalDockWidgetV7",
+             .tab = 5,
+             .resource = ":/NrRsrpNormalModeV7.json",
+             .driver = &Updater::UpdateRsrpNormalModeV7,
+             .step =
+                 &RunCommand<&Builder::GetRsrpNormalCmdV7, &Operations::rsrp, &CNrRsrpV7::RunRsrp>,
+             .stop = EStop::Nr,
+             .showReport = &Responses::UpdateMixRxNormalResultV7},
+    SPageRow{.id = EPageId::SingleToneTx,
+             .name = "Single Tone TX",
+             .className = "CNrSingleToneTxDockWidgetV7",
+             .tab = 6,
+             .resource = ":/NrSingleToneTxV7.json",
+             .driver = &Updater::UpdateSingleToneTxV7,
+             .step = &RunCommand<&Builder::GetSingleToneTxCmdV7, &Operations::singleToneTx,
+                                 &CMultiRatSingleToneTxV7::RunSingleTone>,
+             .stop = EStop::MultiRat},
+    SPageRow{.id = EPageId::PuschTxForce,
+             .name = "PUSCH TX Force Mode",
+             .className = "CNrPuschTxForcedDockWidgetV7",
+             .tab = 8,
+             .resource = ":/NrPuschTxForceModeV7.json",
+             .driver = &Updater::UpdatePuschTxForceModeV7,
+             .step = &RunCommand<&Builder::GetPuschTxForceCmdV7, &Operations::puschTx,
+                                 &CNrPuschTxV7::RunPuschTx>,
+             .stop = EStop::Nr},
+    SPageRow{.id = EPageId::PuschTxNormal,
+             .name = "PUSCH TX Normal Mode",
+             .className = "CNrPuschTxNormalDockWidgetV7",
+             .tab = 9,
+             .resource = ":/NrPuschTxNormalModeV7.json",
+             .driver = &Updater::UpdatePuschTxNormalModeV7,
+             .step = &RunCommand<&Builder::GetPuschTxNormalCmdV7, &Operations::puschTx,
+                                 &CNrPuschTxV7::RunPuschTx>,
+             .stop = EStop::Nr},
+    SPageRow{.id = EPageId::PrachTx, .name = "PRACH TX"},
+    SPageRow{.id = EPageId::PucchTx, .name = "PUCCH TX"},
+    SPageRow{.id = EPageId::SrsTx, .name = "SRS TX"},
+    SPageRow{.id = EPageId::AptProfile,
+             .name = "APT Profile",
+             .className = "CNrAptProfileDockWidgetV7",
+             .tab = 7,
+             .resource = ":/NrAptProfileV7.json",
+             .driver = &Updater::UpdateAptProfileV7},
+    SPageRow{.id = EPageId::CcaBwCalculator, .name = "CCA BW Calculator"},
+    SPageRow{.id = EPageId::ErrorPage, .name = "Error Page"},
 };
 
 constexpr bool PositionsAreIds()
 {
-    for (int i = 0; i < static_cast<int>(std::size(kPages)); ++i) {
-        if (static_cast<int>(kPages[i].id) != i)
+    for (size_t i = 0; i < kPages.size(); ++i) {
+        if (static_cast<size_t>(kPages[i].id) != i)
+            return false;
+    }
+    return kPages.back().id == EPageId::ErrorPage;
+}
+static_assert(PositionsAreIds(), "kPages is indexed by page id");
+
+constexpr const SPageRow *PageAtTab(int tab)
+{
+    const auto *row = std::find_if(kPages.begin(), kPages.end(),
+                                   [tab](const SPageRow &page) { return page.tab == tab; });
+    return row == kPages.end() ? nullptr : row;
+}
+
+constexpr int kTabs = static_cast<int>(std::count_if(
+    kPages.begin(), kPages.end(), [](const SPageRow &page) { return page.className != nullptr; }));
+
+constexpr bool TabsHaveTheirPages()
+{
+    for (int tab = 1; tab <= kTabs; ++tab) {
+        const SPageRow *page = PageAtTab(tab);
+        if (!page || !page->className)
             return false;
     }
     return true;
 }
-static_assert(PositionsAreIds(), "kPages is indexed by page id");
+static_assert(TabsHaveTheirPages(), "a page that is shown has a tab of its own");
 
-constexpr const char *kShownPages[] = {
-    "CNrRssiDockWidgetV7",       "CNrRxPathlossDockWidgetV7",    "CNrContRxDockWidgetV7",
-    "CNrRsrpForceDockWidgetV7",  "CNrRsrpNormalDockWidgetV7",    "CNrSingleToneTxDockWidgetV7",
-    "CNrAptProfileDockWidgetV7", "CNrPuschTxForcedDockWidgetV7", "CNrPuschTxNormalDockWidgetV7",
-};
+constexpr bool RowsAreWhole()
+{
+    return std::all_of(kPages.begin(), kPages.end(), [](const SPageRow &page) {
+        return (page.className != nullptr) == (page.resource != nullptr) &&
+               (page.resource != nullptr) == (page.driver != nullptr) &&
+               (page.step != nullptr || !page.stop);
+    });
+}
+static_assert(RowsAreWhole(), "a page that is shown has a document and a driver");
 
 }  // namespace
 
 const SPageRow &FindPage(EPageId id)
 {
-    return kPages[static_cast<int>(id)];
+    return kPages[static_cast<size_t>(id)];
 }
 
 QString PageName(EPageId id)
@@ -62,20 +151,18 @@ QString PageName(EPageId id)
     return QString::fromLatin1(FindPage(id).name);
 }
 
-QMap<QString, int> BuildPageMap()
+EPageId PageByName(const QString &name)
 {
-    QMap<QString, int> map;
-    for (const SPageRow &row : kPages) {
-        if (row.id != EPageId::ErrorPage)
-            map.insert(QString::fromLatin1(row.name), static_cast<int>(row.id));
-    }
-    return map;
+    const auto *const row = std::find_if(kPages.begin(), kPages.end(), [&](const SPageRow &page) {
+        return name == QLatin1String(page.name);
+    });
+    return row == kPages.end() ? EPageId::ErrorPage : row->id;
 }
 
 QStringList ShownPageClasses()
 {
     QStringList classes;
-    for (const char *name : kShownPages)
-        classes.append(QString::fromLatin1(name));
+    for (int tab = 1; tab <= kTabs; ++tab)
+        classes.append(QString::fromLatin1(PageAtTab(tab)->className));
     return classes;
 }

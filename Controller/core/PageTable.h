@@ -1,51 +1,49 @@
-// The RF page table: page ids, page names, the document that each page starts from, and the driver
-// that patches it with what the DUT can do.
+// The page table: all that the core knows of a page, one row a page.
 //
-// A page's name is what travels through the requests; the id is what the core switches on. Constant
-// data, any thread.
+// A page's name travels through the requests of the core's interface. The core turns it into the
+// page's id once, at the door; inside it is the id, which is the place of the row. Constant data,
+// any thread.
 //
-//   PageName(EPageId::ContRx);        // "Continuous RX"
-//   FindPage(EPageId::ContRx).resource;   // ":/NrContRxV7.json"
+//   const EPageId page = PageByName("Continuous RX");   // EPageId::ContRx
+//   FindPage(page).resource;                            // ":/NrContRxV7.json"
 #pragma once
 
-#include <QMap>
+#include <optional>
+
 #include <QString>
 #include <QStringList>
 
+#include "Controller/core/PageId.h"
+
 class CNrDataModelCapUpdater;
+class CNrDataModelResponseBuilder;
 class QJsonObject;
+struct NRfTestResult_GetMixRxReportV7;
+struct STestOperations;
+struct STestRun;
 
-enum class EPageId
-{
-    Rssi = 0,
-    RssiScan = 1,
-    ContRx = 2,
-    RouteCalculator = 3,
-    RxPathLoss = 4,
-    RsrpForce = 5,
-    RsrpNormal = 6,
-    SingleToneTx = 7,
-    PuschTxForce = 8,
-    PuschTxNormal = 9,
-    PrachTx = 10,
-    PucchTx = 11,
-    SrsTx = 12,
-    AptProfile = 13,
-    CcaBwCalculator = 14,
-    ErrorPage = 15,  // end mark
-};
-
+// What is left out is null: the tool has no such page, or the page no such thing.
 struct SPageRow
 {
     EPageId id;
     const char *name;
-    const char *resource;  // null: the page has no document
-    bool (CNrDataModelCapUpdater::*driver)(QJsonObject &document);
+    const char *className = nullptr;  // of the page that the tool shows
+    int tab = 0;                      // its place among the tabs, from 1 on
+    const char *resource = nullptr;   // the document that it starts from
+    // Patches the document with what the DUT can do.
+    bool (CNrDataModelCapUpdater::*driver)(QJsonObject &document) = nullptr;
+    // Runs the page's test; its status (TestSteps.h).
+    int (*step)(STestOperations &operations, STestRun &run, QJsonObject &document) = nullptr;
+    // Ends the test; a test without one measures and is over.
+    std::optional<EStop> stop = std::nullopt;
+    // Shows a report that was fetched while the test runs.
+    void (CNrDataModelResponseBuilder::*showReport)(QJsonObject &document,
+                                                    const NRfTestResult_GetMixRxReportV7 &report,
+                                                    bool success) const = nullptr;
 };
 
 const SPageRow &FindPage(EPageId id);
 QString PageName(EPageId id);
-// Page name to page id, of all pages but the end mark.
-QMap<QString, int> BuildPageMap();
+EPageId PageByName(const QString &name);
 // Class names of the pages that the tool shows, in the order of the tabs.
 QStringList ShownPageClasses();

@@ -65,11 +65,11 @@ bool CRunningTests::IsAny() const
     return !m_tests.empty();
 }
 
-std::optional<uint32_t> CRunningTests::HandleOf(EStop kind, const QString &page) const
+std::optional<uint32_t> CRunningTests::HandleOf(EStop kind, std::optional<EPageId> page) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     const auto found = std::find_if(m_tests.rbegin(), m_tests.rend(), [&](const auto &test) {
-        return test.stop.kind == kind && (page.isEmpty() || test.page == page);
+        return test.stop.kind == kind && (!page || test.page == *page);
     });
     return found == m_tests.rend() ? std::nullopt : std::optional(found->stop.handle);
 }

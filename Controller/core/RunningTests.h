@@ -10,7 +10,7 @@
 // last goes.
 //
 //   const uint64_t asked = tests.Moment();
-//   if (!tests.Begin({"Continuous RX", EStop::MultiRat, handle}, asked))
+//   if (!tests.Begin({EPageId::ContRx, {EStop::MultiRat, handle}}, asked))
 //       return kTerminated;
 //   ...
 //   for (const STargetStop &stop : tests.Stops())
@@ -23,14 +23,7 @@
 #include <optional>
 #include <vector>
 
-#include <QString>
-
-// The two stops of the target.
-enum class EStop
-{
-    Nr,        // PUSCH, RSRP
-    MultiRat,  // single tone, continuous RX
-};
+#include "Controller/core/PageId.h"
 
 struct STargetStop
 {
@@ -45,7 +38,7 @@ struct STargetStop
 
 struct SRunningTest
 {
-    QString page;
+    EPageId page;
     STargetStop stop;  // that ends it
 };
 
@@ -65,8 +58,8 @@ public:
     void End(const STargetStop &stop);
 
     bool IsAny() const;
-    // Of the page's last test of that kind, or of the last of any page if page is empty.
-    std::optional<uint32_t> HandleOf(EStop kind, const QString &page) const;
+    // Of the page's last test of that kind; without a page, of the last of any page.
+    std::optional<uint32_t> HandleOf(EStop kind, std::optional<EPageId> page) const;
     // Each once, in the order of the starts.
     std::vector<STargetStop> Stops() const;
 

@@ -1,24 +1,18 @@
-// Turns result and calibration records of the target into values inside a page's document, where
-// the page's widgets find them; no page knows a record.
+// Turns result records of the target into values inside a page's document, where the page's widgets
+// find them; no page knows a record.
 //
-// Only the sections that show something are written, response or data: trait.defaultValue of
-// members, captions of gain rows, the rows of row tables. A write to a path that the document lacks
-// changes nothing and is a line on the debug log; of a calibration record it is also a message in
-// the document's integrity record and a critical log line. What went wrong at the target is not
-// told in the document beyond the words in the cells; the caller reports it. Powers, gains and
-// losses are texts in dBm and dB. A number that a target answers outside its table's room is held
-// to that room. No state; any thread that owns the document. Without gains given, path loss asks
-// the cached capability for the supported ones, so it runs under the core's lock then.
+// Only the response section is written: trait.defaultValue of members, and the rows of row tables.
+// A write to a path that the document lacks changes nothing and is a line on the debug log. What
+// went wrong at the target is not told in the document beyond the words in the cells; the caller
+// reports it. Powers and gains are texts in dBm and dB. A count that a target answers beyond its
+// table's size is limited to that size. No state; any thread that owns the document. Calibration
+// records have a builder of their own (CalResponseBuilder.h).
 //
 //   builder.UpdateMixRxResultV7(document, report, status == 0);
 #pragma once
 
-#include <string>
-
 #include <QJsonObject>
 
-#include "Operations/calibration/CalRecords.h"
-#include "Operations/capability/TargetCapability.h"
 #include "Vond/VondResultRecords.h"
 
 class CNrDataModelResponseBuilder
@@ -39,23 +33,4 @@ public:
                                 bool success) const;
     // Shows the measured rows of the paths that were asked for, and leaves the gains as they are.
     void UpdateRssiResultV7(QJsonObject &document, SMMRssiCnfV7 result, bool success) const;
-
-    // The document, as text, with a calibration record in it: of path loss what the page's power
-    // mode and, for type 2, its path, gain mode and subband select. Without the supported gains the
-    // losses stay as they were in the document.
-    std::string GetAptDataModelV7(QJsonObject document, SAptRouteBwRecord record) const;
-    std::string GetType1PathLossDataModelV7(QJsonObject document,
-                                            SMMType1PathlossByRouteV7 record) const;
-    std::string GetType2PathLossDataModelV7(QJsonObject document,
-                                            SMMType2PathlossByRouteV7 record) const;
-    // gains: the supported ones of the power mode that the document shows; null: unknown.
-    std::string ShowType1PathLoss(QJsonObject document, SMMType1PathlossByRouteV7 record,
-                                  const SMMRfRxGainInfoV7 *gains) const;
-    std::string ShowType2PathLoss(QJsonObject document, SMMType2PathlossByRouteV7 record,
-                                  const SMMRfRxGainInfoV7 *gains) const;
-
-private:
-    const SMMRfRxGainInfoV7 *GainsFor(const QJsonObject &document) const;
-
-    CTargetCapability m_target;
 };

@@ -17,6 +17,7 @@ constexpr char kRsrpForce[] = "RSRP Force Mode";
 constexpr char kRsrpNormal[] = "RSRP Normal Mode";
 constexpr char kContRx[] = "Continuous RX";
 constexpr char kRssi[] = "RSSI";
+constexpr char kSrs[] = "SRS TX";  // has no requests of its own
 
 QString Word(const QVariant &value)
 {
@@ -124,6 +125,19 @@ const QVector<SRequest> &AllRequests()
             {"GetInitPageListInternal", "Signal_GetInitPageListDone", nullptr, nullptr,
              [](Ctrl &ctrl, const std::string &) { ctrl.GetInitPageList(); },
              [](CNrCore &core, const std::string &) { return WordsOf(core.GetAllSupportPage()); }},
+
+            {"GetDataModelInternal", "Signal_DataModelDone", nullptr, nullptr,
+             [](Ctrl &ctrl, const std::string &) { ctrl.RequestDataModel(EPageId::SrsTx); },
+             [](CNrCore &core, const std::string &) { return WordsOf(core.GetDataModel(kSrs)); }},
+            {"TestInternal", "Signal_TestDone", "", kSrs,
+             [](Ctrl &ctrl, const std::string &document) {
+                 ctrl.RequestTest(EPageId::SrsTx, document);
+             },
+             [](CNrCore &core, const std::string &document) {
+                 const QSignalSpy done(&core, &CNrCore::Signal_TestDone);
+                 core.Test(kSrs, document);
+                 return Awaited(done);
+             }},
 
             DataModel("GetPuschTxForceDataModelInternal", &Ctrl::GetPuschTxForceDataModel,
                       kPuschForce, "Signal_GetPuschTxForceDataModelDone"),

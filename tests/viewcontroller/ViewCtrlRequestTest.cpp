@@ -105,6 +105,7 @@ void ViewCtrlRequestTest::everySignalOfTheTableIsThere()
     QVERIFY(there.remove("Signal_CalProgress"));  // comes before an answer
     QVERIFY(there.remove("Signal_CalRemarks"));   // the same
     QVERIFY(there.remove("Signal_RfOffDone"));    // the window's own
+    QVERIFY(there.remove("Signal_FlowDone"));     // no item is without signals of its own
     QVERIFY(there.remove("Signal_TestsRun"));
     QCOMPARE(there, asked);
 }

@@ -63,7 +63,7 @@ void ViewCtrlTest::eachPageGetsItsOwnAnswerWhenAllAskAtOnce()
         auto spies = std::make_unique<CSignalSpies>(*ctrl);
         askers.push_back({&request, std::move(ctrl), std::move(spies)});
     }
-    QCOMPARE(askers.size(), std::size_t(7));
+    QCOMPARE(askers.size(), std::size_t(8));
     {
         const CBusyCore busy;
         for (const SAsker &asker : askers)

@@ -1,7 +1,7 @@
 // From the APT page into the record.
 #include <gtest/gtest.h>
 
-#include "Controller/commands/NrCoreCmdBuilder.h"
+#include "Controller/calibration/CalCmdBuilder.h"
 #include "Model/JsonPath.h"
 #include "tests/controller/calibration/CalPages.h"
 
@@ -13,7 +13,7 @@ constexpr char kFreqGroup[] = "calDataIf.data.group12";
 
 Apt Built(const QJsonObject &document, const Apt &record = {})
 {
-    return CNrCoreCmdBuilder().GetAptCmdV7(document, record);
+    return CCalCmdBuilder().GetAptCmdV7(document, record);
 }
 
 QJsonObject Page()

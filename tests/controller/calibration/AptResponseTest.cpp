@@ -1,7 +1,7 @@
 // From the record into the APT page.
 #include <gtest/gtest.h>
 
-#include "Controller/responses/NrDataModelResponseBuilder.h"
+#include "Controller/calibration/CalResponseBuilder.h"
 #include "Model/JsonPath.h"
 #include "Model/ModelText.h"
 #include "tests/controller/calibration/CalPages.h"
@@ -10,7 +10,7 @@ namespace {
 
 QJsonObject Shown(const QJsonObject &document, const SAptRouteBwRecord &record)
 {
-    return ModelFromText(CNrDataModelResponseBuilder().GetAptDataModelV7(document, record));
+    return ModelFromText(CCalResponseBuilder().GetAptDataModelV7(document, record));
 }
 
 std::string TextOf(const QJsonObject &document, const QString &group, const QString &member)

@@ -1,8 +1,8 @@
 // What a page is shown and gives back untouched leaves the record as it was, byte for byte.
 #include <gtest/gtest.h>
 
-#include "Controller/commands/NrCoreCmdBuilder.h"
-#include "Controller/responses/NrDataModelResponseBuilder.h"
+#include "Controller/calibration/CalCmdBuilder.h"
+#include "Controller/calibration/CalResponseBuilder.h"
 #include "Model/ModelText.h"
 #include "tests/controller/calibration/CalPages.h"
 #include "tests/operations/TargetFixture.h"
@@ -29,16 +29,16 @@ protected:
                                    const SSelection &selection = {}) const
     {
         return LossBack(shown, editors, into, selection,
-                        &CNrDataModelResponseBuilder::GetType1PathLossDataModelV7,
-                        &CNrCoreCmdBuilder::GetType1PathLossCmdV7);
+                        &CCalResponseBuilder::GetType1PathLossDataModelV7,
+                        &CCalCmdBuilder::GetType1PathLossCmdV7);
     }
     SMMType2PathlossByRouteV7 Back(const SMMType2PathlossByRouteV7 &shown, EEditors editors,
                                    const SMMType2PathlossByRouteV7 &into,
                                    const SSelection &selection = {}) const
     {
         return LossBack(shown, editors, into, selection,
-                        &CNrDataModelResponseBuilder::GetType2PathLossDataModelV7,
-                        &CNrCoreCmdBuilder::GetType2PathLossCmdV7);
+                        &CCalResponseBuilder::GetType2PathLossDataModelV7,
+                        &CCalCmdBuilder::GetType2PathLossCmdV7);
     }
 
 private:
@@ -53,8 +53,8 @@ private:
         return (m_fill.*fill)(Packaged(document, editors), into);
     }
 
-    CNrDataModelResponseBuilder m_show;
-    CNrCoreCmdBuilder m_fill;
+    CCalResponseBuilder m_show;
+    CCalCmdBuilder m_fill;
 };
 
 TEST_F(CalRoundTripTest, AptRecordIsUntouchedByBeingShown)

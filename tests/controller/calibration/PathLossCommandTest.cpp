@@ -1,7 +1,7 @@
 // From the path loss page into the record.
 #include <gtest/gtest.h>
 
-#include "Controller/commands/NrCoreCmdBuilder.h"
+#include "Controller/calibration/CalCmdBuilder.h"
 #include "Support/Log.h"
 #include "tests/controller/calibration/CalPages.h"
 #include "tests/model/LogCapture.h"
@@ -27,12 +27,12 @@ QJsonObject Page(const SSelection &selection = {})
 
 Type1 Built1(const QJsonObject &page, const Type1 &record = {})
 {
-    return CNrCoreCmdBuilder().GetType1PathLossCmdV7(page, record);
+    return CCalCmdBuilder().GetType1PathLossCmdV7(page, record);
 }
 
 Type2 Built2(const QJsonObject &page, const Type2 &record = {})
 {
-    return CNrCoreCmdBuilder().GetType2PathLossCmdV7(page, record);
+    return CCalCmdBuilder().GetType2PathLossCmdV7(page, record);
 }
 
 // Tells each place from all others: n times 0.25 dB from first on.

@@ -1,7 +1,7 @@
 // From the record into the path loss page.
 #include <gtest/gtest.h>
 
-#include "Controller/responses/NrDataModelResponseBuilder.h"
+#include "Controller/calibration/CalResponseBuilder.h"
 #include "Model/JsonPath.h"
 #include "Model/ModelText.h"
 #include "tests/controller/calibration/CalPages.h"
@@ -23,13 +23,11 @@ protected:
     }
     static QJsonObject Shown(const QJsonObject &page, const Type1 &record)
     {
-        return ModelFromText(
-            CNrDataModelResponseBuilder().GetType1PathLossDataModelV7(page, record));
+        return ModelFromText(CCalResponseBuilder().GetType1PathLossDataModelV7(page, record));
     }
     static QJsonObject Shown(const QJsonObject &page, const Type2 &record)
     {
-        return ModelFromText(
-            CNrDataModelResponseBuilder().GetType2PathLossDataModelV7(page, record));
+        return ModelFromText(CCalResponseBuilder().GetType2PathLossDataModelV7(page, record));
     }
     static QStringList Cells(const QJsonObject &document, const QString &member)
     {

@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "Model/ModelText.h"
+#include "Operations/calibration/MultiRatPathLossV7.h"
 #include "tests/controller/core/CoreFixture.h"
 
 namespace {

@@ -91,8 +91,7 @@ TEST_F(DataModelTest, TruncatedResourceLeavesAMessageAndANearEmptyDocument)
     for (const int length : {0, 1, 100, whole.size() / 2, whole.size() - 3}) {
         CTestCore core;
         const LogCapture log(lcCore());
-        EXPECT_EQ(core.LoadDataModel("Continuous RX", kContRxPage, FileWith(whole.left(length))),
-                  kNearEmpty)
+        EXPECT_EQ(core.LoadDataModel(kContRxPage, FileWith(whole.left(length))), kNearEmpty)
             << length;
         EXPECT_EQ(core.GetErrorMessage(), QString(kCannotGet)) << length;
         EXPECT_TRUE(log.Holds(QtCriticalMsg, "is invalid data model")) << length;
@@ -101,8 +100,7 @@ TEST_F(DataModelTest, TruncatedResourceLeavesAMessageAndANearEmptyDocument)
 
 TEST_F(DataModelTest, FileReadsAsTheResourceDoes)
 {
-    const std::string text =
-        m_core.LoadDataModel("Continuous RX", kContRxPage, FileWith(Resource()));
+    const std::string text = m_core.LoadDataModel(kContRxPage, FileWith(Resource()));
     EXPECT_EQ(text, m_core.GetDataModel("Continuous RX"));
     EXPECT_TRUE(m_core.GetErrorMessage().isEmpty());
 }
@@ -127,7 +125,7 @@ TEST_F(DataModelTest, DocumentIsPatchedForTheDutThatIsThereAfterAReset)
 TEST_F(DataModelTest, MissingResourceLeavesAMessageAndAnEmptyDocument)
 {
     const LogCapture log(lcCore());
-    EXPECT_EQ(m_core.LoadDataModel("Continuous RX", kContRxPage, ":/NoSuchModel.json"), kNearEmpty);
+    EXPECT_EQ(m_core.LoadDataModel(kContRxPage, ":/NoSuchModel.json"), kNearEmpty);
     EXPECT_EQ(m_core.GetErrorMessage(), QString(kCannotGet));
     EXPECT_TRUE(log.Holds(QtCriticalMsg, ":/NoSuchModel.json"));
 }

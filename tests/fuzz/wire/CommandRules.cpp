@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "Controller/calibration/CalCmdBuilder.h"
 #include "Controller/calibration/LossConfig.h"
 #include "Controller/commands/NrCoreCmdBuilder.h"
 #include "Controller/fields/CommandConversions.h"
@@ -204,7 +205,7 @@ void CheckCommands(const CCommandInput &input)
 
 void CheckCalCommands(const CCommandInput &input)
 {
-    const CNrCoreCmdBuilder builder;
+    const CCalCmdBuilder builder;
     const QJsonObject &document = input.Document();
     if (input.IsFor({EPageId::AptProfile}))
         CheckFill<SAptRouteBwRecord>(

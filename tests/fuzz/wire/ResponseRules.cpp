@@ -5,7 +5,8 @@
 
 #include <QJsonArray>
 
-#include "Controller/commands/NrCoreCmdBuilder.h"
+#include "Controller/calibration/CalCmdBuilder.h"
+#include "Controller/calibration/CalResponseBuilder.h"
 #include "Controller/responses/NrDataModelResponseBuilder.h"
 #include "Model/ModelText.h"
 #include "tests/controller/calibration/CalPages.h"
@@ -135,8 +136,8 @@ void CheckResponses(const CCommandInput &input)
 
 void CheckCalResponses(const CCommandInput &input)
 {
-    const Builder show;
-    const CNrCoreCmdBuilder fill;
+    const CCalResponseBuilder show;
+    const CCalCmdBuilder fill;
     if (input.IsFor({EPageId::AptProfile}))
         CheckShow<SAptRouteBwRecord>(
             input, EPageId::AptProfile,
