@@ -53,15 +53,12 @@ check_scripts() {
     shellcheck -x run.sh test.sh .ci/run scripts/*.sh tools/*.sh
 }
 
-# The arrows between the folders: what each may include beside itself. The closed libraries' functions
-# are for Operations alone.
+# The arrows between the folders: what each may include beside itself; then the arrows inside of them,
+# of the folders that are listed. The closed libraries' functions are for Operations alone.
 check_arrows() {
     local folder allowed good=true
     while read -r folder allowed; do
-        if grep -rnE '^#include "[A-Z][A-Za-z]*/' --include='*.h' --include='*.cpp' "$folder" |
-            grep -vE "\"($folder${allowed:+|$allowed})/" >&2; then
-            good=false
-        fi
+        look_at_includes "$folder" '[A-Z][A-Za-z]*/' "($folder${allowed:+|$allowed})/" || good=false
     done <<'END'
 Model
 Support
@@ -80,10 +77,30 @@ PluginInterface View|Support
 Host PluginInterface
 Simulator Vond
 END
+    while read -r folder allowed; do
+        look_at_includes "$folder" "${folder%%/*}/" "($folder/${allowed:+|$allowed})" || good=false
+    done <<'END'
+Controller/Interface
+Controller/fields
+Controller/capability Controller/(Interface|fields)/
+Controller/commands Controller/(Interface|fields)/
+Controller/responses Controller/(Interface|fields)/
+Controller/calibration Controller/(Interface|fields)/
+Controller/core Controller/
+Operations/link
+Operations/capability Operations/link/
+Operations/tests Operations/(GeneralOperation\.h|(link|capability)/)
+Operations/calibration Operations/(GeneralOperation\.h|(link|capability)/)
+END
     if grep -rnE '"Vond/Vond(Core|App)\.h"' Controller ViewController View PluginInterface Host >&2; then
         good=false
     fi
     $good
+}
+
+# Shows the includes of a folder that begin with one expression, but not with another.
+look_at_includes() {
+    ! grep -rnE "^#include \"$2" --include='*.h' --include='*.cpp' "$1" | grep -vE "\"$3" >&2
 }
 
 # No two files of the product need each other. A header and its source are one.
