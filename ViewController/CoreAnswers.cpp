@@ -25,7 +25,7 @@ CCoreAnswers::CCoreAnswers()
     PassOn(&Cal::Signal_CalRemarks, &CCoreAnswers::Signal_CalRemarks);
 }
 
-// The connection is never taken down, so that no pool thread meets it half gone.
+// The connection is never taken down, so no pool thread can meet it half gone.
 template <typename Core, typename... Answers>
 void CCoreAnswers::PassOn(void (Core::*signal)(Answers...), void (CCoreAnswers::*own)(Answers...))
 {

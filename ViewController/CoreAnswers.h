@@ -2,11 +2,11 @@
 // thread.
 //
 // For the sources of CQuorlinViewCtrl alone. One object for the process, made with the first
-// request and never destroyed, as the core is not. GUI thread.
+// request and never destroyed, like the core. GUI thread.
 //
-// An answer is signalled to all who are connected when the GUI thread comes to it, which may be
-// later than a question that it is no answer to. Now() and Given() tell: what was given up to the
-// moment of the question is not for the asker.
+// The GUI thread may signal an answer late, when somebody has asked a newer question. Now() and
+// Given() tell the two apart: an answer that was given before the moment of the question is not for
+// the asker.
 //
 //   connect(&answers, &CCoreAnswers::Signal_TestDone, this, [this, asked = answers.Now()] {
 //       if (CCoreAnswers::Get().Given() > asked) ...

@@ -132,11 +132,11 @@ public:
     // Stops every test on the target, before all that waits; starts that have not reached it answer
     // 4.
     void RfOff();
-    // Stops what the tool has started and not stopped, for whoever shows tests no longer; without
-    // an answer, also when this object is gone.
+    // Stops what the tool has started and not stopped, for a form that no longer shows the tests.
+    // Has no answer; goes on when this object is gone.
     void StopRunningTests();
     bool HasRunningTests() const;
-    // Signal_TestsRun from now on, and once for how it is now.
+    // Emits Signal_TestsRun at once for the present state, and from now on for each change.
     void WatchTests();
 
     // Calibration data. Upload and load answer with the document of the selected record; download
@@ -234,7 +234,7 @@ signals:
 
     void Signal_TestStopDone(SEachItemOperationResult result);
     void Signal_RfOffDone(SEachItemOperationResult result);
-    // A test runs, or may run after a start that failed at the target; or none does.
+    // isAny: a test runs, or may run after a start that failed at the target.
     void Signal_TestsRun(bool isAny);
 
     void Signal_AptUploadFromFlashDone(SEachItemOperationResult result,
@@ -251,8 +251,7 @@ signals:
     // How far the calibration request is. round: the transfer under way, from 1 on; 0 while a file
     // is read or written.
     void Signal_CalProgress(int round, int routesDone, int routesInAll);
-    // What there is to say of the calibration request beside its result; before its answer, if at
-    // all.
+    // Remarks on the calibration request. Comes before its answer, and only when there are remarks.
     void Signal_CalRemarks(SCalRemarks remarks);
 
     void Signal_Idle();

@@ -19,7 +19,7 @@
 #include "ViewController/CoreAnswers.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
-// What a job that threw answers: that nothing ran, and nothing else.
+// The answer of a job that threw: nothing ran.
 template <typename Answer>
 Answer AnswerOfNothing()
 {

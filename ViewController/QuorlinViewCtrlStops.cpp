@@ -1,7 +1,7 @@
 // Stops of the view controller, and what it tells of the tests that run.
 #include "ViewController/QuorlinViewCtrlJobs.h"
 
-// Each asker gets the answer of its own stop; the core's signal is for all of them.
+// Each view controller gets the answer of its own stop; the core's signal tells of all stops.
 void CQuorlinViewCtrl::RequestStop(const char *internalName, EStop kind)
 {
     RunOnPool(internalName, &CQuorlinViewCtrl::Signal_TestStopDone,

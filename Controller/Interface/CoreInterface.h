@@ -5,9 +5,9 @@
 //
 // Calibration flows. A flow moves the data of some items, one after another, between the target's
 // flash, memory and a file; a failed item does not end it. It starts on any thread, returns at once
-// and answers once, on a pool thread, with a result for each item. An item name that is unknown
-// moves nothing and repeats the status before it, 0 at the start. What a move left out is told in a
-// signal of its own before the answer.
+// and answers once, on a pool thread, with a result for each item. An unknown item name moves
+// nothing; its status is that of the item before it, or 0. Signal_CalRemarks tells before the
+// answer what a move left out.
 //
 //   connect(&core, &IRfCoreCalDataOperation::Signal_UploadFromFlashDone, page, &Page::Slot_Done);
 //   core.UploadFromFlashStart({core.GetCalItemName(1)});
@@ -102,7 +102,7 @@ public:
     QString GetErrorMessage() const { return m_errorMessage; }
 
 signals:
-    // Items that are behind: 0 with an empty result when the first begins, then 1 and up.
+    // Number of items that are done: 0, with an empty result, when the first one begins.
     // Prescribed; see docs/decisions/0036-prescribed-surface.md
     void Signal_FinishItemCount(int itemFinshCount, SEachItemOperationResult itemResult);
     void Signal_UploadFromFlashDone(bool isAllSuccess,
@@ -114,8 +114,8 @@ signals:
     // How far an item's move is. round: the transfer under way, from 1 on; 0 while a file is read
     // or written. routesDone counts rows of the route tables.
     void Signal_CalProgress(QString item, int round, int routesDone, int routesInAll);
-    // What there is to say of an item's move beside its result, whatever that is; comes before the
-    // flow's answer, and not at all when there is nothing.
+    // Remarks on an item's move, whatever its result is. Comes before the flow's answer, and only
+    // when there are remarks.
     void Signal_CalRemarks(QString item, SCalRemarks remarks);
 
 protected:
@@ -128,7 +128,7 @@ protected:
     QString m_errorMessage;
     QVector<SEachItemOperationResult> m_itemResults;
     bool m_isAllSuccess = true;
-    // Asks a flow to end before its next item; taken back by a reset. Nothing sets it.
+    // While it is set, a flow ends before its next item. A reset clears it; nothing sets it.
     // Prescribed; see docs/decisions/0036-prescribed-surface.md
     std::atomic<bool> m_isStop{false};
 };

@@ -1,7 +1,7 @@
 // The APT record that a packaged page selects, between the item's memory and the page's document.
 //
-// Under the lock of the item's records; the item is that of the page. Rows of the table of
-// calibration items (core/CalItemTable.cpp) call these.
+// The rows of the table of calibration items (core/CalItemTable.cpp) call these, under the lock of
+// the item's records.
 //
 //   if (const std::optional<std::string> shown = ShowAptDocument(item, document, {}))
 #pragma once
@@ -17,5 +17,5 @@
 // The document with the record in it; none: there is no such record.
 std::optional<std::string> ShowAptDocument(const CMultiRatAptProfileV7 &item,
                                            const QJsonObject &document, const SSupportedGains &);
-// Takes what the page shows into the record. Makes it no more valid than it was.
+// Takes what the page shows into the record. A record that was not valid stays so.
 void StoreAptDocument(CMultiRatAptProfileV7 &item, const QJsonObject &document);

@@ -27,7 +27,7 @@ CCalCmdBuilder::GetType2PathLossCmdV7(const QJsonObject &document,
                                       SMMType2PathlossByRouteV7 record) const
 {
     const SLossConfig config = ReadLossConfig(document);
-    // The words of the response, which users' log filters know for both.
+    // The log line of the response: users' log filters know it for both directions.
     LogType2Config(config);
     CCalFill fill(document);
     MoveType2(fill, record,

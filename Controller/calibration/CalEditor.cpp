@@ -7,7 +7,8 @@
 
 namespace {
 
-// The limits or options of a member; those of a subscriber go by its publisher's packaged text.
+// The limits or options of a member. Those of a subscriber depend on the packaged text of its
+// publisher.
 QJsonValue EntryOf(const QJsonObject &document, const QJsonObject &member)
 {
     const QJsonObject trait = member.value(QLatin1String("trait")).toObject();
@@ -23,7 +24,7 @@ QJsonValue EntryOf(const QJsonObject &document, const QJsonObject &member)
         .value(GetJsonValueConst(document, keyPath).toString());
 }
 
-// In the editor's own arithmetic: the middle of integers is truncated toward zero.
+// Computed as the editor does it: the middle of two integers is truncated toward zero.
 template <typename Number, typename Text>
 QStringList Held(Number value, Number least, Number most, bool goesToTheMiddle, Text text)
 {

@@ -1,11 +1,11 @@
-// What the editor of a member makes of a text that it is given to show.
+// The text that the editor of a member shows when it is given a text.
 //
-// An editor can hold less than a calibration record: a spin box stops at its limits, a combo box is
-// empty for a text that it does not offer. A spin box whose limits follow another member goes to
-// their middle when new ones come that its value does not fit. Who stores a page's document asks
-// here what the page may have made of a record's own value, so that a value which nobody has edited
-// is not changed by having been shown. Reads the document that it is made of, and keeps no part of
-// it. Any thread.
+// An editor can hold less than a calibration record. A spin box stops at its limits; a combo box
+// stays empty for a text that it does not offer. A spin box whose limits follow another member goes
+// to the middle of new limits when its value does not fit them. Storing a page asks here which
+// texts the editor may show for a value of the record. If the page holds one of them, nobody has
+// edited the value, and the record keeps it as it was. Reads the document; changes nothing. Any
+// thread.
 //
 //   CCalEditor editor(document, "calDataIf.data.group2.memberProperty.lna0");   // -30 to 30
 //   editor.Shown("-29.50000");   // {"-29.50000"}
@@ -20,7 +20,7 @@ class CCalEditor
 public:
     CCalEditor(const QJsonObject &document, const QString &memberPath);
 
-    // One text, or two of a number beyond limits that follow another member.
+    // One text; two for a number beyond limits that follow another member.
     QStringList Shown(const QString &text) const;
 
     const QString &DataType() const { return m_dataType; }

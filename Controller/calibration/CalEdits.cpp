@@ -7,7 +7,7 @@
 
 namespace {
 
-// Looks at the document alone.
+// Compares the texts of the document; never touches a record.
 class CEditFinder : public ICalMove
 {
 public:

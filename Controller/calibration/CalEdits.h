@@ -1,9 +1,9 @@
-// Does a packaged calibration page hold edits, or what it was given to show?
+// Tells whether a packaged calibration page holds edits of the user.
 //
-// A packaged document has both: trait.defaultValue is what the page was given, memberValue what its
-// editors hold. A page that was only looked at holds what its editors make of the former. Where a
-// list was given a text that it does not offer, its first option counts as untouched: a page shows
-// that before its first data. Pure functions, any thread.
+// A packaged document has both: trait.defaultValue is what the page was given to show, memberValue
+// is what its editors hold. An editor that nobody touched holds what CCalEditor says of the given
+// text. A list that was given a text which it does not offer shows its first option; that counts as
+// untouched, too. Pure functions, any thread.
 //
 //   if (HoldsEdits(document, [&](ICalMove &move) { MoveApt(move, record); }))
 #pragma once
@@ -14,5 +14,5 @@
 
 #include "Controller/calibration/CalMove.h"
 
-// walk: of the fields that the page shows, which stay as they are.
+// walk: visits the fields that the page shows; it changes none of them.
 bool HoldsEdits(const QJsonObject &document, const std::function<void(ICalMove &)> &walk);

@@ -25,7 +25,7 @@ int CountToFirst0(const uint32_t (&freq)[kVondCalMaxSubbands], int length)
     return static_cast<int>(std::find(freq, freq + length, 0u) - freq);
 }
 
-// An empty text is a combo box without a choice, which no number equals.
+// An empty text is a combo box without a choice; it equals no number.
 bool IsSame(ECalText kind, const QString &a, const QString &b)
 {
     if (a.isEmpty() || b.isEmpty())

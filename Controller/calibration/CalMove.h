@@ -1,8 +1,9 @@
 // The values of a calibration record on their way between the record and the page's document.
 //
-// A walk names the fields of a record one after another, each with its member; what happens to them
-// is the mover's: CCalFill takes the packaged texts into the record, CCalShow writes the record's
-// values to where the page's widgets find them. So the list of fields stands in the code once.
+// A walk names the fields of a record one after another, each with its member. The mover decides
+// what happens to them: CCalFill takes the packaged texts into the record, CCalShow writes the
+// record's values to where the page's widgets find them. So each list of fields stands in the code
+// once.
 //
 //   void MoveHead(ICalMove &move, SMyRecord &record)
 //   {
@@ -23,7 +24,7 @@
 
 constexpr int kOneText = 0;
 
-// A member and what stands behind it in the record.
+// A member and its fields in the record.
 struct SCalField
 {
     const char *group;  // dotted path
@@ -55,9 +56,10 @@ public:
     virtual void Frequencies(const SCalFrequencies &frequencies) = 0;
 };
 
-// From the packaged document into the record. A member that was not packaged, or a place behind the
-// end of its array, leaves its field as it is; so does a value that is as the page has shown it.
-// Frequencies set the block count: the number before the first 0, in groups of 16, rounded up.
+// Takes the packaged texts into the record. A field stays as it is when its member was not
+// packaged, when the member's array is too short, or when the text is still the one that the page
+// has shown. Frequencies set the block count: the entries before the first 0, in groups of 16,
+// rounded up.
 class CCalFill : public ICalMove
 {
 public:
@@ -70,8 +72,9 @@ private:
     const QJsonObject &m_document;
 };
 
-// From the record into trait.defaultValue of the members, as texts. A write that fails is a message
-// in the document's integrity record and a critical log line, and the others go on.
+// Writes the record's values as texts into trait.defaultValue of the members. A write that fails
+// leaves a message in the document's integrity record and a critical log line; the other fields are
+// still written.
 class CCalShow : public ICalMove
 {
 public:

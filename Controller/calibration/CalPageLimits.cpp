@@ -13,7 +13,7 @@ namespace {
 
 constexpr int64_t kUnitsADb = 32;
 
-// Where the document has no limits that are surely the route's.
+// For a route whose limits the document does not tell for sure.
 constexpr SCalShown kAnyFrequency{0, UINT32_MAX};
 
 std::optional<SCalShown> ShownBy(const CCalEditor &editor, ECalText kind)
@@ -106,7 +106,7 @@ private:
 
 constexpr const char *kRouteMembers[] = {"route", "txRoute"};  // a page has one of them
 
-// As packaged by a page that has the route selected.
+// The document as a page packages it with the route selected.
 QJsonObject WithRoute(QJsonObject document, uint16_t route)
 {
     QJsonObject cal = document.value(QLatin1String("calDataIf")).toObject();

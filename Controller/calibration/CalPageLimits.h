@@ -1,10 +1,10 @@
-// What a calibration page's editors can show of a record, by field, from the page's document.
+// What the editors of a calibration page can show, field by field of a record.
 //
-// The walks of the page tell which member stands for which field. Frequencies go by their route,
-// of all else the limits are those of the member. The document has one set of frequency limits for
-// a route number: of a route that stands on several bands (n77 and n78) they are those of one band,
-// and right frequencies of the other lie beyond them. So the frequencies of such a route have the
-// limits of their field alone. Reads the document alone. One thread.
+// The walks of the page tell which member stands for which field. A frequency has the limits of its
+// route, any other field those of its member. The document has one set of frequency limits for a
+// route number. For a route on several bands (n77 and n78) these are the limits of one band; right
+// frequencies of the other band lie beyond them. So such a route has no limits but those of the
+// record's field. Reads the page's document. One thread.
 //
 //   CCalPageLimits limits(document);
 //   item.SetPageLimits(&limits);

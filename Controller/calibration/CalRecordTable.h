@@ -1,5 +1,5 @@
-// The kinds of calibration record, one row a kind: where a record has what the limits of its page
-// ask for, and the walk over all that the page shows of it.
+// The kinds of calibration record, one row a kind: where the limits of a page find a record's
+// frequencies and losses, and the walk over all that the page shows of it.
 //
 // Constant data, any thread.
 //

@@ -68,8 +68,8 @@ SCalRemarks OddValues(const SCalMoveRemarks &remarks)
 
 }  // namespace
 
-// A move has the one or the other: a transfer knows no texts, and a load leaves out nothing that is
-// in the file.
+// A move has one kind of remark: a transfer reads no texts, and a load leaves out no record of its
+// file.
 SCalRemarks CalRemarksOf(const SCalMoveRemarks &remarks)
 {
     if (!remarks.leftOut.empty())

@@ -67,7 +67,7 @@ std::string CCalResponseBuilder::ShowType1PathLoss(QJsonObject document,
     return ModelToText(document);
 }
 
-// Without the supported gains nobody can tell which gain a column stands for.
+// Without the supported gains it is not known which gain a column stands for.
 std::string CCalResponseBuilder::ShowType2PathLoss(QJsonObject document,
                                                    SMMType2PathlossByRouteV7 record,
                                                    const SMMRfRxGainInfoV7 *gains) const

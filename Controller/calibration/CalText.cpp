@@ -12,7 +12,8 @@ constexpr double kDbPerUnit = 0.03125;  // 1/32
 constexpr int kDbDecimals = 5;
 constexpr int kUnitsPerDb = 32;
 
-// Truncated toward zero and held to the field: its low bits alone would turn a gain into a loss.
+// Truncated toward zero and limited to the range of the field. Keeping the low bits would turn a
+// gain into a loss.
 int64_t FieldOf(double db)
 {
     using Field = std::numeric_limits<int16_t>;

@@ -1,9 +1,9 @@
 // Numbers of a calibration record as the texts of a page, and back.
 //
 // dB stand in a record in 1/32 dB and on a page with five decimals, which is exact. A text that is
-// no number counts as 0; a number is multiplied, truncated toward zero and held to the 16 bits that
-// every dB field has, -1024 to 1023.96875 dB, also where an editor goes further. Pure functions,
-// any thread.
+// no number counts as 0. A number is multiplied, truncated toward zero and limited to the 16 bits
+// of a dB field, -1024 to 1023.96875 dB, even if the editor allows more. Pure functions, any
+// thread.
 //
 //   CalText(ECalText::Db, -976);            // "-30.50000"
 //   CalValue(ECalText::Db, "-30.5");        // -976

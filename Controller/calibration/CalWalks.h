@@ -29,5 +29,5 @@ struct SLossView
 
 void MoveApt(ICalMove &move, SAptRouteBwRecord &record);
 void MoveType1(ICalMove &move, SMMType1PathlossByRouteV7 &record, const SLossView &view);
-// A subband, path or gain mode that no record has passes the losses over.
+// The losses are left out when no record has the subband, path or gain mode.
 void MoveType2(ICalMove &move, SMMType2PathlossByRouteV7 &record, const SLossView &view);

@@ -18,7 +18,7 @@ struct SRxPlace
     bool isType2;
 };
 
-// Logged with the words of storing by both directions, as users' log filters know it.
+// Both directions log the line of storing: users' log filters know it so.
 SRxPlace ReadRxPlace(const QJsonObject &document)
 {
     const CPackagedGroup config(document, "calDataIf.config.group1");

@@ -1,8 +1,8 @@
 // The path loss record that a packaged page selects, between the item's memory and the page's
 // document. There is a record for every route number and type.
 //
-// Under the lock of the item's records; the item is that of the page. Rows of the table of
-// calibration items (core/CalItemTable.cpp) call these.
+// The rows of the table of calibration items (core/CalItemTable.cpp) call these, under the lock of
+// the item's records.
 //
 //   StorePathLossDocument(item, document);
 #pragma once
@@ -19,5 +19,5 @@
 std::optional<std::string> ShowPathLossDocument(const CMultiRatPathLossV7 &item,
                                                 const QJsonObject &document,
                                                 const SSupportedGains &gains);
-// Takes what the page shows into the record. Makes it no more valid than it was.
+// Takes what the page shows into the record. A record that was not valid stays so.
 void StorePathLossDocument(CMultiRatPathLossV7 &item, const QJsonObject &document);

@@ -1,8 +1,8 @@
 // What each page wants of the capability update: paths, and the steps that write there.
 //
-// The records of the steps stand by step; the update of a page stands at the end, one row a page.
-// The RSRP pages, whose bands go by mode, have drivers of their own
-// (NrDataModelCapUpdaterDrivers.cpp). Constant data.
+// First come the records of the steps, step by step. The updates of the pages stand at the end, one
+// row a page. The RSRP pages have drivers of their own (NrDataModelCapUpdaterDrivers.cpp), since
+// their bands depend on the mode. Constant data.
 #pragma once
 
 #include "Controller/capability/CapUpdatePaths.h"

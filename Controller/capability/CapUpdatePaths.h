@@ -70,7 +70,7 @@ private:
     int m_count = 0;
 };
 
-// The question put to the band list.
+// Which bands of the DUT a page takes.
 struct SBandFilterV7
 {
     EBandDirection direction = EBandDirection::Rx;
@@ -87,8 +87,8 @@ struct SBandFreqPathV7
     SPaths freqValuePairPaths;
 };
 
-// The records below are split: the constant part that a page describes, and the bands of the DUT
-// that a step works on.
+// The records below have two parts: what a page describes once, and the bands of the DUT that a
+// step works on.
 struct SModulationTxCommonPaths
 {
     SPaths routeValuePairPaths;
@@ -170,7 +170,7 @@ struct SRxGainInfoPathV7
     SPaths path1DefaultPaths;
 };
 
-// A step of an update: false, and told in the document, when it failed.
+// A step of an update. False when it failed; the document tells why.
 using CapUpdateStep = bool (*)(CNrDataModelCapUpdater &updater, QJsonObject &doc,
                                const QJsonArray &bands);
 

@@ -58,8 +58,8 @@ public:
     // The steps.
     bool UpdateBandAndFrequency(QJsonObject &doc, const SBandFreqPathV7 path,
                                 const bool withRangeCheck);
-    // secondCarrierKeys: the second path of the slot and MIMO lists takes the object that is keyed
-    // by carrier count as well.
+    // secondCarrierKeys: the second path of the slot and MIMO lists gets the object whose keys have
+    // the carrier count, too.
     bool UpdateModulationTxCommonV7(QJsonObject &doc, const SModulationTxCommonPathV7 path,
                                     const bool secondCarrierKeys);
     bool UpdateCwTxCommonV7(QJsonObject &doc, const SCWTxCommonPathV7 path);
@@ -105,7 +105,7 @@ public:
     int GetRxRouteIndex(int route);
 
 private:
-    // What the 3GPP tables say about bands, each keyed as the members that show it.
+    // What the 3GPP tables say about bands. Each object has the keys of the members that show it.
     struct SBandTables
     {
         QJsonObject slotFlags;  // band -> 1 for TDD, 0 otherwise: is there a slot format to choose
@@ -147,8 +147,8 @@ private:
     CTargetCapability m_target;
 };
 
-// A row of a table that was read a moment ago; null when it is not there. A reset in between makes
-// the table and the index tell of different moments, and the document is then dropped anyway.
+// A row of a route table; null when the index is beyond it. That happens when a reset came between
+// the reads of index and table; the document is dropped then anyway.
 template <typename Route>
 const Route *RowOf(const std::vector<Route> &table, int index)
 {

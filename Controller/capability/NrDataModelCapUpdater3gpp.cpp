@@ -79,7 +79,7 @@ CNrDataModelCapUpdater::ReadBandTables(const QJsonArray &bands) const
         const QString band = element.toString();
         const QString duplex =
             GetJsonValueConst(operatingBand, band + QLatin1String(".duplex")).toString();
-        // A band that 3GPP's tables lack offers nothing, rather than what an earlier one offered.
+        // A band that the 3GPP tables lack has no choices; those of the band before must not stay.
         const QJsonArray scsList = scsByBand.value(band).toArray();
         const QJsonArray mhzList = mhzByBand.value(band).toArray();
         byBand.Put(band, {duplex.contains(QLatin1String("TDD")) ? 1 : 0, scsList, mhzList});

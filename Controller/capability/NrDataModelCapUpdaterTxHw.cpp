@@ -14,8 +14,8 @@ struct SCarrier
     int bandwidthKhz;  // -1: the pair stands for none
 };
 
-// The region of a bandwidth: the first whose limit holds it. Beyond the last limit it is the first
-// region.
+// The bandwidth region of a bandwidth: the first one whose limit it does not exceed. Beyond the
+// last limit it is the first region.
 std::size_t RegionOf(const STxRouteInfoV7 &row, int bandwidthKhz)
 {
     for (int i = 0; i < row.bwRegionCount; ++i) {

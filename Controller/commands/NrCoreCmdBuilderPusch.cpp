@@ -109,7 +109,7 @@ SNrDlFreqCmdV7 CNrCoreCmdBuilder::GetPuschDlFreqCmd(QJsonObject document, bool n
         FillFields(kDlFreqForced, values, command);
         return command;
     }
-    // There is room for one carrier: the second rules.
+    // The record has room for one carrier. When both are searched for, it is the second.
     const SSearchedCarriers searched(values);
     if (searched.first)
         FillFields(kDlFreqCarrier, values, command);

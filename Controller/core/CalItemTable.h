@@ -42,8 +42,8 @@ struct SCalItemRow
     bool showsGains;  // the page shows values by the gains that the DUT supports
     // An item without a valid record.
     std::unique_ptr<ICalItemByL1Operation> (*make)();
-    // The record that a packaged document selects: the document with it (none: there is no such
-    // record), and what the page shows taken over. The item is one that make has made.
+    // show: the document with the record that it selects; none when there is no such record. store:
+    // takes what the page shows into that record. The item is one that make has made.
     std::optional<std::string> (*show)(const ICalItemByL1Operation &item,
                                        const QJsonObject &document, const SSupportedGains &gains);
     void (*store)(ICalItemByL1Operation &item, const QJsonObject &document);

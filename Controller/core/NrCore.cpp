@@ -74,7 +74,7 @@ SRfSupportStatus CNrCore::GetSupportStatus()
 
 SRfSupportStatus CNrCore::DecideSupportStatus()
 {
-    // The advice of an earlier answer stays: only a status of 3 words one.
+    // Only status 3 has an advice of its own; the others keep that of the answer before.
     const auto answer = [this](ESupport status, const char *message) {
         return SRfSupportStatus{status, QLatin1String(message),
                                 status == eSupportUnknown ? QString(kCheckLink)

@@ -20,8 +20,9 @@
 // name into the id of its table at once; inside it is the id. What there is of a page or an item is
 // its row (PageTable.h, CalItemTable.h).
 //
-// Tests that go on until a stop are known to the core from their start on, each with the handle of
-// its start (RunningTests.h): it stops them when nobody shows them any more, and no other handle's.
+// The core remembers each test that goes on until a stop, with the handle of its start
+// (RunningTests.h). When nobody shows the tests any more, it stops them under these handles, and
+// touches no other handle.
 //
 //   QObject::connect(&GetCore(), &CNrCore::Signal_TestDone, page, &Page::Slot_Done);
 //   GetCore().Test(GetCore().GetPageName(2), document);
@@ -60,7 +61,7 @@ public:
     void DownloadToFlashStart(QStringList items) override;
     void LoadFromFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) override;
     void SaveToFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) override;
-    // Stops the tests that run first, on the pool. A start that has not reached the target answers
+    // First stops the tests that run, on the pool. A start that has not reached the target answers
     // 4 and does not go there any more.
     void ResetTargetCache() override;
     SRfSupportStatus GetSupportStatus() override;
@@ -74,8 +75,8 @@ public:
     // Prescribed; see docs/decisions/0036-prescribed-surface.md
     void TestStopStart(bool isNr);
 
-    // The same, asked for at an earlier moment: what was called off since then does not reach the
-    // target, and answers 4.
+    // The same for a question of an earlier moment. A test that was called off since then does not
+    // reach the target and answers 4.
     uint64_t Moment() const { return m_runningTests.Moment(); }
     void Test(QString pageName, std::string document, uint64_t asked);
     // Pool threads only. Stops the page's test, under the handle of its start; for a page without
@@ -83,10 +84,10 @@ public:
     // test that was stopped since the question, with all others, is not stopped again.
     SEachItemOperationResult StopTest(EStop kind, std::optional<EPageId> page, uint64_t asked);
 
-    // RF off, in two steps. On any thread, without waiting: calls off the starts that have not
-    // reached the target, and is next at the target. On a pool thread that waits for no other job:
-    // sends both stops under the current handle and under that of each test not stopped yet. The
-    // status and text are of the first stop that failed.
+    // RF off, in two steps. BeginRfOff calls off the starts that have not reached the target and
+    // takes the next turn at it; any thread, without waiting. FinishRfOff sends both stops under
+    // the current handle and under that of each test not stopped yet; on a pool thread that waits
+    // for no other job. Status and text are those of the first stop that failed.
     std::shared_ptr<CTurns::CPlace> BeginRfOff();
     SEachItemOperationResult FinishRfOff(std::shared_ptr<CTurns::CPlace> place);
 
@@ -143,7 +144,7 @@ signals:
     void Signal_TestDone(SEachItemOperationResult itemResult, std::string resultModel);
     // Prescribed; see docs/decisions/0036-prescribed-surface.md
     void Signal_TestStopDone(SEachItemOperationResult itemResult);
-    // The first test runs, or none does any more.
+    // isAny: true when the first test starts, false when the last one has ended.
     void Signal_TestsRun(bool isAny);
 
 protected:
@@ -159,7 +160,7 @@ protected:
 
 private:
     struct SCalFlow;  // one of the four moves
-    // What storing and showing the records of an item takes of the capability.
+    // What showing and storing an item's records needs to know of the DUT.
     struct SCalView
     {
         bool isKnown = false;
@@ -177,12 +178,12 @@ private:
     SRfSupportStatus DecideSupportStatus();
     bool IsC2kModem() const;
     int RunTestStep(const SPageRow &page, STestRun &run, QJsonObject document);
-    // Sends one stop; its text, if it failed.
+    // Sends one stop. message: the operation's text.
     uint32_t SendStop(const STargetStop &stop, QString &message);
     void QueueStops();
     void DropCaches();
-    // The document with what read has put into it, in its turn at the target; on another generation
-    // read is not called.
+    // Calls read with the parsed document, under the lock, and answers with the document. On
+    // another generation read is not called.
     template <typename Read>
     std::string FillDocument(const std::string &document, Read read);
 
@@ -190,8 +191,8 @@ private:
                    std::shared_ptr<CCalIniFile> file);
     void RunFlow(const SCalFlow &flow, const QStringList &items, std::shared_ptr<CCalIniFile> file);
     void RunFlowItems(const SCalFlow &flow, const QStringList &items, CCalIniFile *file);
-    // Items without records in place of those of an earlier connection: what was read of one DUT is
-    // not for the next.
+    // Replaces the items of an earlier connection by empty ones: the records of one DUT are not for
+    // the next.
     void RenewCalItems();
     SCalItem &CalItem(ECalItem item) { return m_calItems[Index(item)]; }
     void TellRemarks(ECalItem item);

@@ -45,8 +45,9 @@ void CNrCore::LookForCalItem(ECalItem item)
     CalItem(item).view = view;
 }
 
-// While a job is at the target the last look counts: the page could not be there without one, and
-// what the DUT can do changes with a reset alone, which takes the pages away.
+// While a job is at the target, the answer is what the last look found. There was one, since the
+// page has its document. What the DUT can do changes with a reset alone, and that takes the pages
+// away.
 CNrCore::SCalView CNrCore::CalView(ECalItem item)
 {
     const auto last = [&] {

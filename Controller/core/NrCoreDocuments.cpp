@@ -21,7 +21,7 @@ std::string CNrCore::GetDataModel(QString pageName)
         return {};
     qCDebug(lcCore) << "[CNrCore] GetDataModelV7()--" << pageName;
     const EPageId page = PageByName(pageName);
-    // A name that no page has counts as the first page's.
+    // An unknown name counts as that of the first page.
     return GetDataModelV7(page == EPageId::ErrorPage ? EPageId::Rssi : page);
 }
 
@@ -47,7 +47,7 @@ std::string CNrCore::LoadDataModel(const SPageRow &page, const QString &resource
     if (!ReadDataModel(file, document))
         m_errorMessage = QLatin1String("CNrCore::GetDataModel: cannon get the data Model->") +
                          QLatin1String(page.name);
-    // Whatever a driver could not patch stands in the document, for the page to show.
+    // The document itself tells what a driver could not patch; the page shows it.
     (m_capUpdater.*page.driver)(document);
     qCDebug(lcCore) << "[CNrCore] GetDataModelV7()Done --" << document;
     return ModelToText(document);

@@ -26,7 +26,8 @@ constexpr SReadRow kDlFrequency{
     "cmdIf.response.group1.memberProperty.dlFrequency.trait.defaultValue", "ERROR",
     "Get DL freq result from target failed\n ", "Update DL freq result failed"};
 
-// A status other than 0 shows the row's words in place of the value and reports the operation's.
+// On a status other than 0, shows the row's text in place of the value and reports the operation's
+// text.
 void ShowRead(QJsonObject &document, const SReadRow &row, uint32_t status, const QString &value,
               const IGeneralOperation &operation)
 {

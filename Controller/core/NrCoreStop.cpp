@@ -51,7 +51,7 @@ SEachItemOperationResult CNrCore::StopTest(EStop kind, std::optional<EPageId> pa
     return result;
 }
 
-// The text is the operation's last, of an earlier failure too.
+// The text is the operation's last one, even if it is of an earlier failure.
 uint32_t CNrCore::SendStop(const STargetStop &stop, QString &message)
 {
     const CTargetHandleScope handle(stop.handle);
@@ -108,8 +108,8 @@ void CNrCore::StopRunningTests()
         QueueStops();
 }
 
-// In front of all jobs that wait: whatever they ask the target comes behind the stops, and what
-// they read of it is of the target that the host has connected since.
+// Takes its turn in front of all jobs that wait. So they reach the target after the stops, and read
+// the target that the host has connected since.
 void CNrCore::QueueStops()
 {
     if (m_areStopsDue.exchange(true))

@@ -22,7 +22,7 @@ struct NRfTestResult_GetMixRxReportV7;
 struct STestOperations;
 struct STestRun;
 
-// What is left out is null: the tool has no such page, or the page no such thing.
+// What a row leaves out is null: the tool does not show the page, or the page has no such thing.
 struct SPageRow
 {
     EPageId id;

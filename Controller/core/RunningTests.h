@@ -1,10 +1,9 @@
 // The tests that the tool has started on the target and not stopped yet.
 //
-// A start counts from the moment at which it goes to the target. A refusal does not take it out:
-// a start that timed out, or whose answer was noise, may well run. A stop that went well takes out
-// all tests of its kind at its handle. Calling off tells all starts that are still on their way
-// that they may not go to the target any more; they know by the moment at which they were asked
-// for.
+// A test is entered when its start goes to the target. A failed start does not take it out: a start
+// that timed out, or whose answer was noise, may well run. A stop that went well takes out all
+// tests of its kind and handle. Calling off forbids all starts that are still on their way to go to
+// the target; the moment at which a start was asked for tells whether it is one of them.
 //
 // Any thread. onChange is called, on the thread that changed it, when the first test comes or the
 // last goes.
@@ -47,13 +46,13 @@ class CRunningTests
 public:
     explicit CRunningTests(std::function<void(bool isAny)> onChange);
 
-    // Stands for what is asked for now.
+    // The present moment, for a start that is asked for now.
     uint64_t Moment() const;
-    // All that was asked for up to now may not begin any more. Is there a test that has?
+    // No start that was asked for up to now may begin any more. True when a test runs.
     bool CallOff();
     bool IsCalledOff(uint64_t asked) const;
 
-    // The test goes to the target. False: it may not, it was called off.
+    // Enters a test that goes to the target now. False: it was called off and may not go.
     bool Begin(const SRunningTest &test, uint64_t asked);
     void End(const STargetStop &stop);
 

@@ -1,5 +1,6 @@
 // The fields of a command record as rows of a table: which member of a packaged group fills which
-// field, by which conversion. A record's builder is its tables and what no table can say.
+// field, by which conversion. A builder function fills in its tables, and adds what no table can
+// say.
 //
 // Rows are filled in their order. A member that is missing reads as an empty text, which each
 // conversion takes as 0 or as its default. Pure, any thread.
@@ -106,7 +107,7 @@ constexpr auto Field(const char *member)
                                  }};
 }
 
-// A bandwidth given in RBs counts by the SCS of the same record: its row stands behind the SCS row.
+// A bandwidth in RBs depends on the SCS of the same record, so its row stands behind the SCS row.
 template <auto BandwidthOf, auto ScsOf>
 constexpr auto BandwidthField(const char *member)
 {

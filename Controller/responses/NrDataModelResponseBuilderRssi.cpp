@@ -89,7 +89,7 @@ QString DbText(int16_t value)
     return QString::number(value * kGainUnit, 'f', 5);
 }
 
-// As the target gave it: one beyond the gain table is a target to look at.
+// Shown as the target gave it, also beyond the gain table: such a target needs a look.
 QString IndexText(uint8_t index)
 {
     return QString::number(index);
@@ -159,8 +159,8 @@ void CNrDataModelResponseBuilder::UpdateRssiGainResultV7(QJsonObject &document,
             show(row.member[PathOf(calType)], DbText(result.gain.single.*row.gain));
     };
 
-    // Any other layout word means that of one path. A failed search has filled no record; then the
-    // request tells which paths have no gains.
+    // Any other layout word means the layout of one path. A failed search has filled no record;
+    // then the request tells which members show the error.
     if (result.simultaneous == 1 || (!success && IsSimultaneous(calType))) {
         showBoth(kBothRfGains<Gains>);
         showBoth(kBothDigitalGains<Gains>);

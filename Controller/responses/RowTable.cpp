@@ -6,7 +6,7 @@
 
 namespace {
 
-// The object under a key of parent, which lets go of it.
+// Moves the object under a key out of its parent, so that the two do not share it.
 QJsonObject TakeObject(QJsonObject &parent, const QString &key)
 {
     const auto place = parent.find(key);
@@ -60,8 +60,8 @@ void CRowTable::AddRow(const QStringList &texts)
     }
 }
 
-// Builds what stays anew, in the order of its keys: to remove row by row would move all that lies
-// behind each one.
+// Builds the objects anew from what stays, in the order of the keys. Removing row by row would move
+// all entries behind each row.
 void CRowTable::Clear()
 {
     QSet<QString> listed;

@@ -30,7 +30,8 @@ void Move(const Mover &mover, Record &record, Block &block)
 
 }  // namespace
 
-// Some targets count the blocks of a route alone; their regions are all of one length then.
+// Some targets give one count for all regions of a route. All regions have the same number of
+// blocks then.
 SFlashBlocks SAptKind::BlocksInFlash(const SMMCalBlkInfoCnfV7 &info, const SCalPlace &place)
 {
     const SMMCalTxRowV7 *end = info.tx + std::min<int>(info.txCount, kVondMaxTxRoutes);

@@ -71,7 +71,7 @@ SCalFault CAptSections::Read(const SCalPlace &place, const CalFileSections &sect
     watch.BeginRecord(Kind(), place, &record);
     if (const char *failure = ReadKeys(*sections[0], kKeys, EAbsentKey::Default, record, watch))
         return {kCalFileProblem, QString::fromLatin1(failure)};
-    // The section belongs to its route by its name; a number in it can't send it elsewhere.
+    // The section's name tells its route; numbers in the section can't change it.
     record.band = place.band;
     record.route = place.route;
     record.blockCount =

@@ -188,7 +188,7 @@ typename CCalAreaOf<TKind>::SAsked *CCalAreaOf<TKind>::FindAsked(const SCalEntry
     const auto asked = std::find_if(m_asked.begin(), m_asked.end(), [&entry](const SAsked &one) {
         return one.place.route == entry.route && one.place.bwKhz == entry.bwKhz;
     });
-    // In the wrong order a bandwidth looks like a count.
+    // Read in the wrong order, a bandwidth looks like a count.
     const bool isTaken = asked != m_asked.end() && (!kHasOrders || entry.blocks <= asked->blocks);
     return isTaken ? &*asked : nullptr;
 }
@@ -209,7 +209,7 @@ bool CCalAreaOf<TKind>::NamesAsked(const SMMGetCalDataCnfV7 &answer, int index, 
     return FindAsked(TKind::Entry(answer, index, order)) != nullptr;
 }
 
-// The first entry has none before it: it goes by the first one that leaves no doubt.
+// No entry comes before the first one: it takes the order of the first entry that leaves no doubt.
 template <typename TKind>
 void CCalAreaOf<TKind>::FindFirstOrder(const SMMGetCalDataCnfV7 &answer, int entries)
 {

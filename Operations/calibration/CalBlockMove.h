@@ -1,5 +1,5 @@
-// Moves fields between a record of a whole route and block k of it, so that the list of fields
-// stands in the code once: SBlockCut fills the block, SBlockJoin the record.
+// Moves fields between a record of a whole route and its block k: SBlockCut fills the block,
+// SBlockJoin the record. So each list of fields stands in the code once.
 //
 // Whole moves what all blocks of a route repeat; Subbands moves the 16 entries of a table of 64
 // that are the block's. k is 0 to 3.

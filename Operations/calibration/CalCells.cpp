@@ -60,8 +60,8 @@ bool IsDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-// Takes a value off a list when it is written as this tool does it, whole dB and five decimals; the
-// result is that of the way by a double. False, and nothing taken, for any other text.
+// Takes a value off a list if it is written as this tool writes it, whole dB and five decimals. The
+// result is the same as by a double, in less time. False, with nothing taken, for any other text.
 bool TakePlainDb(std::string_view &list, int64_t &value)
 {
     constexpr int kMostWholeDigits = 7;

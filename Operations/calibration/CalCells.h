@@ -4,12 +4,11 @@
 // 1/32 dB and in a list with five decimals, which is exact; a lone dB value has six. A voltage
 // stands in a record in tenths of a volt and in a list as "3.4V".
 //
-// Reading is lenient, since people edit these files. Blanks around a number are skipped and so is
-// what follows it; text that is no number, or one beyond all computing (1e999), counts as 0; a
-// number beyond the range of its field is limited to the range; places without a number become 0 and
-// numbers beyond the last place are left out. dB and voltages are truncated towards 0. Only a
-// voltage that is no number is a failure. The decimal point is '.' in every locale. Pure functions,
-// any thread.
+// Reading is lenient, since people edit these files. Blanks around a number and text behind it are
+// skipped. Text that is no number, or an infinite one (1e999), counts as 0. A number beyond the
+// range of its field is limited to the range. Fields without a number become 0, and numbers without
+// a field are left out. dB and voltages are truncated towards 0. Only a voltage that is no number
+// is a failure. The decimal point is '.' in every locale. Pure functions, any thread.
 //
 //   CCalCells(record.plOffset).Read("-30.5,1", ECalValue::Db);
 #pragma once

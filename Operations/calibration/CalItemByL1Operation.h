@@ -10,12 +10,12 @@
 //     203  the target answered with a failure status
 // Load and save throw the std::runtime_error of CCalIniFile when a file can't be read or written.
 //
-// A record is valid once it was read from flash or a file, and stays so; valid records alone are
-// written to either. An upload or a load replaces the records that came in whole, and no other one.
-// Nothing is rolled back: what a failed transfer has moved stays, in flash and in memory.
+// A record is valid once it was read from flash or a file, and stays so. Only valid records are
+// written to flash or a file. An upload or a load replaces the records that came in whole, and no
+// others. Nothing is rolled back: what a failed transfer has moved stays, in flash and in memory.
 //
-// What a move left out, and what of a file is not as it may look, is told in Remarks(); the code is
-// the same with and without.
+// Remarks() tells what a move left out, and which values of a file are odd. The code does not
+// depend on remarks.
 //
 // Transfers go in rounds, since one holds a limited number of blocks; a record is never split. All
 // moves block the calling thread, run one at a time under the core's lock, and retry nothing.
@@ -50,15 +50,15 @@ public:
     virtual uint32_t LoadFromFile(CCalIniFile *file) = 0;
     virtual uint32_t SaveToFile(CCalIniFile *file) = 0;
 
-    // What the item's page shows, for the remarks of the loads from now on; null: not known.
-    // Outlives them.
+    // What the item's page can show, for the remarks of later loads; null: not known. The limits
+    // must outlive these loads.
     void SetPageLimits(ICalPageLimits *limits) { m_limits = limits; }
     void SetProgress(Progress progress) { m_progress = std::move(progress); }
     // Prescribed; see docs/decisions/0036-prescribed-surface.md
     bool HasData() const;  // some record is valid
     // Of the last move.
     const SCalMoveRemarks &Remarks() const { return m_remarks; }
-    // Does a file hold a section of this item, of whatever RF chip? No text is left. Throws as load
+    // True when a file has a section of this item, for any RF chip. Leaves no text. Throws as load
     // does; false without a route table.
     bool IsInFile(CCalIniFile &file) const;
 
@@ -96,7 +96,7 @@ private:
     std::string ChipName() const;
     uint32_t Fail(const SCalFault &fault);
     void BeginMove();
-    // Records that a user edited, but that are not valid.
+    // Remarks on the records that a user has edited but that are not valid.
     void NotePassedOver(const SMMRfRouteTableV7 &table);
     uint32_t MoveFile(FileMove move, const std::vector<CCalIniFile *> &files);
 
@@ -110,7 +110,7 @@ private:
     uint32_t WriteRecord(CCalRounds &rounds, int part, const SCalPlace &place,
                          SMMSetCalDataReqV7 &request, QStringList &refused);
     uint32_t WriteRound(SMMSetCalDataReqV7 &request);
-    // The code of a round: the verdict counts before the result.
+    // The code of a round. The verdict counts more than the result.
     uint32_t FinishRound(const SMMCalVerdictV7 &verdict, int32_t result);
     void TellProgress(int round, int routesDone, int routesInAll) const;
 

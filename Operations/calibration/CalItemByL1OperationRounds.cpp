@@ -132,7 +132,7 @@ uint32_t ICalItemByL1Operation::AskRecord(CCalRounds &rounds, int part, const SC
     qCDebug(lcCalibration).noquote().nospace()
         << m_words.uploadRoute[part] << PlaceText(place, area.Kind()).c_str();
     if (blocks > most) {
-        // Taken over in part it could be written back in part.
+        // A record taken over in part could be written back in part.
         qCCritical(lcCalibration).noquote().nospace()
             << area.Name() << " route " << PlaceText(place, area.Kind()).c_str() << " has "
             << blocks << " blocks in flash, more than the " << most << " that can be read";

@@ -55,8 +55,8 @@ void KeepPresent(std::vector<SStop> &stops)
     stops.erase(std::remove_if(stops.begin(), stops.end(), isAbsent), stops.end());
 }
 
-// A route that stands on several bands has one record, which carries the first of them that the
-// file tells of.
+// A route on several bands has one record. Its band is the first one for which the file has a
+// section.
 void GiveSharedRecordsOneBand(std::vector<SStop> &stops)
 {
     std::map<std::tuple<const SCalFilePart *, uint16_t, int>, uint16_t> bands;
@@ -149,7 +149,7 @@ SCalFault SaveCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
         return !stop.part->sections->IsValid(stop.place);
     };
     stops.erase(std::remove_if(stops.begin(), stops.end(), isInvalid), stops.end());
-    // A batch that is left half written saves, too: all that can fail comes before the first write.
+    // All that can fail comes before the first write: a batch that ends half written is saved, too.
     if (SCalFault fault = Begin(parts, stops, context, ECalAccess::Write))
         return fault;
 

@@ -4,10 +4,10 @@
 // diversity path. What one kind of route puts into its sections is a CCalSections; the walk asks it
 // for names and lets it read and write one record at a time.
 //
-// Load. The sections that a file has decide what is loaded; a file with none of them is 51, one of
-// another RF chip 200, before a record is touched. A record is taken over whole or not at all; a
-// failure ends the load and leaves the records before it loaded. A section without the chip's name
-// passes.
+// Load. What is loaded depends on the sections that the file has. A file with none of them is 51,
+// one of another RF chip 200; no record is touched then. A record is taken over whole or not at
+// all. A failure ends the load; the records before it stay loaded. A section without the chip's
+// name is accepted.
 //
 // Save. Valid records alone are written, with one save of each file in the end; nothing is saved
 // when there is none.
@@ -53,11 +53,11 @@ public:
     virtual std::vector<std::string> SectionsOf(ERadioKind kind, const SCalPlace &place) const = 0;
     virtual bool IsValid(const SCalPlace &place) const = 0;
 
-    // Readies for the keys that the target's capability asks for, before the first record.
+    // Called before the first record: prepares the keys that the target's capability asks for.
     virtual SCalFault Begin(const CTargetCapability &target, ERadioKind kind,
                             ECalAccess access) = 0;
-    // Takes a record over from those of its sections that the file has, and makes it valid. On a
-    // failure the record stays as it was.
+    // Reads a record from those of its sections that the file has, and makes it valid. On a failure
+    // the record stays as it was.
     virtual SCalFault Read(const SCalPlace &place, const CalFileSections &sections,
                            CCalValueWatch &watch) = 0;
     // Writes the keys behind the chip's name. index: of the section among those of the record.
@@ -81,7 +81,7 @@ struct SCalFileContext
     CCalValueWatch &watch;                       // of a load
 };
 
-// Does a file hold a section of a record, of whatever RF chip?
+// True when a file has a section of a record, for any RF chip.
 bool HasCalSections(const std::vector<SCalFilePart> &parts, const SMMRfRouteTableV7 &table,
                     ERadioKind kind);
 SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFileContext &context);

@@ -1,10 +1,9 @@
 // Calibration records of one kind of route in memory: one for each route number, or for each route
 // number and bandwidth region, with a flag that tells whether it holds data.
 //
-// Only what was read from the target or a file is valid, and stays so. A record that is not valid
-// may hold what a user has edited, which a second flag tells until it becomes valid. A record is
-// made, all 0, when it is first asked for, and keeps its address for the life of the store. One
-// thread at a time.
+// A record is valid once it was read from the target or a file, and stays so. A second flag tells
+// that a user has edited a record that is not valid yet. A record is made, all 0, when it is first
+// asked for, and keeps its address for the life of the store. One thread at a time.
 //
 //   CCalStore<SAptRouteBwRecord> store(kVondMaxBwRegions);
 //   const SAptRouteBwRecord *record = store.Find(7, 0);

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Band and route, which a record has of its section's name and not of the values in it.
+// Band and route: a record takes them from its section's name, not from the values in the section.
 constexpr ptrdiff_t kHead = 4;
 
 std::string TextOf(ECalValue kind, int64_t value)

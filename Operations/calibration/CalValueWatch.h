@@ -1,9 +1,10 @@
-// Watches the values of a file as a load reads them: which are no numbers, and which the page can't
-// show.
+// Watches the values of a file while a load reads them, and finds those that are no numbers or that
+// the page can't show.
 //
-// A value is odd when its text is no number, or its number is beyond what the page's editor of the
-// field shows. The record takes it as it would without this. What the pages show is the core's to
-// know. Values of a record count once the record is taken over. One thread, the worker's.
+// A value is odd when its text is no number, or when its number is beyond what the page's editor
+// can show. The watch changes nothing: the record takes the value in any case. The core tells what
+// the pages can show. The odd values of a record count when the record is taken over. One thread,
+// the worker's.
 //
 //   CCalValueWatch watch(limits, remarks);
 //   watch.BeginRecord(ECalRoute::Tx, place, &record);
@@ -33,7 +34,8 @@ class ICalPageLimits
 {
 public:
     virtual ~ICalPageLimits() = default;
-    // Of the field that lies so many bytes behind the start of a record; null: not on the page.
+    // What is shown of the field at an offset in the record, in bytes; null: the field is not on
+    // the page.
     virtual const SCalShown *Of(ECalRoute kind, const SCalPlace &place, size_t offset) = 0;
 };
 

@@ -1,4 +1,4 @@
-// Texts of a transfer's verdict, which end with a 0 or fill their room.
+// The texts of a transfer's verdict. A text ends with a 0 or fills its array.
 //
 //   QString text = VerdictText(verdict.txText);
 #pragma once

@@ -29,7 +29,8 @@ public:
     // Takes a record over; more than 4 blocks count as 4. A record that was not valid stays so.
     // False when there is no such region.
     bool SetAptCalibrationData(uint16_t route, uint16_t bwIdx, const SAptRouteBwRecord &record);
-    // What was stored last has a user's edits: a write or export that passes it over says so.
+    // Tells that the stored record has a user's edits. A Write or Export that leaves it out says
+    // so.
     void NoteEdit(uint16_t route, uint16_t bwIdx) { m_records.NoteEdit(route, bwIdx); }
 
 private:

@@ -44,7 +44,8 @@ public:
     {
         Records<Record>(*this).Put(route, 0, record);
     }
-    // What was stored last has a user's edits: a write or export that passes it over says so.
+    // Tells that the stored record has a user's edits. A Write or Export that leaves it out says
+    // so.
     template <typename Record>
     void NoteEdit(uint16_t route)
     {

@@ -1,8 +1,8 @@
-// Gain modes of the path loss items: the key of each supported mode in a file and the loss that it
-// stands for.
+// Gain modes of the path loss items: the key of each supported mode in a file, and its loss in the
+// record.
 //
-// Supported is what the target's table t1 of a power mode sets; its set entries, counted in row
-// order, are the gain slots of that power mode. A file has to have their keys.
+// The target's table t1 of a power mode tells the supported modes. Its set entries, counted in row
+// order, are the gain slots of that power mode. A file must have their keys.
 //
 // Gain-by-gain losses have a cell for every gain G and two gain modes: the page's rows are those of
 // path 1, its columns those of path 0, whichever path the page shows, and a key names the row

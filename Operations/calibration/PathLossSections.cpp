@@ -161,7 +161,7 @@ SCalFault CPathLossSections<Record>::Read(const SCalPlace &place, const CalFileS
         if (SCalFault fault = ReadGains(*sections[path], m_gainKeys, path, *record, watch))
             return fault;
     }
-    // The sections belong to their route by their name; a number in them can't send them elsewhere.
+    // The sections' names tell their route; numbers in the sections can't change it.
     record->band = place.band;
     record->route = place.route;
     record->blockCount =

@@ -1,10 +1,10 @@
 // RX path loss records in INI files: two sections for each route, one of the main path and one of
 // the diversity path.
 //
-// Both hold the frequencies and the temperature offset; where they differ, diversity counts, and
-// where one lacks a key, the other's stands. The gain keys follow the target's capability. A
-// section that lacks the key of a supported mode is not complete; losses that no key stands for
-// stay as they were in memory. Contract: CCalSections.
+// Both have the frequencies and the temperature offset. Where they differ, diversity counts; where
+// one lacks a key, the other's value is taken. The gain keys depend on the target's capability. A
+// section without the key of a supported mode is not complete. Losses that have no key stay as they
+// were in memory. Contract: CCalSections.
 //
 //   CPathLossSections<SMMType1PathlossByRouteV7> sections(store);
 #pragma once

@@ -1,12 +1,12 @@
 // The cached capability reads: each is made once per connection, on first demand.
 //
-// All state is static and process-wide. A read that has been attempted is never repeated before the
-// next reset, whatever came of it; its flags tell. Not thread-safe on purpose: readers run one at a
-// time under the core's lock. RequestReset alone may be called from any thread, at any time, also
-// while a read is under way: the caches are emptied by the next read, on the reader's own thread.
+// All state is static and process-wide. A read is made once until the next reset, whether it
+// succeeds or fails; its flags tell. Not thread-safe on purpose: readers run one at a time under
+// the core's lock. RequestReset alone may be called from any thread, at any time, also while a read
+// is under way: the caches are emptied by the next read, on the reader's own thread.
 //
-// Counts that a target reports beyond its tables are cut to the table, so that whoever walks a
-// cached record may trust them.
+// Counts beyond the tables' sizes are cut to these sizes, so that the counts of a cached record can
+// be trusted.
 //
 //   CapabilityCache &cache = CapabilityCache::Get();
 //   cache.ReadNrRoutes();
@@ -24,7 +24,7 @@ struct SCachedRead
     Record record = {};
 };
 
-// The three records of the NR detail read, which stand or fall together.
+// The three records of the NR detail read. All are read, or none counts.
 struct SNrRouteDetail
 {
     SNRfBandRxInfo bandRxInfo;
@@ -39,8 +39,8 @@ public:
 
     void RequestReset() { m_resetRequested.store(true); }
 
-    // Each makes its read if it has not been attempted. False when this very call failed; a caller
-    // that cares for earlier outcomes asks the flags.
+    // Each makes its read if it has not been attempted. False when this call's read failed; the
+    // flags tell of earlier ones.
     bool ReadLteCapability();
     bool ReadMmCapability();
     bool ReadNrCapability();

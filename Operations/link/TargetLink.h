@@ -20,8 +20,8 @@ constexpr int kModemServiceC2k = 3;  // service type of a C2K modem, which has n
 void SetTargetHandle(uint32_t handle);
 uint32_t TargetHandle();
 
-// Gives the calling thread a handle of its own for the life of a scope: that under which a test was
-// started goes to its stop.
+// Gives the calling thread a handle of its own for the life of a scope: a test is stopped under the
+// handle of its start.
 class CTargetHandleScope
 {
 public:

@@ -2,8 +2,8 @@
 // frequencies.
 //
 // Neither leaves anything running. The commands come by value, since each step of the page builds
-// its own. The caller clears an RSSI answer before the call. Gain indexes, G and g of an answer are
-// held to the tables that they point into, whatever the call's outcome. Contract of codes, text and
+// its own. The caller clears an RSSI answer before the call. Both limit the gain indexes, G and g
+// of an answer to the sizes of their tables, also after a failed call. Contract of codes, text and
 // thread: IGeneralOperation.
 //
 //   CMultiRatRssiV7 rssi;

@@ -1,8 +1,8 @@
 // RSRP: lets the DUT measure a cell until a stop, and fetches what it has measured.
 //
 // Success of a start means started; the target goes on by itself and keeps its last measurements
-// for the next fetch. The caller clears a report before the fetch. A count above the ten rows of
-// the report is held to ten, whatever the call's outcome. Contract of codes, text and thread:
+// for the next fetch. The caller clears a report before the fetch. A count above the ten rows of a
+// report is limited to ten, also after a failed call. Contract of codes, text and thread:
 // IGeneralOperation.
 //
 //   CNrRsrpV7 rsrp;
