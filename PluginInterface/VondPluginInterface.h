@@ -30,6 +30,7 @@ struct SPluginToolLaunchRequirement
     QString unsupportReason;    // why not, for the host to show; empty when isSupport
     bool isNeedDb = false;      // the host must have loaded a database
     bool isNeedDriver = false;  // the tool needs the host's driver
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     QString launchNote;
 };
 
@@ -39,6 +40,7 @@ public:
     virtual ~VondPluginInterface() = default;
 
     // Left to the host; a plug-in may ignore them.
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     virtual bool HostCheck(uint32_t, uint32_t) { return true; }
     virtual void HostNotify(uint32_t) {}
 
@@ -53,6 +55,7 @@ public:
     virtual void HidePlugin() = 0;
     // Can the tool run on the DUT? Blocks on the target link. Needs no window.
     virtual SPluginToolLaunchRequirement QueryLaunchRequirement() = 0;
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     virtual QString GetPluginNote() = 0;
     virtual void HostNotifyAfter(uint32_t) = 0;
     // The Start and Stop buttons of all pages off; Start on and Stop off. The Stop of a test that
@@ -65,6 +68,7 @@ public:
     virtual void Slot_PluginIsBusy(bool isBusy) = 0;
 
 private:
+    // Prescribed; see docs/decisions/0036-prescribed-surface.md
     QString m_reserved;  // part of the object's layout; nothing reads it
 };
 

@@ -1,10 +1,11 @@
 // What the 3GPP band tables say.
+#include "Controller/capability/NrDataModelCapUpdater.h"
+
 #include <limits>
 
 #include "Controller/Interface/CoreInterface.h"
 #include "Controller/capability/EntryTable.h"
 #include "Controller/capability/FrequencyRange.h"
-#include "Controller/capability/NrDataModelCapUpdater.h"
 #include "Model/JsonPath.h"
 #include "Support/Log.h"
 

@@ -1,11 +1,12 @@
 // The drivers. What the update of a page is made of stands in CapUpdatePages.h; the RSRP pages go
 // their own way here.
+#include "Controller/capability/NrDataModelCapUpdater.h"
+
 #include <algorithm>
 
 #include "Controller/capability/CapUpdatePages.h"
 #include "Controller/capability/DocumentWriter.h"
 #include "Controller/capability/EntryTable.h"
-#include "Controller/capability/NrDataModelCapUpdater.h"
 #include "Model/JsonPath.h"
 
 using namespace CapUpdatePages;

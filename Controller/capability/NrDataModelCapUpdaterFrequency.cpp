@@ -1,10 +1,11 @@
 // Bands of the DUT and their frequency limits.
+#include "Controller/capability/NrDataModelCapUpdater.h"
+
 #include <algorithm>
 
 #include "Controller/capability/DocumentWriter.h"
 #include "Controller/capability/EntryTable.h"
 #include "Controller/capability/FrequencyRange.h"
-#include "Controller/capability/NrDataModelCapUpdater.h"
 #include "Controller/fields/CommandConversions.h"
 #include "Model/JsonPath.h"
 #include "Support/Log.h"

@@ -1,8 +1,9 @@
 // Common members and hardware labels of the RX pages.
+#include "Controller/capability/NrDataModelCapUpdater.h"
+
 #include "Controller/capability/DocumentWriter.h"
 #include "Controller/capability/EntryTable.h"
 #include "Controller/capability/HwLabels.h"
-#include "Controller/capability/NrDataModelCapUpdater.h"
 #include "Controller/capability/VrbRanges.h"
 #include "Controller/fields/CommandConversions.h"
 

@@ -1,10 +1,11 @@
 // RX gain modes of the DUT: the gain choices of the RSSI page, the LNA columns of the path loss
 // page.
+#include "Controller/capability/NrDataModelCapUpdater.h"
+
 #include <iterator>
 
 #include "Controller/capability/DocumentWriter.h"
 #include "Controller/capability/EntryTable.h"
-#include "Controller/capability/NrDataModelCapUpdater.h"
 
 namespace {
 

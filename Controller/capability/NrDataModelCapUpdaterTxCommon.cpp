@@ -1,7 +1,8 @@
 // Common members of the TX pages: routes, SCS, bandwidths, slot format, MIMO, bandwidth regions.
+#include "Controller/capability/NrDataModelCapUpdater.h"
+
 #include "Controller/capability/DocumentWriter.h"
 #include "Controller/capability/EntryTable.h"
-#include "Controller/capability/NrDataModelCapUpdater.h"
 #include "Controller/capability/VrbRanges.h"
 #include "Controller/fields/CommandConversions.h"
 

@@ -1,8 +1,9 @@
 // Hardware labels of the TX pages, by what the page selects: route, SCS and RB count, or route and
 // bandwidth region.
+#include "Controller/capability/NrDataModelCapUpdater.h"
+
 #include "Controller/capability/DocumentWriter.h"
 #include "Controller/capability/HwLabels.h"
-#include "Controller/capability/NrDataModelCapUpdater.h"
 #include "Controller/fields/CommandConversions.h"
 
 namespace {

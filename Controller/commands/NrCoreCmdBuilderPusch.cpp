@@ -1,5 +1,6 @@
 // Commands of the PUSCH TX tests.
 #include "Controller/commands/NrCoreCmdBuilder.h"
+
 #include "Controller/fields/CommandFields.h"
 
 namespace {

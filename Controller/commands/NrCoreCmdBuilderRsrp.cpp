@@ -1,5 +1,6 @@
 // Commands of the RSRP tests.
 #include "Controller/commands/NrCoreCmdBuilder.h"
+
 #include "Controller/fields/CommandFields.h"
 #include "Model/ModelQuery.h"
 

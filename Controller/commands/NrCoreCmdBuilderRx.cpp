@@ -1,5 +1,6 @@
 // Commands of the multi-RAT receiver: continuous RX, and RSSI with its gain search.
 #include "Controller/commands/NrCoreCmdBuilder.h"
+
 #include "Controller/fields/CommandFields.h"
 #include "Controller/fields/PathGainFields.h"
 

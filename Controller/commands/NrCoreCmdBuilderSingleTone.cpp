@@ -1,5 +1,6 @@
 // Command of the single tone TX test.
 #include "Controller/commands/NrCoreCmdBuilder.h"
+
 #include "Controller/fields/CommandFields.h"
 #include "Model/ModelQuery.h"
 

@@ -1,5 +1,6 @@
 // Calibration records of the core as pages see them.
 #include "Controller/core/NrCore.h"
+
 #include "Model/ModelText.h"
 
 namespace {

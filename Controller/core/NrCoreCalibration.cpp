@@ -1,10 +1,11 @@
 // Calibration flows of the core.
+#include "Controller/core/NrCore.h"
+
 #include <deque>
 #include <exception>
 
 #include "Controller/calibration/CalPageLimits.h"
 #include "Controller/calibration/CalRemarkText.h"
-#include "Controller/core/NrCore.h"
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/CalIniFile.h"

@@ -1,5 +1,6 @@
 // Page list and documents of the core.
 #include "Controller/core/NrCore.h"
+
 #include "Model/ModelText.h"
 #include "Support/Log.h"
 

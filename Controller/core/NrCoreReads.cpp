@@ -1,5 +1,6 @@
 // Reads of the core beside a test: power detector, DL frequency, RSRP report, RSSI gains.
 #include "Controller/core/NrCore.h"
+
 #include "Model/JsonPath.h"
 #include "Model/ModelIntegrity.h"
 #include "Model/ModelText.h"

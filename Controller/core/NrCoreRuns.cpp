@@ -1,5 +1,6 @@
 // Tests of the core.
 #include "Controller/core/NrCore.h"
+
 #include "Model/ModelText.h"
 #include "Support/Log.h"
 #include "Support/Threads.h"

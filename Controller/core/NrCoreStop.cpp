@@ -1,7 +1,8 @@
 // Stops of the core: a page's own, RF off, and those of tests that nobody shows any more.
+#include "Controller/core/NrCore.h"
+
 #include <algorithm>
 
-#include "Controller/core/NrCore.h"
 #include "Model/StatusTable.h"
 #include "Operations/link/TargetLink.h"
 #include "Support/Log.h"

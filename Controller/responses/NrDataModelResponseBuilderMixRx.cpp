@@ -1,5 +1,6 @@
 // Reports of the RSRP pages.
 #include "Controller/responses/NrDataModelResponseBuilder.h"
+
 #include "Controller/responses/RowTable.h"
 #include "Model/JsonPath.h"
 #include "Model/ModelQuery.h"

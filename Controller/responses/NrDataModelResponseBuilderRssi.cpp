@@ -1,8 +1,9 @@
 // Results of the RSSI page: the gain search and the measurement.
+#include "Controller/responses/NrDataModelResponseBuilder.h"
+
 #include <QJsonArray>
 
 #include "Controller/fields/PathGainFields.h"
-#include "Controller/responses/NrDataModelResponseBuilder.h"
 #include "Model/JsonPath.h"
 
 namespace {

@@ -1,10 +1,11 @@
 // The transfers of the calibration items between memory and the target's flash.
+#include "Operations/calibration/CalItemByL1Operation.h"
+
 #include <algorithm>
 #include <cstring>
 #include <set>
 #include <utility>
 
-#include "Operations/calibration/CalItemByL1Operation.h"
 #include "Operations/link/TargetLink.h"
 #include "Support/Log.h"
 #include "Vond/VondCore.h"

@@ -1,5 +1,6 @@
 // Names, ids and documents of the pages.
 #include "Controller/core/PageTable.h"
+
 #include "tests/controller/core/CoreFixture.h"
 
 namespace {
