@@ -87,6 +87,12 @@ Controller/commands Controller/(Interface|fields)/
 Controller/responses Controller/(Interface|fields)/
 Controller/calibration Controller/(Interface|fields)/
 Controller/core Controller/
+Simulator/basis
+Simulator/faults Simulator/basis/
+Simulator/profile Simulator/(basis|faults)/
+Simulator/radio Simulator/(basis|profile)/
+Simulator/flash Simulator/(basis|profile|radio)/
+Simulator/door Simulator/
 Operations/link
 Operations/capability Operations/link/
 Operations/tests Operations/(GeneralOperation\.h|(link|capability)/)
