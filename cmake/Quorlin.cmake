@@ -68,10 +68,26 @@ function(quorlin_module)
   quorlin_precompile(${M_NAME} library)
 endfunction()
 
-# A page: adds its header, source and Designer form to the module of the folder it lies in.
+# A page: adds its header, source and Designer form to the module of the folder it lies in. The module
+# remembers it, for quorlin_page_types.
 function(quorlin_page)
   cmake_parse_arguments(P "" "NAME;MODULE" "" ${ARGN})
   target_sources(${P_MODULE} PRIVATE ${P_NAME}.h ${P_NAME}.cpp ${P_NAME}.ui)
+  file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
+  set_property(TARGET ${P_MODULE} APPEND PROPERTY QUORLIN_PAGES ${folder}/${P_NAME})
+endfunction()
+
+# Writes a source from a template: the includes and the registrations of all pages of some modules.
+function(quorlin_page_types TEMPLATE OUTPUT)
+  foreach(module ${ARGN})
+    get_target_property(pages ${module} QUORLIN_PAGES)
+    foreach(page ${pages})
+      get_filename_component(name ${page} NAME)
+      string(APPEND PAGE_INCLUDES "#include \"${page}.h\"\n")
+      string(APPEND PAGE_REGISTRATIONS "    qRegisterMetaType<C${name} *>(\"C${name}*\");\n")
+    endforeach()
+  endforeach()
+  configure_file(${TEMPLATE} ${OUTPUT} @ONLY)
 endfunction()
 
 # What every test runs with. The sanitizers' settings belong here, so that a test by hand and one in CI
