@@ -1,7 +1,7 @@
 // The steps of the pages' tests: a step builds its page's command and runs an operation with it.
 //
-// Most pages go by RunCommand; their rows of the page table name the builder's function and the
-// operation. A step runs under the core's lock and answers with a status, and with the operation's
+// Most pages go by RunCommand; their rows of the page table name what builds the command, a function
+// of CNrCoreCmdBuilder or one that takes the document alone, and the operation. A step runs under the core's lock and answers with a status, and with the operation's
 // text in the run. It throws what its builder or operation throws.
 //
 //   .step = &RunCommand<&CNrCoreCmdBuilder::GetContRxCmdV7, &STestOperations::contRx,
@@ -10,6 +10,7 @@
 
 #include <optional>
 #include <string>
+#include <type_traits>
 
 #include <QJsonObject>
 #include <QString>
@@ -49,11 +50,20 @@ struct STestRun
     std::string answer = {};  // the document with results, of the page that answers with one
 };
 
+template <auto Build>
+auto BuildCommand(const STestOperations &operations, const QJsonObject &document)
+{
+    if constexpr (std::is_member_function_pointer_v<decltype(Build)>)
+        return (operations.commands.*Build)(document);
+    else
+        return Build(document);
+}
+
 // A test that goes on until its page's stop.
 template <auto Build, auto Operation, auto Run>
 int RunCommand(STestOperations &operations, STestRun &run, QJsonObject &document)
 {
-    const auto command = (operations.commands.*Build)(document);
+    const auto command = BuildCommand<Build>(operations, document);
     const CTargetHandleScope handle(TargetHandle());  // the host may set another one meanwhile
     if (!run.runningTests.Begin({run.page, {run.stop.value(), TargetHandle()}}, run.asked))
         return eStatusTerminated;

@@ -29,6 +29,32 @@ TEST_F(CoreTestRunTest, ContinuousRxStartsTheTarget)
     EXPECT_STREQ(VondSim_RunningTest(), "ContRx");
 }
 
+SMMContRxCmdV7 CommandOf(const QJsonObject &document)
+{
+    return CNrCoreCmdBuilder().GetContRxCmdV7(document);
+}
+
+TEST_F(CoreTestRunTest, StepTakesABuilderThatIsAFunctionOfItsOwn)
+{
+    CRunningTests running([](bool) {});
+    STestOperations operations;
+    STestRun run{.page = EPageId::ContRx,
+                 .stop = EStop::MultiRat,
+                 .asked = running.Moment(),
+                 .runningTests = running};
+    QJsonObject document = Packaged(BothPathsValues());
+    const int status =
+        RunCommand<&CommandOf, &STestOperations::contRx, &CMultiRatContRxV7::RunContRx>(
+            operations, run, document);
+    EXPECT_EQ(status, 0);
+    const auto calls = JournalOf(kContRx);
+    ASSERT_EQ(calls.size(), 1);
+    const SMMContRxCmdV7 command = CommandOf(document);
+    EXPECT_EQ(calls[0].request,
+              QByteArray(reinterpret_cast<const char *>(&command), sizeof(command)));
+    EXPECT_TRUE(running.HandleOf(EStop::MultiRat, EPageId::ContRx).has_value());
+}
+
 TEST_F(CoreTestRunTest, CommandReachesTheTargetOnceWithHandleAndTimeout)
 {
     CNrCore::SetTargetHandle(0xC0FFEE);
