@@ -1,6 +1,6 @@
-// Relevance: what a change of one member does to the members that follow it.
+// Relevance: what a change of one member, the publisher, does to its subscribers.
 //
-// Value relevance gives a follower new choices, limits and a value; status relevance enables or
+// Value relevance gives a subscriber new choices, limits and a value; status relevance enables or
 // disables it. A change goes to the targets in the publisher's publish list, in list order. A
 // target's key is the changed text, or the current texts of all its publishers, joined by ",", if
 // it has a subscribe list. Under that key the target's trait has the entry that applies.
@@ -44,7 +44,7 @@ public:
 
     // Does this change pass the gate?
     static bool Takes(ERelevance kind, const QWidget *publisher, const QString &currentText);
-    // Passes a change that was taken on to its targets.
+    // Passes a change that was taken on to its subscribers.
     void Publish(ERelevance kind, const QWidget *publisher, const QString &currentText);
     // In the midst of a chain.
     bool IsUnderWay() const { return m_depth > 0; }

@@ -96,7 +96,7 @@ class CRelevanceTest : public QObject
     Q_OBJECT
 
 private slots:
-    void followerTakesTheEntryOfTheChangedText()
+    void subscriberTakesTheEntryOfTheChangedText()
     {
         CWidgets widgets(Pair("{'dataType':'list','valuePair':{'n78':['3','4'],'n1':['1']}}"));
         auto *pub = widgets.Add<QComboBox>("request.group1.pub");
