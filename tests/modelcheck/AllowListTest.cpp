@@ -1,8 +1,9 @@
 // What the allow list excuses, and what it does not.
+#include "tools/modelcheck/AllowList.h"
+
 #include <gtest/gtest.h>
 
 #include "tests/modelcheck/PageFiles.h"
-#include "tools/modelcheck/AllowList.h"
 
 namespace {
 

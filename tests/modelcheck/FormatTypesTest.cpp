@@ -1,8 +1,9 @@
 // modelcheck's rows of data types say what the engine's say.
+#include "tools/modelcheck/FormatTypes.h"
+
 #include <gtest/gtest.h>
 
 #include "View/engine/DataTypes.h"
-#include "tools/modelcheck/FormatTypes.h"
 
 namespace {
 

@@ -1,4 +1,6 @@
 // The program's exit codes and what it prints, as a function and as the program that is built.
+#include "tools/modelcheck/Program.h"
+
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
@@ -7,7 +9,6 @@
 #include <QTemporaryDir>
 
 #include "tests/modelcheck/PageFiles.h"
-#include "tools/modelcheck/Program.h"
 
 namespace {
 

@@ -1,5 +1,6 @@
 // How a target's answer becomes a code and a text.
 #include "Operations/GeneralOperation.h"
+
 #include "Operations/link/TargetLink.h"
 #include "Vond/VondCore.h"
 #include "tests/operations/TargetFixture.h"

@@ -1,15 +1,14 @@
 // What all tests of the simulated DUT share: a fresh DUT for each test, and its journal.
 #pragma once
 
-#include "Simulator/VondSim.h"
-#include "Vond/VondApp.h"
-#include "Vond/VondCore.h"
-
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "Simulator/VondSim.h"
+#include "Vond/VondApp.h"
+#include "Vond/VondCore.h"
 #include "tests/common/GoodCommands.h"
 
 constexpr uint32_t kHandle = 0x51;

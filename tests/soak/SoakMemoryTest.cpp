@@ -1,10 +1,10 @@
 // When the soak says that memory grew.
+#include "tests/soak/SoakMemory.h"
+
 #include <cstring>
 #include <memory>
 
 #include <gtest/gtest.h>
-
-#include "tests/soak/SoakMemory.h"
 
 namespace {
 

@@ -1,14 +1,14 @@
 // What one thread writes before it hands a job over is there for the job, and the other way round.
 // Plain variables pass between the threads on purpose: built with the thread sanitizer, the tests
 // fail as soon as only their timing keeps the threads apart.
+#include "Support/JobQueue.h"
+
 #include <atomic>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
-
-#include "Support/JobQueue.h"
 
 namespace {
 

@@ -8,9 +8,10 @@
 
 #include <string>
 
-#include <QString>
 #include <sys/inotify.h>
 #include <unistd.h>
+
+#include <QString>
 
 class CSaveCounter
 {

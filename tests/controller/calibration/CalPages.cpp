@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
+#include <gtest/gtest.h>
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <gtest/gtest.h>
 
 #include "Model/ModelResources.h"
 

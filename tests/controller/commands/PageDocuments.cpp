@@ -1,9 +1,10 @@
 #include "tests/controller/commands/PageDocuments.h"
 
+#include <gtest/gtest.h>
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <gtest/gtest.h>
 
 #include "Model/JsonPath.h"
 #include "Model/ModelResources.h"

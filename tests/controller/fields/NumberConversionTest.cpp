@@ -1,7 +1,7 @@
 // Numbers, bands, flags and fixed point values out of a document's texts.
-#include "Controller/fields/CommandConversions.h"
-
 #include <gtest/gtest.h>
+
+#include "Controller/fields/CommandConversions.h"
 
 namespace {
 

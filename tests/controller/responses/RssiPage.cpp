@@ -1,7 +1,8 @@
 #include "tests/controller/responses/RssiPage.h"
 
-#include <QJsonArray>
 #include <gtest/gtest.h>
+
+#include <QJsonArray>
 
 #include "Model/JsonPath.h"
 

@@ -1,6 +1,7 @@
 // The measurement of the RSSI page in its document.
-#include <QJsonArray>
 #include <gtest/gtest.h>
+
+#include <QJsonArray>
 
 #include "Controller/responses/NrDataModelResponseBuilder.h"
 #include "Model/JsonPath.h"

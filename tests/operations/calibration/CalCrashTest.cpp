@@ -7,12 +7,13 @@
 #include <set>
 #include <vector>
 
-#include <QLoggingCategory>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <QLoggingCategory>
 
 #include "Support/CalIniFile.h"
 #include "tests/common/TracedChild.h"

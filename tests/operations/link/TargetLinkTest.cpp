@@ -1,5 +1,6 @@
 // The link: handle, modem behind it, words for its answers.
 #include "Operations/link/TargetLink.h"
+
 #include "tests/operations/TargetFixture.h"
 
 namespace {

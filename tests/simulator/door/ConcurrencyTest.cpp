@@ -1,11 +1,11 @@
 // Many threads at once: calls, resets, profile changes, faults, gates and journal reads. The
 // checks are few; a sanitizer sees the rest.
 
-#include "tests/simulator/SimulatorFixture.h"
-
 #include <atomic>
 #include <memory>
 #include <thread>
+
+#include "tests/simulator/SimulatorFixture.h"
 
 namespace {
 

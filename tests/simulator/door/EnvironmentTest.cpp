@@ -1,18 +1,19 @@
 // VOND_SIM_PROFILE and VOND_SIM_JOURNAL: set before the first call, as a user of the tool sets
 // them.
 
-#include "Simulator/VondSim.h"
-#include "Vond/VondApp.h"
-#include "Vond/VondCore.h"
-
 #include <cstdlib>
 #include <fstream>
 #include <string>
 #include <vector>
 
+#include <unistd.h>
+
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
-#include <unistd.h>
+
+#include "Simulator/VondSim.h"
+#include "Vond/VondApp.h"
+#include "Vond/VondCore.h"
 
 namespace {
 

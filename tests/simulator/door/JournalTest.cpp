@@ -1,8 +1,8 @@
 // The journal in memory: order, arguments and bytes of every call.
 
-#include "tests/simulator/SimulatorFixture.h"
-
 #include <cstring>
+
+#include "tests/simulator/SimulatorFixture.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Faults on the calibration functions: results, verdicts and nonsense on demand.
 
-#include "tests/simulator/flash/CalFixture.h"
-
 #include <algorithm>
+
+#include "tests/simulator/flash/CalFixture.h"
 
 namespace {
 

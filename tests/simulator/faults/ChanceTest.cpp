@@ -1,10 +1,10 @@
 // Chance in the readings: bounded, different from reading to reading, the same from a seed.
 
-#include "tests/simulator/radio/MeasuringFixture.h"
-
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+
+#include "tests/simulator/radio/MeasuringFixture.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 // Each kind of fault, and each way in which one fires.
 
-#include "tests/simulator/SimulatorFixture.h"
-
 #include <algorithm>
 #include <chrono>
 #include <cstring>
+
+#include "tests/simulator/SimulatorFixture.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Gates: held callers stand until they are released, whatever happens to the DUT meanwhile.
 
-#include "tests/simulator/SimulatorFixture.h"
-
 #include <future>
+
+#include "tests/simulator/SimulatorFixture.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // What the flash says that it holds.
 
-#include "tests/simulator/flash/CalFixture.h"
-
 #include <cstring>
+
+#include "tests/simulator/flash/CalFixture.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Rounds of a download: what was sent is what is there afterwards, byte for byte.
 
-#include "tests/simulator/flash/CalFixture.h"
-
 #include <cstring>
+
+#include "tests/simulator/flash/CalFixture.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // The data that the profile puts into the flash: complete, plausible, and the same each time.
 
-#include "tests/simulator/flash/CalFixture.h"
-
 #include <algorithm>
 #include <set>
+
+#include "tests/simulator/flash/CalFixture.h"
 
 namespace {
 

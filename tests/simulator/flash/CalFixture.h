@@ -2,11 +2,11 @@
 // entry by entry as the tool builds them.
 #pragma once
 
-#include "tests/simulator/SimulatorFixture.h"
-
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "tests/simulator/SimulatorFixture.h"
 
 using SType1Block = SMMType1PathlossBlockV7;
 using SType2Block = SMMType2PathlossBlockV7;

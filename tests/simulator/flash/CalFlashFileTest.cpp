@@ -1,13 +1,13 @@
 // VOND_SIM_FLASH: what was written is there at the next start, and no file is lost to a mistake.
 
-#include "tests/simulator/flash/CalFixture.h"
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
 #include <unistd.h>
+
+#include "tests/simulator/flash/CalFixture.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // Rounds of an upload: the blocks of what was asked for, in that order, and nothing else.
 
-#include "tests/simulator/flash/CalFixture.h"
-
 #include <algorithm>
 #include <cstring>
+
+#include "tests/simulator/flash/CalFixture.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 // The built-in profiles, and profiles from files and texts.
 
-#include "tests/simulator/SimulatorFixture.h"
-
 #include <cstdio>
 #include <fstream>
 #include <memory>
+
+#include "tests/simulator/SimulatorFixture.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 // noise figure, plus 1.5 dB that a reference channel (-1 dB, 2.5 dB margin) needs of all antennas
 // together. On two antennas 0.8 dB apart the second adds 2.6 dB.
 
-#include "tests/simulator/radio/MeasuringFixture.h"
-
 #include <cmath>
+
+#include "tests/simulator/radio/MeasuringFixture.h"
 
 namespace {
 

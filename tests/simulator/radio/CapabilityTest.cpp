@@ -1,9 +1,9 @@
 // The capability reads: the profile's values at their places in the wire records.
 
-#include "tests/simulator/SimulatorFixture.h"
-
 #include <cstring>
 #include <memory>
+
+#include "tests/simulator/SimulatorFixture.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // What runs, what stops it, and what a running test keeps out.
 
-#include "tests/simulator/SimulatorFixture.h"
-
 #include <functional>
+
+#include "tests/simulator/SimulatorFixture.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 // RSSI and RSRP as an RF engineer would check them: level, losses, noise and saturation.
 
-#include "tests/simulator/radio/MeasuringFixture.h"
-
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+
+#include "tests/simulator/radio/MeasuringFixture.h"
 
 namespace {
 
