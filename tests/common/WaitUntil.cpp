@@ -27,5 +27,5 @@ bool EventLoopTurns()
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&turns] { ++turns; });
     timer.start(10);
-    return WaitUntil([&turns] { return turns >= 20; }, 1000);
+    return WaitUntil([&turns] { return turns >= 20; });
 }

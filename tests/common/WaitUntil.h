@@ -8,6 +8,6 @@
 
 bool WaitUntil(const std::function<bool()> &condition, int deadlineMs = 20000);
 
-// The event loop turns while something else works: twenty times within the second that one turn
-// each 50 ms would take.
+// The event loop turns while something else works: twenty timeouts of a timer come through. Hold what
+// works by a gate, so that its end cannot be what lets them through.
 bool EventLoopTurns();
