@@ -3,6 +3,7 @@
 #include <QMap>
 #include <QTemporaryDir>
 
+#include "tests/common/TestClass.h"
 #include "tests/device/CalibrationSession.h"
 
 namespace {
@@ -145,5 +146,5 @@ void PathLossGainKeysTest::editsOfEveryGainComeBackThroughAFileUnderTheKeysOfThe
     QCOMPARE(shown, typed);
 }
 
-QTEST_MAIN(PathLossGainKeysTest)
+QUORLIN_TEST_CLASS(PathLossGainKeysTest)
 #include "PathLossGainKeysTest.moc"

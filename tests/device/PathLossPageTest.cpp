@@ -1,62 +1,8 @@
-// The RX path loss page: selections, what they keep, and what reaches the flash.
-#include <algorithm>
-#include <cstddef>
-
-#include "tests/device/CalibrationSession.h"
+// The RX path loss page: what it shows, its selections, and what they keep.
+#include "tests/common/TestClass.h"
+#include "tests/device/PathLossTables.h"
 
 namespace {
-
-constexpr int kMain = 2;  // groups of the type 1 tables
-constexpr int kDiv = 3;
-constexpr int kFrequency = 4;
-constexpr int kPartialOn = 5;
-constexpr int kGainMain = 6;
-constexpr int kGainDiv = 7;
-
-using SType1Block = SMMType1PathlossBlockV7;
-
-// Where the blocks of a type 1 route stand in a download.
-struct SPlace
-{
-    int round = -1;
-    int offset = 0;  // of the first block
-    int blocks = 0;
-};
-
-SPlace Type1Place(const QVector<QByteArray> &rounds, int route)
-{
-    for (int round = 0; round < rounds.size(); ++round) {
-        const int count = WordAt(rounds[round], offsetof(SMMSetCalDataReqV7, type1Count));
-        int block = 0;
-        for (int i = 0; i < count; ++i) {
-            const int entry =
-                offsetof(SMMSetCalDataReqV7, type1) + i * int(sizeof(SMMCalRxEntryV7));
-            const int blocks = WordAt(rounds[round], entry + offsetof(SMMCalRxEntryV7, blockCount));
-            if (WordAt(rounds[round], entry + offsetof(SMMCalRxEntryV7, route)) == route)
-                return {round,
-                        int(offsetof(SMMSetCalDataReqV7, type1Block)) +
-                            block * int(sizeof(SType1Block)),
-                        blocks};
-            block += blocks;
-        }
-    }
-    return {};
-}
-
-// Offset of a type 1 value: a subband (0 to 63), a gain slot, a path and a power mode.
-int LossOffset(const SPlace &place, int subband, EVondRxPath path, int slot, bool isHpm)
-{
-    return place.offset + subband / kVondCalBlockSubbands * int(sizeof(SType1Block)) +
-           int(offsetof(SType1Block, loss)) +
-           (subband % kVondCalBlockSubbands * kVondType1LossPairs + VondType1LossPair(path, slot)) *
-               int(sizeof(SMMLossPair)) +
-           int(isHpm ? offsetof(SMMLossPair, hpm) : offsetof(SMMLossPair, lpm));
-}
-
-bool IsReady(CCalibrationSession &session)
-{
-    return session.ShowAndWait() && session.Run(kRead);
-}
 
 QStringList Headers(const QTableWidget *table)
 {
@@ -74,22 +20,17 @@ class PathLossPageTest : public QObject
 
 private slots:
     void pageShowsItsDocument();
-    void readShowsWhatTheFlashHolds();
     void switchFromHpmToLpmKeepsTheEditsMadeUnderHpm();
     void wheelOnASelectorWithoutFocusKeepsTheEdits();
     void selectorThatKeptTheFocusDoesNotStoreThePictureFromBeforeARead();
     void bandChangeKeepsTheEditsOfTheBandLeft();
     void editsOfAType2RouteSurviveChangesOfPathGainModeAndFrequency();
-    void resetOnAType1RouteLeavesTheType2Tables();
-    void resetOnAType2RouteLeavesTheType1Tables();
-    void writeChangesExactlyTheEditedValues();
     void routeTypeChangesTheTables();
     void powerModeNamesTheColumnsOfThePartialOnTable();
     void labelShowsTheFrequencyOfTheIndex();
     void sameIndexPickedAgainRefreshesTheLabel();
     void selectionChangeIsBusyOnce();
     void type1TablesShowAllTheirCells();
-    void exportedEditsComeBackOnImport();
 };
 
 void PathLossPageTest::pageShowsItsDocument()
@@ -107,25 +48,6 @@ void PathLossPageTest::pageShowsItsDocument()
                                  "m_btnReset_2"};
     for (int i = 0; i < buttons.size(); ++i)
         QCOMPARE(session.Find<QPushButton>(names[i])->text(), buttons[i]);
-}
-
-void PathLossPageTest::readShowsWhatTheFlashHolds()
-{
-    CCalibrationSession session(kPathLossPage);
-    QVERIFY(IsReady(session));
-    QVERIFY(session.Run(kWrite));
-    const QVector<QByteArray> rounds = Rounds(0);
-    const SPlace place = Type1Place(rounds, 1);
-    QVERIFY(place.round >= 0);
-    for (int slot = 0; slot < 8; ++slot) {
-        for (int subband : {0, place.blocks * 16 - 1}) {
-            const int16_t word = WordAt(rounds[place.round],
-                                        LossOffset(place, subband, EVondRxPath::Main, slot, true));
-            QCOMPARE(session.CellText(kMain, "lna0", slot, subband),
-                     QString::number(word / 32.0, 'f', 5));
-        }
-    }
-    QVERIFY(session.CellText(kFrequency, "freq", 0, 0) != "0");
 }
 
 void PathLossPageTest::switchFromHpmToLpmKeepsTheEditsMadeUnderHpm()
@@ -227,81 +149,6 @@ void PathLossPageTest::editsOfAType2RouteSurviveChangesOfPathGainModeAndFrequenc
     QCOMPARE(session.CellText(kGainMain, "gain0", 1, 2), QString("5.00000"));
 }
 
-void PathLossPageTest::resetOnAType1RouteLeavesTheType2Tables()
-{
-    CCalibrationSession session(kPathLossPage);
-    QVERIFY(IsReady(session));
-    session.Select("routeType", "Type2");
-    const QStringList partialOn = session.TableTexts(kPartialOn, "main");
-    const QStringList gains = session.TableTexts(kGainMain, "gain0");
-    QVERIFY(partialOn.count("0.00000") < partialOn.size());
-    session.Select("routeType", "Type1");
-    QVERIFY(session.TableTexts(kMain, "lna0").count("0.00000") < 8 * 64);
-    session.Press("m_btnReset_2");
-    QCOMPARE(session.TableTexts(kMain, "lna0").count("0.00000"), 8 * 64);
-    QCOMPARE(session.TableTexts(kDiv, "lna0").count("0.00000"), 8 * 64);
-    QCOMPARE(session.TableTexts(kPartialOn, "main"), partialOn);
-    QCOMPARE(session.TableTexts(kGainMain, "gain0"), gains);
-}
-
-void PathLossPageTest::resetOnAType2RouteLeavesTheType1Tables()
-{
-    CCalibrationSession session(kPathLossPage);
-    QVERIFY(IsReady(session));
-    const QStringList main = session.TableTexts(kMain, "lna0");
-    session.Select("routeType", "Type2");
-    session.Press("m_btnReset_2");
-    QCOMPARE(session.TableTexts(kPartialOn, "main").count("0.00000"), 2 * 8);
-    QCOMPARE(session.TableTexts(kGainMain, "gain0").count("0.00000"), 3 * 3);
-    QCOMPARE(session.TableTexts(kGainDiv, "gain0").count("0.00000"), 3 * 3);
-    QCOMPARE(session.TableTexts(kMain, "lna0"), main);
-}
-
-void PathLossPageTest::writeChangesExactlyTheEditedValues()
-{
-    CCalibrationSession session(kPathLossPage);
-    QVERIFY(IsReady(session));
-    QVERIFY(session.Run(kWrite));
-    const QVector<QByteArray> before = Rounds(0);
-    const SPlace first = Type1Place(before, 1);
-    const SPlace second = Type1Place(before, 2);
-    QVERIFY(first.round >= 0 && second.round >= 0);
-
-    struct SEdit
-    {
-        int offset;
-        int round;
-        int16_t value;  // 1/32 dB
-    };
-    QVector<SEdit> edits;
-    const auto edit = [&](const SPlace &place, int group, int slot, int subband, bool isHpm,
-                          double value) {
-        session.Type(group, "lna0", slot, subband, QString::number(value));
-        const EVondRxPath path = group == kMain ? EVondRxPath::Main : EVondRxPath::Div;
-        edits.append({LossOffset(place, subband, path, slot, isHpm), place.round,
-                      static_cast<int16_t>(value * 32)});
-    };
-    edit(first, kMain, 0, 0, true, 12.5);
-    edit(first, kDiv, 7, 15, true, -29.96875);
-    session.Select("powerMode", "LPM");
-    edit(first, kMain, 3, 2, false, 1.03125);
-    session.Select("route", "2");
-    edit(second, kDiv, 1, 1, false, -4);
-    session.Select("powerMode", "HPM");
-    session.Select("route", "1");
-    QVERIFY(session.Run(kWrite));
-
-    const QVector<QByteArray> after = Rounds(before.size());
-    QCOMPARE(after.size(), before.size());
-    QVector<SWordChange> expected;
-    for (const SEdit &e : edits)
-        expected.append({e.round, e.offset, WordAt(before[e.round], e.offset), e.value});
-    std::sort(expected.begin(), expected.end(), [](const SWordChange &a, const SWordChange &b) {
-        return std::make_pair(a.round, a.offset) < std::make_pair(b.round, b.offset);
-    });
-    QCOMPARE(Changes(before, after), expected);
-}
-
 void PathLossPageTest::routeTypeChangesTheTables()
 {
     CCalibrationSession session(kPathLossPage);
@@ -388,18 +235,5 @@ void PathLossPageTest::type1TablesShowAllTheirCells()
     QCOMPARE(session.Table(kFrequency, "freq")->horizontalScrollBar()->value(), 500);
 }
 
-void PathLossPageTest::exportedEditsComeBackOnImport()
-{
-    QTemporaryDir folder;
-    const QString file = folder.filePath("loss.ini");
-    CCalibrationSession session(kPathLossPage);
-    QVERIFY(IsReady(session));
-    session.Type(kMain, "lna0", 0, 0, "8.5");
-    QVERIFY(session.Run(kExport, file));
-    session.Type(kMain, "lna0", 0, 0, "1");
-    QVERIFY(session.Run(kImport, file));
-    QCOMPARE(session.CellText(kMain, "lna0", 0, 0), QString("8.50000"));
-}
-
-QTEST_MAIN(PathLossPageTest)
+QUORLIN_TEST_CLASS(PathLossPageTest)
 #include "PathLossPageTest.moc"

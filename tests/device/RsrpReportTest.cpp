@@ -1,5 +1,4 @@
-// The reports of the RSRP pages: ticks, rows, and how they stand beside Stop, Clear and Reset
-// Counter.
+// The reports of the RSRP pages: ticks, rows, and how they stand beside Stop.
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
@@ -11,6 +10,7 @@
 #include "Model/OperationResult.h"
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/RsrpSession.h"
 
@@ -56,18 +56,6 @@ private slots:
     void startAfterAStopBeginsAtRowOne();
     void startWithAFetchInFlightBeginsAtRowOne_data() { BothRsrpPages(); }
     void startWithAFetchInFlightBeginsAtRowOne();
-    void clearEmptiesTheTableAndLeavesTheTarget_data() { BothRsrpPages(); }
-    void clearEmptiesTheTableAndLeavesTheTarget();
-    void clearTakesTheRowsOfAFetchInFlight_data() { BothRsrpPages(); }
-    void clearTakesTheRowsOfAFetchInFlight();
-    void ticksAreSkippedWhileTheTableIsBeingCleared_data() { BothRsrpPages(); }
-    void ticksAreSkippedWhileTheTableIsBeingCleared();
-    void resetCountsFromZeroAndLeavesTheTable_data() { BothRsrpPages(); }
-    void resetCountsFromZeroAndLeavesTheTable();
-    void failedResetShowsABoxAndTheRunGoesOn_data() { BothRsrpPages(); }
-    void failedResetShowsABoxAndTheRunGoesOn();
-    void resetWithoutARunReturnsToIdle_data() { BothRsrpPages(); }
-    void resetWithoutARunReturnsToIdle();
     void fourAntennasLeaveTheOtherTableAsItWas();
 };
 
@@ -249,6 +237,7 @@ void RsrpReportTest::startAfterAStopBeginsAtRowOne()
 }
 
 // The fetch has the old rows in its document: they must not come back, not even for a moment.
+
 void RsrpReportTest::startWithAFetchInFlightBeginsAtRowOne()
 {
     QFETCH(QString, mode);
@@ -266,114 +255,6 @@ void RsrpReportTest::startWithAFetchInFlightBeginsAtRowOne()
     QVERIFY(session.Fetch());
     QCOMPARE(session.Rows(), 5);
     QCOMPARE(CountCalls(kRsrpReport), 3);
-}
-
-void RsrpReportTest::clearEmptiesTheTableAndLeavesTheTarget()
-{
-    QFETCH(QString, mode);
-    CRsrpSession session(mode);
-    QVERIFY(session.Running());
-    QVERIFY(session.Fetch());
-    QVERIFY(session.Stop());
-    const uint32_t calls = VondSim_CallCount();
-    session.Press("clearPushButton");
-    QVERIFY(WaitUntil([&] { return session.Rows() == 0; }));
-    QCOMPARE(session.Enabled(), QString("start reset clear rx tx"));
-    QCOMPARE(session.Table()->horizontalHeaderItem(7)->text(), QString("BLER(%)"));
-    QCOMPARE(VondSim_CallCount(), calls);
-    // The target counts on.
-    session.Press("m_start");
-    QVERIFY(session.WaitForStatus("Rsrp start..."));
-    QVERIFY(session.Fetch());
-    QCOMPARE(session.Rows(), 5);
-    QCOMPARE(session.Cell(0, "Total BLK"), QString("200"));
-}
-
-// What was asked for before the clear goes with it, whichever answer comes first.
-void RsrpReportTest::clearTakesTheRowsOfAFetchInFlight()
-{
-    QFETCH(QString, mode);
-    CRsrpSession session(mode);
-    QVERIFY(session.Running());
-    QVERIFY(session.Fetch());
-    QVERIFY(session.Stop());
-    QVERIFY(session.HoldFetch());
-    const QSignalSpy added(session.Table()->model(), &QAbstractItemModel::rowsInserted);
-    session.Press("clearPushButton");
-    VondSim_Release(kRsrpReport);
-    QVERIFY(WaitUntil([&] { return session.Enabled() == "start reset clear rx tx"; }));
-    QVERIFY(WaitUntil([] { return CountCalls(kRsrpReport) == 2; }));
-    QCOMPARE(session.Rows(), 0);
-    QCOMPARE(added.size(), 0);
-    session.Press("m_start");
-    QVERIFY(session.WaitForStatus("Rsrp start..."));
-    QVERIFY(session.Fetch());
-    QCOMPARE(session.Rows(), 5);
-}
-
-// A report that is asked for now would carry the rows that are on their way out.
-void RsrpReportTest::ticksAreSkippedWhileTheTableIsBeingCleared()
-{
-    QFETCH(QString, mode);
-    CRsrpSession session(mode);
-    QVERIFY(session.Running());
-    QVERIFY(session.Fetch());
-    QVERIFY(session.Stop());
-    session.Find<QPushButton>("clearPushButton")->click();
-    session.Tick();
-    QVERIFY(WaitUntil([&] { return session.Rows() == 0; }));
-    QThreadPool::globalInstance()->waitForDone();
-    QCOMPARE(CountCalls(kRsrpReport), 1);
-}
-
-void RsrpReportTest::resetCountsFromZeroAndLeavesTheTable()
-{
-    QFETCH(QString, mode);
-    CRsrpSession session(mode);
-    QVERIFY(session.Running());
-    QVERIFY(session.Fetch());
-    VondSim_Hold(kRsrpReset);
-    session.Press("resetPushButton");
-    QCOMPARE(session.Enabled(), QString());
-    QVERIFY(VondSim_WaitUntilHeld(kRsrpReset, 20000));
-    VondSim_Release(kRsrpReset);
-    QVERIFY(session.WaitForStatus("Reset counter done."));
-    QCOMPARE(session.Enabled(), QString("stop reset"));
-    QCOMPARE(session.busy, (QVector<bool>{true, false, true, false}));
-    QCOMPARE(session.Rows(), 5);
-    QVERIFY(session.Fetch());
-    QCOMPARE(session.Rows(), 10);
-    QCOMPARE(session.Cell(4, "Total BLK"), QString("100"));
-    QCOMPARE(session.Cell(5, "Total BLK"), QString("100"));
-    QCOMPARE(CountCalls(kRsrpReset), 1);
-}
-
-void RsrpReportTest::failedResetShowsABoxAndTheRunGoesOn()
-{
-    QFETCH(QString, mode);
-    CRsrpSession session(mode);
-    QVERIFY(session.Running());
-    VondSim_AddFault(
-        R"({"function": "VOND_NRf_ResetMixRxReportV7_r", "kind": "fail", "result": 7})");
-    CBoxWatcher boxes;
-    session.Press("resetPushButton");
-    QVERIFY(WaitUntil([&] { return boxes.Seen().size() == 1; }));
-    QCOMPARE(boxes.Seen()[0].title, QString("Reset counter failed"));
-    QVERIFY(boxes.Seen()[0].text.contains("Vond command execute failed."));
-    QCOMPARE(session.Enabled(), QString("stop reset"));
-    QVERIFY(session.Fetch());
-    QVERIFY(session.Stop());
-}
-
-void RsrpReportTest::resetWithoutARunReturnsToIdle()
-{
-    QFETCH(QString, mode);
-    CRsrpSession session(mode);
-    QVERIFY(session.Ready());
-    session.Press("resetPushButton");
-    QVERIFY(session.WaitForStatus("Reset counter done."));
-    QCOMPARE(session.Enabled(), QString("start reset clear rx tx"));
-    QCOMPARE(CountCalls(kRsrpReset), 1);
 }
 
 void RsrpReportTest::fourAntennasLeaveTheOtherTableAsItWas()
@@ -397,5 +278,5 @@ void RsrpReportTest::fourAntennasLeaveTheOtherTableAsItWas()
     QCOMPARE(session.Rows(), 0);  // the run began with a clear of both
 }
 
-QTEST_MAIN(RsrpReportTest)
+QUORLIN_TEST_CLASS(RsrpReportTest)
 #include "RsrpReportTest.moc"
