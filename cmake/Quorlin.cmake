@@ -7,12 +7,13 @@
 include_guard(GLOBAL)
 
 # Compiler cache, told that the precompiled headers of this project are safe to share, and that another
-# clone in another folder is the same code.
+# clone in another folder is the same code. It keeps the hash of a file by its inode, or it would read the
+# hundred megabytes of a precompiled header again for each source.
 function(quorlin_use_ccache)
   find_program(QUORLIN_CCACHE ccache)
   if(QUORLIN_CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER
-        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime
+        ${CMAKE_COMMAND} -E env CCACHE_INODECACHE=true CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime
         CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=true ${QUORLIN_CCACHE} PARENT_SCOPE)
   endif()
 endfunction()
@@ -34,25 +35,42 @@ elseif(NOT QUORLIN_SANITIZE STREQUAL "none")
   message(FATAL_ERROR "QUORLIN_SANITIZE is one of none, address, thread")
 endif()
 
-# Precompiled Qt headers. A target may reuse one only if it is compiled alike, so libraries and
-# programs have one each.
+# Precompiled headers. A target may reuse one only if it is compiled alike, so there are three kinds:
+#   product   modules, and programs with product code alone
+#   qtest     QtTest programs and the libraries that they share
+#   gtest     GoogleTest programs, likewise; without moc
+# Programs are compiled as position-independent as libraries are, to share theirs. Code of tests is not
+# optimised: it is most of what is compiled, and next to nothing of what runs.
 function(quorlin_precompile target kind)
-  set(header ${PROJECT_SOURCE_DIR}/cmake/QtPrecompiled.h)
+  set(header_product QtPrecompiled.h)
+  set(header_qtest QtTestPrecompiled.h)
+  set(header_gtest GTestPrecompiled.h)
+  set(libraries quorlin_options Qt5::Widgets Qt5::Concurrent)
+  set(options -fPIC)
+  if(kind STREQUAL "qtest")
+    list(APPEND libraries Qt5::Test)
+  elseif(kind STREQUAL "gtest")
+    list(APPEND libraries GTest::gtest)
+  endif()
+  if(NOT kind STREQUAL "product" AND NOT QUORLIN_LIBFUZZER)
+    list(APPEND options -O0)
+  endif()
+  if(kind STREQUAL "gtest")
+    set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+  endif()
   set(holder quorlin_pch_${kind})
   if(NOT TARGET ${holder})
-    file(WRITE ${PROJECT_BINARY_DIR}/pch/${holder}.cpp "int main(int, char **) { return 0; }\n")
-    if(kind STREQUAL "program")
-      add_executable(${holder} ${PROJECT_BINARY_DIR}/pch/${holder}.cpp)
-    else()
-      add_library(${holder} STATIC ${PROJECT_BINARY_DIR}/pch/${holder}.cpp)
-    endif()
-    set_target_properties(${holder} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF
-      RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/pch)
-    target_link_libraries(${holder} PRIVATE quorlin_options Qt5::Widgets Qt5::Concurrent)
-    target_precompile_headers(${holder} PRIVATE ${header})
+    file(WRITE ${PROJECT_BINARY_DIR}/pch/${holder}.cpp "")
+    add_library(${holder} STATIC ${PROJECT_BINARY_DIR}/pch/${holder}.cpp)
+    set_target_properties(${holder} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    target_include_directories(${holder} PRIVATE ${PROJECT_SOURCE_DIR})
+    target_compile_options(${holder} PRIVATE ${options})
+    target_link_libraries(${holder} PRIVATE ${libraries})
+    target_precompile_headers(${holder} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/${header_${kind}})
   endif()
   # The holder's definitions, whatever the target links: a precompiled header fits only then.
-  target_link_libraries(${target} PRIVATE quorlin_options Qt5::Widgets Qt5::Concurrent)
+  target_compile_options(${target} PRIVATE ${options})
+  target_link_libraries(${target} PRIVATE ${libraries})
   target_precompile_headers(${target} REUSE_FROM ${holder})
 endfunction()
 
@@ -65,7 +83,7 @@ function(quorlin_module)
   add_library(${M_NAME} STATIC ${M_SOURCES})
   target_include_directories(${M_NAME} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(${M_NAME} PUBLIC ${M_DEPENDS} PRIVATE ${M_PRIVATE_DEPENDS})
-  quorlin_precompile(${M_NAME} library)
+  quorlin_precompile(${M_NAME} product)
 endfunction()
 
 # A page: adds its header, source and Designer form to the module of the folder it lies in. The module
@@ -101,45 +119,82 @@ set(QUORLIN_TEST_ENVIRONMENT
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"
     "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/races/tsan.supp:print_suppressions=0:second_deadlock_stack=1")
 
+# A library that test programs share: compiled once, as they are.
+#   QT   for QtTest programs; without it for GoogleTest programs
+function(quorlin_test_library)
+  cmake_parse_arguments(L "QT" "NAME" "SOURCES;DEPENDS" ${ARGN})
+  set(kind gtest)
+  if(L_QT)
+    set(kind qtest)
+  endif()
+  add_library(${L_NAME} STATIC ${L_SOURCES})
+  target_include_directories(${L_NAME} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${L_NAME} PUBLIC ${L_DEPENDS})
+  quorlin_precompile(${L_NAME} ${kind})
+endfunction()
+
 # A test program, run by ctest from the build's bin folder.
-#   LABELS  unit (no widgets, no plug-in), gui (widgets, offscreen), device (the whole plug-in on the
-#           simulated DUT); the label sets the timeout
-#   QT      uses QtTest; without it the test is a GoogleTest program
-#   CASES   arguments; with them, one run of the program for each, named after both
+#   LABELS   unit (no widgets, no plug-in), gui (widgets, offscreen), device (the whole plug-in on the
+#            simulated DUT); the label sets the timeout
+#   QT       uses QtTest; without it the test is a GoogleTest program
+#   PLAIN    GoogleTest program that needs no Qt
+#   CLASSES  test classes of tests/common/TestClass.h, one run of the program for each; the source has
+#            the name of the class, and may stand in a folder. "LifetimeTest.resetWhileBusy" runs one
+#            function of LifetimeTest.
+#   CASES    arguments; with them, one run of the program for each, named after both
 function(quorlin_test)
-  cmake_parse_arguments(T "QT" "NAME;LABELS" "SOURCES;DEPENDS;CASES" ${ARGN})
+  cmake_parse_arguments(T "QT;PLAIN" "NAME;LABELS" "SOURCES;DEPENDS;CASES;CLASSES" ${ARGN})
+  foreach(class IN LISTS T_CLASSES)
+    string(REGEX REPLACE "\\..*" "" source ${class})
+    list(APPEND T_SOURCES ${source}.cpp)
+  endforeach()
+  list(REMOVE_DUPLICATES T_SOURCES)
+  add_executable(${T_NAME} ${T_SOURCES})
+  target_include_directories(${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR})
+  if(T_CLASSES)
+    list(APPEND T_DEPENDS QtKit)
+  endif()
+  target_link_libraries(${T_NAME} PRIVATE ${T_DEPENDS})
+  if(T_QT)
+    quorlin_precompile(${T_NAME} qtest)
+  elseif(T_PLAIN)
+    set_target_properties(${T_NAME} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    target_compile_options(${T_NAME} PRIVATE -O0)
+    target_link_libraries(${T_NAME} PRIVATE quorlin_options GTest::gtest_main)
+    target_precompile_headers(${T_NAME} PRIVATE <gtest/gtest.h>)
+  else()
+    target_link_libraries(${T_NAME} PRIVATE GTest::gtest_main)
+    quorlin_precompile(${T_NAME} gtest)
+  endif()
+
+  foreach(case IN LISTS T_CASES)
+    quorlin_test_run(${T_NAME}.${case} ${T_NAME} ${T_LABELS} ${case})
+  endforeach()
+  foreach(class IN LISTS T_CLASSES)
+    get_filename_component(run ${class} NAME)
+    string(REPLACE "." ";" arguments ${run})
+    quorlin_test_run(${run} ${T_NAME} ${T_LABELS} ${arguments})
+  endforeach()
+  if(NOT T_CASES AND NOT T_CLASSES)
+    quorlin_test_run(${T_NAME} ${T_NAME} ${T_LABELS})
+  endif()
+endfunction()
+
+# One run of a test program, by its name in ctest, with the arguments that follow the label.
+function(quorlin_test_run name program label)
   set(timeout_unit 120)
   set(timeout_gui 120)
   set(timeout_device 600)
+  if(NOT DEFINED timeout_${label})
+    message(FATAL_ERROR "${name}: the label is one of unit, gui, device")
+  endif()
+  set(timeout ${timeout_${label}})
   if(QUORLIN_SANITIZE STREQUAL "thread")
-    foreach(label unit gui device)
-      math(EXPR timeout_${label} "${timeout_${label}} * 5")
-    endforeach()
+    math(EXPR timeout "${timeout} * 5")
   endif()
-  if(NOT DEFINED timeout_${T_LABELS})
-    message(FATAL_ERROR "quorlin_test(${T_NAME}): LABELS is one of unit, gui, device")
-  endif()
-  add_executable(${T_NAME} ${T_SOURCES})
-  target_include_directories(${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR})
-  target_link_libraries(${T_NAME} PRIVATE ${T_DEPENDS})
-  if(T_QT)
-    target_link_libraries(${T_NAME} PRIVATE Qt5::Test)
-    quorlin_precompile(${T_NAME} program)
-  else()
-    set_target_properties(${T_NAME} PROPERTIES AUTOUIC OFF)
-    target_link_libraries(${T_NAME} PRIVATE quorlin_options GTest::gtest_main)
-  endif()
-  set(runs)
-  foreach(case IN LISTS T_CASES)
-    list(APPEND runs ${T_NAME}.${case})
-    add_test(NAME ${T_NAME}.${case} COMMAND ${T_NAME} ${case}
-      WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
-  endforeach()
-  if(NOT runs)
-    set(runs ${T_NAME})
-    add_test(NAME ${T_NAME} COMMAND ${T_NAME} WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
-  endif()
-  set_tests_properties(${runs} PROPERTIES LABELS ${T_LABELS} TIMEOUT ${timeout_${T_LABELS}}
+  add_test(NAME ${name} COMMAND ${program} ${ARGN}
+    WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  set_tests_properties(${name} PROPERTIES LABELS ${label} TIMEOUT ${timeout}
     ENVIRONMENT "${QUORLIN_TEST_ENVIRONMENT}")
 endfunction()
 
@@ -150,5 +205,5 @@ function(quorlin_bench)
   add_executable(${B_NAME} ${B_SOURCES})
   target_include_directories(${B_NAME} PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${B_NAME} PRIVATE ${B_DEPENDS} benchmark::benchmark)
-  quorlin_precompile(${B_NAME} program)
+  quorlin_precompile(${B_NAME} product)
 endfunction()

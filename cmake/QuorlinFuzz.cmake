@@ -37,23 +37,20 @@ function(quorlin_fuzz_target)
     target_include_directories(${F_NAME} PRIVATE ${PROJECT_SOURCE_DIR})
     target_link_libraries(${F_NAME} PRIVATE FuzzCommon ${F_DEPENDS})
     target_link_options(${F_NAME} PRIVATE -fsanitize=fuzzer)
-    quorlin_precompile(${F_NAME} program)
+    quorlin_precompile(${F_NAME} product)
     add_dependencies(fuzz-targets ${F_NAME})
     file(APPEND ${PROJECT_BINARY_DIR}/fuzz-targets.txt
          "${F_NAME}|${F_MAX_LENGTH}|${F_DICTIONARY}|${folders}\n")
     return()
   endif()
 
-  if(NOT F_MUTATOR)
-    set(F_MUTATOR ${common}/NoMutator.cpp)
-  endif()
   set(qt "")
   if(F_QT)
     set(qt QT)
   endif()
   quorlin_test(NAME ${F_NAME}Replay ${qt} LABELS ${F_LABELS}
-    SOURCES ${F_SOURCES} ${F_MUTATOR} ${common}/ReplayMain.cpp
-    DEPENDS FuzzCommon ${F_DEPENDS})
+    SOURCES ${F_SOURCES} ${F_MUTATOR}
+    DEPENDS FuzzReplay ${F_DEPENDS})
   set(environment QUORLIN_FUZZ_INPUTS=${folders} QUORLIN_FUZZ_WORDS=${F_DICTIONARY}
                   QUORLIN_FUZZ_MAX_LENGTH=${F_MAX_LENGTH})
   if(F_LEAKS)

@@ -16,7 +16,10 @@ void CBoxWatcher::Look()
         qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
     if (!box)
         return;
-    m_seen.append({box->windowTitle(), box->text(), box->informativeText(), box->icon()});
+    QString plain = box->text();
+    plain.remove("<P><FONT COLOR='#000080'><FONT SIZE='4'>").remove("</FONT></FONT></P>");
+    m_seen.append({box->windowTitle(), box->text(), plain, box->informativeText(),
+                   box->detailedText(), box->icon()});
     if (onBox)
         onBox();
     if (box)

@@ -21,7 +21,9 @@ struct SSeenBox
 {
     QString title;
     QString text;
+    QString plain;  // the text without the markup that sets the tool's font
     QString informative;
+    QString detailed;
     int icon;  // QMessageBox::Icon
 };
 

@@ -2,6 +2,7 @@
 #include <cstddef>
 #include <cstring>
 
+#include "tests/common/TestClass.h"
 #include "tests/device/CalibrationSession.h"
 
 namespace {
@@ -296,5 +297,5 @@ void AptProfilePageTest::exportedEditsComeBackOnImport()
     QCOMPARE(session.CellText(kPaGain, "paHighPaGain", 0, 0), QString("8.50000"));
 }
 
-QTEST_MAIN(AptProfilePageTest)
+QUORLIN_TEST_CLASS(AptProfilePageTest)
 #include "AptProfilePageTest.moc"

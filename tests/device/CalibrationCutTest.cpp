@@ -5,6 +5,7 @@
 
 #include <QTemporaryDir>
 
+#include "tests/common/TestClass.h"
 #include "tests/device/CalibrationSession.h"
 #include "tests/device/FlashFile.h"
 
@@ -347,5 +348,5 @@ void CalibrationCutTest::failedWriteTakesItsSnapshotAnew()
     QCOMPARE(factory.ChangesTo(Flash()), QStringList());
 }
 
-QTEST_MAIN(CalibrationCutTest)
+QUORLIN_TEST_CLASS(CalibrationCutTest)
 #include "CalibrationCutTest.moc"

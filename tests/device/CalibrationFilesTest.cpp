@@ -3,6 +3,7 @@
 #include <QListView>
 #include <QTemporaryDir>
 
+#include "tests/common/TestClass.h"
 #include "tests/device/CalibrationSession.h"
 
 namespace {
@@ -102,5 +103,5 @@ void CalibrationFilesTest::fileSavedWithoutAnEndIsAnIniFile()
     QVERIFY(session.Run(kImport, m_folder->filePath("mine.ini")));
 }
 
-QTEST_MAIN(CalibrationFilesTest)
+QUORLIN_TEST_CLASS(CalibrationFilesTest)
 #include "CalibrationFilesTest.moc"

@@ -4,6 +4,7 @@
 
 #include <QTemporaryDir>
 
+#include "tests/common/TestClass.h"
 #include "tests/device/CalibrationSession.h"
 #include "tests/device/FlashFile.h"
 
@@ -295,5 +296,5 @@ void CalibrationFlashTest::visitsLeaveValuesThatNoEditorHolds()
     QCOMPARE(extremes.ChangesTo(CFlashFile(Path())), QStringList());
 }
 
-QTEST_MAIN(CalibrationFlashTest)
+QUORLIN_TEST_CLASS(CalibrationFlashTest)
 #include "CalibrationFlashTest.moc"

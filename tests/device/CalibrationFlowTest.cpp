@@ -2,6 +2,7 @@
 #include <QProgressBar>
 #include <QTemporaryDir>
 
+#include "tests/common/TestClass.h"
 #include "tests/device/CalibrationSession.h"
 
 namespace {
@@ -357,5 +358,5 @@ void CalibrationFlowTest::pageFitsItsWindow()
     QVERIFY2(least.height() + above + below <= 769, qPrintable(QString::number(least.height())));
 }
 
-QTEST_MAIN(CalibrationFlowTest)
+QUORLIN_TEST_CLASS(CalibrationFlowTest)
 #include "CalibrationFlowTest.moc"

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <QThreadPool>
 
+#include "tests/common/TestClass.h"
 #include "tests/device/CalibrationSession.h"
 
 namespace {
@@ -390,5 +391,5 @@ void CalibrationLifetimeTest::pageMayGoInEitherBoxOfAFailedFlow()
     QVERIFY(isUnload ? !session.Window() : !session.Page());
 }
 
-QTEST_MAIN(CalibrationLifetimeTest)
+QUORLIN_TEST_CLASS(CalibrationLifetimeTest)
 #include "CalibrationLifetimeTest.moc"

@@ -1,6 +1,7 @@
 // What a flow of a calibration page says beside its result, in one box at its end.
 #include <QTemporaryDir>
 
+#include "tests/common/TestClass.h"
 #include "tests/device/CalibrationSession.h"
 
 namespace {
@@ -289,5 +290,5 @@ void CalibrationRemarksTest::resetInTheBoxEndsWithThePageGone()
     QVERIFY(!session.Page());
 }
 
-QTEST_MAIN(CalibrationRemarksTest)
+QUORLIN_TEST_CLASS(CalibrationRemarksTest)
 #include "CalibrationRemarksTest.moc"

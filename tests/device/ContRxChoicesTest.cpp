@@ -7,6 +7,7 @@
 
 #include "Vond/VondCommandRecords.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/device/ContRxProfiles.h"
 #include "tests/device/DutChoices.h"
 
@@ -351,5 +352,5 @@ void ContRxChoicesTest::eachRouteStartsAtTheFrequencyThatThePageSets()
     QCOMPARE(received, chosen);
 }
 
-QTEST_MAIN(ContRxChoicesTest)
+QUORLIN_TEST_CLASS(ContRxChoicesTest)
 #include "ContRxChoicesTest.moc"

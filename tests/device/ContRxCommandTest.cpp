@@ -2,6 +2,7 @@
 #include <QtTest>
 
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/device/ContRxProfiles.h"
 
 class ContRxCommandTest : public QObject
@@ -131,5 +132,5 @@ void ContRxCommandTest::gainsAreEnteredInTheStepsOfTheCommand()
              QByteArray("8107810781078107"));
 }
 
-QTEST_MAIN(ContRxCommandTest)
+QUORLIN_TEST_CLASS(ContRxCommandTest)
 #include "ContRxCommandTest.moc"

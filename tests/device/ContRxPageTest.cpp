@@ -6,6 +6,7 @@
 
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/ContRxProfiles.h"
 
@@ -288,5 +289,5 @@ void ContRxPageTest::windowIsDisabledWhileItsPagesInit()
     QVERIFY(session.Window()->isEnabled());
 }
 
-QTEST_MAIN(ContRxPageTest)
+QUORLIN_TEST_CLASS(ContRxPageTest)
 #include "ContRxPageTest.moc"

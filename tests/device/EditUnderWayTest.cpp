@@ -7,6 +7,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 
+#include "tests/common/TestClass.h"
 #include "tests/device/CalibrationSession.h"
 #include "tests/device/TxPages.h"
 
@@ -248,5 +249,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(CEditUnderWayTest)
+QUORLIN_TEST_CLASS(CEditUnderWayTest)
 #include "EditUnderWayTest.moc"

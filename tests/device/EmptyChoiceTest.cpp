@@ -8,6 +8,7 @@
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/PluginSession.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 
 namespace {
@@ -177,5 +178,5 @@ void EmptyChoiceTest::requestsOfTheRssiPageSendNothing()
     QVERIFY(session.busy.isEmpty());
 }
 
-QTEST_MAIN(EmptyChoiceTest)
+QUORLIN_TEST_CLASS(EmptyChoiceTest)
 #include "EmptyChoiceTest.moc"

@@ -7,6 +7,7 @@
 #include <QtTest>
 
 #include "tests/common/PluginSession.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 
 namespace {
@@ -240,5 +241,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(CKeyboardWalkTest)
+QUORLIN_TEST_CLASS(CKeyboardWalkTest)
 #include "KeyboardWalkTest.moc"

@@ -12,6 +12,7 @@
 
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/ContRxProfiles.h"
 
@@ -345,5 +346,5 @@ void LifetimeTest::hideAndShowWhileAPageComesInLeavesEachPageReachable()
         QVERIFY2(!page->isHidden(), qPrintable(page->windowTitle()));
 }
 
-QTEST_MAIN(LifetimeTest)
+QUORLIN_TEST_CLASS(LifetimeTest)
 #include "LifetimeTest.moc"

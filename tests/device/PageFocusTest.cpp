@@ -6,6 +6,7 @@
 
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/RequestPages.h"
 
@@ -146,5 +147,5 @@ void PageFocusTest::nothingTakesTheFocusBehindABox()
     QCOMPARE(CountCalls("VOND_MMRf_TestStopV7_r"), 0);
 }
 
-QTEST_MAIN(PageFocusTest)
+QUORLIN_TEST_CLASS(PageFocusTest)
 #include "PageFocusTest.moc"

@@ -9,6 +9,7 @@
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/PluginSession.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 
 class PluginEntryTest : public QObject
@@ -269,5 +270,5 @@ void PluginEntryTest::leftoverOperationsDoNothing()
     QVERIFY(Journal().isEmpty());
 }
 
-QTEST_MAIN(PluginEntryTest)
+QUORLIN_TEST_CLASS(PluginEntryTest)
 #include "PluginEntryTest.moc"

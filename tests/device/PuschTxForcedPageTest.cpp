@@ -1,6 +1,7 @@
 // The Forced PUSCH TX page: its document, its command, and Calculate beside the transmission.
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/TxPages.h"
 
@@ -291,5 +292,5 @@ void PuschTxForcedPageTest::secondCalculateDoesNotDoubleTheStatus()
     }
 }
 
-QTEST_MAIN(PuschTxForcedPageTest)
+QUORLIN_TEST_CLASS(PuschTxForcedPageTest)
 #include "PuschTxForcedPageTest.moc"

@@ -2,6 +2,7 @@
 // rests during a transmission.
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/TxPages.h"
 
@@ -345,5 +346,5 @@ void PuschTxNormalPageTest::everythingStandsInsideTheWindow()
     QVERIFY2(least.height() <= 769, qPrintable(QString::number(least.height())));
 }
 
-QTEST_MAIN(PuschTxNormalPageTest)
+QUORLIN_TEST_CLASS(PuschTxNormalPageTest)
 #include "PuschTxNormalPageTest.moc"

@@ -5,6 +5,7 @@
 #include <QStatusBar>
 
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/RequestPages.h"
 #include "tests/device/RsrpSession.h"
@@ -91,5 +92,5 @@ void RequestProgressTest::barGoesWithThePage()
     VondSim_Release("VOND_MMRf_ContRxV7_r");
 }
 
-QTEST_MAIN(RequestProgressTest)
+QUORLIN_TEST_CLASS(RequestProgressTest)
 #include "RequestProgressTest.moc"

@@ -2,6 +2,7 @@
 #include <QMainWindow>
 #include <QStatusBar>
 
+#include "tests/common/TestClass.h"
 #include "tests/device/CalibrationSession.h"
 
 namespace {
@@ -234,5 +235,5 @@ void ResetUndoTest::toolTipOfResetNamesAllOfItsTables()
     QVERIFY(reset->toolTip().contains("Diversity Path"));
 }
 
-QTEST_MAIN(ResetUndoTest)
+QUORLIN_TEST_CLASS(ResetUndoTest)
 #include "ResetUndoTest.moc"

@@ -9,6 +9,7 @@
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/PluginSession.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 
 namespace {
@@ -122,5 +123,5 @@ void ResultMarkTest::whatAFailedRequestLeavesIsGrey()
     QVERIFY(!IsGrey(gain) && !IsGrey(power));
 }
 
-QTEST_MAIN(ResultMarkTest)
+QUORLIN_TEST_CLASS(ResultMarkTest)
 #include "ResultMarkTest.moc"

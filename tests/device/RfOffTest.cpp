@@ -3,6 +3,7 @@
 #include <QProgressBar>
 #include <QStatusBar>
 
+#include "tests/common/TestClass.h"
 #include "tests/device/CalibrationSession.h"
 #include "tests/device/TxPages.h"
 
@@ -383,5 +384,5 @@ void RfOffTest::isStillHighlightedAfterAResetWhoseStopFailed()
     QCOMPARE(QString(VondSim_RunningTest()), QString());
 }
 
-QTEST_MAIN(RfOffTest)
+QUORLIN_TEST_CLASS(RfOffTest)
 #include "RfOffTest.moc"

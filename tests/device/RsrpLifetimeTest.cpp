@@ -7,6 +7,7 @@
 
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/RsrpSession.h"
 
@@ -221,5 +222,5 @@ void RsrpLifetimeTest::unloadWhileAFetchIsInFlight()
     QVERIFY(!session.Window());
 }
 
-QTEST_MAIN(RsrpLifetimeTest)
+QUORLIN_TEST_CLASS(RsrpLifetimeTest)
 #include "RsrpLifetimeTest.moc"

@@ -8,6 +8,7 @@
 
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/RsrpSession.h"
 
@@ -336,5 +337,5 @@ void RsrpPageTest::mimoTypeChoosesTheTable()
     QCOMPARE(session.Rows(), 0);
 }
 
-QTEST_MAIN(RsrpPageTest)
+QUORLIN_TEST_CLASS(RsrpPageTest)
 #include "RsrpPageTest.moc"

@@ -3,6 +3,7 @@
 
 #include "Vond/VondResultRecords.h"
 #include "tests/common/BoxWatcher.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/RssiSession.h"
 
@@ -123,5 +124,5 @@ void RssiCalculatorTest::foundGainsGoToTheMeasurementToTheBit()
     QCOMPARE(JournalOf(kRssiCall).last().request.mid(40, 8).toHex(), gains);
 }
 
-QTEST_MAIN(RssiCalculatorTest)
+QUORLIN_TEST_CLASS(RssiCalculatorTest)
 #include "RssiCalculatorTest.moc"

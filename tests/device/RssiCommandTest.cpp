@@ -2,6 +2,7 @@
 #include <QtTest>
 
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/device/RssiSession.h"
 
 class RssiCommandTest : public QObject
@@ -73,5 +74,5 @@ void RssiCommandTest::editedFrequenciesReachTheCommand()
              (QStringList{"1920000", "1925000", "1930000", "1935000", "1940000"}));
 }
 
-QTEST_MAIN(RssiCommandTest)
+QUORLIN_TEST_CLASS(RssiCommandTest)
 #include "RssiCommandTest.moc"

@@ -4,6 +4,7 @@
 #include <QStackedWidget>
 
 #include "tests/common/BoxWatcher.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/RssiSession.h"
 
@@ -95,5 +96,5 @@ void RssiLayoutTest::pageFitsTheWindow()
              qPrintable(QString::number(session.Page()->minimumSizeHint().height() + around)));
 }
 
-QTEST_MAIN(RssiLayoutTest)
+QUORLIN_TEST_CLASS(RssiLayoutTest)
 #include "RssiLayoutTest.moc"

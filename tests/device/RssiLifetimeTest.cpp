@@ -7,6 +7,7 @@
 
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/RssiSession.h"
 
@@ -215,5 +216,5 @@ void RssiLifetimeTest::hostsEnableLetsNoRequestBeginDuringAnother()
     QCOMPARE(session.busy, (QVector<bool>{true, false}));
 }
 
-QTEST_MAIN(RssiLifetimeTest)
+QUORLIN_TEST_CLASS(RssiLifetimeTest)
 #include "RssiLifetimeTest.moc"

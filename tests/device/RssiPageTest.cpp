@@ -5,6 +5,7 @@
 
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/RssiSession.h"
 
@@ -188,5 +189,5 @@ void RssiPageTest::measurementIsRefusedWhileAnotherTestRuns()
     QVERIFY(session.WaitForStatus("Fetch Gain info done"));
 }
 
-QTEST_MAIN(RssiPageTest)
+QUORLIN_TEST_CLASS(RssiPageTest)
 #include "RssiPageTest.moc"

@@ -6,6 +6,7 @@
 
 #include "Vond/VondResultRecords.h"
 #include "tests/common/BoxWatcher.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/RssiSession.h"
 
@@ -192,5 +193,5 @@ void RssiResultTest::failedRunShowsErrorOnThePathsAskedFor()
     QCOMPARE(session.Text("gainModeP1"), path1[0]);
 }
 
-QTEST_MAIN(RssiResultTest)
+QUORLIN_TEST_CLASS(RssiResultTest)
 #include "RssiResultTest.moc"

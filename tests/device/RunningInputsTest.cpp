@@ -8,6 +8,7 @@
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/PluginSession.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 
 namespace {
@@ -137,5 +138,5 @@ void RunningInputsTest::calculateStaysOnDuringATransmission()
     QVERIFY(AllOff(session));
 }
 
-QTEST_MAIN(RunningInputsTest)
+QUORLIN_TEST_CLASS(RunningInputsTest)
 #include "RunningInputsTest.moc"

@@ -17,6 +17,7 @@
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/PluginSession.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 
 namespace {
@@ -312,7 +313,7 @@ void RunningTestEndTest::endOfTheProcessStopsIt()
     QProcess child;
     child.setProcessEnvironment(environment);
     child.setProcessChannelMode(QProcess::ForwardedChannels);
-    child.start(QCoreApplication::applicationFilePath(), {"--end", way});
+    child.start(QCoreApplication::applicationFilePath(), {"EndRunningTest", way});
     QVERIFY(child.waitForFinished(100000));
     QCOMPARE(child.exitCode(), 0);
     QCOMPARE(child.exitStatus(), QProcess::NormalExit);
@@ -331,8 +332,9 @@ void RunningTestEndTest::endOfTheProcessStopsIt()
 }
 
 // The process of its own. Nothing of it is a test: its journal is.
-int End(const QString &way)
+int EndRunningTest(const QStringList &arguments)
 {
+    const QString way = arguments.value(0);
     const STestPage &page = kPages[1];
     // A pool that the host used first is destroyed after everything that the tool made.
     QThreadPool::globalInstance()->start([] {});
@@ -357,13 +359,6 @@ int End(const QString &way)
     return 0;
 }
 
-int main(int argc, char *argv[])
-{
-    QApplication application(argc, argv);
-    if (argc == 3 && QByteArray(argv[1]) == "--end")
-        return End(argv[2]);
-    RunningTestEndTest test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QUORLIN_TEST_CLASS(RunningTestEndTest)
+QUORLIN_TEST_PROCESS(EndRunningTest)
 #include "RunningTestEndTest.moc"

@@ -1,6 +1,7 @@
 // The Single Tone TX page: its document, its command, and the power detector beside the tone.
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/TxPages.h"
 
@@ -265,5 +266,5 @@ void SingleTonePageTest::secondFetchDoesNotDoubleTheStatus()
     }
 }
 
-QTEST_MAIN(SingleTonePageTest)
+QUORLIN_TEST_CLASS(SingleTonePageTest)
 #include "SingleTonePageTest.moc"

@@ -9,6 +9,7 @@
 
 #include "tests/common/PluginSession.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 
 namespace {
@@ -149,5 +150,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(CStrayWheelTest)
+QUORLIN_TEST_CLASS(CStrayWheelTest)
 #include "StrayWheelTest.moc"

@@ -4,6 +4,7 @@
 
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/TxPages.h"
 
@@ -187,5 +188,5 @@ void TxLifetimeTest::hideStopsARunningTest()
     QCOMPARE(QString(VondSim_RunningTest()), QString());
 }
 
-QTEST_MAIN(TxLifetimeTest)
+QUORLIN_TEST_CLASS(TxLifetimeTest)
 #include "TxLifetimeTest.moc"

@@ -3,6 +3,7 @@
 
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/TxPages.h"
 
@@ -315,5 +316,5 @@ void TxStartStopTest::secondTestOnTheSamePageDoesNotDoubleTheSignals()
     QCOMPARE(CountCalls(page.stop), 2);
 }
 
-QTEST_MAIN(TxStartStopTest)
+QUORLIN_TEST_CLASS(TxStartStopTest)
 #include "TxStartStopTest.moc"

@@ -11,6 +11,7 @@
 
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/PluginSession.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 
 namespace {
@@ -141,5 +142,5 @@ void WindowLookTest::pageMenuMarksThePageOnTop()
     QCOMPARE(marked(), QStringList(first));
 }
 
-QTEST_MAIN(WindowLookTest)
+QUORLIN_TEST_CLASS(WindowLookTest)
 #include "WindowLookTest.moc"

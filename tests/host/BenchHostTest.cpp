@@ -13,6 +13,7 @@
 #include "Host/Options.h"
 #include "Host/ToolWindow.h"
 #include "HostTestFiles.h"
+#include "tests/common/TestClass.h"
 
 class BenchHostTest : public QObject
 {
@@ -306,5 +307,5 @@ void BenchHostTest::ReadsHandles()
     QCOMPARE(read ? qint64(*read) : -1, handle);
 }
 
-QTEST_MAIN(BenchHostTest)
+QUORLIN_TEST_CLASS(BenchHostTest)
 #include "BenchHostTest.moc"

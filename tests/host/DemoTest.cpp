@@ -9,6 +9,7 @@
 #include "Host/BenchHost.h"
 #include "Host/Demo.h"
 #include "HostTestFiles.h"
+#include "tests/common/TestClass.h"
 
 class DemoTest : public QObject
 {
@@ -126,5 +127,5 @@ void DemoTest::FailsWhenSomethingGoesWrong()
     QCOMPARE(Run({}, std::chrono::milliseconds(deadlineMs)).failure, words);
 }
 
-QTEST_MAIN(DemoTest)
+QUORLIN_TEST_CLASS(DemoTest)
 #include "DemoTest.moc"

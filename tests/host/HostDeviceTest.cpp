@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "HostProcess.h"
+#include "tests/common/TestClass.h"
 
 class HostDeviceTest : public QObject
 {
@@ -62,5 +63,5 @@ void HostDeviceTest::RefusesAMistypedProfileAndNamesThemAll()
     QCOMPARE(run.out, QString());
 }
 
-QTEST_MAIN(HostDeviceTest)
+QUORLIN_TEST_CLASS(HostDeviceTest)
 #include "HostDeviceTest.moc"

@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "HostProcess.h"
+#include "tests/common/TestClass.h"
 
 class HostProgramTest : public QObject
 {
@@ -167,5 +168,5 @@ void HostProgramTest::NeedsNothingOfTheProjectButQt()
     QVERIFY2(!run.out.contains("Vond") && !run.out.contains("libQuorlin"), qPrintable(run.out));
 }
 
-QTEST_MAIN(HostProgramTest)
+QUORLIN_TEST_CLASS(HostProgramTest)
 #include "HostProgramTest.moc"

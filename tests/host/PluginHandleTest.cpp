@@ -6,6 +6,7 @@
 
 #include "Host/PluginHandle.h"
 #include "HostTestFiles.h"
+#include "tests/common/TestClass.h"
 
 class PluginHandleTest : public QObject
 {
@@ -120,5 +121,5 @@ void PluginHandleTest::DeletesTheRootObjectWithItself()
     QVERIFY(!root);
 }
 
-QTEST_MAIN(PluginHandleTest)
+QUORLIN_TEST_CLASS(PluginHandleTest)
 #include "PluginHandleTest.moc"

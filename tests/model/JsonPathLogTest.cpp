@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "Model/ModelLog.h"
-#include "tests/model/LogCapture.h"
+#include "tests/common/LogCapture.h"
 
 namespace {
 

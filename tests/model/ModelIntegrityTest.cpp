@@ -8,7 +8,7 @@
 #include "Model/JsonPath.h"
 #include "Model/ModelLog.h"
 #include "Model/ModelText.h"
-#include "tests/model/LogCapture.h"
+#include "tests/common/LogCapture.h"
 
 namespace {
 

@@ -1,4 +1,5 @@
 #include "Support/FileDialogMan.h"
+#include "tests/common/TestClass.h"
 
 #include <functional>
 #include <memory>
@@ -260,5 +261,5 @@ private:
     int m_dialogsSeen = 0;
 };
 
-QTEST_MAIN(FileDialogManTest)
+QUORLIN_TEST_CLASS(FileDialogManTest)
 #include "FileDialogManTest.moc"

@@ -1,4 +1,5 @@
 #include "Support/FilePathRecordSentry.h"
+#include "tests/common/TestClass.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -112,5 +113,5 @@ private:
     QScopedPointer<QTemporaryDir> m_folder;
 };
 
-QTEST_MAIN(FilePathRecordSentryTest)
+QUORLIN_TEST_CLASS(FilePathRecordSentryTest)
 #include "FilePathRecordSentryTest.moc"

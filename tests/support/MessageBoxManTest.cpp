@@ -1,4 +1,5 @@
 #include "Support/MessageBoxMan.h"
+#include "tests/common/TestClass.h"
 
 #include <functional>
 
@@ -390,5 +391,5 @@ private:
     int m_boxesSeen = 0;
 };
 
-QTEST_MAIN(MessageBoxManTest)
+QUORLIN_TEST_CLASS(MessageBoxManTest)
 #include "MessageBoxManTest.moc"

@@ -4,6 +4,7 @@
 #include "Model/JsonPath.h"
 #include "Model/ModelText.h"
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/viewcontroller/BusyCore.h"
 #include "tests/viewcontroller/SignalSpies.h"
 
@@ -223,5 +224,5 @@ void ViewCtrlCalTest::recordIsGivenAndTakenOnTheCallingThread()
         QString("2.50000"));
 }
 
-QTEST_GUILESS_MAIN(ViewCtrlCalTest)
+QUORLIN_TEST_CLASS(ViewCtrlCalTest)
 #include "ViewCtrlCalTest.moc"

@@ -5,8 +5,9 @@
 #include <QtTest>
 
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/common/SimJournal.h"
-#include "tests/model/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/viewcontroller/BusyCore.h"
 #include "tests/viewcontroller/SignalSpies.h"
 
@@ -263,5 +264,5 @@ void ViewCtrlRequestTest::destructionWhileTheAnswerWaitsDropsIt()
     QCOMPARE(spies.Fired().size(), 0);
 }
 
-QTEST_GUILESS_MAIN(ViewCtrlRequestTest)
+QUORLIN_TEST_CLASS(ViewCtrlRequestTest)
 #include "ViewCtrlRequestTest.moc"

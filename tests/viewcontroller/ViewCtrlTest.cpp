@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include "tests/common/SimJournal.h"
+#include "tests/common/TestClass.h"
 #include "tests/viewcontroller/BusyCore.h"
 #include "tests/viewcontroller/SignalSpies.h"
 
@@ -212,5 +213,5 @@ void ViewCtrlTest::idleOfADestroyedControllerIsNotReported()
     QCOMPARE(spies.Fired().size(), 0);
 }
 
-QTEST_GUILESS_MAIN(ViewCtrlTest)
+QUORLIN_TEST_CLASS(ViewCtrlTest)
 #include "ViewCtrlTest.moc"

@@ -3,8 +3,8 @@
 
 #include "Controller/calibration/CalCmdBuilder.h"
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/calibration/CalPages.h"
-#include "tests/model/LogCapture.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // The first step of every page: bands and frequency limits.
 #include "Operations/capability/CapabilityCache.h"
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/capability/UpdaterFixture.h"
-#include "tests/model/LogCapture.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // What the updater takes out of the 3GPP tables.
 #include "Model/ModelResources.h"
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/capability/UpdaterFixture.h"
-#include "tests/model/LogCapture.h"
 #include "tests/model/Nr3gppDocument.h"
 
 namespace {

@@ -2,9 +2,9 @@
 // them as they are. Whoever corrects one meets its line here.
 #include "Controller/core/NrCore.h"
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/capability/UpdateSteps.h"
 #include "tests/controller/capability/UpdaterFixture.h"
-#include "tests/model/LogCapture.h"
 #include "tests/model/Nr3gppDocument.h"
 
 namespace {

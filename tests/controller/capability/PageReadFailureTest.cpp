@@ -5,8 +5,8 @@
 #include "Controller/core/NrCore.h"
 #include "Model/ModelText.h"
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/capability/UpdaterFixture.h"
-#include "tests/model/LogCapture.h"
 
 namespace {
 

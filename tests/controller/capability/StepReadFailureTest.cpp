@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/capability/UpdateSteps.h"
 #include "tests/controller/capability/UpdaterFixture.h"
-#include "tests/model/LogCapture.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 #include <QSet>
 
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/capability/UpdaterFixture.h"
 #include "tests/controller/capability/WrittenPaths.h"
-#include "tests/model/LogCapture.h"
 
 namespace {
 

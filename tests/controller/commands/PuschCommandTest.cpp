@@ -3,9 +3,9 @@
 
 #include "Controller/commands/NrCoreCmdBuilder.h"
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/commands/PageDocuments.h"
 #include "tests/controller/commands/WireBytes.h"
-#include "tests/model/LogCapture.h"
 
 namespace {
 

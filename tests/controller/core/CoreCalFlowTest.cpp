@@ -3,8 +3,8 @@
 
 #include "Support/CalIniFile.h"
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/core/CoreFixture.h"
-#include "tests/model/LogCapture.h"
 
 namespace {
 

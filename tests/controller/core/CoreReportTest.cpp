@@ -2,10 +2,10 @@
 #include "Model/JsonPath.h"
 #include "Model/ModelText.h"
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/core/CoreFixture.h"
 #include "tests/controller/core/StepPages.h"
 #include "tests/controller/responses/RsrpReports.h"
-#include "tests/model/LogCapture.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 #include "Model/ModelIntegrity.h"
 #include "Model/ModelText.h"
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/core/CoreFixture.h"
 #include "tests/controller/core/StepPages.h"
-#include "tests/model/LogCapture.h"
 
 namespace {
 

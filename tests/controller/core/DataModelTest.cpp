@@ -6,8 +6,8 @@
 #include "Model/JsonPath.h"
 #include "Model/ModelText.h"
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/core/CoreFixture.h"
-#include "tests/model/LogCapture.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include "Controller/fields/CommandConversions.h"
 #include "Support/Log.h"
-#include "tests/model/LogCapture.h"
+#include "tests/common/LogCapture.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 
 #include "Model/JsonPath.h"
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/responses/RsrpReports.h"
-#include "tests/model/LogCapture.h"
 
 namespace {
 

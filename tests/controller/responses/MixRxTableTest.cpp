@@ -5,8 +5,8 @@
 #include "Model/JsonPath.h"
 #include "Model/ModelIntegrity.h"
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
 #include "tests/controller/responses/RsrpReports.h"
-#include "tests/model/LogCapture.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // What an upload makes of answers that are cut, in another field order or with totals alone, and
 // what the moves of an item tell that they left out.
 #include "Support/Log.h"
-#include "tests/model/LogCapture.h"
+#include "tests/common/LogCapture.h"
 #include "tests/operations/calibration/CalFixture.h"
 
 namespace {

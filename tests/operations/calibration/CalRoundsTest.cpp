@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "Support/Log.h"
-#include "tests/model/LogCapture.h"
+#include "tests/common/LogCapture.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "Operations/link/TargetLink.h"
 #include "Support/Log.h"
-#include "tests/model/LogCapture.h"
+#include "tests/common/LogCapture.h"
 #include "tests/operations/calibration/CalFixture.h"
 
 namespace {

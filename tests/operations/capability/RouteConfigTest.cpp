@@ -1,7 +1,7 @@
 // What is read out of the route configuration besides the routes: gain information, gain mode
 // flags, frequency limits of single routes.
 #include "Support/Log.h"
-#include "tests/model/LogCapture.h"
+#include "tests/common/LogCapture.h"
 #include "tests/operations/TargetFixture.h"
 
 namespace {

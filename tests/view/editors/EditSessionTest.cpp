@@ -8,8 +8,8 @@
 #include <QtTest>
 
 #include "View/editors/UnsignedSpinBox.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -289,5 +289,5 @@ private slots:
     }
 };
 
-QUORLIN_TEST_OBJECT(CEditSessionTest)
+QUORLIN_TEST_CLASS(CEditSessionTest)
 #include "EditSessionTest.moc"

@@ -1,11 +1,11 @@
 // The editor of 32-bit unsigned numbers.
 #include "View/editors/UnsignedSpinBox.h"
+#include "tests/common/TestClass.h"
 
 #include <QToolTip>
 #include <QWheelEvent>
 #include <QtTest>
 
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -157,5 +157,5 @@ private slots:
     }
 };
 
-QUORLIN_TEST_OBJECT(CUnsignedSpinBoxTest)
+QUORLIN_TEST_CLASS(CUnsignedSpinBoxTest)
 #include "UnsignedSpinBoxTest.moc"

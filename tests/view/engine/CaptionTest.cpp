@@ -4,9 +4,10 @@
 #include <QLabel>
 #include <QtTest>
 
-#include "tests/view/engine/LogCatcher.h"
+#include "Support/Log.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -38,7 +39,7 @@ private slots:
         CTestPage page(Document("{'caption':''}"));
         auto *label = page.AddCaption<QLabel>(kPort);
         label->setText("as designed");
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         QCOMPARE(label->text(), QString());
         QCOMPARE(log.Critical(), QStringList());
@@ -50,7 +51,7 @@ private slots:
         const QString name = "cmdIf_request_group3_memberProperty_portP0_cpation";
         auto *label = page.AddNamed<QLabel>(name);
         label->setText("as designed");
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         QCOMPARE(label->text(), QString("as designed"));
         QCOMPARE(log.Critical(),
@@ -100,7 +101,7 @@ private slots:
         CTestPage page(Document("{'caption':'Port 0','defaultSupport':0}"));
         auto *box = page.AddCaption<QCheckBox>(kPort);
         box->setText("as designed");
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         QCOMPARE(box->text(), QString("as designed"));
         QVERIFY(box->isVisible());
@@ -112,11 +113,11 @@ private slots:
         CTestPage page(Document("{'caption':'Port 0'}"));
         page.AddCaption<QLabel>(kPort);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         QVERIFY(page.Package("request.group3.portP0").isUndefined());
         QCOMPARE(log.Critical(), QStringList());
     }
 };
 
-QUORLIN_TEST_OBJECT(CCaptionTest)
+QUORLIN_TEST_CLASS(CCaptionTest)
 #include "CaptionTest.moc"

@@ -7,10 +7,11 @@
 #include <QTableWidget>
 #include <QtTest>
 
+#include "Support/Log.h"
 #include "View/editors/UnsignedSpinBox.h"
-#include "tests/view/engine/LogCatcher.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -102,7 +103,7 @@ private slots:
 
     void tableWithoutASupportedMemberIsHidden()
     {
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         SPage p(Table(3, "{'defaultSupport':0,'trait':{'dataType':'label'}}"));
         QVERIFY(p.table->isHidden());
         QCOMPARE(p.table->rowCount(), 0);
@@ -293,7 +294,7 @@ private slots:
     {
         CTestDocument document = Table(2, "{'caption':'A','trait':{'dataType':'boolean'}}");
         document.Member("request.group2.b", kLabel);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         SPage p(document);
         QCOMPARE(log.Critical(),
                  QStringList("---> [Fail][Init][type3] Cannot get the row info: dataType not "
@@ -320,7 +321,7 @@ private slots:
 
     void tooManyColumnsAreCut()
     {
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         SPage p(Table(1025, kLabel));
         QCOMPARE(p.table->columnCount(), 1024);
         QVERIFY(log.Critical().contains("dimentionCount is cut to 1024 from 1025"));
@@ -336,5 +337,5 @@ private slots:
     }
 };
 
-QUORLIN_TEST_OBJECT(CColumnTableInitTest)
+QUORLIN_TEST_CLASS(CColumnTableInitTest)
 #include "ColumnTableInitTest.moc"

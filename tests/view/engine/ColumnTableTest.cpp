@@ -6,10 +6,11 @@
 #include <QTableWidget>
 #include <QtTest>
 
+#include "Support/Log.h"
 #include "View/editors/UnsignedSpinBox.h"
-#include "tests/view/engine/LogCatcher.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -100,7 +101,7 @@ private slots:
     void updateWritesAllRowsButLists()
     {
         SPage p(AllTypes({"0"}, {"0"}, {"0"}, {"x"}, {"a"}));
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         p.page.UpdateWidget(
             AllTypes({"1.5", "2.5"}, {"3735928559", "16"}, {"-3", "99"}, {"u"}, {"b"}).Json());
         QCOMPARE(p.Packaged(),
@@ -206,7 +207,7 @@ private slots:
         document.Member(kTable, "{'trait':{'dataType':'boolean'}}");
         document.Member("data.group4.label", "{'trait':{'dataType':'label','defaultValue':['x']}}");
         SPage p(document);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         QCOMPARE(p.Packaged(), JsonObject("{'label':['x']}"));
         QCOMPARE(log.Critical(),
                  QStringList("---> [Fail][Package][type3] Not support this data type yet <---"));
@@ -223,5 +224,5 @@ private slots:
     }
 };
 
-QUORLIN_TEST_OBJECT(CColumnTableTest)
+QUORLIN_TEST_CLASS(CColumnTableTest)
 #include "ColumnTableTest.moc"

@@ -8,9 +8,10 @@
 #include <QTableWidget>
 #include <QtTest>
 
-#include "tests/view/engine/LogCatcher.h"
+#include "Support/Log.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -149,7 +150,7 @@ private slots:
         CTestPage page(document);
         QWidget *widget = failure.make(page);
         widget->setStatusTip("as it was");
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         if (failure.walk != eInit)
             log.Clear();
@@ -180,7 +181,7 @@ private slots:
         const CTestDocument document = MakeDocument(1, kLabel, 1);
         CTestPage page(document);
         page.Add<QLabel>(kMember);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         log.Clear();
         const std::string text = page.PackageMemberValue();
@@ -215,7 +216,7 @@ private slots:
         const CTestDocument document = MakeDocument(1, kLabel, 1);
         CTestPage page(document);
         page.Add<QLabel>(kMember);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         if (walk != eInit)
             log.Clear();
@@ -235,5 +236,5 @@ private slots:
     }
 };
 
-QUORLIN_TEST_OBJECT(CEngineLogTest)
+QUORLIN_TEST_CLASS(CEngineLogTest)
 #include "EngineLogTest.moc"

@@ -5,10 +5,10 @@
 #include <QtTest>
 
 #include "Model/StatusTable.h"
-#include "tests/view/engine/BoxWatch.h"
+#include "tests/common/BoxWatcher.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/LogCatcher.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -42,12 +42,12 @@ private slots:
         CTestPage page(document);
         auto *result = page.Add<QLabel>(kResult);
         QSignalSpy done(&page, &CTestPage::Signal_InitDone);
-        CBoxWatch boxes;
+        CBoxWatcher boxes;
         page.Init();
         QCOMPARE(boxes.Seen().size(), 1);
         QCOMPARE(boxes.Seen()[0].title, QString("Error"));
-        QCOMPARE(boxes.Seen()[0].icon, QMessageBox::Critical);
-        QCOMPARE(boxes.Seen()[0].text, QString(kErrors) + "first<br>second<br>");
+        QCOMPARE(boxes.Seen()[0].icon, int(QMessageBox::Critical));
+        QCOMPARE(boxes.Seen()[0].plain, QString(kErrors) + "first<br>second<br>");
         QCOMPARE(result->text(), QString("at init"));
         QCOMPARE(done.size(), 1);
         QVERIFY(page.IsModelReady());
@@ -62,10 +62,10 @@ private slots:
         document.Root("modelIntegrity",
                       Record("{'integrity':false,'messageList':['no <b>band</b> & route']}"));
         CTestPage page(document);
-        CBoxWatch boxes;
+        CBoxWatcher boxes;
         page.Init();
         QCOMPARE(boxes.Seen().size(), 1);
-        QCOMPARE(boxes.Seen()[0].text,
+        QCOMPARE(boxes.Seen()[0].plain,
                  QString(kErrors) + "no &lt;b&gt;band&lt;/b&gt; &amp; route<br>");
     }
 
@@ -74,7 +74,7 @@ private slots:
         CTestDocument document = Document("x");
         document.Root("modelIntegrity", Record("{'integrity':true,'messageList':['all well']}"));
         CTestPage page(document);
-        CBoxWatch boxes;
+        CBoxWatcher boxes;
         page.Init();
         QVERIFY(boxes.Seen().isEmpty());
         QVERIFY(!page.Model().contains("modelIntegrity"));
@@ -86,7 +86,7 @@ private slots:
         CTestPage page(Document("old"));
         auto *result = page.Add<QLabel>(kResult);
         page.Init();
-        CBoxWatch boxes;
+        CBoxWatcher boxes;
         page.UpdateWidget(Document("new").Json());
         QVERIFY(boxes.Seen().isEmpty());
         QCOMPARE(result->text(), QString("new"));
@@ -101,10 +101,10 @@ private slots:
         page.Init();
         CTestDocument update = Document("new");
         update.Root("modelIntegrity", Record("{'integrity':false,'messageList':['failed']}"));
-        CBoxWatch boxes;
+        CBoxWatcher boxes;
         page.UpdateWidget(update.Json());
         QCOMPARE(boxes.Seen().size(), 1);
-        QCOMPARE(boxes.Seen()[0].text, QString(kErrors) + "failed<br>");
+        QCOMPARE(boxes.Seen()[0].plain, QString(kErrors) + "failed<br>");
         QCOMPARE(result->text(), QString("new"));
         QCOMPARE(page.Model()["cmdIf"], Document("old").Json()["cmdIf"]);
         QVERIFY(page.IsModelReady());
@@ -115,7 +115,7 @@ private slots:
         CTestDocument document = Document("old");
         document.Root("modelIntegrity", Record("{'integrity':false,'messageList':['failed']}"));
         CTestPage page(document);
-        CBoxWatch boxes;
+        CBoxWatcher boxes;
         page.Init();
         QCOMPARE(boxes.Seen().size(), 1);
         page.UpdateWidget(page.Model());
@@ -128,21 +128,21 @@ private slots:
         page.Init();
         CTestDocument update = Document("new");
         update.Root("emptyModel", "").Root("modelIntegrity", Record("{'messageList':['lost']}"));
-        CBoxWatch boxes;
+        CBoxWatcher boxes;
         page.UpdateWidget(update.Json());
         QCOMPARE(boxes.Seen().size(), 1);
-        QCOMPARE(boxes.Seen()[0].text, QString(kErrors) + "lost<br>");
+        QCOMPARE(boxes.Seen()[0].plain, QString(kErrors) + "lost<br>");
     }
 
     void updateWithOnlyEmptyModelCountsAsNotCorrect()
     {
         CTestPage page(Document("old"));
         page.Init();
-        CBoxWatch boxes;
+        CBoxWatcher boxes;
         page.UpdateWidget(JsonObject("{'emptyModel':''}"));
         QCOMPARE(boxes.Seen().size(), 1);
         QCOMPARE(boxes.Seen()[0].title, QString("Error"));
-        QCOMPARE(boxes.Seen()[0].text, QString(kErrors));
+        QCOMPARE(boxes.Seen()[0].plain, QString(kErrors));
         QCOMPARE(page.Model()["cmdIf"], Document("old").Json()["cmdIf"]);
     }
 
@@ -150,12 +150,12 @@ private slots:
     {
         CTestPage page(Document("old"));
         page.Init();
-        CBoxWatch boxes;
+        CBoxWatcher boxes;
         page.UpdateWidget(JsonObject("{'emptyModel':'','modelIntegrity':{'integrity':true}}"));
         QCOMPARE(boxes.Seen().size(), 1);
         QCOMPARE(boxes.Seen()[0].title, QString("Error"));
-        QCOMPARE(boxes.Seen()[0].icon, QMessageBox::Critical);
-        QCOMPARE(boxes.Seen()[0].text, QString("This is empty data to update."));
+        QCOMPARE(boxes.Seen()[0].icon, int(QMessageBox::Critical));
+        QCOMPARE(boxes.Seen()[0].plain, QString("This is empty data to update."));
         QCOMPARE(page.Model()["cmdIf"], Document("old").Json()["cmdIf"]);
     }
 
@@ -165,7 +165,7 @@ private slots:
         page.Init();
         CTestDocument update = Document("new");
         update.Root("modelIntegrity", QJsonValue()).Root("emptyModel", QJsonValue());
-        CBoxWatch boxes;
+        CBoxWatcher boxes;
         page.UpdateWidget(update.Json());
         QVERIFY(boxes.Seen().isEmpty());
         QCOMPARE(page.Model()["cmdIf"], update.Json()["cmdIf"]);
@@ -179,7 +179,8 @@ private slots:
         page->m_answersAtOnce = false;
         page->show();
         QSignalSpy done(page.data(), &CTestPage::Signal_InitDone);
-        CBoxWatch boxes([&](QMessageBox *) { delete page.data(); });
+        CBoxWatcher boxes;
+        boxes.onBox = [&] { delete page.data(); };
         page->Deliver();
         QVERIFY(page.isNull());
         QCOMPARE(boxes.Seen().size(), 1);
@@ -191,7 +192,8 @@ private slots:
         QPointer<CTestPage> page = new CTestPage(Document("x"));
         page->Add<QLabel>(kResult);
         page->Init();
-        CBoxWatch boxes([&](QMessageBox *) { delete page.data(); });
+        CBoxWatcher boxes;
+        boxes.onBox = [&] { delete page.data(); };
         page->UpdateWidget(JsonObject("{'emptyModel':''}"));
         QVERIFY(page.isNull());
         QCOMPARE(boxes.Seen().size(), 1);
@@ -201,7 +203,8 @@ private slots:
     {
         QPointer<CTestPage> page = new CTestPage(Document("x"));
         page->Init();
-        CBoxWatch boxes([&](QMessageBox *) { delete page.data(); });
+        CBoxWatcher boxes;
+        boxes.onBox = [&] { delete page.data(); };
         page->ShowItemResult("Stop", {"", 203, ""});
         QVERIFY(page.isNull());
         QCOMPARE(boxes.Seen().size(), 1);
@@ -237,16 +240,16 @@ private slots:
         QFETCH(QString, message);
         CTestPage page(Document("x"));
         page.Init();
-        CBoxWatch boxes;
+        CBoxWatcher boxes;
         page.ShowItemResult("Cont Rx", {"Continuous RX", status, message});
         QCOMPARE(boxes.Seen().size(), 1);
         QCOMPARE(boxes.Seen()[0].title, QString("Cont Rx"));
-        QTEST(int(boxes.Seen()[0].icon), "icon");
-        QTEST(boxes.Seen()[0].text, "text");
+        QTEST(boxes.Seen()[0].icon, "icon");
+        QTEST(boxes.Seen()[0].plain, "text");
         QTEST(boxes.Seen()[0].informative, "informative");
         QCOMPARE(boxes.Seen()[0].detailed, QString());
     }
 };
 
-QUORLIN_TEST_OBJECT(CIntegrityTest)
+QUORLIN_TEST_CLASS(CIntegrityTest)
 #include "IntegrityTest.moc"

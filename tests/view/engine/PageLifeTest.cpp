@@ -12,9 +12,10 @@
 #include <QtTest>
 
 #include "Model/ModelText.h"
-#include "tests/view/engine/LogCatcher.h"
+#include "Support/Log.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -71,7 +72,7 @@ private slots:
         CTestPage page(Document());
         page.m_answersAtOnce = false;
         QSignalSpy status(&page, &CTestPage::Signal_UpdateStatus);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.show();
         QCOMPARE(status.size(), 1);
         QCOMPARE(status[0][0].toString(), QString("Start Init: Test page"));
@@ -105,7 +106,7 @@ private slots:
         label->setText("as designed");
         auto *frame = page.AddNamed<QGroupBox>("groupBox_12");
         QSignalSpy done(&page, &CTestPage::Signal_InitDone);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         QCOMPARE(done.size(), 1);
         QVERIFY(!page.IsModelReady());
@@ -122,7 +123,7 @@ private slots:
         page.m_text.clear();
         page.Add<QComboBox>(kBand);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         QCOMPARE(page.PackageMemberValue(), std::string("{}"));
         QCOMPARE(log.Critical(),
                  QStringList("====== Failed to packge: Cannot get its JSON ojbect ======  "
@@ -136,7 +137,7 @@ private slots:
         page.Add<QComboBox>(kBand);
         page.Add<QLabel>(kResult);
         QSignalSpy done(&page, &CTestPage::Signal_InitDone);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         QCOMPARE(log.Count("====== Failed processing name: Cannot get the JSON Object====== "), 2);
         QCOMPARE(done.size(), 1);
@@ -183,7 +184,7 @@ private slots:
         CTestPage page(Document());
         auto *edit = page.AddNamed<QLineEdit>("request_group1_memberProperty_band");
         edit->setText("mine");
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         page.PackageMemberValue();
         QCOMPARE(log.Critical(), QStringList());
@@ -195,7 +196,7 @@ private slots:
     {
         CTestPage page(Document());
         auto *band = page.Add<CSubclassedBox>(kBand);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         QCOMPARE(band->count(), 0);
         QCOMPARE(log.Critical(), QStringList("---> [Fail][Init][type1]cannot find the mapping of "
@@ -353,5 +354,5 @@ private slots:
     }
 };
 
-QUORLIN_TEST_OBJECT(CPageLifeTest)
+QUORLIN_TEST_CLASS(CPageLifeTest)
 #include "PageLifeTest.moc"

@@ -3,9 +3,10 @@
 #include <QSpinBox>
 #include <QtTest>
 
-#include "tests/view/engine/LogCatcher.h"
+#include "Support/Log.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -80,7 +81,7 @@ private slots:
         CTestPage page(Scalar("0,10~20"));
         auto *box = page.Add<QSpinBox>(kFrequency);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         Enter(box, "15");
         QVERIFY(log.Debug().contains("---> Slot_RangeCheck <---  (\"0\", \"10~20\")"));
         QVERIFY(log.Debug().contains("find return"));
@@ -105,7 +106,7 @@ private slots:
         auto *box = page.Add<QSpinBox>(kFrequency);
         page.Init();
         QCOMPARE(box->toolTip(), QString("0~9999999"));
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         Enter(box, "5");
         QCOMPARE(box->value(), 5);
         QVERIFY(!log.Has("---> Slot_RangeCheck"));
@@ -150,7 +151,7 @@ private slots:
         auto *box = page.Add<QSpinBox>(kFrequency);
         page.Init();
         box->setValue(5);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         QTest::keyClick(box, Qt::Key_Return);
         QFocusEvent out(QEvent::FocusOut);
         QCoreApplication::sendEvent(box, &out);
@@ -206,7 +207,7 @@ private slots:
         auto *cell = qobject_cast<QDoubleSpinBox *>(table->cellWidget(0, 1));
         QVERIFY(cell);
         QCOMPARE(cell->toolTip(), list);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         Enter(cell, entry);
         QTEST(cell->value(), "expected");
         QVERIFY(log.Has("---> Slot_PointRangeCheck <--- "));
@@ -246,5 +247,5 @@ private slots:
     }
 };
 
-QUORLIN_TEST_OBJECT(CRangeCheckTest)
+QUORLIN_TEST_CLASS(CRangeCheckTest)
 #include "RangeCheckTest.moc"

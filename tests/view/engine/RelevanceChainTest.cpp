@@ -5,9 +5,10 @@
 #include <QSpinBox>
 #include <QtTest>
 
-#include "tests/view/engine/LogCatcher.h"
+#include "Support/Log.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -82,7 +83,7 @@ private slots:
         AddBoxes(page);
         page.Init();
         m_record.clear();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         m_boxes["band"]->setCurrentText("n78");
         QCOMPARE(m_record, (QStringList{"band:n78", "bandwidth:", "bandwidth:20",
                                         "routeType:", "routeType:Type2", "route:", "route:4"}));
@@ -96,7 +97,7 @@ private slots:
         AddBoxes(page);
         page.Init();
         m_record.clear();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         m_boxes["band"]->setCurrentText("n78");
         QCOMPARE(m_record,
                  (QStringList{"band:n78", "route:", "route:9", "bandwidth:", "bandwidth:20",
@@ -124,7 +125,7 @@ private slots:
         CTestPage page(BandDocument("{'n1,Type1':['0','1']}"));
         AddBoxes(page);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         m_boxes["bandwidth"]->setCurrentText("5");
         m_boxes["route"]->setCurrentText("1");
         QVERIFY(!log.Has("============ [Start][Value Relevance]"));
@@ -135,7 +136,7 @@ private slots:
         CTestPage page(BandDocument("{'n1,Type1':['0','1']}"));
         AddBoxes(page);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         m_boxes["band"]->setCurrentText("n1");
         m_boxes["band"]->setCurrentIndex(0);
         QVERIFY(!log.Has("============ [Start][Value Relevance]"));
@@ -152,7 +153,7 @@ private slots:
         auto *a = page.Add<QComboBox>("request.group1.a");
         page.Add<QComboBox>("request.group1.b");
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         a->setCurrentText("y");
         QStringList lines;  // without those that print a part of the document
         for (const QString &line : log.Debug()) {
@@ -192,7 +193,7 @@ private slots:
         page.Init();
         // At Init the list of a is that of its publisher's default.
         QCOMPARE(a->count(), 2);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         a->setCurrentText("a2");
         QVERIFY(
             log.Critical().contains(QString(kLoop) +
@@ -212,7 +213,7 @@ private slots:
         auto *a = page.Add<QComboBox>("request.group1.a");
         page.Init();
         QCOMPARE(a->count(), 2);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         a->setCurrentText("y");
         QVERIFY(log.Has(kLoop));
         QVERIFY(!a->currentText().isEmpty());
@@ -228,7 +229,7 @@ private slots:
         auto *a = page.Add<QComboBox>("request.group1.a");
         auto *b = page.Add<QComboBox>("request.group1.b");
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         a->setCurrentText("y");
         QVERIFY(log.Has(kLoop));
         QVERIFY(a->isEnabled() && b->isEnabled());
@@ -245,7 +246,7 @@ private slots:
         AddBoxes(page);
         auto *self = page.Add<QComboBox>("request.group1.self");
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         self->setCurrentText("y");
         QVERIFY(log.Has(kLoop));
         log.Clear();
@@ -277,7 +278,7 @@ private slots:
         for (int i = 0; i <= kLength; ++i)
             boxes.append(page.Add<QComboBox>(QString("request.group1.m%1").arg(i)));
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         boxes.first()->setCurrentText("y");
         QCOMPARE(boxes.last()->currentText(), QString("y"));
         QCOMPARE(log.Critical(), QStringList());
@@ -299,5 +300,5 @@ private:
     QMap<QString, QComboBox *> m_boxes;
 };
 
-QUORLIN_TEST_OBJECT(CRelevanceChainTest)
+QUORLIN_TEST_CLASS(CRelevanceChainTest)
 #include "RelevanceChainTest.moc"

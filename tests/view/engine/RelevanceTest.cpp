@@ -8,10 +8,11 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
+#include "Support/Log.h"
 #include "View/engine/WidgetIndex.h"
-#include "tests/view/engine/LogCatcher.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestDocument.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -106,7 +107,7 @@ private slots:
         QCOMPARE(sub->count(), 2);
         QCOMPARE(sub->currentText(), QString("3"));
         // A key that the table lacks leaves it as it is.
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         QVERIFY(widgets.Change(ERelevance::Value, pub, "n2"));
         QCOMPARE(sub->currentText(), QString("3"));
     }
@@ -223,7 +224,7 @@ private slots:
         widgets.Follow(one);
         widgets.Follow(two);
         widgets.Show();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         QVERIFY(widgets.Change(ERelevance::Value, one, "a"));
         QVERIFY(!widgets.relevance.IsUnderWay());
         QCOMPARE(log.Count("publish lists form a loop"), 1);
@@ -236,11 +237,11 @@ private slots:
         auto *sub = widgets.Add<QLabel>("request.group1.sub");
         widgets.Show();
         delete sub;
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         QVERIFY(widgets.Change(ERelevance::Value, pub, "x"));
         QCOMPARE(log.Count("---> [Fail][Value Relevance][type1] Cannot find widget pointer"), 1);
     }
 };
 
-QUORLIN_TEST_OBJECT(CRelevanceTest)
+QUORLIN_TEST_CLASS(CRelevanceTest)
 #include "RelevanceTest.moc"

@@ -7,11 +7,12 @@
 #include <QTableWidget>
 #include <QtTest>
 
+#include "Support/Log.h"
 #include "View/engine/TableSize.h"
-#include "tests/view/engine/LogCatcher.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/RowTableDocument.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 class CRowTableAppendTest : public QObject
 {
@@ -78,7 +79,7 @@ private slots:
         auto *table = page.AddTable(kRowTable);
         page.Init();
         page.AppendWidget(RowDocument(Values(2)).Json());
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.AppendWidget(RowDocument({{"other", "0", "0"}, {"other", "0", "0"}}).Json());
         QVERIFY(log.Debug().contains("---> [Append][type2] No new row to update"));
         QCOMPARE(CellTexts(table, 1), Values(2)[1]);
@@ -89,7 +90,7 @@ private slots:
         CTestPage page(RowDocument(Values(1)));
         page.AddTable(kRowTable);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.AppendWidget(RowDocument(Values(4)).Json());
         const QStringList lines = log.Debug();
         QVERIFY(lines.contains("---> [Append][type2] Current Column size - from table <--- 3"));
@@ -105,7 +106,7 @@ private slots:
         CTestPage page(RowDocument(Values(3), {{"r0", "First"}}));
         auto *table = page.AddTable(kRowTable);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.AppendWidget(RowDocument({}).Json());
         QVERIFY(log.Debug().contains("---> [Append][type2] Clear table."));
         QCOMPARE(table->rowCount(), 0);
@@ -134,7 +135,7 @@ private slots:
         CTestPage page(RowDocument(Values(3)));
         auto *table = page.AddTable(kRowTable);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.AppendWidget(RowDocument({{"other", "0", "0"}}).Json());
         QCOMPARE(table->rowCount(), 3);
         for (int r = 0; r < 3; ++r)
@@ -184,7 +185,7 @@ private slots:
         CTestPage page(RowDocument({}));
         auto *table = page.AddTable(kRowTable);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.AppendWidget(document.Json());
         QCOMPARE(log.Count("---> [Fail][Append][type2] Not support this data type yet <---"), 258);
         QVERIFY(table->item(1, 0) && table->item(1, 2));
@@ -229,5 +230,5 @@ private slots:
     }
 };
 
-QUORLIN_TEST_OBJECT(CRowTableAppendTest)
+QUORLIN_TEST_CLASS(CRowTableAppendTest)
 #include "RowTableAppendTest.moc"

@@ -3,7 +3,7 @@
 #include <QtTest>
 
 #include "View/engine/TableGroup.h"
-#include "tests/view/engine/TestRunner.h"
+#include "tests/common/TestClass.h"
 
 namespace {
 
@@ -116,5 +116,5 @@ private slots:
     }
 };
 
-QUORLIN_TEST_OBJECT(CRowTableCellsTest)
+QUORLIN_TEST_CLASS(CRowTableCellsTest)
 #include "RowTableCellsTest.moc"

@@ -6,11 +6,12 @@
 #include <QTableWidget>
 #include <QtTest>
 
+#include "Support/Log.h"
 #include "View/engine/TableSize.h"
-#include "tests/view/engine/LogCatcher.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/RowTableDocument.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 class CRowTableTest : public QObject
 {
@@ -178,7 +179,7 @@ private slots:
             document.Member("response.group1.a", "{'trait':{'dataType':'" + type + "'}}");
             CTestPage page(document);
             auto *table = page.AddTable("response.group1.a");
-            CLogCatcher log;
+            LogCapture log(lcEngine());
             page.Init();
             QVERIFY(!table->cellWidget(0, 0));
             QCOMPARE(log.Critical(),
@@ -273,12 +274,12 @@ private slots:
         CTestPage page(RowDocument(Values(1)));
         page.AddTable(kRowTable);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         QVERIFY(page.Package(kRowTable).isUndefined());
         QCOMPARE(log.Critical(), QStringList("====== Failed to packge : Not support this group "
                                              "type yet ======"));
     }
 };
 
-QUORLIN_TEST_OBJECT(CRowTableTest)
+QUORLIN_TEST_CLASS(CRowTableTest)
 #include "RowTableTest.moc"

@@ -6,9 +6,10 @@
 #include <QSpinBox>
 #include <QtTest>
 
-#include "tests/view/engine/LogCatcher.h"
+#include "Support/Log.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -60,7 +61,7 @@ private slots:
     {
         CTestPage page(CTestDocument().Member(kBand, List("['n1']", "'1'")));
         auto *box = page.Add<QComboBox>(kBand);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         QCOMPARE(box->currentText(), QString("n1"));
         QCOMPARE(log.Critical(), QStringList());
@@ -78,7 +79,7 @@ private slots:
         page.Init();
         QVERIFY(box->isHidden());
         QCOMPARE(Items(box), (QStringList{"held", "other"}));
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         box->setCurrentText("other");
         QVERIFY(!log.Has("============ [Start]"));
         QCOMPARE(page.Package(kValue).toString(), QString("other"));
@@ -283,7 +284,7 @@ private slots:
         CTestPage page(document);
         page.Add<QComboBox>(kBand);
         auto *value = page.Add<QSpinBox>(kValue);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         QCOMPARE(value->maximum(), 0);
         QCOMPARE(log.Critical(), QStringList());
@@ -303,7 +304,7 @@ private slots:
         auto *list = page.Add<QComboBox>("request.group1.list");
         auto *range = page.Add<QSpinBox>("request.group1.range");
         auto *point = page.Add<QDoubleSpinBox>("request.group1.point");
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         QCOMPARE(log.Critical(), QStringList());
         QCOMPARE(list->count(), 0);
@@ -368,7 +369,7 @@ private slots:
         CTestPage page(document);
         auto *value = page.Add<QSpinBox>(kValue);
         page.Add<QComboBox>(kBand);
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Init();
         QCOMPARE(log.Count("============ [Start]["), 0);
         QCOMPARE(value->value(), 3);
@@ -376,5 +377,5 @@ private slots:
     }
 };
 
-QUORLIN_TEST_OBJECT(CScalarInitTest)
+QUORLIN_TEST_CLASS(CScalarInitTest)
 #include "ScalarInitTest.moc"

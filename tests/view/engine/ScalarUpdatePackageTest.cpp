@@ -7,9 +7,10 @@
 #include <QSpinBox>
 #include <QtTest>
 
-#include "tests/view/engine/LogCatcher.h"
+#include "Support/Log.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -99,7 +100,7 @@ private slots:
         CTestPage page(Document("{'dataType':'label','defaultValue':'NA'}"));
         auto *label = page.Add<QLabel>(kValue);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.UpdateWidget(Document("{'dataType':'label'}").Json());
         page.UpdateWidget(Document("{'dataType':'label','defaultValue':null}").Json());
         QCOMPARE(label->text(), QString("NA"));
@@ -123,7 +124,7 @@ private slots:
         page.UpdateWidget(Document("{'dataType':'list','defaultValue':'b'}").Json());
         QCOMPARE(other->text(), QString("of b"));
         // Nothing selected publishes nothing.
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         page.Model() = document.Json();
         page.UpdateWidget(Document("{'dataType':'list','defaultValue':'gone'}").Json());
         QCOMPARE(other->text(), QString("of b"));
@@ -222,7 +223,7 @@ private slots:
         CTestPage page(Document(kList));
         page.Add<QLineEdit>(kValue);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         QVERIFY(page.Package(kValue).isUndefined());
         QCOMPARE(log.Critical(),
                  QStringList("QLineEdit ---> [Fail][Package][type1] : Not support this type yet "
@@ -249,5 +250,5 @@ private slots:
     }
 };
 
-QUORLIN_TEST_OBJECT(CScalarUpdatePackageTest)
+QUORLIN_TEST_CLASS(CScalarUpdatePackageTest)
 #include "ScalarUpdatePackageTest.moc"

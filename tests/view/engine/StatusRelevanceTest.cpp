@@ -6,9 +6,10 @@
 #include <QSpinBox>
 #include <QtTest>
 
-#include "tests/view/engine/LogCatcher.h"
+#include "Support/Log.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -83,7 +84,7 @@ private slots:
     {
         SStatusPage<QSpinBox> p{Document(kRange)};
         p.pub->setCurrentText("y");
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         p.pub->setCurrentText("z");
         QVERIFY(!p.sub->isEnabled());
         QCOMPARE(log.Critical(),
@@ -110,7 +111,7 @@ private slots:
         p.pub->setCurrentText("y");
         p.end->setEnabled(true);
         p.other->setText("untouched");
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         p.pub->setCurrentText("x");
         QVERIFY(p.sub->isEnabled());
         QVERIFY(!p.end->isEnabled());  // "a" disables it
@@ -123,7 +124,7 @@ private slots:
     {
         SStatusPage<QCheckBox> p{Document(kFlag)};
         QVERIFY(p.end->isEnabled());
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         p.pub->setCurrentText("y");
         QVERIFY(!p.sub->isEnabled());
         QVERIFY(!p.sub->isChecked());
@@ -158,7 +159,7 @@ private slots:
     void spinBoxNeverPublishesAnew()
     {
         SStatusPage<QSpinBox> p{Document(kRange)};
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         p.pub->setCurrentText("y");
         p.pub->setCurrentText("x");
         QVERIFY(p.end->isEnabled());
@@ -189,7 +190,7 @@ private slots:
     {
         SStatusPage<QSpinBox> p{Document(kRange)};
         p.sub->hide();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         p.pub->setCurrentText("y");
         QVERIFY(p.sub->isEnabled());
         QVERIFY(log.Debug().contains("---> Skip: invisible <--- "));
@@ -233,7 +234,7 @@ private slots:
         page.Add<QCheckBox>(kOther);
         auto *sub = page.Add<QLabel>(kSub);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         pub->setCurrentText("y");
         QVERIFY(!sub->isEnabled());
         QVERIFY(log.Debug().contains(
@@ -282,12 +283,12 @@ private slots:
         if (hasWidget)
             page.Add<QLabel>("request.group2.bad");
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         pub->setCurrentText("y");
         QCOMPARE(log.Critical(), QStringList(line));
         QVERIFY(!end->isEnabled());
     }
 };
 
-QUORLIN_TEST_OBJECT(CStatusRelevanceTest)
+QUORLIN_TEST_CLASS(CStatusRelevanceTest)
 #include "StatusRelevanceTest.moc"

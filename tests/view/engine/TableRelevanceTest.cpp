@@ -6,9 +6,10 @@
 #include <QTableWidget>
 #include <QtTest>
 
-#include "tests/view/engine/LogCatcher.h"
+#include "Support/Log.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -158,7 +159,7 @@ private slots:
         p.pub->setCurrentText("y");
         for (int c = 0; c < 3; ++c)
             QVERIFY(p.Cell<QSpinBox>(c)->isEnabled());
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         p.pub->setCurrentText("x");  // no status for x
         QVERIFY(p.Cell<QSpinBox>(0)->isEnabled());
         QCOMPARE(log.Critical(),
@@ -251,7 +252,7 @@ private:
         auto *pub = page.Add<QComboBox>("request.group1.pub");
         page.Add<QTableWidget>("request.group2." + tableMember);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         pub->setCurrentText("y");
         QStringList lines =
             log.Critical().filter(ofValues ? "[Value Relevance]" : "[Status Relevance]");
@@ -266,11 +267,11 @@ private:
         if (addTable)
             addTable(page);
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         pub->setCurrentText("y");
         QCOMPARE(log.Critical(), lines);
     }
 };
 
-QUORLIN_TEST_OBJECT(CTableRelevanceTest)
+QUORLIN_TEST_CLASS(CTableRelevanceTest)
 #include "TableRelevanceTest.moc"

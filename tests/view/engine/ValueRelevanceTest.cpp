@@ -6,9 +6,10 @@
 #include <QSpinBox>
 #include <QtTest>
 
-#include "tests/view/engine/LogCatcher.h"
+#include "Support/Log.h"
+#include "tests/common/LogCapture.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/engine/TestPage.h"
-#include "tests/view/engine/TestRunner.h"
 
 namespace {
 
@@ -156,7 +157,7 @@ private slots:
     {
         SPair<QSpinBox> p(Document("{'dataType':'range','defaultValue':'5','valuePair':"
                                    "{'x':{'min':0,'max':10}}}"));
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         p.pub->setCurrentText("y");
         QCOMPARE(p.sub->value(), 5);
         QCOMPARE(p.sub->toolTip(), QString("0~10"));
@@ -182,7 +183,7 @@ private slots:
         SPair<QSpinBox> p(Document("{'dataType':'range','defaultValue':'5','valuePair':"
                                    "{'x':{'min':0,'max':10},'y':{'min':20,'max':30}}}"));
         p.sub->hide();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         p.pub->setCurrentText("y");
         QVERIFY(log.Debug().contains("---> Skip - invisible <--- "));
         QCOMPARE(log.Critical(), QStringList());
@@ -216,7 +217,7 @@ private slots:
     void clearedPublisherPublishesNothing()
     {
         SPair<QLabel> p(Document("{'dataType':'label','defaultValue':'NA','valuePair':{'y':'Y'}}"));
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         p.pub->setCurrentIndex(-1);
         QCOMPARE(log.Debug(), QStringList("============ [Start][Value Relevance] CurrentText  "
                                           "===========  \"\""));
@@ -236,7 +237,7 @@ private slots:
         auto *flag = page.Add<QCheckBox>("request.group1.flag");
         auto *sub = page.Add<QLabel>("request.group1.sub");
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         flag->setChecked(true);
         QCOMPARE(sub->text(), QString("on"));
         QVERIFY(log.Has("============ [Value Relevance]Check Box  ===========  2"));
@@ -326,12 +327,12 @@ private slots:
         if (hasWidget)
             page.Add<QLabel>("request.group2.bad");
         page.Init();
-        CLogCatcher log;
+        LogCapture log(lcEngine());
         pub->setCurrentText("y");
         QCOMPARE(log.Critical(), QStringList(line));
         QCOMPARE(sub->text(), QString("reached"));
     }
 };
 
-QUORLIN_TEST_OBJECT(CValueRelevanceTest)
+QUORLIN_TEST_CLASS(CValueRelevanceTest)
 #include "ValueRelevanceTest.moc"

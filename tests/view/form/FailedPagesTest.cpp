@@ -3,6 +3,7 @@
 #include <QtTest>
 
 #include "tests/common/BoxWatcher.h"
+#include "tests/common/TestClass.h"
 #include "tests/view/form/FormUnderTest.h"
 
 namespace {
@@ -120,5 +121,5 @@ void FailedPagesTest::afterAnEmptyListOnlyAResetLetsTheNextShowTryAgain()
     QCOMPARE(boxes.Seen().size(), 1);
 }
 
-QTEST_MAIN(FailedPagesTest)
+QUORLIN_TEST_CLASS(FailedPagesTest)
 #include "FailedPagesTest.moc"

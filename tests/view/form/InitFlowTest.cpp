@@ -2,6 +2,7 @@
 // it.
 #include <QtTest>
 
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/view/form/FormUnderTest.h"
 
@@ -152,5 +153,5 @@ void InitFlowTest::busyOfAPageIsRelayed()
     QCOMPARE(form.Status(), QString("Second runs"));
 }
 
-QTEST_MAIN(InitFlowTest)
+QUORLIN_TEST_CLASS(InitFlowTest)
 #include "InitFlowTest.moc"

@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include "tests/common/BoxWatcher.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/view/form/FormUnderTest.h"
 
@@ -165,5 +166,5 @@ void PageMenuTest::menuIsReachedAsAContextMenuAlone()
     QVERIFY(form.findChildren<QMenuBar *>().isEmpty());
 }
 
-QTEST_MAIN(PageMenuTest)
+QUORLIN_TEST_CLASS(PageMenuTest)
 #include "PageMenuTest.moc"

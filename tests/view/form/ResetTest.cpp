@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include "tests/common/BoxWatcher.h"
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/view/form/FormUnderTest.h"
 
@@ -306,5 +307,5 @@ void ResetTest::lateAnswerOfARemovedPageReachesNobody()
     QVERIFY(busy.isEmpty());
 }
 
-QTEST_MAIN(ResetTest)
+QUORLIN_TEST_CLASS(ResetTest)
 #include "ResetTest.moc"

@@ -1,6 +1,7 @@
 // Tabs of the tool form: texts, who works, floating pages.
 #include <QtTest>
 
+#include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/view/form/FormUnderTest.h"
 
@@ -229,5 +230,5 @@ void TabsTest::destroyingTheFormWithAFloatingPageTakesThePageAlong()
     QVERIFY(!second);
 }
 
-QTEST_MAIN(TabsTest)
+QUORLIN_TEST_CLASS(TabsTest)
 #include "TabsTest.moc"

@@ -6,6 +6,7 @@
 //   EXPECT_TRUE(log.Holds(QtDebugMsg, "nowhere"));
 #pragma once
 
+#include <algorithm>
 #include <mutex>
 
 #include <QLoggingCategory>
@@ -43,10 +44,26 @@ public:
         }
         return lines;
     }
+    QStringList Critical() const { return Lines(QtCriticalMsg); }
+    QStringList Debug() const { return Lines(QtDebugMsg); }
     // A line of that level contains the text.
     bool Holds(QtMsgType type, const QString &text) const
     {
         return !Lines(type).filter(text).isEmpty();
+    }
+    // Lines of any level that begin so.
+    int Count(const QString &head) const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return static_cast<int>(
+            std::count_if(m_lines.begin(), m_lines.end(),
+                          [&](const auto &line) { return line.second.startsWith(head); }));
+    }
+    bool Has(const QString &head) const { return Count(head) > 0; }
+    void Clear()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_lines.clear();
     }
 
 private:
