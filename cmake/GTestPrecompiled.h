@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include <QByteArray>
 #include <QFile>
 #include <QJsonArray>
@@ -20,5 +22,3 @@
 #include <QString>
 #include <QStringList>
 #include <QVector>
-
-#include <gtest/gtest.h>

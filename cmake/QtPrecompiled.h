@@ -17,8 +17,6 @@
 #include <utility>
 #include <vector>
 
-#include <QtConcurrent/QtConcurrentRun>
-
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -47,3 +45,4 @@
 #include <QTableWidget>
 #include <QTimer>
 #include <QVector>
+#include <QtConcurrent/QtConcurrentRun>

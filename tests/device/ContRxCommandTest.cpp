@@ -1,6 +1,9 @@
 // The 40 bytes that Start sends, for every layout of the command.
+#include <cstddef>
+
 #include <QtTest>
 
+#include "Vond/VondCommandRecords.h"
 #include "tests/common/SimJournal.h"
 #include "tests/common/TestClass.h"
 #include "tests/device/ContRxProfiles.h"
@@ -104,8 +107,10 @@ void ContRxCommandTest::editedValuesReachTheCommand()
     session.Press("m_start");
     QVERIFY(session.WaitForStatus("Cont Rx start..."));
     const QByteArray bytes = JournalOf("VOND_MMRf_ContRxV7_r")[0].request;
-    QCOMPARE(bytes.mid(24, 4).toHex(), QByteArray("0100c008"));  // 1/32 dB and 70 dB
-    QCOMPARE(bytes.mid(36, 4).toHex(), QByteArray("004c1d00"));  // 1920000 kHz
+    QCOMPARE(bytes.mid(offsetof(SMMContRxCmdV7, gain), 4).toHex(),
+             QByteArray("0100c008"));  // 1/32 dB and 70 dB
+    QCOMPARE(bytes.mid(offsetof(SMMContRxCmdV7, dlFrequency), 4).toHex(),
+             QByteArray("004c1d00"));  // 1920000 kHz
 }
 
 void ContRxCommandTest::gainsAreEnteredInTheStepsOfTheCommand()
@@ -128,7 +133,8 @@ void ContRxCommandTest::gainsAreEnteredInTheStepsOfTheCommand()
          {"path0MainRfGain", "path0DivRfGain", "path1MainRfGain", "path1DivRfGain"})
         QCOMPARE(session.Find<QDoubleSpinBox>(MemberName(gain))->text(), QString("60.03125"));
     // 60.03125 dB is 1921/32 (0781).
-    QCOMPARE(JournalOf("VOND_MMRf_ContRxV7_r")[0].request.mid(28, 8).toHex(),
+    const int gains = offsetof(SMMContRxCmdV7, gain.simultaneous.path0MainRfGain);
+    QCOMPARE(JournalOf("VOND_MMRf_ContRxV7_r")[0].request.mid(gains, 8).toHex(),
              QByteArray("8107810781078107"));
 }
 

@@ -1,4 +1,6 @@
 // The reports of the RSRP pages: ticks, rows, and how they stand beside Stop.
+#include <cstddef>
+
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
@@ -8,6 +10,7 @@
 #include <QtTest>
 
 #include "Model/OperationResult.h"
+#include "Vond/VondResultRecords.h"
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
 #include "tests/common/TestClass.h"
@@ -75,9 +78,9 @@ void RsrpReportTest::fetchShowsTheMeasurements()
                                                static_cast<uint8_t>(report[offset + 1]) << 8);
         return QString::number(word / 128.0, 'f', 2);
     };
-    QCOMPARE(session.Cell(0, "RSSI0"), dbm(4));
-    QCOMPARE(session.Cell(4, "RSSI0"), dbm(12));
-    QCOMPARE(session.Cell(0, "RSSI1"), dbm(24));
+    QCOMPARE(session.Cell(0, "RSSI0"), dbm(offsetof(NRfTestResult_GetMixRxReportV7, RSSI0[0])));
+    QCOMPARE(session.Cell(4, "RSSI0"), dbm(offsetof(NRfTestResult_GetMixRxReportV7, RSSI0[4])));
+    QCOMPARE(session.Cell(0, "RSSI1"), dbm(offsetof(NRfTestResult_GetMixRxReportV7, RSSI1[0])));
     QVERIFY(session.Cell(0, "RSRP0").toDouble() < -50);
     QCOMPARE(session.Column("Total BLK"), QStringList({"100", "100", "100", "100", "100"}));
     QCOMPARE(session.Cell(0, "BLER(%)"), QString("0.00"));

@@ -1,6 +1,9 @@
 // What a gain search shows on the RSSI page, and what a measurement makes of it.
+#include <cstddef>
+
 #include <QDockWidget>
 
+#include "Vond/VondCommandRecords.h"
 #include "Vond/VondResultRecords.h"
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/TestClass.h"
@@ -83,7 +86,8 @@ void RssiCalculatorTest::calculatorShowsTheGainsOfBothPaths()
     QVERIFY(session.ShowAndWait());
     Choose(session, "routeType", "Type2");
     Choose(session, "calType", "Simultaneously");
-    AddAnswerBytes(kGainCall, 8, "05060711");  // gain indexes 5, 6, 7 and 17
+    AddAnswerBytes(kGainCall, offsetof(SMMGainSearchCnfV7, gain),
+                   "05060711");  // gain indexes 5, 6, 7 and 17
     QVERIFY(Calculate(session));
     const auto gain = LastAnswer<SMMGainSearchCnfV7>(kGainCall).gain.simultaneous;
     QCOMPARE(Gains(session),
@@ -117,11 +121,12 @@ void RssiCalculatorTest::foundGainsGoToTheMeasurementToTheBit()
     QVERIFY(session.ShowAndWait());
     // 1489/32, 1/32, 1727/32 and -1343/32 dB
     const QByteArray gains = "d1050100bf06c1fa";
-    AddAnswerBytes(kGainCall, 8, gains);
+    AddAnswerBytes(kGainCall, offsetof(SMMGainSearchCnfV7, gain), gains);
     QVERIFY(Calculate(session));
     QCOMPARE(Gains(session).mid(0, 4), (QVector<double>{46.53125, 0.03125, 53.96875, -41.96875}));
     QVERIFY(Measure(session));
-    QCOMPARE(JournalOf(kRssiCall).last().request.mid(40, 8).toHex(), gains);
+    QCOMPARE(JournalOf(kRssiCall).last().request.mid(offsetof(SMMRssiCmdV7, gain), 8).toHex(),
+             gains);
 }
 
 QUORLIN_TEST_CLASS(RssiCalculatorTest)

@@ -1,6 +1,9 @@
 // The records that the two buttons of the RSSI page send.
+#include <cstddef>
+
 #include <QtTest>
 
+#include "Vond/VondCommandRecords.h"
 #include "tests/common/SimJournal.h"
 #include "tests/common/TestClass.h"
 #include "tests/device/RssiSession.h"
@@ -69,7 +72,8 @@ void RssiCommandTest::editedFrequenciesReachTheCommand()
     session.Press(kStartButton);
     QVERIFY(session.WaitForStatus("Fetch RSSI done"));
     const QByteArray request = JournalOf(kRssiCall)[0].request;
-    QCOMPARE(request.mid(8, 20).toHex(), QByteArray("004c1d00885f1d0010731d0098861d00209a1d00"));
+    QCOMPARE(request.mid(offsetof(SMMRssiCmdV7, dlFrequency), 20).toHex(),
+             QByteArray("004c1d00885f1d0010731d0098861d00209a1d00"));
     QCOMPARE(session.ResultRow(0, CRssiSession::DlFreq),
              (QStringList{"1920000", "1925000", "1930000", "1935000", "1940000"}));
 }

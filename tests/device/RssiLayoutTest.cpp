@@ -1,8 +1,11 @@
 // The RSSI page as the eye finds it: sizes of tables, cells and page.
+#include <cstddef>
+
 #include <QDockWidget>
 #include <QHeaderView>
 #include <QStackedWidget>
 
+#include "Vond/VondResultRecords.h"
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
@@ -72,8 +75,9 @@ void RssiLayoutTest::noResultIsCutOff()
 {
     CRssiSession session;
     QVERIFY(session.ShowAndWait());
-    AddAnswerBytes(kRssiCall, 8, "ffffffff");   // the highest frequency of the record
-    AddAnswerBytes(kRssiCall, 28, "00800080");  // and the lowest level
+    AddAnswerBytes(kRssiCall, offsetof(SMMRssiCnfV7, dlFrequency),
+                   "ffffffff");  // the highest of the record
+    AddAnswerBytes(kRssiCall, offsetof(SMMRssiCnfV7, rows), "00800080");  // and the lowest level
     QVERIFY(Measure(session));
     QCOMPARE(session.ResultRow(0, CRssiSession::MainRssi)[0], QString("-1024.00000"));
     for (auto row : {CRssiSession::DlFreq, CRssiSession::MainRssi, CRssiSession::DivRssi}) {

@@ -1,5 +1,6 @@
 // What a measurement shows on the RSSI page. Expected texts are worked out from the records that
 // the DUT answered with.
+#include <cstddef>
 #include <type_traits>
 
 #include <QDockWidget>
@@ -53,8 +54,10 @@ void RssiResultTest::unusedColumnsComeFromTheTarget()
 {
     CRssiSession session;
     QVERIFY(session.ShowAndWait());
-    AddAnswerBytes(kRssiCall, 24, "39300000");  // 12345 kHz in the last column
-    AddAnswerBytes(kRssiCall, 44, "f0ff2000");  // -16/32 and 32/32 dBm
+    AddAnswerBytes(kRssiCall, offsetof(SMMRssiCnfV7, dlFrequency[4]),
+                   "39300000");  // 12345 kHz in the last column
+    AddAnswerBytes(kRssiCall, offsetof(SMMRssiCnfV7, rows.single.row[4]),
+                   "f0ff2000");  // -16/32 and 32/32 dBm
     QVERIFY(Measure(session));
     QCOMPARE(session.ResultRow(0, CRssiSession::DlFreq)[0], QString("1950000"));
     QCOMPARE(session.ResultRow(0, CRssiSession::DlFreq)[4], QString("12345"));

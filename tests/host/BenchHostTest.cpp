@@ -1,4 +1,6 @@
 // The window of the bench host, on a fake plug-in.
+#include "Host/BenchHost.h"
+
 #include <QDockWidget>
 #include <QLabel>
 #include <QMessageBox>
@@ -9,7 +11,6 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-#include "Host/BenchHost.h"
 #include "Host/Options.h"
 #include "Host/ToolWindow.h"
 #include "HostTestFiles.h"

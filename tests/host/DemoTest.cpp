@@ -1,5 +1,7 @@
 // The demonstration, on a fake plug-in: it goes through to the end, and nothing that goes wrong is
 // passed over.
+#include "Host/Demo.h"
+
 #include <QFile>
 #include <QImage>
 #include <QSignalSpy>
@@ -7,7 +9,6 @@
 #include <QTest>
 
 #include "Host/BenchHost.h"
-#include "Host/Demo.h"
 #include "HostTestFiles.h"
 #include "tests/common/TestClass.h"
 

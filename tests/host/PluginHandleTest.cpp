@@ -1,10 +1,11 @@
 // Loading of plug-ins: the good one is followed, the wrong ones are refused with clear words.
+#include "Host/PluginHandle.h"
+
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "Host/PluginHandle.h"
 #include "HostTestFiles.h"
 #include "tests/common/TestClass.h"
 

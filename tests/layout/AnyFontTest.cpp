@@ -5,6 +5,7 @@
 // The window opens with 1004 x 769 pixels, at 150 % of the screen as much larger. A family that is
 // not installed is skipped by name.
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <iterator>
 #include <memory>
@@ -15,6 +16,7 @@
 #include <QStatusBar>
 #include <QTest>
 
+#include "Vond/VondResultRecords.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/RssiSession.h"
 #include "tests/layout/LayoutCheck.h"
@@ -139,8 +141,9 @@ void AnyFontTest::pageShowsAllOfItsResults()
     QFETCH(QString, done);
     QDockWidget *dock = RaisePage(*m_session, page);
     QVERIFY(dock);
-    AddAnswerBytes(kRssiCall, 8, "ffffffff");   // the highest frequency of the record
-    AddAnswerBytes(kRssiCall, 28, "00800080");  // and the lowest level
+    AddAnswerBytes(kRssiCall, offsetof(SMMRssiCnfV7, dlFrequency),
+                   "ffffffff");  // the highest of the record
+    AddAnswerBytes(kRssiCall, offsetof(SMMRssiCnfV7, rows), "00800080");  // and the lowest level
     QTest::mouseClick(dock->findChild<QPushButton *>(button), Qt::LeftButton);
     QVERIFY(m_session->WaitForStatus(done));
     QCOMPARE(Faults(dock), QString());

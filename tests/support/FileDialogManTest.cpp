@@ -1,5 +1,4 @@
 #include "Support/FileDialogMan.h"
-#include "tests/common/TestClass.h"
 
 #include <functional>
 #include <memory>
@@ -11,6 +10,8 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
+
+#include "tests/common/TestClass.h"
 
 namespace {
 

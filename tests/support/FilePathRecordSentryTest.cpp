@@ -1,11 +1,12 @@
 #include "Support/FilePathRecordSentry.h"
-#include "tests/common/TestClass.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include "tests/common/TestClass.h"
 
 class FilePathRecordSentryTest : public QObject
 {

@@ -1,5 +1,4 @@
 #include "Support/MessageBoxMan.h"
-#include "tests/common/TestClass.h"
 
 #include <functional>
 
@@ -15,6 +14,8 @@
 #include <QTimer>
 #include <QWindow>
 #include <QtTest>
+
+#include "tests/common/TestClass.h"
 
 class MessageBoxManTest : public QObject
 {

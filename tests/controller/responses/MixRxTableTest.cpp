@@ -1,6 +1,7 @@
 // The tables of the RSRP pages as a whole: which one grows, what else stays, how they are emptied.
-#include <QJsonArray>
 #include <gtest/gtest.h>
+
+#include <QJsonArray>
 
 #include "Model/JsonPath.h"
 #include "Model/ModelIntegrity.h"

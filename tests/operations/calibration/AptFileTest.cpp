@@ -1,9 +1,8 @@
 // The APT item and its INI file: what it writes, what it makes of what people write.
-#include "tests/common/LogCapture.h"
-#include "tests/operations/calibration/CalFixture.h"
-
 #include "Support/CalIniFile.h"
 #include "Support/Log.h"
+#include "tests/common/LogCapture.h"
+#include "tests/operations/calibration/CalFixture.h"
 
 namespace {
 

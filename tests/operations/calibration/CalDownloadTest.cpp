@@ -1,5 +1,7 @@
 // Downloads of the calibration items: the exact bytes of every round, and what a failure leaves.
 #include <array>
+#include <cstddef>
+#include <cstring>
 #include <set>
 
 #include "Operations/link/TargetLink.h"
@@ -11,8 +13,6 @@ namespace {
 
 using SType1 = SMMType1PathlossByRouteV7;
 using SType2 = SMMType2PathlossByRouteV7;
-
-constexpr int kRequestSize = 178096;
 
 class CalDownloadTest : public CCalTest
 {
@@ -29,24 +29,24 @@ protected:
     CMultiRatPathLossV7 m_pathLoss{ERadioKind::Nr};
 };
 
-// The request that writes back what an answer of the flash brought, region by region at its offset.
+// The request that writes back what an answer of the flash brought, field by field.
 QByteArray WriteBack(const QByteArray &answer)
 {
-    struct SPiece
-    {
-        int from;
-        int to;
-        int size;
-    };
-    QByteArray request(kRequestSize, '\0');
-    request[0] = 1;
-    request[4] = 1;
-    for (const SPiece &piece :
-         {SPiece{194, 6, 6}, SPiece{200, 12, 220}, SPiece{420, 232, 6}, SPiece{432, 244, 6},
-          SPiece{456, 276, 135 * 8}, SPiece{1536, 1356, 55 * 1108}, SPiece{62476, 62296, 3 * 18260},
-          SPiece{117256, 117076, 135 * 452}})
-        request.replace(piece.to, piece.size, answer.mid(piece.from, piece.size));
-    return request;
+    const auto from = RecordOf<SMMGetCalDataCnfV7>(answer);
+    SMMSetCalDataReqV7 to{};
+    to.radioKind = 1;
+    to.version = 1;
+    to.type1Count = from.type1Count;
+    to.type2Count = from.type2Count;
+    to.txCount = from.txCount;
+    std::memcpy(to.type1, from.type1, sizeof to.type1);
+    std::memcpy(to.type2BlockCount, from.type2BlockCount, sizeof to.type2BlockCount);
+    std::memcpy(to.type2Route, from.type2Route, sizeof to.type2Route);
+    std::memcpy(to.tx, from.tx, sizeof to.tx);
+    std::memcpy(to.type1Block, from.type1Block, sizeof to.type1Block);
+    std::memcpy(to.type2Block, from.type2Block, sizeof to.type2Block);
+    std::memcpy(to.txBlock, from.txBlock, sizeof to.txBlock);
+    return BytesOf(to);
 }
 
 void CheckWriteBack(ICalItemByL1Operation &item)
@@ -186,6 +186,8 @@ TEST_F(CalDownloadTest, LpmEditChangesTheFirstHalfOfItsPairAlone)
     m_pathLoss.SetPathLossCalibrationData(1, *record);
     ASSERT_EQ(m_pathLoss.DownloadToFlash(), 0u);
     FlashImage after = ReadFlash();
+    constexpr int kLoss = offsetof(SMMType1PathlossBlockV7, loss);
+    constexpr int kRow = sizeof(SMMType1PathlossBlockV7::loss[0]);
     int changed = 0;
     for (size_t k = 0; k < after.at("T1 1").size(); ++k) {
         const QByteArray &block = after["T1 1"][k];
@@ -194,7 +196,7 @@ TEST_F(CalDownloadTest, LpmEditChangesTheFirstHalfOfItsPairAlone)
             if (block[i] == old[i])
                 continue;
             ++changed;
-            const int inPair = (i - 68) % 64 - 4 * 9;
+            const int inPair = (i - kLoss) % kRow - int(sizeof(SMMLossPair)) * 9;
             EXPECT_TRUE(inPair == 0 || inPair == 1) << i;
         }
     }
@@ -281,10 +283,10 @@ TEST_F(CalDownloadTest, RefusedRoundIsToldAndEndsTheDownload)
 {
     ASSERT_EQ(m_apt.UploadFromFlash(), 0u);
     ASSERT_EQ(m_pathLoss.UploadFromFlash(), 0u);
-    AnswerBytes(kSetCalData, 0, "00");
-    AnswerBytes(kSetCalData, 1, "743100");
-    AnswerBytes(kSetCalData, 65, "743200");
-    AnswerBytes(kSetCalData, 129, "747800");
+    AnswerBytes(kSetCalData, offsetof(SMMCalVerdictV7, status), "00");
+    AnswerBytes(kSetCalData, offsetof(SMMCalVerdictV7, type1Text), "743100");
+    AnswerBytes(kSetCalData, offsetof(SMMCalVerdictV7, type2Text), "743200");
+    AnswerBytes(kSetCalData, offsetof(SMMCalVerdictV7, txText), "747800");
     EXPECT_EQ(m_apt.DownloadToFlash(), 203u);
     EXPECT_EQ(m_apt.GetErrorMessage(), QString("L1 status code = 0 (SUCCESS = 1)\ntx"));
     EXPECT_EQ(m_pathLoss.DownloadToFlash(), 203u);
@@ -330,8 +332,9 @@ TEST_F(CalDownloadTest, BlockCountOfAStoredRecordIsHeldToItsRoom)
 
 TEST_F(CalDownloadTest, RouteNumbersAbove100HaveRecordsOfTheirOwn)
 {
-    AnswerBytes(kRouteConfig, 458, "ffff");   // the first TX route
-    AnswerBytes(kRouteConfig, 2858, "6500");  // the first type 1 route: 101, as of type 2
+    AnswerBytes(kRouteConfig, offsetof(SMMRfRouteConfigV7, routes.txRoute[0].route), "ffff");
+    AnswerBytes(kRouteConfig, offsetof(SMMRfRouteConfigV7, routes.rxType1Route[0].route),
+                "6500");  // 101, as of type 2
     CTargetCapability::Reset();
     ASSERT_EQ(LoadText(m_apt, "[NR n1 BW0 TPC]\nTemperature Index = 5\n"), kDone);
     ASSERT_EQ(LoadText(m_pathLoss, BareFile(ECalRoute::Type1) + BareFile(ECalRoute::Type2)), kDone);

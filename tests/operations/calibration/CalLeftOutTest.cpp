@@ -1,5 +1,7 @@
 // What an upload makes of answers that are cut, in another field order or with totals alone, and
 // what the moves of an item tell that they left out.
+#include <cstddef>
+
 #include "Support/Log.h"
 #include "tests/common/LogCapture.h"
 #include "tests/operations/calibration/CalFixture.h"
@@ -26,6 +28,18 @@ protected:
     CMultiRatPathLossV7 m_pathLoss{ERadioKind::Nr};
 };
 
+// Where a TX entry stands in an answer, and the block counts of a TX row's regions.
+int TxEntry(int index)
+{
+    return offsetof(SMMGetCalDataCnfV7, tx) + index * int(sizeof(SMMCalTxEntryV7));
+}
+
+int TxRegions(int row)
+{
+    return offsetof(SMMCalBlkInfoCnfV7, tx) + row * int(sizeof(SMMCalTxRowV7)) +
+           int(offsetof(SMMCalTxRowV7, blockCount));
+}
+
 // A TX entry with its fields as count, route, bandwidth.
 std::string CountFirst(const SMMCalTxEntryV7 &entry)
 {
@@ -48,7 +62,8 @@ TEST_F(CalLeftOutTest, RecordWhoseAnswerIsCutStaysAsItWas)
     SAptRouteBwRecord record = *m_apt.GetAptCalibrationData(1, 0);
     record.paGain[0][0] = 123;
     m_apt.SetAptCalibrationData(1, 0, record);
-    AnswerBytes(kGetCalData, 460, "0100");  // one block of two
+    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, tx[0].blockCount),
+                "0100");  // one block of two
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_EQ(BytesOf(*m_apt.GetAptCalibrationData(1, 0)), BytesOf(record));
     ASSERT_FALSE(m_apt.Remarks().leftOut.empty());
@@ -69,7 +84,7 @@ TEST_F(CalLeftOutTest, EntriesInEitherFieldOrderFillTheSameRecords)
     for (const auto &[first, end] : turned) {
         VondSim_ClearFaults();
         for (int i = first; i < end; ++i)
-            AnswerBytes(kGetCalData, 456 + 8 * i, CountFirst(answer.tx[i]));
+            AnswerBytes(kGetCalData, TxEntry(i), CountFirst(answer.tx[i]));
         const LogCapture log(lcCalibration());
         CMultiRatAptProfileV7 item(ERadioKind::Nr);
         EXPECT_EQ(item.UploadFromFlash(), 0u);
@@ -100,7 +115,7 @@ TEST_F(CalLeftOutTest, EntryThatFitsBothOrdersGoesByTheOneBefore)
         const SMMGetCalDataCnfV7 answer = Answers().back();
         ASSERT_EQ(answer.txCount, 3);
         for (int i = 0; i < answer.txCount; ++i)
-            AnswerBytes(kGetCalData, 456 + 8 * i, CountFirst(answer.tx[i]));
+            AnswerBytes(kGetCalData, TxEntry(i), CountFirst(answer.tx[i]));
         CMultiRatAptProfileV7 item(ERadioKind::Nr);
         EXPECT_EQ(item.UploadFromFlash(), 0u);
         for (const uint16_t route : {uint16_t(1), uint16_t(2), uint16_t(3)})
@@ -114,7 +129,8 @@ TEST_F(CalLeftOutTest, EntryWithACountAboveThatAskedForIsNotTaken)
 {
     const LogCapture log(lcCalibration());
     PlugHandsetWith(R"("calibration": {"txSubbands": {"default": 20}})");
-    AnswerBytes(kGetCalData, 460, "0300");  // three blocks of two
+    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, tx[0].blockCount),
+                "0300");  // three blocks of two
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_TRUE(log.Holds(QtDebugMsg, "Can not get the bwIdx for route 1"));
     EXPECT_FALSE(ValidSections(m_apt).contains("NR n1 BW0 TPC"));
@@ -127,7 +143,7 @@ TEST_F(CalLeftOutTest, TotalOfARouteCountsWhereItsRegionsHaveNone)
     const QByteArray records = SaveBytes(m_apt);
     const auto info = RecordOf<SMMCalBlkInfoCnfV7>(JournalOf(kBlockInfo).last().answer);
     for (int row = 0; row < info.txCount; ++row)
-        AnswerBytes(kBlockInfo, 806 + 16 * row + 4, "0000000000000000");
+        AnswerBytes(kBlockInfo, TxRegions(row), "0000000000000000");
     CMultiRatAptProfileV7 item(ERadioKind::Nr);
     EXPECT_EQ(item.UploadFromFlash(), 0u);
     EXPECT_TRUE(item.Remarks().leftOut.empty());
@@ -138,7 +154,7 @@ TEST_F(CalLeftOutTest, TotalThatTheRegionsDoNotShareEvenlyLeavesTheRouteOut)
 {
     const SMMRfTxRouteV7 &route = m_target.GetRouteTableNr()->txRoute[0];
     ASSERT_GT(route.bwRegionCount, 1);
-    AnswerBytes(kBlockInfo, 808, "01000000000000000000");
+    AnswerBytes(kBlockInfo, offsetof(SMMCalBlkInfoCnfV7, tx[0].blockTotal), "01000000000000000000");
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     ASSERT_EQ(m_apt.Remarks().leftOut.size(), route.bwRegionCount);
     for (const SCalLeftOut &record : m_apt.Remarks().leftOut) {
@@ -150,8 +166,10 @@ TEST_F(CalLeftOutTest, TotalThatTheRegionsDoNotShareEvenlyLeavesTheRouteOut)
 
 TEST_F(CalLeftOutTest, RemarksNameWhatTheBlockInfoLacksAndWhatNoRoundHolds)
 {
-    AnswerBytes(kBlockInfo, 6, "5000");    // the first type 1 row tells of route 80
-    AnswerBytes(kBlockInfo, 408, "0400");  // of type 2 route 101
+    AnswerBytes(kBlockInfo, offsetof(SMMCalBlkInfoCnfV7, type1[0].route),
+                "5000");  // the first type 1 row tells of route 80
+    AnswerBytes(kBlockInfo, offsetof(SMMCalBlkInfoCnfV7, type2[0].blockTotal),
+                "0400");  // of type 2 route 101
     EXPECT_EQ(m_pathLoss.UploadFromFlash(), 0u);
     const auto &leftOut = m_pathLoss.Remarks().leftOut;
     ASSERT_EQ(leftOut.size(), 2u);

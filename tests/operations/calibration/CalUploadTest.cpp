@@ -1,5 +1,6 @@
 // Uploads of the calibration items: what is asked for, what becomes of the answers.
 #include <array>
+#include <cstddef>
 #include <set>
 
 #include "Operations/link/TargetLink.h"
@@ -188,10 +189,10 @@ TEST_F(CalUploadTest, FailedBlockInfoIsToldAndLeavesWhatWasValid)
 TEST_F(CalUploadTest, RefusedRoundIsToldWithTheTextOfTheItem)
 {
     const LogCapture log(lcCalibration());
-    AnswerBytes(kGetCalData, 0, "00");
-    AnswerBytes(kGetCalData, 1, "743100");    // "t1"
-    AnswerBytes(kGetCalData, 65, "743200");   // "t2"
-    AnswerBytes(kGetCalData, 129, "747800");  // "tx"
+    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, status), "00");
+    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, type1Text), "743100");  // "t1"
+    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, type2Text), "743200");  // "t2"
+    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, txText), "747800");     // "tx"
     EXPECT_EQ(m_apt.UploadFromFlash(), 203u);
     EXPECT_EQ(m_apt.GetErrorMessage(), QString("L1 status code = 0 (SUCCESS = 1)\ntx"));
     EXPECT_EQ(m_pathLoss.UploadFromFlash(), 203u);
@@ -204,15 +205,15 @@ TEST_F(CalUploadTest, RefusedRoundIsToldWithTheTextOfTheItem)
 
 TEST_F(CalUploadTest, StatusThatIsNeitherOneNorZeroIsToldAsItIs)
 {
-    AnswerBytes(kGetCalData, 0, "05");
-    AnswerBytes(kGetCalData, 129, "00");
+    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, status), "05");
+    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, txText), "00");
     EXPECT_EQ(m_apt.UploadFromFlash(), 203u);
     EXPECT_EQ(m_apt.GetErrorMessage(), QString("L1 status code = 5 (SUCCESS = 1)\n"));
 }
 
 TEST_F(CalUploadTest, TextThatFillsItsRoomEndsThere)
 {
-    AnswerBytes(kGetCalData, 0, "00" + std::string(2 * 192, '7'));
+    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, status), "00" + std::string(2 * 192, '7'));
     EXPECT_EQ(m_apt.UploadFromFlash(), 203u);
     EXPECT_EQ(m_apt.GetErrorMessage(),
               "L1 status code = 0 (SUCCESS = 1)\n" + QString(64, QChar('w')));
@@ -232,7 +233,7 @@ TEST_F(CalUploadTest, ResultElevenIsAcceptedAndThenTheLibrarysFailure)
 TEST_F(CalUploadTest, AcceptedStatusWithAFailingResultIsTheLibrarysFailure)
 {
     Fault(kGetCalData, 4);
-    AnswerBytes(kGetCalData, 0, "01");
+    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, status), "01");
     EXPECT_EQ(m_apt.UploadFromFlash(), 3u);
     EXPECT_EQ(m_apt.GetErrorMessage(), QString("Target: failure on demand"));
 }
@@ -251,7 +252,8 @@ TEST_F(CalUploadTest, FailureOfALaterRoundKeepsWhatCameBefore)
 TEST_F(CalUploadTest, RouteThatTheBlockInfoLacksIsLoggedAndSkipped)
 {
     const LogCapture log(lcCalibration());
-    AnswerBytes(kBlockInfo, 806, "5000");  // the first TX row tells of route 80
+    AnswerBytes(kBlockInfo, offsetof(SMMCalBlkInfoCnfV7, tx[0].route),
+                "5000");  // the first TX row tells of route 80
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_TRUE(log.Holds(QtDebugMsg, "Failed to get Blk info in L1 data: Route 1 bw20000"));
     const QStringList sections = ValidSections(m_apt);
@@ -262,7 +264,8 @@ TEST_F(CalUploadTest, RouteThatTheBlockInfoLacksIsLoggedAndSkipped)
 TEST_F(CalUploadTest, Type2RouteWithMoreBlocksThanARoundHoldsStaysInvalid)
 {
     const LogCapture log(lcCalibration());
-    AnswerBytes(kBlockInfo, 408, "0400");  // of type 2 route 101
+    AnswerBytes(kBlockInfo, offsetof(SMMCalBlkInfoCnfV7, type2[0].blockTotal),
+                "0400");  // of type 2 route 101
     EXPECT_EQ(m_pathLoss.UploadFromFlash(), 0u);
     EXPECT_TRUE(log.Holds(QtCriticalMsg, "T2 route 101 has 4 blocks in flash"));
     const QStringList sections = ValidSections(m_pathLoss);
@@ -273,7 +276,8 @@ TEST_F(CalUploadTest, Type2RouteWithMoreBlocksThanARoundHoldsStaysInvalid)
 TEST_F(CalUploadTest, RecordWithMoreBlocksThanItHoldsStaysInvalid)
 {
     const LogCapture log(lcCalibration());
-    AnswerBytes(kBlockInfo, 810, "ffff");  // region 0 of TX route 1
+    AnswerBytes(kBlockInfo, offsetof(SMMCalBlkInfoCnfV7, tx[0].blockCount[0]),
+                "ffff");  // region 0 of TX route 1
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_TRUE(log.Holds(QtCriticalMsg, "TX route 1 bw20000 has 65535 blocks in flash"));
     EXPECT_FALSE(ValidSections(m_apt).contains("NR n1 BW0 TPC"));
@@ -284,7 +288,8 @@ TEST_F(CalUploadTest, AnswerThatNamesAnotherRouteFillsNoRecord)
     const LogCapture log(lcCalibration());
     CMultiRatAptProfileV7 whole(ERadioKind::Nr);
     ASSERT_EQ(whole.UploadFromFlash(), 0u);
-    AnswerBytes(kGetCalData, 462, "ff7f");  // route of the first TX entry
+    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, tx[0].route),
+                "ff7f");  // route of the first TX entry
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_TRUE(log.Holds(QtDebugMsg, "Can not get the bwIdx for route 32767"));
     EXPECT_FALSE(ValidSections(m_apt).contains("NR n1 BW0 TPC"));
@@ -296,7 +301,8 @@ TEST_F(CalUploadTest, AnswerThatNamesAnotherRouteFillsNoRecord)
 TEST_F(CalUploadTest, AnswerWithFewerBlocksThanAskedForLeavesTheRecordInvalid)
 {
     PlugHandsetWith(R"("calibration": {"txSubbands": {"default": 20}})");
-    AnswerBytes(kGetCalData, 460, "0100");  // one block of two
+    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, tx[0].blockCount),
+                "0100");  // one block of two
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_FALSE(ValidSections(m_apt).contains("NR n1 BW0 TPC"));
 }
@@ -304,13 +310,13 @@ TEST_F(CalUploadTest, AnswerWithFewerBlocksThanAskedForLeavesTheRecordInvalid)
 TEST_F(CalUploadTest, CountsBeyondTheTablesAreNotFollowed)
 {
     const LogCapture log(lcCalibration());
-    AnswerBytes(kBlockInfo, 0, "ffffffffffff");
+    AnswerBytes(kBlockInfo, offsetof(SMMCalBlkInfoCnfV7, type1Count), "ffffffffffff");
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_EQ(m_pathLoss.UploadFromFlash(), 0u);
-    AnswerBytes(kGetCalData, 194, "ffffffffffff");
-    AnswerBytes(kGetCalData, 200, "ffff");
-    AnswerBytes(kGetCalData, 420, "ffff");
-    AnswerBytes(kGetCalData, 460, "ffff");
+    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, type1Count), "ffffffffffff");
+    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, type1[0].blockCount), "ffff");
+    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, type2BlockCount[0]), "ffff");
+    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, tx[0].blockCount), "ffff");
     const QByteArray before = SaveBytes(m_apt);
     CMultiRatAptProfileV7 fresh(ERadioKind::Nr);
     EXPECT_EQ(fresh.UploadFromFlash(), 0u);
@@ -328,7 +334,7 @@ TEST_F(CalUploadTest, NoiseInPlaceOfAnswersEndsInACodeAndHarmsNothing)
         VondSim_ClearFaults();
         Noise(kBlockInfo, seed);
         Noise(kGetCalData, 100 + seed);
-        AnswerBytes(kGetCalData, 0, "01");
+        AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, status), "01");
         for (uint32_t code : {m_apt.UploadFromFlash(), m_pathLoss.UploadFromFlash()})
             EXPECT_TRUE(code == 0 || code == 2) << code;
     }

@@ -1,5 +1,7 @@
 // Counts, indexes and gains of an answer reach the readers as the target gave them, also those
 // beyond their tables; whoever looks one up in a table minds its end.
+#include <cstddef>
+
 #include "Operations/tests/MultiRatRssiV7.h"
 #include "Operations/tests/NrRsrpV7.h"
 #include "tests/operations/TargetFixture.h"
@@ -48,7 +50,8 @@ TEST_F(AnswersAsGivenTest, ReportCountIsTheTargets)
 {
     for (const int count : {9, 10, 11, 255}) {
         VondSim_ClearFaults();
-        AnswerBytes(kReport, 0, QByteArray(1, static_cast<char>(count)).toHex().toStdString());
+        AnswerBytes(kReport, offsetof(NRfTestResult_GetMixRxReportV7, reportCount),
+                    QByteArray(1, static_cast<char>(count)).toHex().toStdString());
         EXPECT_EQ(Report().reportCount, count);
         EXPECT_EQ(m_status, 0u);
     }
@@ -56,9 +59,9 @@ TEST_F(AnswersAsGivenTest, ReportCountIsTheTargets)
 
 TEST_F(AnswersAsGivenTest, ReadingsOfAReportStayAsTheyCame)
 {
-    AnswerBytes(kReport, 0, "0c");
-    AnswerBytes(kReport, 22, "0080");
-    AnswerBytes(kReport, 164, "ffffffffffffffff");
+    AnswerBytes(kReport, offsetof(NRfTestResult_GetMixRxReportV7, reportCount), "0c");
+    AnswerBytes(kReport, offsetof(NRfTestResult_GetMixRxReportV7, RSSI0[9]), "0080");
+    AnswerBytes(kReport, offsetof(NRfTestResult_GetMixRxReportV7, GoodBLK), "ffffffffffffffff");
     const NRfTestResult_GetMixRxReportV7 report = Report();
     EXPECT_EQ(report.RSSI0[9], -32768);
     EXPECT_EQ(report.GoodBLK, 0xFFFFFFFFu);
@@ -67,7 +70,7 @@ TEST_F(AnswersAsGivenTest, ReadingsOfAReportStayAsTheyCame)
 
 TEST_F(AnswersAsGivenTest, GainSearchIsTheTargets)
 {
-    AnswerBytes(kGainSearch, 4, "0200000012ff1100");
+    AnswerBytes(kGainSearch, offsetof(SMMGainSearchCnfV7, simultaneous), "0200000012ff1100");
     const SMMGainSearchCnfV7 answer = Search(1);
     EXPECT_EQ(answer.simultaneous, 2u);
     EXPECT_EQ(answer.gain.simultaneous.path0MainGainIdx, 18);
@@ -77,7 +80,7 @@ TEST_F(AnswersAsGivenTest, GainSearchIsTheTargets)
 
 TEST_F(AnswersAsGivenTest, GainModesOfOnePathAreTheTargets)
 {
-    AnswerBytes(kRssi, 48, "07ff03fe");
+    AnswerBytes(kRssi, offsetof(SMMRssiCnfV7, rows.single.mainG), "07ff03fe");
     const auto rows = Rssi(1).rows.single;
     EXPECT_EQ(rows.mainG, 7);
     EXPECT_EQ(rows.divG, 255);
@@ -87,7 +90,7 @@ TEST_F(AnswersAsGivenTest, GainModesOfOnePathAreTheTargets)
 
 TEST_F(AnswersAsGivenTest, GainModesOfBothPathsAreTheTargets)
 {
-    AnswerBytes(kRssi, 68, "0607020310ff");
+    AnswerBytes(kRssi, offsetof(SMMRssiCnfV7, rows.simultaneous.mainG), "0607020310ff");
     const auto rows = Rssi(0).rows.simultaneous;
     EXPECT_EQ(rows.mainG, 6);
     EXPECT_EQ(rows.divG, 7);

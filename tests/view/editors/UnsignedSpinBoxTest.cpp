@@ -1,11 +1,11 @@
 // The editor of 32-bit unsigned numbers.
 #include "View/editors/UnsignedSpinBox.h"
-#include "tests/common/TestClass.h"
 
 #include <QToolTip>
 #include <QWheelEvent>
 #include <QtTest>
 
+#include "tests/common/TestClass.h"
 
 namespace {
 

@@ -7,7 +7,6 @@
 #include "Model/StatusTable.h"
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/TestClass.h"
-#include "tests/view/engine/LogCatcher.h"
 #include "tests/view/engine/TestPage.h"
 
 namespace {
