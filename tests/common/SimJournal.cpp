@@ -11,13 +11,15 @@ QByteArray Bytes(ReadBytes read, uint32_t index)
     return bytes;
 }
 
-}  // namespace
-
-QVector<SJournalCall> Journal()
+// Calls of a function, or of all with null. Bytes are read of those alone: a round of calibration data
+// has hundreds of kilobytes, and tests look at each turn of the event loop.
+QVector<SJournalCall> Calls(const char *function)
 {
     QVector<SJournalCall> calls;
     SJournalCall entry;
     for (uint32_t i = 0; VondSim_GetCall(i, &entry.call) == 0; ++i) {
+        if (function && qstrcmp(entry.call.function, function) != 0)
+            continue;
         entry.request = Bytes(&VondSim_GetRequest, i);
         entry.answer = Bytes(&VondSim_GetAnswer, i);
         calls.append(entry);
@@ -25,17 +27,23 @@ QVector<SJournalCall> Journal()
     return calls;
 }
 
+}  // namespace
+
+QVector<SJournalCall> Journal()
+{
+    return Calls(nullptr);
+}
+
 QVector<SJournalCall> JournalOf(const char *function)
 {
-    QVector<SJournalCall> calls;
-    for (const SJournalCall &entry : Journal()) {
-        if (qstrcmp(entry.call.function, function) == 0)
-            calls.append(entry);
-    }
-    return calls;
+    return Calls(function);
 }
 
 int CountCalls(const char *function)
 {
-    return JournalOf(function).size();
+    int count = 0;
+    SVondSimCall call;
+    for (uint32_t i = 0; VondSim_GetCall(i, &call) == 0; ++i)
+        count += qstrcmp(call.function, function) == 0;
+    return count;
 }
