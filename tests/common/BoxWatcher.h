@@ -1,8 +1,7 @@
 // Answers modal message boxes as a person would: reads each box that opens and presses its button.
 //
-// Looks at every turn of the event loop while it lives, or every so many milliseconds, so it also
-// works while a box's own loop runs. onBox, if set, is called with the box still open, and may do
-// anything but wait.
+// Looks by a timer while it lives, so it also works while a box's own loop runs. onBox, if set, is
+// called with the box still open, and may do anything but wait.
 //
 //   CBoxWatcher boxes;
 //   ... press Start ...
@@ -30,8 +29,9 @@ struct SSeenBox
 class CBoxWatcher : public QObject
 {
 public:
-    // everyMs: how often it looks; 0 keeps the thread busy, which long waits had better not.
-    explicit CBoxWatcher(int everyMs = 0);
+    // everyMs: how often it looks. With 0 it would at every turn of the event loop, and the thread would
+    // never rest, at the cost of those that work for the test.
+    explicit CBoxWatcher(int everyMs = 1);
 
     const QVector<SSeenBox> &Seen() const { return m_seen; }
     std::function<void()> onBox;
