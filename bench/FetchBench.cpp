@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QThreadPool>

@@ -4,9 +4,11 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QThreadPool>
 #include <QtConcurrent>
 

@@ -2,6 +2,9 @@
 #include <cstddef>
 #include <cstring>
 
+#include <QScrollArea>
+#include <QTabWidget>
+
 #include "tests/common/TestClass.h"
 #include "tests/device/CalibrationSession.h"
 

@@ -1,4 +1,7 @@
 // The RX path loss page: what it shows, its selections, and what they keep.
+#include <QScrollArea>
+#include <QStackedWidget>
+
 #include "tests/common/TestClass.h"
 #include "tests/device/PathLossTables.h"
 

@@ -1,4 +1,6 @@
 // The Forced PUSCH TX page: its document, its command, and Calculate beside the transmission.
+#include <QGroupBox>
+
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
 #include "tests/common/TestClass.h"

@@ -1,5 +1,7 @@
 // The Normal PUSCH TX page: its document, its command, the second carrier, and Calculate, which
 // rests during a transmission.
+#include <QGroupBox>
+
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
 #include "tests/common/TestClass.h"

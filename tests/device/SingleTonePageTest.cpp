@@ -1,4 +1,6 @@
 // The Single Tone TX page: its document, its command, and the power detector beside the tone.
+#include <QGroupBox>
+
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/SimJournal.h"
 #include "tests/common/TestClass.h"

@@ -1,5 +1,6 @@
 // What the tool's window looks like: while it is being built, its tabs, its menu of pages, and a
 // page that floats.
+#include <QImage>
 #include <QMainWindow>
 #include <QMenu>
 #include <QScreen>

@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QFontInfo>
 #include <QRegularExpression>
 #include <QStatusBar>
 #include <QTest>

@@ -4,6 +4,7 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QFontInfo>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QFile>
+#include <QFileDialog>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QThreadPool>

@@ -1,4 +1,5 @@
 // The life of a page: first show, the walks, what they leave alone.
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -7,6 +8,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QMainWindow>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QtTest>

@@ -1,5 +1,6 @@
 #include "tests/view/form/FormUnderTest.h"
 
+#include <QAction>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>

@@ -9,6 +9,7 @@
 //   QVERIFY(!form.Page("First")->isEnabled());
 #pragma once
 
+#include <QMenu>
 #include <QTabBar>
 
 #include "View/form/QuorlinForm.h"

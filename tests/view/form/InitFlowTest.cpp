@@ -1,5 +1,8 @@
 // The init flow of the tool form: which pages come up, in which order, and what the user sees of
 // it.
+#include <QAction>
+#include <QMenu>
+#include <QTabBar>
 #include <QtTest>
 
 #include "tests/common/TestClass.h"

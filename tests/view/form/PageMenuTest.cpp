@@ -1,6 +1,9 @@
 // The "View" menu of pages, reached with the right mouse button.
 #include <functional>
 
+#include <QAction>
+#include <QMenu>
+#include <QTabBar>
 #include <QtTest>
 
 #include "tests/common/BoxWatcher.h"

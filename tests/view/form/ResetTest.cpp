@@ -1,6 +1,8 @@
 // Reset and destruction of the tool form, at the moments at which a host may cause them.
 //
 // The sanitizer build of this test is what proves that nothing of a destroyed page is used.
+#include <QAction>
+#include <QMenu>
 #include <QStatusBar>
 #include <QtTest>
 

@@ -1,4 +1,5 @@
 // Tabs of the tool form: texts, who works, floating pages.
+#include <QTabBar>
 #include <QtTest>
 
 #include "tests/common/TestClass.h"
