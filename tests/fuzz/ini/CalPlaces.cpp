@@ -125,14 +125,10 @@ void PutRecord(CMultiRatPathLossV7 &item, const SRecordPlace &place, const QByte
 
 QByteArray KeptBytes(const SRecordPlace &place)
 {
-    switch (place.kind) {
-    case ECalRoute::Type1:
+    if (place.kind == ECalRoute::Type1)
         return KeptOfPathLoss<SMMType1PathlossByRouteV7>();
-    case ECalRoute::Type2:
+    if (place.kind == ECalRoute::Type2)
         return KeptOfPathLoss<SMMType2PathlossByRouteV7>();
-    case ECalRoute::Tx:
-        break;
-    }
     return KeptOfApt();
 }
 
