@@ -56,7 +56,10 @@ int CStartStopDockWidget::GetModelInterface()
 void CStartStopDockWidget::RequestDataModel()
 {
     connect(ViewCtrl(), m_page.dataModelDone, this, &CStartStopDockWidget::Slot_GetDataModelDone);
-    (ViewCtrl()->*m_page.getDataModel)();
+    if (m_page.getDataModel)
+        (ViewCtrl()->*m_page.getDataModel)();
+    else
+        ViewCtrl()->RequestDataModel(m_page.page);
 }
 
 void CStartStopDockWidget::DisableTestControls()
@@ -155,14 +158,22 @@ void CStartStopDockWidget::StartTest()
         return;
     const std::string document = PackageMemberValue();
     PrepareStart(document);
-    connect(ViewCtrl(), m_page.startDone, this, m_page.startSlot);
-    (ViewCtrl()->*m_page.start)(document);
+    if (m_page.start) {
+        connect(ViewCtrl(), m_page.startDone, this, m_page.startSlot);
+        (ViewCtrl()->*m_page.start)(document);
+    } else {
+        connect(ViewCtrl(), &CQuorlinViewCtrl::Signal_TestDone, this, m_page.startSlot);
+        ViewCtrl()->RequestTest(m_page.page, document);
+    }
 }
 
 void CStartStopDockWidget::FinishStart(const char *slot, const SEachItemOperationResult &result)
 {
     qCDebug(lcForm) << slot;
-    disconnect(ViewCtrl(), m_page.startDone, this, nullptr);
+    if (m_page.start)
+        disconnect(ViewCtrl(), m_page.startDone, this, nullptr);
+    else
+        disconnect(ViewCtrl(), &CQuorlinViewCtrl::Signal_TestDone, this, nullptr);
     const bool isSuccess = result.status == eStatusSuccess;
     if (!isSuccess && m_isStopAsked && MayRun(result.status))
         m_isRunning = true;

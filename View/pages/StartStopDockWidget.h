@@ -63,16 +63,19 @@ using ResultSignal = void (CQuorlinViewCtrl::*)(SEachItemOperationResult);
 using TextSlot = void (CStartStopDockWidget::*)(std::string);
 using ResultSlot = void (CStartStopDockWidget::*)(SEachItemOperationResult);
 
+// A page without requests of its own asks by its id: page stands for getDataModel, dataModelDone,
+// start and startDone then.
 struct SStartStopPage
 {
-    const char *test;  // name in status lines and titles
-    ViewRequest getDataModel;
-    TextSignal dataModelDone;
-    DocumentRequest start;
-    ResultSignal startDone;
-    ResultSlot startSlot;
-    ViewRequest stop;
-    ResultSlot stopSlot;
+    const char *test = nullptr;  // name in status lines and titles
+    EPageId page = EPageId::ErrorPage;
+    ViewRequest getDataModel = nullptr;
+    TextSignal dataModelDone = &CQuorlinViewCtrl::Signal_DataModelDone;
+    DocumentRequest start = nullptr;
+    ResultSignal startDone = nullptr;
+    ResultSlot startSlot = nullptr;
+    ViewRequest stop = nullptr;
+    ResultSlot stopSlot = nullptr;
 };
 
 enum class ETestStep

@@ -5,7 +5,7 @@
 //
 //   QUORLIN_TEST_CLASS(ContRxPageTest)
 //
-//   DeviceTest ContRxPageTest              runs that class
+//   DeviceTest ContRxPageTest              runs that class, or CContRxPageTest
 //   DeviceTest ContRxPageTest stops -v2    one function of it, with an option of QtTest
 //   DeviceTest                             runs all classes, one after the other
 //
