@@ -129,6 +129,8 @@ constexpr bool TabsHaveTheirPages()
 }
 static_assert(TabsHaveTheirPages(), "a page that is shown has a tab of its own");
 
+// GCC compares no function with null in a constant while it sanitizes (its bug 71962).
+#ifndef __SANITIZE_ADDRESS__
 constexpr bool RowsAreWhole()
 {
     return std::all_of(kPages.begin(), kPages.end(), [](const SPageRow &page) {
@@ -138,6 +140,7 @@ constexpr bool RowsAreWhole()
     });
 }
 static_assert(RowsAreWhole(), "a page that is shown has a document and a driver");
+#endif
 
 }  // namespace
 
