@@ -1,8 +1,9 @@
 // The steps of the pages' tests: a step builds its page's command and runs an operation with it.
 //
 // Most pages go by RunCommand; their rows of the page table name what builds the command, a function
-// of CNrCoreCmdBuilder or one that takes the document alone, and the operation. A step runs under the core's lock and answers with a status, and with the operation's
-// text in the run. It throws what its builder or operation throws.
+// of CNrCoreCmdBuilder or one that takes the document alone, and the operation. A step runs under the
+// core's lock and answers with a status, and with the operation's text in the run. It throws what its
+// builder or operation throws.
 //
 //   .step = &RunCommand<&CNrCoreCmdBuilder::GetContRxCmdV7, &STestOperations::contRx,
 //                       &CMultiRatContRxV7::RunContRx>
