@@ -1,0 +1,4 @@
+// Headers that the GoogleTest programs without Qt read, compiled once.
+#pragma once
+
+#include <gtest/gtest.h>
