@@ -63,7 +63,8 @@ void RequestProgressTest::stopBehindAFetchShowsThatItRuns()
     session.Press("m_stop");
     QVERIFY(WaitUntil([&] { return Bar(session); }));
     VondSim_Release(kRsrpReport);
-    QVERIFY(session.WaitForStatus("Rsrp stop."));
+    // Not by the status line: the fetch's answer may come behind the stop's.
+    QVERIFY(WaitUntil([&] { return session.Find<QPushButton>("m_start")->isEnabled(); }));
     QVERIFY(!Bar(session));
 }
 
