@@ -50,7 +50,6 @@ void RsrpCounterTest::clearEmptiesTheTableAndLeavesTheTarget()
 }
 
 // What was asked for before the clear goes with it, whichever answer comes first.
-
 void RsrpCounterTest::clearTakesTheRowsOfAFetchInFlight()
 {
     QFETCH(QString, mode);
@@ -73,7 +72,6 @@ void RsrpCounterTest::clearTakesTheRowsOfAFetchInFlight()
 }
 
 // A report that is asked for now would carry the rows that are on their way out.
-
 void RsrpCounterTest::ticksAreSkippedWhileTheTableIsBeingCleared()
 {
     QFETCH(QString, mode);

@@ -240,7 +240,6 @@ void RsrpReportTest::startAfterAStopBeginsAtRowOne()
 }
 
 // The fetch has the old rows in its document: they must not come back, not even for a moment.
-
 void RsrpReportTest::startWithAFetchInFlightBeginsAtRowOne()
 {
     QFETCH(QString, mode);
