@@ -184,29 +184,20 @@ std::vector<std::string> CCalIniFile::ReadSectionKeys(const std::string &section
     return keys;
 }
 
-CIniSection CCalIniFile::ReadSection(const std::string &section)
+std::optional<CIniLines> CCalIniFile::ReadSection(const std::string &section)
 {
     RequireLoaded(section);
-    CIniSection result(section);
     const SIni::TKeyVal *keys = m_ini->GetSection(ToLine(section).c_str());
     if (!keys)
-        return result;
-    std::vector<const SIni::TKeyVal::value_type *> lines;
+        return {};
+    std::vector<CIniLines::SLine> lines;
     lines.reserve(keys->size());
-    for (const auto &line : *keys) {
+    for (const auto &[key, value] : *keys) {
         // Of a key with several values the library lists the first one first.
-        if (lines.empty() || keys->key_comp()(lines.back()->first, line.first))
-            lines.push_back(&line);
+        if (lines.empty() || keys->key_comp()(lines.back().key, key))
+            lines.push_back({key.pItem, value, key.nOrder});
     }
-    std::sort(lines.begin(), lines.end(),
-              [](auto *a, auto *b) { return a->first.nOrder < b->first.nOrder; });
-    std::string key;
-    for (const auto *line : lines) {
-        key.clear();
-        AppendUtf8(key, line->first.pItem);
-        AppendUtf8(result.Key(key), line->second);
-    }
-    return result;
+    return CIniLines(section, std::move(lines));
 }
 
 void CCalIniFile::WriteString(const std::string &section, const std::string &key,

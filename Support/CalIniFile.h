@@ -15,7 +15,7 @@
 // missing file is created, a missing folder is not.
 //
 // Whole sections. ReadSection and WriteSection give the same values and bytes as a read or a write
-// of each key, and are faster.
+// of each key, and are faster. What ReadSection gives lives until the next write.
 //
 // Errors. std::runtime_error with one of the texts
 //     Read <section> from <path> failed (load file failed)
@@ -34,9 +34,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
+
+#include "Support/IniLines.h"
 
 class CIniSection;
 
@@ -60,8 +63,8 @@ public:
     int ReadInt(const std::string &section, const std::string &key, int defaultValue);
     // Each key once, in the order of the file; empty for an unknown section.
     std::vector<std::string> ReadSectionKeys(const std::string &section);
-    // All keys with their values; none for an unknown section.
-    CIniSection ReadSection(const std::string &section);
+    // All keys with their values; nothing for an unknown section.
+    std::optional<CIniLines> ReadSection(const std::string &section);
 
     void WriteString(const std::string &section, const std::string &key, const std::string &value);
     // Prescribed; see docs/decisions/0036-prescribed-surface.md

@@ -1,7 +1,5 @@
 #include "Support/IniSection.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
@@ -16,12 +14,6 @@ bool IsPrintable(std::string_view text)
     for (char c : text)
         outside |= static_cast<unsigned char>(static_cast<unsigned char>(c - ' ') > '~' - ' ');
     return outside == 0;
-}
-
-bool IsSameKey(std::string_view a, std::string_view b)
-{
-    const auto isSame = [](char x, char y) { return LowerAscii(x) == LowerAscii(y); };
-    return a == b || (a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), isSame));
 }
 
 }  // namespace
@@ -62,20 +54,6 @@ std::vector<CIniSection::SLine> CIniSection::Lines() const
     for (size_t i = 0; i < m_places.size(); ++i)
         lines.push_back(Line(i));
     return lines;
-}
-
-bool CIniSection::Find(std::string_view key, std::string_view &value) const
-{
-    for (size_t i = 0; i < m_places.size(); ++i) {
-        const size_t at = (m_next + i) % m_places.size();
-        const SLine line = Line(at);
-        if (IsSameKey(line.key, key)) {
-            m_next = at + 1;
-            value = line.value;
-            return true;
-        }
-    }
-    return false;
 }
 
 bool CIniSection::IsPlain() const

@@ -1,5 +1,5 @@
-// A section of an INI file as a whole: its keys and their values, in the order of the file, for
-// CCalIniFile::WriteSection and as ReadSection gives it.
+// A section of an INI file as a whole, to be written: its keys and their values, in the order of the
+// file, for CCalIniFile::WriteSection. A section that a file holds is a CIniLines.
 //
 // Key gives a text; the value is appended to it, and nothing else is done with it. A long list is
 // built in its place that way. Two keys of a section differ in more than the case of ASCII letters;
@@ -36,10 +36,6 @@ public:
     // Begins a key. Its value goes to the end of this text, before the next call here.
     std::string &Key(std::string_view key);
 
-    // The value of a key, as long as the section lives; false when there is none. Quickest for keys
-    // that come in the order of the section.
-    bool Find(std::string_view key, std::string_view &value) const;
-
     const std::string &Name() const { return m_name; }
     bool IsEmpty() const { return m_places.empty(); }
     SLine Line(size_t index) const;
@@ -59,5 +55,4 @@ private:
     std::string m_name;
     std::string m_text;  // heading and lines, the last one without its line end
     std::vector<SPlace> m_places;
-    mutable size_t m_next = 0;  // behind the line that was found last
 };

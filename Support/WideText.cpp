@@ -41,20 +41,11 @@ std::wstring WideFromUtf8(std::string_view text)
 
 std::string Utf8FromWide(std::wstring_view text)
 {
-    std::string bytes;
-    AppendUtf8(bytes, text);
+    if (!IsAscii(text))
+        return QString::fromWCharArray(text.data(), static_cast<int>(text.size())).toStdString();
+    std::string bytes(text.size(), '\0');
+    Narrow(text, bytes.data());
     return bytes;
-}
-
-void AppendUtf8(std::string &bytes, std::wstring_view text)
-{
-    if (!IsAscii(text)) {
-        bytes += QString::fromWCharArray(text.data(), static_cast<int>(text.size())).toStdString();
-        return;
-    }
-    const size_t before = bytes.size();
-    bytes.resize(before + text.size());
-    Narrow(text, bytes.data() + before);
 }
 
 size_t CWideTextConverter::SizeFromStore(const char *, size_t inputLength)

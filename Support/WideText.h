@@ -16,7 +16,6 @@
 
 std::wstring WideFromUtf8(std::string_view text);
 std::string Utf8FromWide(std::wstring_view text);
-void AppendUtf8(std::string &bytes, std::wstring_view text);
 
 // The converter parameter of CSimpleIniTempl; its functions and their meaning are set by that
 // template. The store is UTF-8 whatever the flag says. Sizes to the store count the closing NUL.

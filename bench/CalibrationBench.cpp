@@ -328,9 +328,10 @@ CAL_BENCHES(PathLoss);
 #define CAL_RATIOS(Item)                                                                           \
     {"Export/" #Item, "SaveIni/" #Item, 2}, {"Export/" #Item, "SaveByteIni/" #Item, 2},            \
         {"Export/" #Item, "Fwrite/" #Item, 10}, {"ExportOver/" #Item, "SaveByteIni/" #Item, 0},    \
-        {"ExportOnDisk/" #Item, "FwriteSafely/" #Item, 0}, {"Import/" #Item, "LoadIni/" #Item, 2}, \
-        {"Import/" #Item, "LoadByteIni/" #Item, 2}, {"Upload/" #Item, "Copy/" #Item, 0},           \
-        {"Upload/" #Item, "UploadCalls/" #Item, 0}, {"Download/" #Item, "Copy/" #Item, 0},         \
+        {"ExportOnDisk/" #Item, "FwriteSafely/" #Item, 0},                                         \
+        {"Import/" #Item, "LoadIni/" #Item, 1.6}, {"Import/" #Item, "LoadByteIni/" #Item, 2},      \
+        {"Upload/" #Item, "Copy/" #Item, 0}, {"Upload/" #Item, "UploadCalls/" #Item, 0},           \
+        {"Download/" #Item, "Copy/" #Item, 0},                                                     \
     {                                                                                              \
         "Download/" #Item, "DownloadCalls/" #Item, 0                                               \
     }

@@ -1,10 +1,14 @@
 #include "Operations/calibration/CalCells.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+
+#include "Operations/calibration/CalPlainList.h"
+#include "Support/WideText.h"
 
 namespace {
 
@@ -14,6 +18,8 @@ constexpr int kDecimals = 5;
 // Sign, 19 digits, point, decimals, and a unit or comma.
 constexpr size_t kMaxValueText = 32;
 constexpr int kUnitsAVolt = 10;
+// As many as the longest list of a record has.
+constexpr size_t kMostPlainValues = 64;
 // Far above every field, so that a product of it still fits.
 constexpr double kGreatest = 1e12;
 
@@ -53,41 +59,6 @@ int64_t ParseNumber(std::string_view text, bool &isNumber)
 int64_t Scaled(double value, int units)
 {
     return static_cast<int64_t>(std::trunc(std::clamp(value, -kGreatest, kGreatest) * units));
-}
-
-bool IsDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-// Takes a value off a list if it is written as this tool writes it, whole dB and five decimals. The
-// result is the same as by a double, in less time. False, with nothing taken, for any other text.
-bool TakePlainDb(std::string_view &list, int64_t &value)
-{
-    constexpr int kMostWholeDigits = 7;
-    constexpr int64_t kScale = 100000;
-    const char *const end = list.data() + list.size();
-    const char *at = list.data();
-    const bool negative = at != end && *at == '-';
-    at += negative;
-    const char *const first = at;
-    int64_t digits = 0;
-    for (; at != end && IsDigit(*at) && at - first <= kMostWholeDigits; ++at)
-        digits = digits * 10 + (*at - '0');
-    if (at == first || at - first > kMostWholeDigits || end - at <= kDecimals || *at != '.')
-        return false;
-    const char *const behind = at + 1 + kDecimals;
-    if (behind != end && *behind != ',')
-        return false;
-    while (++at != behind) {
-        if (!IsDigit(*at))
-            return false;
-        digits = digits * 10 + (*at - '0');
-    }
-    const int64_t units = digits * kUnitsADb / kScale;
-    value = negative ? -units : units;
-    list.remove_prefix(static_cast<size_t>(behind - list.data()) + (behind != end));
-    return true;
 }
 
 int64_t ParseDb(std::string_view text, bool &isNumber)
@@ -238,21 +209,47 @@ const char *CCalCells::Read(std::string_view text, ECalValue kind, ICalCellWatch
             for (size_t i = 0; i < m_count; ++i) {
                 int64_t value = 0;
                 bool isNumber = true;
-                const std::string_view rest = text;
-                const bool plain = kind == ECalValue::Db && TakePlainDb(text, value);
-                if (!plain && TakeListItem(text, item)) {
+                const bool isAny = TakeListItem(text, item);
+                if (isAny) {
                     if (const char *failure = ParseCalValue(kind, item, value, &isNumber))
                         return failure;
                 }
                 auto &field = FieldAt(first, i, m_distance);
                 SetHeld(field, value);
-                if (watch && !rest.empty())
-                    watch->See(CCalCell(field), Trimmed(rest.substr(0, rest.find(','))), kind,
-                               value, isNumber);
+                if (watch && isAny)
+                    watch->See(CCalCell(field), Trimmed(item), kind, value, isNumber);
             }
             return nullptr;
         },
         m_first);
+}
+
+bool CCalCells::ReadPlain(const wchar_t *text, ECalValue kind, ICalCellWatch *watch) const
+{
+    std::array<int64_t, kMostPlainValues> values;
+    if (m_count > values.size())
+        return false;
+    const auto count = ReadPlainList(text, kind, {values.data(), m_count});
+    if (!count)
+        return false;
+    std::fill(values.begin() + *count, values.begin() + m_count, 0);
+    return std::visit(
+        [&](auto *first) {
+            if (watch && !watch->AreFine(CCalCell(*first), m_distance, {values.data(), *count}))
+                return false;
+            for (size_t i = 0; i < m_count; ++i)
+                SetHeld(FieldAt(first, i, m_distance), values[i]);
+            return true;
+        },
+        m_first);
+}
+
+const char *CCalCells::Read(const wchar_t *text, ECalValue kind, ICalCellWatch *watch) const
+{
+    if (ReadPlain(text, kind, watch))
+        return nullptr;
+    const std::string narrow = Utf8FromWide(text);
+    return Read(std::string_view(narrow), kind, watch);
 }
 
 void AppendCalValue(std::string &text, ECalValue kind, int64_t value, bool lone)

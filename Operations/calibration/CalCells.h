@@ -15,6 +15,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -52,6 +53,9 @@ public:
     // value: before it is limited to the range of its field.
     virtual void See(CCalCell cell, std::string_view text, ECalValue kind, int64_t value,
                      bool isNumber) = 0;
+    // True when See has nothing to note of these numbers. The first is that of the cell, each other
+    // that of a cell so many bytes behind the one before.
+    virtual bool AreFine(CCalCell first, size_t distance, std::span<const int64_t> values) = 0;
 };
 
 // The fields of a record that one value of a file holds: a lone one, or a list of fields that lie
@@ -81,8 +85,10 @@ public:
     // Appends the values of the fields as one value of a file.
     void AppendTo(std::string &text, ECalValue kind) const;
     // Null, or the words of the failure; the fields before the failed one are set then.
-    // watch, if any, sees each value.
+    // watch, if any, sees each value, but for a list of which it has nothing to note.
     const char *Read(std::string_view text, ECalValue kind, ICalCellWatch *watch = nullptr) const;
+    // The same of a value as CIniLines has it; quick when this tool has written it.
+    const char *Read(const wchar_t *text, ECalValue kind, ICalCellWatch *watch = nullptr) const;
 
 private:
     template <typename T>
@@ -95,6 +101,8 @@ private:
     {
         return fields[0];
     }
+
+    bool ReadPlain(const wchar_t *text, ECalValue kind, ICalCellWatch *watch) const;
 
     std::variant<uint8_t *, uint16_t *, int16_t *, uint32_t *> m_first;
     size_t m_count;

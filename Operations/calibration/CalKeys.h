@@ -12,6 +12,7 @@
 
 #include "Operations/calibration/CalCells.h"
 #include "Operations/calibration/CalValueWatch.h"
+#include "Support/IniLines.h"
 #include "Support/IniSection.h"
 
 template <typename Record>
@@ -55,23 +56,21 @@ void WriteKeys(CIniSection &section, const SCalKey<Record> (&keys)[keyCount], Re
 
 // Null, or the words of the failure; the record is half read then. watch sees what the file has.
 template <typename Record, size_t keyCount>
-const char *ReadKeys(const CIniSection &section, const SCalKey<Record> (&keys)[keyCount],
+const char *ReadKeys(const CIniLines &section, const SCalKey<Record> (&keys)[keyCount],
                      EAbsentKey absent, Record &record, CCalValueWatch &watch)
 {
     std::string buffer;
     for (const SCalKey<Record> &key : keys) {
         for (int row = 0; row < key.rows; ++row) {
-            std::string_view text;
             const std::string_view keyText = KeyText(key, row, buffer);
-            const bool isInFile = section.Find(keyText, text);
+            const wchar_t *text = section.Find(keyText);
+            if (!text && absent == EAbsentKey::Keep)
+                continue;
             watch.BeginKey(section.Name(), keyText);
-            if (!isInFile) {
-                if (absent == EAbsentKey::Keep)
-                    continue;
-                text = key.absent;
-            }
-            if (const char *failure =
-                    key.cells(record, row).Read(text, key.kind, isInFile ? &watch : nullptr))
+            const CCalCells cells = key.cells(record, row);
+            const char *failure = text ? cells.Read(text, key.kind, &watch)
+                                       : cells.Read(std::string_view(key.absent), key.kind);
+            if (failure)
                 return failure;
         }
     }

@@ -8,6 +8,7 @@
 #include "Operations/calibration/CalKeys.h"
 #include "Support/CalIniFile.h"
 #include "Support/Log.h"
+#include "Support/WideText.h"
 
 namespace {
 
@@ -18,9 +19,9 @@ struct SStop
 {
     const SCalFilePart *part = nullptr;
     SCalPlace place;
-    std::vector<std::string> sections;
-    std::vector<bool> present;  // of each section, in the file
-    int routesDone = 0;         // behind this record
+    std::vector<std::string> sections;  // their names
+    int routesDone = 0;                 // behind this record
+    CalFileSections inFile;             // of a load
 };
 
 std::vector<SStop> Walk(const std::vector<SCalFilePart> &parts, const SMMRfRouteTableV7 &table,
@@ -34,23 +35,24 @@ std::vector<SStop> Walk(const std::vector<SCalFilePart> &parts, const SMMRfRoute
             stops.push_back({&part,
                              place,
                              part.sections->SectionsOf(kind, place),
-                             {},
-                             rowsBefore + place.row + 1});
+                             rowsBefore + place.row + 1,
+                             {}});
         }
         rowsBefore += RouteRows(table, route);
     }
     return stops;
 }
 
-// Leaves the records that have a section in their file.
-void KeepPresent(std::vector<SStop> &stops)
+// Reads the sections of the records, and leaves the records that have any.
+void ReadPresent(std::vector<SStop> &stops)
 {
     for (SStop &stop : stops) {
         for (const std::string &section : stop.sections)
-            stop.present.push_back(stop.part->file->HasSection(section));
+            stop.inFile.push_back(stop.part->file->ReadSection(section));
     }
     const auto isAbsent = [](const SStop &stop) {
-        return std::find(stop.present.begin(), stop.present.end(), true) == stop.present.end();
+        return std::none_of(stop.inFile.begin(), stop.inFile.end(),
+                            [](const auto &section) { return section.has_value(); });
     };
     stops.erase(std::remove_if(stops.begin(), stops.end(), isAbsent), stops.end());
 }
@@ -68,22 +70,10 @@ void GiveSharedRecordsOneBand(std::vector<SStop> &stops)
 
 bool IsOfChip(const SStop &stop, const std::string &chip)
 {
-    for (size_t i = 0; i < stop.sections.size(); ++i) {
-        if (stop.present[i] &&
-            stop.part->file->ReadString(stop.sections[i], kChipKey, chip) != chip)
-            return false;
-    }
-    return true;
-}
-
-CalFileSections SectionsInFile(const SStop &stop)
-{
-    CalFileSections sections(stop.sections.size());
-    for (size_t i = 0; i < sections.size(); ++i) {
-        if (stop.present[i])
-            sections[i] = stop.part->file->ReadSection(stop.sections[i]);
-    }
-    return sections;
+    return std::all_of(stop.inFile.begin(), stop.inFile.end(), [&chip](const auto &section) {
+        const wchar_t *own = section ? section->Find(kChipKey) : nullptr;
+        return !own || Utf8FromWide(own) == chip;
+    });
 }
 
 // Readies each kind of route that the walk still holds.
@@ -114,15 +104,18 @@ void LogStop(const char *verb, const SStop &stop)
 bool HasCalSections(const std::vector<SCalFilePart> &parts, const SMMRfRouteTableV7 &table,
                     ERadioKind kind)
 {
-    std::vector<SStop> stops = Walk(parts, table, kind);
-    KeepPresent(stops);
-    return !stops.empty();
+    const std::vector<SStop> stops = Walk(parts, table, kind);
+    return std::any_of(stops.begin(), stops.end(), [](const SStop &stop) {
+        return std::any_of(
+            stop.sections.begin(), stop.sections.end(),
+            [&stop](const std::string &section) { return stop.part->file->HasSection(section); });
+    });
 }
 
 SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFileContext &context)
 {
     std::vector<SStop> stops = Walk(parts, context.table, context.kind);
-    KeepPresent(stops);
+    ReadPresent(stops);
     GiveSharedRecordsOneBand(stops);
     if (stops.empty())
         return {kCalNoData, {}};
@@ -134,8 +127,7 @@ SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
         return fault;
     for (const SStop &stop : stops) {
         LogStop("Read ", stop);
-        if (SCalFault fault =
-                stop.part->sections->Read(stop.place, SectionsInFile(stop), context.watch))
+        if (SCalFault fault = stop.part->sections->Read(stop.place, stop.inFile, context.watch))
             return fault;
         context.onDone(stop.routesDone);
     }

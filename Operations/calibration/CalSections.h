@@ -26,6 +26,7 @@
 #include "Operations/calibration/CalResult.h"
 #include "Operations/calibration/CalRoutes.h"
 #include "Operations/capability/TargetCapability.h"
+#include "Support/IniLines.h"
 #include "Support/IniSection.h"
 
 class CCalIniFile;
@@ -33,7 +34,7 @@ class CCalValueWatch;
 
 // The sections of a record as a file has them, in the order of their names; empty where it has
 // none.
-using CalFileSections = std::vector<std::optional<CIniSection>>;
+using CalFileSections = std::vector<std::optional<CIniLines>>;
 
 enum class ECalAccess
 {

@@ -35,14 +35,11 @@ void CCalValueWatch::BeginKey(const std::string &section, std::string_view key)
 void CCalValueWatch::See(CCalCell cell, std::string_view text, ECalValue kind, int64_t value,
                          bool isNumber)
 {
-    const ptrdiff_t offset = static_cast<const char *>(cell.Address()) - m_record;
+    const ptrdiff_t offset = OffsetOf(cell);
     if (offset < kHead)
         return;
-    const SCalShown *shown =
-        m_limits ? m_limits->Of(m_kind, m_place, static_cast<size_t>(offset)) : nullptr;
-    const bool isShown = !shown || (shown->isZeroFree && value == 0) ||
-                         (value >= shown->least && value <= shown->most);
-    if (isNumber && isShown)
+    const SCalShown *shown = ShownAt(offset);
+    if (isNumber && IsShown(shown, value))
         return;
     ++m_count;
     if (m_remarks.oddValues.size() + m_seen.size() >= SCalMoveRemarks::kOddValuesKept)
@@ -51,6 +48,35 @@ void CCalValueWatch::See(CCalCell cell, std::string_view text, ECalValue kind, i
                       cell,
                       kind,
                       shown});
+}
+
+bool CCalValueWatch::AreFine(CCalCell first, size_t distance, std::span<const int64_t> values)
+{
+    if (!m_limits)
+        return true;
+    ptrdiff_t offset = OffsetOf(first);
+    for (const int64_t value : values) {
+        if (offset >= kHead && !IsShown(ShownAt(offset), value))
+            return false;
+        offset += static_cast<ptrdiff_t>(distance);
+    }
+    return true;
+}
+
+ptrdiff_t CCalValueWatch::OffsetOf(const CCalCell &cell) const
+{
+    return static_cast<const char *>(cell.Address()) - m_record;
+}
+
+const SCalShown *CCalValueWatch::ShownAt(ptrdiff_t offset) const
+{
+    return m_limits ? m_limits->Of(m_kind, m_place, static_cast<size_t>(offset)) : nullptr;
+}
+
+bool CCalValueWatch::IsShown(const SCalShown *shown, int64_t value)
+{
+    return !shown || (shown->isZeroFree && value == 0) ||
+           (value >= shown->least && value <= shown->most);
 }
 
 void CCalValueWatch::EndRecord()

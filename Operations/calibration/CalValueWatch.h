@@ -52,6 +52,7 @@ public:
     void BeginKey(const std::string &section, std::string_view key);
     void See(CCalCell cell, std::string_view text, ECalValue kind, int64_t value,
              bool isNumber) override;
+    bool AreFine(CCalCell first, size_t distance, std::span<const int64_t> values) override;
     // The record is complete and about to be taken over.
     void EndRecord();
 
@@ -64,6 +65,10 @@ private:
         const SCalShown *shown;
     };
 
+    ptrdiff_t OffsetOf(const CCalCell &cell) const;
+    // What is shown of a field of the record; null where that is not known.
+    const SCalShown *ShownAt(ptrdiff_t offset) const;
+    static bool IsShown(const SCalShown *shown, int64_t value);
     static std::string PageText(const SSeen &seen, int64_t value);
 
     ICalPageLimits *m_limits;

@@ -81,12 +81,11 @@ bool IsWritten(const Record &record, const SGainKey &key, int path)
 }
 
 template <typename Record>
-SCalFault ReadGains(const CIniSection &section, const std::vector<SGainKey> &keys, int path,
+SCalFault ReadGains(const CIniLines &section, const std::vector<SGainKey> &keys, int path,
                     Record &record, CCalValueWatch &watch)
 {
     for (const SGainKey &key : keys) {
-        std::string_view text;
-        if (section.Find(key.key, text)) {
+        if (const wchar_t *text = section.Find(key.key)) {
             watch.BeginKey(section.Name(), key.key);
             LossCells(record, key, path).Read(text, ECalValue::Db, &watch);
         } else if (key.use == EGainKey::Required) {

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "Support/IniSection.h"
+#include "Support/WideText.h"
 #include "tests/support/IniTestFolder.h"
 
 namespace {
@@ -110,36 +111,61 @@ TEST_F(CalIniFileSection, FailedWriteNamesTheFirstKeyAndStaysInMemory)
               "\xEF\xBB\xBF[S]\r\nfirst = 1\r\nsecond = 2\r\nthird = 3\r\n");
 }
 
-TEST_F(CalIniFileSection, ReadSectionHasTheFirstOfEachKeyInTheOrderOfTheFile)
+TEST_F(CalIniFileSection, ReadSectionHasTheFirstValueOfEachKey)
 {
     m_folder.Put("[S]\nzulu = 1\nalpha = \xC2\xB1\nZULU = 3\nMike =\n");
     CCalIniFile file(m_folder.WidePath().c_str());
-    const CIniSection section = file.ReadSection("s");
-    std::string text;
-    for (const auto &line : section.Lines())
-        text += std::string(line.key) + '=' + std::string(line.value) + ';';
-    EXPECT_EQ(text, "zulu=1;alpha=\xC2\xB1;Mike=;");
+    const CIniLines lines = file.ReadSection("s").value();
+    EXPECT_EQ(lines.Name(), "s");
+    EXPECT_STREQ(lines.Find("zulu"), L"1");
+    EXPECT_STREQ(lines.Find("alpha"), L"\u00B1");
+    EXPECT_STREQ(lines.Find("mike"), L"");
 }
 
 TEST_F(CalIniFileSection, KeysAreFoundInAnyOrderAndCase)
 {
     m_folder.Put("[S]\na = 1\nb = 2\nc = 3\n");
     CCalIniFile file(m_folder.WidePath().c_str());
-    const CIniSection section = file.ReadSection("S");
-    std::string_view value = "none";
-    for (const char *key : {"c", "A", "b", "b", "C", "a"}) {
-        ASSERT_TRUE(section.Find(key, value)) << key;
-        EXPECT_EQ(value, file.ReadString("S", key, ""));
-    }
-    EXPECT_FALSE(section.Find("d", value));
-    EXPECT_FALSE(section.Find("", value));
+    const CIniLines lines = file.ReadSection("S").value();
+    for (const char *key : {"c", "A", "b", "b", "C", "a"})
+        EXPECT_STREQ(lines.Find(key), WideFromUtf8(file.ReadString("S", key, "")).c_str()) << key;
+    EXPECT_EQ(lines.Find("d"), nullptr);
+    EXPECT_EQ(lines.Find(""), nullptr);
 }
 
-TEST_F(CalIniFileSection, UnknownSectionHasNoKeysAndAMissingFileThrows)
+TEST_F(CalIniFileSection, AnyKeysAreFoundAsByASingleRead)
 {
-    m_folder.Put("[S]\na = 1\n");
+    std::mt19937 random(78);
+    constexpr std::string_view kLetters = "aAbBzZ_[]^1 -";
+    const auto anyKey = [&] {
+        std::string key(1, 'k');
+        for (auto i = random() % 4; i > 0; --i)
+            key += kLetters[random() % kLetters.size()];
+        return key + 'k';
+    };
+    for (int round = 0; round < 300; ++round) {
+        std::string text = "[S]\n";
+        for (int line = 0; line < 12; ++line)
+            text += anyKey() + " = " + std::to_string(line) + '\n';
+        m_folder.Put(QByteArray::fromStdString(text));
+        CCalIniFile file(m_folder.WidePath().c_str());
+        const CIniLines lines = file.ReadSection("S").value();
+        for (int look = 0; look < 40; ++look) {
+            const std::string key = anyKey();
+            const wchar_t *value = lines.Find(key);
+            EXPECT_EQ(value ? Utf8FromWide(value) : "none", file.ReadString("S", key, "none"))
+                << key;
+        }
+    }
+}
+
+TEST_F(CalIniFileSection, UnknownSectionIsNothingAndAMissingFileThrows)
+{
+    m_folder.Put("[S]\na = 1\n[Empty]\n");
     CCalIniFile file(m_folder.WidePath().c_str());
-    EXPECT_TRUE(file.ReadSection("T").Lines().empty());
+    EXPECT_FALSE(file.ReadSection("T"));
+    ASSERT_TRUE(file.ReadSection("empty"));
+    EXPECT_EQ(file.ReadSection("empty")->Find("a"), nullptr);
     CCalIniFile missing(m_folder.WidePath("missing.ini").c_str());
     EXPECT_EQ(FailureOf([&] { missing.ReadSection("T"); }),
               "Read T from " + m_folder.Path("missing.ini") + " failed (load file failed)");
