@@ -4,6 +4,16 @@
 
 #include "ViewController/QuorlinViewCtrlJobs.h"
 
+namespace {
+
+// While the page of the last answer is built, the next document is made.
+void PrepareNext(CNrCore &core)
+{
+    StartOnPool([&core] { core.PrepareNextDataModel(); });
+}
+
+}  // namespace
+
 // What is left out answers by the signals for any page.
 struct CQuorlinViewCtrl::SPageRequests
 {
@@ -77,14 +87,24 @@ const CQuorlinViewCtrl::SPageRequests &CQuorlinViewCtrl::RequestsOf(EPageId page
 void CQuorlinViewCtrl::GetInitPageList()
 {
     RunOnPool("GetInitPageListInternal", &CQuorlinViewCtrl::Signal_GetInitPageListDone,
-              [](CNrCore &core) { return std::make_tuple(core.GetAllSupportPage()); });
+              [](CNrCore &core) {
+                  const QStringList classes = core.GetAllSupportPage();
+                  if (!classes.isEmpty()) {
+                      core.AwaitPages();
+                      PrepareNext(core);
+                  }
+                  return std::make_tuple(classes);
+              });
 }
 
 void CQuorlinViewCtrl::RequestDataModel(EPageId page)
 {
     const SPageRequests &row = RequestsOf(page);
-    RunOnPool(row.dataModelJob, row.dataModelDone,
-              [page](CNrCore &core) { return std::make_tuple(core.GetDataModel(PageName(page))); });
+    RunOnPool(row.dataModelJob, row.dataModelDone, [page](CNrCore &core) {
+        std::string document = core.GetDataModel(PageName(page));
+        PrepareNext(core);
+        return std::make_tuple(std::move(document));
+    });
 }
 
 // The core answers tests through a signal of its own.

@@ -1,5 +1,6 @@
 #include "bench/BenchMain.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -50,11 +51,11 @@ public:
     }
 
 private:
-    // Without the settings that the library writes behind a name ("/iterations:25").
+    // Without the settings that the library writes behind a name ("/iterations:25", "/manual_time").
     static std::string Name(const Run &run)
     {
         const std::string name = run.benchmark_name();
-        return name.substr(0, name.find("/iterations:"));
+        return name.substr(0, std::min(name.find("/iterations:"), name.find("/manual_time")));
     }
 
     static std::string Text(const char *format, double number)

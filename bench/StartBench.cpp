@@ -1,6 +1,8 @@
 // From ShowPlugin to "Init done." with all pages, beside the nine bare forms shown one after
-// another and each patched document's text there and back; one start of a test, from the click to
-// the status line, beside an empty job through the pool.
+// another and each patched document's text there and back; the memory that both take; one start of
+// a test, from the click to the status line, beside an empty job through the pool.
+#include <malloc.h>
+
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -162,29 +164,42 @@ void TextsThereAndBack(const std::vector<std::string> &texts)
         benchmark::DoNotOptimize(ModelToText(ModelFromText(text)));
 }
 
+// A window of the tool's size for bare forms.
+class CBareWindow
+{
+public:
+    CBareWindow()
+    {
+        m_window.setDockOptions(QMainWindow::AllowTabbedDocks | QMainWindow::ForceTabbedDocks);
+        m_window.setTabPosition(Qt::TopDockWidgetArea, QTabWidget::North);
+        m_window.statusBar();
+        const CTool tool(kProfiles[0]);
+        m_window.setFixedSize(tool.Window()->size());
+    }
+
+    void Show()
+    {
+        m_window.show();
+        ShowBareForms<CNrRssiDockWidgetV7, CNrRxPathlossDockWidgetV7, CNrContRxDockWidgetV7,
+                      CNrRsrpForceDockWidgetV7, CNrRsrpNormalDockWidgetV7,
+                      CNrSingleToneTxDockWidgetV7, CNrAptProfileDockWidgetV7,
+                      CNrPuschTxForcedDockWidgetV7, CNrPuschTxNormalDockWidgetV7>(m_window);
+    }
+
+private:
+    QMainWindow m_window;
+};
+
 // The floor of Start: the same nine forms in a window of the same size, and the documents' texts.
 void BareStart(benchmark::State &state)
 {
     const std::vector<std::string> texts = PatchedTexts(kProfiles[state.range(0)]);
-    QSize size;
-    {
-        const CTool tool(kProfiles[0]);
-        size = tool.Window()->size();
-    }
     for (auto _ : state) {
         state.PauseTiming();
         {
-            QMainWindow window;
-            window.setDockOptions(QMainWindow::AllowTabbedDocks | QMainWindow::ForceTabbedDocks);
-            window.setTabPosition(Qt::TopDockWidgetArea, QTabWidget::North);
-            window.statusBar();
-            window.setFixedSize(size);
+            CBareWindow window;
             state.ResumeTiming();
-            window.show();
-            ShowBareForms<CNrRssiDockWidgetV7, CNrRxPathlossDockWidgetV7, CNrContRxDockWidgetV7,
-                          CNrRsrpForceDockWidgetV7, CNrRsrpNormalDockWidgetV7,
-                          CNrSingleToneTxDockWidgetV7, CNrAptProfileDockWidgetV7,
-                          CNrPuschTxForcedDockWidgetV7, CNrPuschTxNormalDockWidgetV7>(window);
+            window.Show();
             TextsThereAndBack(texts);
             state.PauseTiming();
         }
@@ -204,6 +219,56 @@ void DocumentTexts(benchmark::State &state)
     state.SetLabel(kNames[state.range(0)]);
 }
 BENCHMARK(DocumentTexts)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+size_t UsedMemory()
+{
+    const auto usage = mallinfo2();
+    return usage.uordblks + usage.hblkhd;
+}
+
+// One millisecond stands for one megabyte.
+void SetMegabytes(benchmark::State &state, size_t before)
+{
+    const size_t now = UsedMemory();
+    state.SetIterationTime(now > before ? static_cast<double>(now - before) * 1e-9 : 0);
+}
+
+// What the tool holds when it is started, its window's own picture included.
+void Memory(benchmark::State &state)
+{
+    CTool(kProfiles[state.range(0)]).Show();  // what is made once in a process
+    for (auto _ : state) {
+        const size_t before = UsedMemory();
+        CTool tool(kProfiles[state.range(0)]);
+        tool.Show();
+        SetMegabytes(state, before);
+    }
+    state.SetLabel("MB");
+}
+BENCHMARK(Memory)->Arg(0)->Arg(1)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
+
+// Its floor: the bare forms and their parsed documents.
+void BareMemory(benchmark::State &state)
+{
+    const std::vector<std::string> texts = PatchedTexts(kProfiles[state.range(0)]);
+    CBareWindow().Show();
+    for (auto _ : state) {
+        const size_t before = UsedMemory();
+        CBareWindow window;
+        window.Show();
+        std::vector<QJsonObject> documents;
+        for (const std::string &text : texts)
+            documents.push_back(ModelFromText(text));
+        SetMegabytes(state, before);
+    }
+    state.SetLabel("MB");
+}
+BENCHMARK(BareMemory)
+    ->Arg(0)
+    ->Arg(1)
+    ->UseManualTime()
+    ->Iterations(3)
+    ->Unit(benchmark::kMillisecond);
 
 // One start of continuous RX: the click, the document packaged, the pool, the command, the answer,
 // the line in the status bar. The stop between two starts is not measured.
@@ -247,8 +312,8 @@ void PoolTurn(benchmark::State &state)
 BENCHMARK(PoolTurn)->Unit(benchmark::kMicrosecond);
 
 constexpr SRatio kRatios[] = {
-    {"Start/0", "BareStart/0", 1.3},
-    {"Start/1", "BareStart/1", 1.3},
+    {"Start/0", "BareStart/0", 1.3},   {"Start/1", "BareStart/1", 1.5},
+    {"Memory/0", "BareMemory/0", 1.3}, {"Memory/1", "BareMemory/1", 1.3},
     {"StartTurn", "PoolTurn", 0},
 };
 

@@ -51,6 +51,7 @@ void CNrCore::DropCaches()
     CTargetCapability::Reset();
     m_isUpdaterStale.store(true);
     m_areItemsStale.store(true);
+    ++m_connection;
 }
 
 void CNrCore::WaitForTurn()

@@ -35,6 +35,7 @@
 #include "Controller/Interface/CoreInterface.h"
 #include "Controller/calibration/LossConfig.h"
 #include "Controller/capability/NrDataModelCapUpdater.h"
+#include "Controller/core/AwaitedDocuments.h"
 #include "Controller/core/CalItemTable.h"
 #include "Controller/core/PageTable.h"
 #include "Controller/core/RunningTests.h"
@@ -68,6 +69,11 @@ public:
 
     QStringList GetAllSupportPage() override;
     std::string GetDataModel(QString pageName) override;
+    // From now on the pages that the tool shows ask for their documents, in the order of the tabs.
+    void AwaitPages();
+    // Makes the document of the page that asks next, if one is awaited and has none. Pool threads
+    // only.
+    void PrepareNextDataModel();
     void Test(QString pageName, std::string document) override;
     void Stop() override;
     // Stops a running test on the pool: an NR one (PUSCH, RSRP) or a multi-RAT one (single tone,
@@ -215,6 +221,8 @@ private:
     CNrTestStop m_nrTestStop;
     CMultiRatTestStopV7 m_testStop;
     std::atomic<bool> m_areItemsStale{true};  // their records are of an earlier connection
+    CAwaitedDocuments m_awaited;              // under m_targetLock
+    std::atomic<uint64_t> m_connection{0};    // a number for each DUT: changes with a reset
     CNrDataModelCapUpdater m_capUpdater;
     std::atomic<bool> m_isUpdaterStale{true};  // its caches are of an earlier connection
 };

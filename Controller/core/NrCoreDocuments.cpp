@@ -1,6 +1,8 @@
 // Page list and documents of the core.
 #include "Controller/core/NrCore.h"
 
+#include <exception>
+
 #include "Model/ModelText.h"
 #include "Support/Log.h"
 
@@ -23,7 +25,32 @@ std::string CNrCore::GetDataModel(QString pageName)
     qCDebug(lcCore) << "[CNrCore] GetDataModelV7()--" << pageName;
     const EPageId page = PageByName(pageName);
     // An unknown name counts as that of the first page.
-    return GetDataModelV7(page == EPageId::ErrorPage ? EPageId::Rssi : page);
+    const EPageId asked = page == EPageId::ErrorPage ? EPageId::Rssi : page;
+    if (std::optional<std::string> document = m_awaited.Take(asked, m_connection.load()))
+        return *std::move(document);
+    return GetDataModelV7(asked);
+}
+
+void CNrCore::AwaitPages()
+{
+    const CLockSentry lock(m_targetLock);
+    m_awaited.Expect(ShownPages(), m_connection.load());
+}
+
+// A document that cannot be made is left to the page's own request, which tells what went wrong.
+void CNrCore::PrepareNextDataModel()
+{
+    const CLockSentry lock(m_targetLock);
+    const uint64_t connection = m_connection.load();
+    const std::optional<EPageId> page = m_awaited.Next(connection);
+    if (!page)
+        return;
+    try {
+        if (m_target.GetNrGeneration() == 1)
+            m_awaited.Keep(*page, GetDataModelV7(*page), connection);
+    } catch (const std::exception &failure) {
+        qCCritical(lcCore) << "no document in advance:" << failure.what();
+    }
 }
 
 std::string CNrCore::GetDataModelV7(EPageId page)

@@ -162,10 +162,18 @@ EPageId PageByName(const QString &name)
     return row == kPages.end() ? EPageId::ErrorPage : row->id;
 }
 
+std::deque<EPageId> ShownPages()
+{
+    std::deque<EPageId> pages;
+    for (int tab = 1; tab <= kTabs; ++tab)
+        pages.push_back(PageAtTab(tab)->id);
+    return pages;
+}
+
 QStringList ShownPageClasses()
 {
     QStringList classes;
-    for (int tab = 1; tab <= kTabs; ++tab)
-        classes.append(QString::fromLatin1(PageAtTab(tab)->className));
+    for (const EPageId page : ShownPages())
+        classes.append(QString::fromLatin1(FindPage(page).className));
     return classes;
 }

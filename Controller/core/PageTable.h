@@ -8,6 +8,7 @@
 //   FindPage(page).resource;                            // ":/NrContRxV7.json"
 #pragma once
 
+#include <deque>
 #include <optional>
 
 #include <QString>
@@ -45,5 +46,6 @@ struct SPageRow
 const SPageRow &FindPage(EPageId id);
 QString PageName(EPageId id);
 EPageId PageByName(const QString &name);
-// Class names of the pages that the tool shows, in the order of the tabs.
+// The pages that the tool shows, in the order of the tabs, and their class names.
+std::deque<EPageId> ShownPages();
 QStringList ShownPageClasses();
