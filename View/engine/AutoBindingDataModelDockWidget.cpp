@@ -122,7 +122,6 @@ void CAutoBindingDataModelDockWidget::SizeTables()
     const auto sizings = std::exchange(m_sizings, {});
     if (sizings.empty())
         return;
-    ShowHeaders(this);
     for (const auto &size : sizings)
         size();
 }

@@ -156,6 +156,7 @@ void InitColumnTable(const SBinding &binding, const QString &path, QWidget *widg
 
     const bool narrow = group.columns <= kNarrowColumns;
     binding.sizings.push_back([table, narrow] {
+        LayHeadersOut(table);
         table->setMaximumSize(narrow ? FitTableSize(table) : FitWideTableSize(table));
         table->setMinimumSize(table->maximumSize());
         if (narrow)

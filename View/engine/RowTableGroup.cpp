@@ -82,6 +82,7 @@ void InitRowTable(const SBinding &binding, const QString &path, QWidget *widget)
 
     const bool narrow = group.instances.size() <= kNarrowRows;
     binding.sizings.push_back([table, narrow] {
+        LayHeadersOut(table);
         SetFixedTableSize(
             table, WithRoomForRows(table, narrow ? FitTableSize(table) : FitWideTableSize(table)));
         if (narrow)

@@ -23,13 +23,7 @@ QSize FitWideTableSize(const QTableWidget *table)
     return {width, 2 * table->horizontalHeader()->height() + table->verticalHeader()->length()};
 }
 
-void ShowHeaders(QWidget *page)
+void LayHeadersOut(QTableWidget *table)
 {
-    const QPoint position = page->pos();
-    const bool wasVisible = page->isVisible();
-    page->hide();
-    page->show();
-    page->setVisible(wasVisible);
-    if (wasVisible && !position.isNull())
-        page->move(position);
+    QMetaObject::invokeMethod(table, "updateGeometries");
 }
