@@ -8,6 +8,7 @@
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
+#include "View/editors/LateEditors.h"
 #include "View/engine/TableSize.h"
 #include "ui_NrRssiDockWidgetV7.h"
 
@@ -17,13 +18,18 @@ const QLatin1String kWidestCell("-1024.00000");  // longer than any reading or f
 const QRegularExpression kGainNames("^cmdIf_response_group1_memberProperty_path[01].*Gain");
 constexpr int kCellMargin = 12;  // pixels of frame and indent around a cell's text
 
-// Cells in the font of their page, columns as wide as the widest result: no later answer is cut
-// off.
-void FitCells(QTableWidget *table)
+// Columns as wide as the widest result: no later answer is cut off.
+void FitColumns(QTableWidget *table)
 {
     const int width = table->fontMetrics().horizontalAdvance(kWidestCell) + kCellMargin;
-    for (int c = 0; c < table->columnCount(); ++c) {
+    for (int c = 0; c < table->columnCount(); ++c)
         table->setColumnWidth(c, width);
+}
+
+// Cells in the font of their page.
+void SetCellFonts(const QTableWidget *table)
+{
+    for (int c = 0; c < table->columnCount(); ++c) {
         for (int r = 0; r < table->rowCount(); ++r) {
             if (QWidget *cell = table->cellWidget(r, c))
                 cell->setFont(table->font());
@@ -95,7 +101,8 @@ void CNrRssiDockWidgetV7::FixLayout()
     for (QTableWidget *table : {m_ui->cmdIf_request_group2_memberProperty_dlFrequency,
                                 m_ui->cmdIf_response_group2_memberProperty_dlFrequency,
                                 m_ui->cmdIf_response_group3_memberProperty_dlFrequency}) {
-        FitCells(table);
+        FitColumns(table);
+        WhenEditorsAreMade(table, table, [table] { SetCellFonts(table); });
         table->setMaximumSize(FitTableSize(table));
         table->setMinimumSize(table->maximumSize());
         table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

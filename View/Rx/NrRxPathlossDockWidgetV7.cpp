@@ -4,6 +4,7 @@
 
 #include "Model/JsonPath.h"
 #include "View/editors/TabOrder.h"
+#include "View/engine/ColumnCells.h"
 #include "View/pages/CalibrationTables.h"
 #include "ui_NrRxPathlossDockWidgetV7.h"
 
@@ -103,11 +104,7 @@ void CNrRxPathlossDockWidgetV7::Slot_InitDone()
         AlignColumns({table});
         FitTable(table);
     }
-    for (int c = 0; c < frequencies->columnCount(); ++c) {
-        if (const auto *cell = qobject_cast<QSpinBox *>(frequencies->cellWidget(0, c)))
-            connect(cell, QOverload<int>::of(&QSpinBox::valueChanged), this,
-                    [this] { ShowSelectionDetails(); });
-    }
+    WhenEditorsAreMade(frequencies, this, [this] { FollowFrequencies(); });
     // The label takes the place of the row's caption, so that the columns stand below those above.
     frequencies->setMinimumWidth(0);
     frequencies->setMaximumWidth(QWIDGETSIZE_MAX);
@@ -210,11 +207,25 @@ void CNrRxPathlossDockWidgetV7::ShowSelectionDetails()
     ShowFrequency(m_ui->calDataIf_config_group1_memberProperty_freqIdx->currentIndex());
 }
 
+// The label follows a frequency that the user changes.
+void CNrRxPathlossDockWidgetV7::FollowFrequencies()
+{
+    const QTableWidget *table = m_ui->calDataIf_data_group4_memberProperty_freq;
+    for (int c = 0; c < table->columnCount(); ++c) {
+        if (const auto *cell = qobject_cast<QSpinBox *>(table->cellWidget(0, c)))
+            connect(cell, QOverload<int>::of(&QSpinBox::valueChanged), this,
+                    [this] { ShowSelectionDetails(); });
+    }
+}
+
 void CNrRxPathlossDockWidgetV7::ShowFrequency(int index)
 {
     const QTableWidget *table = m_ui->calDataIf_data_group4_memberProperty_freq;
+    CColumnCells *cells = CColumnCells::Of(table);
     if (const auto *cell = qobject_cast<QSpinBox *>(table->cellWidget(0, index)))
         m_ui->m_lblFreq->setText(QString::number(cell->value()));
+    else if (const QString text = cells ? cells->Text(0, index) : QString(); !text.isNull())
+        m_ui->m_lblFreq->setText(text);
 }
 
 void CNrRxPathlossDockWidgetV7::ShowTables(const QString &routeType)

@@ -48,6 +48,7 @@ private slots:
 private:
     void ShowSelectionDetails() override;
     void ShowFrequency(int index);
+    void FollowFrequencies();
     // Tables of the route type, by its text.
     void ShowTables(const QString &routeType);
 

@@ -12,6 +12,7 @@ void TellRefusedKeys(QAbstractSpinBox *box)
 
 void ShowLimitTip(QWidget *editor, const QString &limits)
 {
-    QToolTip::showText(editor->mapToGlobal(QPoint(5, 5)),
-                       QLatin1String("Range should be:") + limits, editor);
+    if (editor->isVisible())
+        QToolTip::showText(editor->mapToGlobal(QPoint(5, 5)),
+                           QLatin1String("Range should be:") + limits, editor);
 }

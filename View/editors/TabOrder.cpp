@@ -30,11 +30,11 @@ QWidget *Target(QWidget *widget)
     return cell ? cell : widget;
 }
 
-bool IsStop(const QWidget *widget, const QWidget *target, const QWidget *window)
+bool CanBeStop(const QWidget *widget, const QWidget *window)
 {
     return widget != window && widget->window() == window && widget->isEnabled() &&
-           widget->isVisible() && (target->focusPolicy() & Qt::TabFocus) && !widget->focusProxy() &&
-           !IsExactClass(widget, "QScrollArea") && !TableOf(widget);
+           widget->isVisible() && !widget->focusProxy() && !IsExactClass(widget, "QScrollArea") &&
+           !TableOf(widget);
 }
 
 }  // namespace
@@ -48,8 +48,10 @@ bool MoveFocus(QWidget *window, bool next)
         return next ? widget->nextInFocusChain() : widget->previousInFocusChain();
     };
     for (QWidget *widget = step(from); widget != from; widget = step(widget)) {
+        if (!CanBeStop(widget, window))
+            continue;
         QWidget *const target = Target(widget);
-        if (!IsStop(widget, target, window))
+        if (!(target->focusPolicy() & Qt::TabFocus))
             continue;
         target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
         ScrollIntoView(target, TableOf(target));

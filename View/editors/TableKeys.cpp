@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include "View/editors/LateEditors.h"
 #include "View/editors/ScrollIntoView.h"
 #include "View/editors/UnsignedSpinBox.h"
 
@@ -69,6 +70,7 @@ QWidget *CTableKeys::Entry() const
 {
     if (CanHaveFocus(m_last))
         return m_last;
+    EnsureEditors(m_table);
     for (int r = 0; r < m_table->rowCount(); ++r) {
         for (int c = 0; c < m_table->columnCount(); ++c) {
             if (QWidget *cell = m_table->cellWidget(r, c); CanHaveFocus(cell))

@@ -33,7 +33,7 @@ public:
     static CTableKeys *Of(const QWidget *table);
 
     void Take(QWidget *cell);
-    // The cell that the table gives the focus to; null when no cell can have it.
+    // The cell that the table gives the focus to; null when no cell can have it. Makes late editors.
     QWidget *Entry() const;
 
     bool eventFilter(QObject *object, QEvent *event) override;

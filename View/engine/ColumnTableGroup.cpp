@@ -1,14 +1,14 @@
 #include "View/engine/ColumnTableGroup.h"
 
 #include <QHeaderView>
+#include <QPointer>
 #include <QTableWidget>
 
 #include "Model/JsonPath.h"
 #include "Model/MemberPath.h"
 #include "Support/Log.h"
-#include "View/editors/EditSession.h"
-#include "View/editors/ExactClass.h"
 #include "View/engine/Binding.h"
+#include "View/engine/ColumnCells.h"
 #include "View/engine/DataTypes.h"
 #include "View/engine/InitEntry.h"
 #include "View/engine/TableCells.h"
@@ -42,84 +42,74 @@ QStringList ColumnHeaders(const STableGroup &group)
     return headers;
 }
 
-// The range check of a row, if its entry asks for one, and the values that its cells start with.
-struct SCellCheck
+// Reads the range check of a row, if its entry asks for one, and the values that its cells start
+// with.
+void ReadCheck(SColumnRow &row, const QJsonObject &trait)
 {
-    QJsonArray defaults = {};  // of the columns
-    QString ranges = {};       // the list of what may be entered
-    bool isWanted = false;
-};
-
-SCellCheck ReadCheck(const SDataType &type, const QJsonObject &trait, const QJsonObject &entry)
-{
-    SCellCheck check = {.defaults = trait.value(QLatin1String("defaultValue")).toArray()};
-    const QJsonValue ranges = entry.value(QLatin1String("rangeCheck"));
-    if (!type.cellCheckSlot || !IsJsonValueValid(ranges))
-        return check;
+    row.defaults = trait.value(QLatin1String("defaultValue")).toArray();
+    const QJsonValue ranges = row.wish.entry.value(QLatin1String("rangeCheck"));
+    if (!row.type->cellCheckSlot || !IsJsonValueValid(ranges))
+        return;
     qCDebug(lcEngine) << "---> [Init][type3] =="
                       << "== Has the rangeCheck <--- " << ranges;
-    check.ranges = ranges.toString();
-    check.isWanted = true;
-    const QJsonValue value = entry.value(QLatin1String("value"));
+    row.ranges = ranges.toString();
+    row.isChecked = true;
+    const QJsonValue value = row.wish.entry.value(QLatin1String("value"));
     if (IsJsonValueValid(value)) {
         qCDebug(lcEngine) << "---> [Init][type3] =="
                           << "== Has the value and rangeCheck <--- " << value;
-        check.defaults = QJsonArray{value};
-    }
-    return check;
-}
-
-void MakeCells(const SBinding &binding, QTableWidget *table, int row, const SDataType &type,
-               SCellWish wish, const SCellCheck &check, bool isEnabled)
-{
-    for (int c = 0; c < table->columnCount(); ++c) {
-        if (type.columnWidth != 0)
-            table->horizontalHeader()->resizeSection(c, type.columnWidth);
-        wish.value = ColumnElement(check.defaults, c);
-        QWidget *cell = type.makeCell(wish);
-        if (type.takesStatus)
-            cell->setEnabled(isEnabled);
-        PlaceEditor(table, row, c, cell);
-        binding.edits.Watch(cell);
-        if (check.isWanted) {
-            cell->setToolTip(check.ranges);
-            QObject::connect(cell, SIGNAL(editingFinished()), &binding.page, type.cellCheckSlot);
-        }
+        row.defaults = QJsonArray{value};
     }
 }
 
-void InitRow(const SBinding &binding, QTableWidget *table, int row, const STableGroup &group)
+void InitRow(const SBinding &binding, CColumnCells &cells, QTableWidget *table, int row,
+             const STableGroup &group)
 {
     const QString member = group.rows[row];
     const QJsonObject memberObject = group.properties.value(member).toObject();
     const QJsonObject trait = memberObject.value(QLatin1String("trait")).toObject();
     const QString dataType = trait.value(QLatin1String("dataType")).toString();
-    const bool isEnabled = memberObject.value(QLatin1String("defaultEnableStatus")).toInt() != 0;
     qCDebug(lcEngine) << "---> [Init][type3] ==" << member << "== Member JSON Object  <---"
                       << memberObject;
     qCDebug(lcEngine) << "---> [Init][type3] ==" << member << "== DataType <--- " << dataType;
 
-    const SDataType *type = FindDataType(dataType);
+    SColumnRow content = {
+        .type = FindDataType(dataType),
+        .wish = {.use = ECellUse::Column, .parent = table->viewport()},
+        .isEnabled = memberObject.value(QLatin1String("defaultEnableStatus")).toInt() != 0,
+    };
+    const SDataType *type = content.type;
     if (!type || !type->makeCell) {
         qCCritical(lcEngine)
             << "---> [Fail][Init][type3] Cannot get the row info: dataType not support yet <--- "
             << dataType;
         return;
     }
-    SCellWish wish = {.use = ECellUse::Column, .parent = table->viewport()};
     if (type->cellReadsEntry)
-        wish.entry = ResolveInitEntry(binding, memberObject, trait).toObject();
-    const SCellCheck check = ReadCheck(*type, trait, wish.entry);
-    if (type->entryKey && IsJsonValueValid(wish.entry.value(QLatin1String(type->entryKey))))
+        content.wish.entry = ResolveInitEntry(binding, memberObject, trait).toObject();
+    ReadCheck(content, trait);
+    if (type->entryKey && IsJsonValueValid(content.wish.entry.value(QLatin1String(type->entryKey))))
         qCDebug(lcEngine) << "---> [Init][type3] ==" << type->entryLog;
     qCDebug(lcEngine) << "---> [Init][type3] =="
-                      << "== defaultValueArray <--- " << check.defaults;
+                      << "== defaultValueArray <--- " << content.defaults;
     if (type->hasItems) {
-        wish.items = trait.value(QLatin1String("value")).toArray();
+        content.wish.items = trait.value(QLatin1String("value")).toArray();
         qCDebug(lcEngine) << "---> [Init][type3] =="
-                          << "== listValue <--- " << wish.items;
+                          << "== listValue <--- " << content.wish.items;
     }
-    MakeCells(binding, table, row, *type, wish, check, isEnabled);
+    for (int c = 0; type->columnWidth != 0 && c < table->columnCount(); ++c)
+        table->horizontalHeader()->resizeSection(c, type->columnWidth);
+    cells.AddRow(row, content);
+}
+
+// Of a document that comes after another one: the cells are made anew.
+void RemoveCells(QTableWidget *table)
+{
+    delete CColumnCells::Of(table);
+    for (int r = 0; r < table->rowCount(); ++r) {
+        for (int c = 0; c < table->columnCount(); ++c)
+            table->removeCellWidget(r, c);
+    }
 }
 
 }  // namespace
@@ -142,26 +132,30 @@ void InitColumnTable(const SBinding &binding, const QString &path, QWidget *widg
     }
     qCDebug(lcEngine) << "---> [Init][type3] Row info - after checking memeber support <---"
                       << group.rows;
+    RemoveCells(table);
     table->setColumnCount(group.columns);
     table->setRowCount(group.rows.size());
     FillPlaces(table);
+    auto *cells = new CColumnCells(table, &binding.page, &binding.edits);
     for (int c = 0; c < group.columns; ++c)
         table->horizontalHeader()->resizeSection(c, kColumnWidth);
     for (int r = 0; r < group.rows.size(); ++r) {
         table->verticalHeader()->resizeSection(r, kCellRowHeight);
-        InitRow(binding, table, r, group);
+        InitRow(binding, *cells, table, r, group);
     }
     table->setHorizontalHeaderLabels(headers);
     table->setVerticalHeaderLabels(group.Captions(group.rows));
 
     const bool narrow = group.columns <= kNarrowColumns;
-    binding.sizings.push_back([table, narrow] {
+    binding.sizings.push_back([table, narrow, cells = QPointer<CColumnCells>(cells)] {
         LayHeadersOut(table);
         table->setMaximumSize(narrow ? FitTableSize(table) : FitWideTableSize(table));
         table->setMinimumSize(table->maximumSize());
         if (narrow)
             table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        if (cells)
+            cells->MakeAtPaint();
     });
 }
 
@@ -172,6 +166,7 @@ void UpdateColumnTable(const SBinding &binding, const QString &path, QWidget *wi
     if (!table)
         return;
     const STableGroup group(binding.update, path);
+    CColumnCells *cells = CColumnCells::Of(table);
     qCDebug(lcEngine) << "---> [Update][type3] Column info <--- dimention" << group.columns;
     qCDebug(lcEngine) << "---> [Update][type3] Row info - after checking the support status in "
                          "memeber list <---"
@@ -191,11 +186,8 @@ void UpdateColumnTable(const SBinding &binding, const QString &path, QWidget *wi
             continue;
         }
         const QJsonObject memberObject = group.properties.value(member).toObject();
-        for (int c = 0; c < group.columns; ++c) {
-            QWidget *cell = table->cellWidget(r, c);
-            if (cell && IsExactClass(cell, type->className))
-                type->show(cell, memberObject, ColumnElement(defaults, c).toString());
-        }
+        for (int c = 0; cells && c < group.columns; ++c)
+            cells->Show(r, c, *type, memberObject, ColumnElement(defaults, c).toString());
     }
     table->setVerticalHeaderLabels(group.Captions(group.rows));
 }
@@ -207,6 +199,7 @@ void PackageColumnTable(const SBinding &binding, const QString &path, QWidget *w
     if (!table)
         return;
     const STableGroup group(binding.document, path);
+    CColumnCells *cells = CColumnCells::Of(table);
     for (int r = 0; r < group.rows.size(); ++r) {
         const QString member = group.rows[r];
         const SDataType *type = FindDataType(group.Member(member, "trait.dataType").toString());
@@ -216,11 +209,8 @@ void PackageColumnTable(const SBinding &binding, const QString &path, QWidget *w
             continue;
         }
         QJsonArray values;
-        for (int c = 0; c < table->columnCount(); ++c) {
-            const QWidget *cell = table->cellWidget(r, c);
-            values.append(cell && IsExactClass(cell, type->className) ? type->text(cell)
-                                                                      : QString());
-        }
+        for (int c = 0; c < table->columnCount(); ++c)
+            values.append(cells ? cells->Text(r, c, *type) : QString());
         const QString memberPath = GroupPropertyPath(path) + QLatin1Char('.') + member;
         qCDebug(lcEngine) << "---> [Package][type3] Path in memberValue <--- "
                           << GroupValuePath(path) << " " << member;

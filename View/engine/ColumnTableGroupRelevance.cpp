@@ -5,6 +5,7 @@
 #include "Model/MemberPath.h"
 #include "Support/Log.h"
 #include "View/editors/ExactClass.h"
+#include "View/editors/LateEditors.h"
 #include "View/engine/DataTypes.h"
 #include "View/engine/RelevanceTarget.h"
 #include "View/engine/TableGroup.h"
@@ -80,6 +81,7 @@ void ApplyTableValueRelevance(const SRelevanceTarget &target)
     if (IsJsonValueValid(limits.value(QLatin1String("value"))))
         qCDebug(lcEngine) << "---> [Value Relevance][type3] Has the value in valuePair <---";
     const QJsonArray defaults = trait.value(QLatin1String("defaultValue")).toArray();
+    EnsureEditors(found.table);
     for (int c = 0; c < found.columns; ++c) {
         QWidget *cell = found.table->cellWidget(found.row, c);
         if (!cell || !IsExactClass(cell, type->className))
@@ -101,6 +103,7 @@ void ApplyTableStatusRelevance(const SRelevanceTarget &target)
     const QJsonValue entry = target.FindEntry(target.words.table.entry);
     if (!IsJsonValueValid(entry))
         return;
+    EnsureEditors(found.table);
     for (int c = 0; c < found.columns; ++c) {
         if (QWidget *cell = found.table->cellWidget(found.row, c))
             cell->setEnabled(entry.toInt() != 0);

@@ -84,8 +84,12 @@ struct SDataType
     bool cellReadsEntry = false;     // needs the value or valuePair entry
     const char *entryKey = nullptr;  // of that entry, with a log line of its own
     const char *entryLog = nullptr;
+    // Gives a cell the value of its wish, as makeCell does, whatever it held before.
+    void (*startCell)(QWidget *cell, const SCellWish &wish) = nullptr;
     bool updatesCell = false;  // Update writes it
-    int columnWidth = 0;       // pixels that it wants; 0: the table's own
+    // Brings a cell that Update writes to a text that such a cell held before.
+    void (*recallCell)(QWidget *cell, const QString &text) = nullptr;
+    int columnWidth = 0;  // pixels that it wants; 0: the table's own
     const char *relateCellLog = nullptr;
     void (*relateCell)(QWidget *cell, const SRelation &relation) = nullptr;
 };

@@ -112,18 +112,30 @@ void SetCellDecimals(QDoubleSpinBox *box, const QJsonObject &entry)
 }
 
 template <typename Box>
+void StartNumberCell(QWidget *cell, const SCellWish &wish)
+{
+    const auto value = SNumber<Box>::FromText(wish.value.toString());
+    const bool asItCame = wish.use == ECellUse::RowAppend;
+    As<Box>(cell)->setValue(asItCame ? value : ReadLimits<Box>(wish.entry).Fit(value));
+}
+
+template <typename Box>
+void RecallNumber(QWidget *cell, const QString &text)
+{
+    ShowNumber<Box>(cell, {}, text);
+}
+
+template <typename Box>
 QWidget *MakeNumberCell(const SCellWish &wish)
 {
     const bool asItCame = wish.use == ECellUse::RowAppend;
     auto *box = new Box(wish.parent);
     box->setLocale(QLocale::c());  // also of a cell that no page has taken in
-    const auto limits = ReadLimits<Box>(wish.entry);
-    ApplyLimits(box, limits);
+    ApplyLimits(box, ReadLimits<Box>(wish.entry));
     if (asItCame)
         box->setToolTip(QString());
     SetCellDecimals(box, wish.entry);
-    const auto value = SNumber<Box>::FromText(wish.value.toString());
-    box->setValue(asItCame ? value : limits.Fit(value));
+    StartNumberCell<Box>(box, wish);
     SetCellFont(box);
     if (!asItCame)
         box->setButtonSymbols(QAbstractSpinBox::NoButtons);
@@ -146,6 +158,24 @@ QString PointRangeText(const QWidget *widget)
 
 // unsignedRange
 
+// The accepted text too: the next one that is not accepted gives way to it.
+void RecallUnsigned(QWidget *cell, const QString &text)
+{
+    auto *box = As<CUnsignedSpinBox>(cell);
+    box->m_lastValidText = text;
+    box->setText(text);
+}
+
+void StartUnsignedCell(QWidget *cell, const SCellWish &wish)
+{
+    auto *box = As<CUnsignedSpinBox>(cell);
+    RecallUnsigned(box, QString());
+    unsigned int value = wish.value.toString().toUInt(nullptr, 10);
+    if (value > box->m_maximum || value < box->m_minimum)
+        value = (box->m_minimum + box->m_maximum) / 2;
+    box->setText(CUnsignedSpinBox::ToText(value, box->m_base));
+}
+
 QWidget *MakeUnsignedCell(const SCellWish &wish)
 {
     const auto limit = [&wish](const char *key) {
@@ -156,10 +186,7 @@ QWidget *MakeUnsignedCell(const SCellWish &wish)
     box->m_minimum = limit("min");
     box->setToolTip(QString::number(box->m_minimum) + QLatin1Char('~') +
                     QString::number(box->m_maximum));
-    unsigned int value = wish.value.toString().toUInt(nullptr, 10);
-    if (value > box->m_maximum || value < box->m_minimum)
-        value = (box->m_minimum + box->m_maximum) / 2;
-    box->setText(CUnsignedSpinBox::ToText(value, box->m_base));
+    StartUnsignedCell(box, wish);
     SetCellFont(box);
     return box;
 }
@@ -212,7 +239,9 @@ SDataType RangeType()
         .inRowTable = true,
         .alignment = NumberAlignment,
         .cellReadsEntry = true,
+        .startCell = StartNumberCell<QSpinBox>,
         .updatesCell = true,
+        .recallCell = RecallNumber<QSpinBox>,
         .relateCellLog = "---> [Value Relevance][type3] Spin Box <---",
         .relateCell = RelateNumberCell<QSpinBox>,
     };
@@ -238,7 +267,9 @@ SDataType PointRangeType()
         .cellReadsEntry = true,
         .entryKey = "decimals",
         .entryLog = "== Has the decimals setting <--- ",
+        .startCell = StartNumberCell<QDoubleSpinBox>,
         .updatesCell = true,
+        .recallCell = RecallNumber<QDoubleSpinBox>,
         .relateCellLog = "---> [Value Relevance][type3] Double Spin Box <---",
         .relateCell = RelateNumberCell<QDoubleSpinBox>,
     };
@@ -255,7 +286,9 @@ SDataType UnsignedRangeType()
         .cellReadsEntry = true,
         .entryKey = "displayBase",
         .entryLog = "== It has displayBase <--- ",
+        .startCell = StartUnsignedCell,
         .updatesCell = true,
+        .recallCell = RecallUnsigned,
         .columnWidth = kUnsignedColumnWidth,
     };
 }

@@ -46,12 +46,20 @@ void RelateList(QWidget *widget, const SRelation &relation)
     box->setCurrentIndex(0);
 }
 
+// A value that is no item leaves the first one current.
+void StartListCell(QWidget *cell, const SCellWish &wish)
+{
+    auto *box = As<QComboBox>(cell);
+    box->setCurrentIndex(0);
+    box->setCurrentText(wish.value.toString());
+}
+
 QWidget *MakeListCell(const SCellWish &wish)
 {
     auto *box = new QComboBox(wish.parent);
     FillList(box, wish.items);
     SetCellFont(box);
-    box->setCurrentText(wish.value.toString());
+    StartListCell(box, wish);
     return box;
 }
 
@@ -87,6 +95,17 @@ void RelateLabel(QWidget *widget, const SRelation &relation)
     qCDebug(lcEngine) << "---> [Value Relevance][type1] Final Value <---" << relation.entry;
 }
 
+void StartLabelCell(QWidget *cell, const SCellWish &wish)
+{
+    const bool given = !wish.value.isUndefined() && !wish.value.isNull();
+    ShowLabel(cell, {}, given ? wish.value.toString() : QStringLiteral("0"));
+}
+
+void RecallLabel(QWidget *cell, const QString &text)
+{
+    ShowLabel(cell, {}, text);
+}
+
 QWidget *MakeLabelCell(const SCellWish &wish)
 {
     auto *label = new QLabel(wish.parent);
@@ -97,8 +116,7 @@ QWidget *MakeLabelCell(const SCellWish &wish)
     } else {
         label->setAlignment(Qt::AlignCenter);
     }
-    const bool given = !wish.value.isUndefined() && !wish.value.isNull();
-    label->setText(given ? wish.value.toString() : QStringLiteral("0"));
+    StartLabelCell(label, wish);
     return label;
 }
 
@@ -169,6 +187,7 @@ SDataType ListType()
         .statusSlot = SLOT(Slot_EnableStatusChange(QString)),
         .makeCell = MakeListCell,
         .hasItems = true,
+        .startCell = StartListCell,
     };
 }
 
@@ -187,7 +206,9 @@ SDataType LabelType()
         .takesStatus = true,
         .inRowTable = true,
         .alignment = LabelAlignment,
+        .startCell = StartLabelCell,
         .updatesCell = true,
+        .recallCell = RecallLabel,
     };
 }
 

@@ -9,6 +9,8 @@
 #include <QScrollBar>
 #include <QTableWidget>
 
+#include "View/engine/ColumnCells.h"
+
 namespace {
 
 // Holds a table's row captions, and the corner above them, where the scroll area's left edge is.
@@ -78,11 +80,11 @@ void AlignColumns(const QList<QTableWidget *> &tables)
     int columnWidth = 0;
     for (const QTableWidget *table : tables) {
         captionWidth = std::max(captionWidth, table->verticalHeader()->sizeHint().width());
+        CColumnCells *cells = CColumnCells::Of(table);
         for (int r = 0; r < table->rowCount(); ++r) {
             // All cells of a row have the same limits, and with them the same room that they need.
-            if (const QWidget *cell = table->cellWidget(r, 0))
-                columnWidth =
-                    std::max({columnWidth, table->columnWidth(0), cell->sizeHint().width()});
+            if (const int width = cells ? cells->WidthHint(r) : 0; width > 0)
+                columnWidth = std::max({columnWidth, table->columnWidth(0), width});
         }
     }
     for (QTableWidget *table : tables) {

@@ -8,12 +8,15 @@
 #include <QPushButton>
 #include <QStatusBar>
 
+#include "View/editors/LateEditors.h"
+
 namespace {
 
 QList<QDoubleSpinBox *> Cells(const QList<QTableWidget *> &tables)
 {
     QList<QDoubleSpinBox *> cells;
     for (const QTableWidget *table : tables) {
+        EnsureEditors(table);
         for (int r = 0; r < table->rowCount(); ++r) {
             for (int c = 0; c < table->columnCount(); ++c) {
                 if (auto *cell = qobject_cast<QDoubleSpinBox *>(table->cellWidget(r, c)))

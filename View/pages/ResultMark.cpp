@@ -7,6 +7,8 @@
 #include <QSpinBox>
 #include <QTableWidget>
 
+#include "View/editors/LateEditors.h"
+
 namespace {
 
 const QLatin1String kRequestName("cmdIf_request_");
@@ -68,26 +70,40 @@ void CResultMark::Watch()
             roots.append(widget);
     }
     for (QWidget *root : qAsConst(roots)) {
-        for (QWidget *editor : Parts(root)) {
-            if (Value(editor).isValid())
-                m_editors.append(editor);
-            if (auto *list = qobject_cast<QComboBox *>(editor))
-                connect(list, &QComboBox::currentTextChanged, this, [this] { Show(); });
-            else if (auto *number = qobject_cast<QSpinBox *>(editor))
-                connect(number, QOverload<int>::of(&QSpinBox::valueChanged), this,
-                        [this] { Show(); });
-            else if (auto *real = qobject_cast<QDoubleSpinBox *>(editor))
-                connect(real, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
-                        [this] { Show(); });
-            else if (auto *check = qobject_cast<QCheckBox *>(editor))
-                connect(check, &QCheckBox::toggled, this, [this] { Show(); });
-        }
+        const auto watch = [this, root] {
+            for (QWidget *editor : Parts(root))
+                WatchEditor(editor);
+        };
+        WhenEditorsAreMade(root, this, watch);
+    }
+    m_watched = roots;
+    for (QWidget *widget : roots + m_results) {
+        if (const CLateEditors *late = CLateEditors::Of(widget))
+            connect(late, &CLateEditors::Made, this, [this] { Show(); });
     }
     Show();
 }
 
+void CResultMark::WatchEditor(QWidget *editor)
+{
+    if (Value(editor).isValid())
+        m_editors.append(editor);
+    if (auto *list = qobject_cast<QComboBox *>(editor))
+        connect(list, &QComboBox::currentTextChanged, this, [this] { Show(); });
+    else if (auto *number = qobject_cast<QSpinBox *>(editor))
+        connect(number, QOverload<int>::of(&QSpinBox::valueChanged), this, [this] { Show(); });
+    else if (auto *real = qobject_cast<QDoubleSpinBox *>(editor))
+        connect(real, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+                [this] { Show(); });
+    else if (auto *check = qobject_cast<QCheckBox *>(editor))
+        connect(check, &QCheckBox::toggled, this, [this] { Show(); });
+}
+
+// What is remembered of a cell is remembered by its editor.
 void CResultMark::Package()
 {
+    for (const QWidget *widget : m_watched + m_results)
+        EnsureEditors(widget);
     m_packaged = Settings();
 }
 

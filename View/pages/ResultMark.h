@@ -32,6 +32,7 @@ public:
     void Forget();
 
 private:
+    void WatchEditor(QWidget *editor);
     void Show();
     bool IsOfShownSettings() const;
     QHash<QWidget *, QVariant> Settings() const;
@@ -40,6 +41,7 @@ private:
     QWidget *const m_page;
     const QList<QWidget *> m_results;
     const QList<QWidget *> m_inputs;
+    QList<QWidget *> m_watched;  // widgets and tables whose editors are watched
     QList<QWidget *> m_editors;
     QHash<QWidget *, QVariant> m_packaged;  // by the request under way, or the last one
     QHash<QWidget *, QVariant> m_measured;  // by the one whose results are shown

@@ -7,6 +7,7 @@
 #include <QThreadPool>
 
 #include "Simulator/VondSim.h"
+#include "tests/common/Cells.h"
 #include "tests/common/WaitUntil.h"
 
 namespace {
@@ -97,9 +98,11 @@ bool CPluginSession::ShowAndWait()
     if (!WaitUntil([&] { return StatusBar() == "Init done." && Window()->isEnabled(); }))
         return false;
     QDockWidget *page = Page();
-    if (page)
-        page->raise();
-    return !page || WaitUntil([page] { return IsInFront(page); });
+    if (!page)
+        return true;
+    page->raise();
+    MakeAllEditors(page);
+    return WaitUntil([page] { return IsInFront(page); });
 }
 
 bool CPluginSession::WaitForStatus(const QString &text) const
@@ -128,6 +131,7 @@ bool CPluginSession::ClickTab(const QString &title) const
                 QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(tab).center());
         }
     }
+    MakeAllEditors(page);
     return WaitUntil([page] { return IsInFront(page); });
 }
 

@@ -42,7 +42,8 @@ public:
     QMainWindow *Window() const;
     QString StatusBar() const;
     QDockWidget *Page() const;
-    // Shows the tool, waits for the end of its init flow, and turns to the page.
+    // Shows the tool, waits for the end of its init flow, and turns to the page, whose cells are all
+    // there then.
     bool ShowAndWait();
     // A widget of the page, or else of the window, by object name.
     template <typename Widget = QWidget>

@@ -10,6 +10,7 @@
 #include <QTableWidget>
 #include <QWheelEvent>
 
+#include "View/editors/LateEditors.h"
 #include "tests/fuzz/engine/FuzzVariant.h"
 
 namespace {
@@ -21,6 +22,7 @@ QWidget *Reachable(QWidget *editor, uint8_t how)
 {
     QWidget *found = editor;
     if (auto *table = qobject_cast<QTableWidget *>(editor)) {
+        EnsureEditors(table);
         const int cells = table->rowCount() * table->columnCount();
         const int cell = cells > 0 ? how % cells : 0;
         found = cells > 0

@@ -10,6 +10,8 @@
 #include <QSpinBox>
 #include <QTableWidget>
 
+#include "tests/common/Cells.h"
+
 namespace {
 
 enum EPart
@@ -50,6 +52,7 @@ void FillTable(QJsonObject &values, const QJsonObject &group, const QTableWidget
 
 QJsonObject FillFrom(const QDockWidget *page, QJsonObject document)
 {
+    MakeAllEditors(page);
     for (const QWidget *widget : page->findChildren<QWidget *>()) {
         const QStringList parts = widget->objectName().split('_');
         if (!IsBound(parts) || !document.contains(parts[0]))
@@ -100,6 +103,7 @@ bool IsEditor(const QWidget *widget)
 
 QMap<const QWidget *, QString> EditorValues(const QDockWidget *page)
 {
+    MakeAllEditors(page);
     QMap<const QWidget *, QString> values;
     for (const QWidget *widget : page->findChildren<QWidget *>()) {
         if (IsEditor(widget))
@@ -110,6 +114,7 @@ QMap<const QWidget *, QString> EditorValues(const QDockWidget *page)
 
 QString Unfinished(const QDockWidget *page)
 {
+    MakeAllEditors(page);
     for (const QAbstractSpinBox *box : page->findChildren<QAbstractSpinBox *>()) {
         QString finished = ShownValue(box);
         const auto *spin = qobject_cast<const QSpinBox *>(box);

@@ -4,6 +4,7 @@
 
 #include "Model/JsonPath.h"
 #include "Model/ModelText.h"
+#include "tests/common/Cells.h"
 
 CTestPage::CTestPage(const CTestDocument &document, QWidget *parent)
     : CAutoBindingDataModelDockWidget(parent), m_document(document), m_text(document.Text()),
@@ -18,6 +19,14 @@ void CTestPage::RequestDataModel()
     ++m_requests;
     if (m_answersAtOnce)
         Deliver();
+}
+
+void CTestPage::Deliver()
+{
+    const QPointer<CTestPage> self(this);
+    Slot_GetDataModelDone(m_text);
+    if (self && m_hasEditorsAtOnce)
+        MakeAllEditors(this);
 }
 
 QTableWidget *CTestPage::AddTable(const QString &member)

@@ -51,7 +51,7 @@ public:
 
     // Shows the page, which takes its document.
     void Init() { show(); }
-    void Deliver() { Slot_GetDataModelDone(m_text); }
+    void Deliver();
 
     // Packages all widgets; the value of one member.
     QJsonValue Package(const QString &member);
@@ -68,6 +68,7 @@ public:
     CTestDocument m_document;
     std::string m_text;  // what a request is answered with
     bool m_answersAtOnce = true;
+    bool m_hasEditorsAtOnce = true;  // those of column tables, which come late otherwise
     int m_requests = 0;
 
 private:
