@@ -6,9 +6,11 @@
 #include <QTableWidget>
 #include <QtTest>
 
+#include "Support/Log.h"
 #include "View/editors/LateEditors.h"
 #include "View/editors/TabOrder.h"
 #include "View/editors/TableKeys.h"
+#include "tests/common/LogCapture.h"
 #include "tests/common/TestClass.h"
 #include "tests/view/engine/CellPairs.h"
 #include "tests/view/engine/TestPage.h"
@@ -210,6 +212,7 @@ private slots:
     void lateCellsPackageTheBytesOfEditors()
     {
         QFETCH(quint32, seed);
+        const LogCapture log(lcEngine());  // of types and keys that there are not
         QRandomGenerator random(seed);
         const CTestDocument document = RandomDocument(random);
         SLatePage early(document, false);
