@@ -68,6 +68,10 @@ public:
         VondSim_Reset();
         VondSim_SetProfileText(profile);
         m_plugin.ResetPlugin();
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            if (widget->objectName() == "CQuorlinForm")
+                m_window = static_cast<QMainWindow *>(widget);
+        }
     }
     ~CTool()
     {
@@ -81,18 +85,12 @@ public:
         m_plugin.ShowPlugin();
         Wait([this] { return Window()->isEnabled() && Status() == "Init done."; });
     }
-    QMainWindow *Window() const
-    {
-        for (QWidget *widget : QApplication::topLevelWidgets()) {
-            if (widget->objectName() == "CQuorlinForm")
-                return static_cast<QMainWindow *>(widget);
-        }
-        return nullptr;
-    }
+    QMainWindow *Window() const { return m_window; }
     QString Status() const { return Window()->statusBar()->currentMessage(); }
 
 private:
     QuorlinPluginInterface m_plugin;
+    QMainWindow *m_window = nullptr;
 };
 
 // The window and its making are the host's load of the plug-in; what a user waits for begins at the

@@ -73,11 +73,13 @@ void CPluginSession::Unload()
 
 QMainWindow *CPluginSession::Window() const
 {
+    if (m_window)
+        return m_window;
     for (QWidget *widget : QApplication::topLevelWidgets()) {
         if (widget->objectName() == "CQuorlinForm")
-            return qobject_cast<QMainWindow *>(widget);
+            m_window = qobject_cast<QMainWindow *>(widget);
     }
-    return nullptr;
+    return m_window;
 }
 
 QString CPluginSession::StatusBar() const
@@ -88,7 +90,10 @@ QString CPluginSession::StatusBar() const
 
 QDockWidget *CPluginSession::Page() const
 {
-    return Window() ? Window()->findChild<QDockWidget *>(m_page) : nullptr;
+    // A reset takes a page out of the window before it destroys it.
+    if (!m_shown || m_shown->parent() != Window())
+        m_shown = Window() ? Window()->findChild<QDockWidget *>(m_page) : nullptr;
+    return m_shown;
 }
 
 bool CPluginSession::ShowAndWait()

@@ -17,6 +17,7 @@
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QPluginLoader>
+#include <QPointer>
 #include <QVector>
 
 #include "PluginInterface/VondPluginInterface.h"
@@ -71,4 +72,7 @@ private:
     QPluginLoader m_loader;
     QObject *m_object = nullptr;
     VondPluginInterface *m_tool = nullptr;
+    // As last found: to look through all widgets takes long, and a wait looks often.
+    mutable QPointer<QMainWindow> m_window;
+    mutable QPointer<QDockWidget> m_shown;
 };
