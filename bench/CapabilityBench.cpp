@@ -83,17 +83,17 @@ BENCHMARK(Patch)->Apply(EachPage);
 BENCHMARK(PatchedText)->Apply(EachPage);
 
 constexpr SRatio kRatios[] = {
-    {"Patch/0", "PatchedText/0", 2},
-    {"Patch/2", "PatchedText/2", 2},
-    {"Patch/4", "PatchedText/4", 2},
-    {"Patch/5", "PatchedText/5", 2},
-    {"Patch/6", "PatchedText/6", 2},
-    {"Patch/7", "PatchedText/7", 2},
-    {"Patch/8", "PatchedText/8", 2},
-    {"Patch/9", "PatchedText/9", 2},
-    {"Patch/13", "PatchedText/13", 2},
-    {"StepEntries/20000", "StepEntries/5000", 5},
-    {"StepEntries/80000", "StepEntries/20000", 5},
+    {"Patch/0", "PatchedText/0", 1.5},
+    {"Patch/2", "PatchedText/2", 1.5},
+    {"Patch/4", "PatchedText/4", 1.5},
+    {"Patch/5", "PatchedText/5", 1.5},
+    {"Patch/6", "PatchedText/6", 1.5},
+    {"Patch/7", "PatchedText/7", 1.5},
+    {"Patch/8", "PatchedText/8", 1.5},
+    {"Patch/9", "PatchedText/9", 1.5},
+    {"Patch/13", "PatchedText/13", 1.5},
+    {"StepEntries/20000", "StepEntries/5000", 4.5},
+    {"StepEntries/80000", "StepEntries/20000", 4.5},
 };
 
 }  // namespace

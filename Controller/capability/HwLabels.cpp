@@ -1,5 +1,6 @@
 #include "Controller/capability/HwLabels.h"
 
+#include <charconv>
 #include <cstring>
 
 #include "Controller/capability/DocumentWriter.h"
@@ -7,23 +8,28 @@
 namespace {
 
 template <std::size_t Size>
-QString PortText(const char (&port)[Size])
+std::string PortText(const char (&port)[Size])
 {
-    return QString::fromLatin1(port, static_cast<int>(strnlen(port, Size)));
+    return {port, strnlen(port, Size)};
 }
 
-QString MaskText(uint32_t antMask)
+std::string MaskText(uint32_t antMask)
 {
-    return QLatin1String("0x") + QString::number(antMask, 16);
+    char digits[2 * sizeof antMask];
+    constexpr int kHexadecimal = 16;
+    const auto end = std::to_chars(std::begin(digits), std::end(digits), antMask, kHexadecimal);
+    return "0x" + std::string(digits, end.ptr);
 }
 
 // Each number is followed by a blank: "1 2 ".
 template <std::size_t Size>
-QString PairText(const uint16_t (&pairs)[Size], int count)
+std::string PairText(const uint16_t (&pairs)[Size], int count)
 {
-    QString text;
-    for (int i = 0; i < qMin(count, static_cast<int>(Size)); ++i)
-        text += QString::number(pairs[i]) + QLatin1Char(' ');
+    std::string text;
+    for (int i = 0; i < qMin(count, static_cast<int>(Size)); ++i) {
+        text += std::to_string(pairs[i]);
+        text += ' ';
+    }
     return text;
 }
 
@@ -53,16 +59,15 @@ const SLabelRow kRows[kHwLabels] = {
 
 THwLabels HwLabels(const STxBwRegionHw &hw)
 {
-    return {QString::number(hw.feRouteNum), PortText(hw.port), QString::number(hw.stx),
+    return {std::to_string(hw.feRouteNum), PortText(hw.port), std::to_string(hw.stx),
             MaskText(hw.antMask), PairText(hw.mimoPair, hw.mimoPairCount)};
 }
 
 THwLabels HwLabels(const SRxRouteHw &hw, uint32_t routeType, int rxPath)
 {
     const bool type1 = routeType == 1;
-    return {QString::number(hw.feRouteNum),
-            PortText(hw.port[0]) + QLatin1String(", ") + PortText(hw.port[1]),
-            QString::number(type1 ? hw.type1.srx : hw.type2.srx[rxPath]), MaskText(hw.antMask),
+    return {std::to_string(hw.feRouteNum), PortText(hw.port[0]) + ", " + PortText(hw.port[1]),
+            std::to_string(type1 ? hw.type1.srx : hw.type2.srx[rxPath]), MaskText(hw.antMask),
             type1 ? PairText(hw.type1.mimoPair, hw.type1.mimoPairCount)
                   : PairText(hw.type2.mimoPair, hw.type2.mimoPairCount)};
 }
@@ -70,7 +75,7 @@ THwLabels HwLabels(const SRxRouteHw &hw, uint32_t routeType, int rxPath)
 THwLabels SameHwLabels(const char *text)
 {
     THwLabels labels;
-    labels.fill(QLatin1String(text));
+    labels.fill(text);
     return labels;
 }
 
@@ -89,8 +94,9 @@ bool WriteHwLabels(CDocumentWriter &writer, const SHwLabelPaths &valuePairs,
         const SLabelRow &row = kRows[i];
         const SPaths &paths = valuePairs.*row.paths;
         const QJsonObject object = paths.IsEmpty() ? QJsonObject() : labels.ToObject(i);
+        const QString byDefault = QString::fromLatin1(labels.Defaults()[i].c_str());
         if (!writer.Write({{paths, object, row.valueMessage},
-                           {defaults.*row.paths, labels.Defaults()[i], row.defaultMessage}}))
+                           {defaults.*row.paths, byDefault, row.defaultMessage}}))
             return false;
     }
     return true;

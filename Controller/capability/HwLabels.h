@@ -9,15 +9,16 @@
 #pragma once
 
 #include <array>
+#include <string>
 
-#include "Controller/capability/EntryTable.h"
+#include "Controller/capability/TextTable.h"
 #include "Operations/capability/CapabilityInfo.h"
 
 class CDocumentWriter;
 struct SHwLabelPaths;
 
 constexpr std::size_t kHwLabels = 5;
-using THwLabels = std::array<QJsonValue, kHwLabels>;
+using THwLabels = std::array<std::string, kHwLabels>;  // Latin-1, as the DUT names its ports
 
 THwLabels HwLabels(const STxBwRegionHw &hw);
 THwLabels HwLabels(const SRxRouteHw &hw, uint32_t routeType, int rxPath);
@@ -36,8 +37,8 @@ public:
     QJsonObject ToObject(std::size_t label) { return m_table.ToObject(label); }
 
 private:
-    CEntryTable<kHwLabels> m_table;
-    THwLabels m_defaults = SameHwLabels("");
+    CTextTable m_table{kHwLabels};
+    THwLabels m_defaults;
     bool m_hasDefaults = false;
 };
 

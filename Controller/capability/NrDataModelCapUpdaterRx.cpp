@@ -2,29 +2,29 @@
 #include "Controller/capability/NrDataModelCapUpdater.h"
 
 #include "Controller/capability/DocumentWriter.h"
-#include "Controller/capability/EntryTable.h"
 #include "Controller/capability/HwLabels.h"
+#include "Controller/capability/TextTable.h"
 #include "Controller/capability/VrbRanges.h"
 #include "Controller/fields/CommandConversions.h"
 
 bool CNrDataModelCapUpdater::UpdateRxCommonV7(QJsonObject &doc, const SRxCommonPathV7 path)
 {
     const QLatin1String type1Key(path.byRouteType ? ",Type1" : "");
-    CObjectTable routeTable;
-    CObjectTable typeTable;
+    CTextTable routeTable;
+    CTextTable typeTable;
     for (const QJsonValue &element : path.bands) {
         const QString name = element.toString();
         const int band = BandNumber(name);
         QStringList routes;
-        QJsonArray types;
+        QStringList types;
         if (GetRxRoutesByBand(routes, 1, band)) {
-            routeTable.Put(name + type1Key, QJsonArray::fromStringList(routes));
+            routeTable.Put(name + type1Key, routes);
             types.append("Type1");
         }
         if (!path.byRouteType)
             continue;
         if (GetRxRoutesByBand(routes, 2, band) && !routes.isEmpty()) {
-            routeTable.Put(name + QLatin1String(",Type2"), QJsonArray::fromStringList(routes));
+            routeTable.Put(name + QLatin1String(",Type2"), routes);
             types.append("Type2");
         }
         typeTable.Put(name, types);
@@ -68,7 +68,7 @@ bool CNrDataModelCapUpdater::UpdateRxHwSettingAndTxRouteV7(QJsonObject &doc,
     const THwLabels noLabels = SameHwLabels("");
     CHwLabelTable path0;
     CHwLabelTable path1;
-    CObjectTable txRouteTable;
+    CTextTable txRouteTable;
     QString defaultTxRoute;
     for (const QJsonValue &element : path.bands) {
         const int band = BandNumber(element.toString());
@@ -85,7 +85,7 @@ bool CNrDataModelCapUpdater::UpdateRxHwSettingAndTxRouteV7(QJsonObject &doc,
             path0.Put(key, HwLabels(row->hw, 1, 0));
             path1.Put(key, noLabels);
             if (!txRouteValuePairPath.IsEmpty())
-                txRouteTable.Put(route, QJsonArray::fromStringList(row->txRoutes));
+                txRouteTable.Put(route, row->txRoutes);
         }
         if (!GetRxRoutesByBand(routes, 2, band))
             continue;

@@ -5,7 +5,7 @@
 #include <iterator>
 
 #include "Controller/capability/DocumentWriter.h"
-#include "Controller/capability/EntryTable.h"
+#include "Controller/capability/TextTable.h"
 
 namespace {
 
@@ -30,10 +30,10 @@ QString GainMode(int j)
     return QStringLiteral("g%1").arg(j);
 }
 
-// The gain modes whose flag is set, as an array.
-QJsonArray GainModes(const uint8_t (&flags)[kGainModes])
+// The gain modes whose flag is set.
+QStringList GainModes(const uint8_t (&flags)[kGainModes])
 {
-    QJsonArray modes;
+    QStringList modes;
     for (int j = 0; j < kGainModes; ++j) {
         if (flags[j] == 1)
             modes.append(GainMode(j));
@@ -42,8 +42,8 @@ QJsonArray GainModes(const uint8_t (&flags)[kGainModes])
 }
 
 // One path alone. Path 1 is looked up with path 0's value behind, which is then without meaning.
-void PutSinglePath(const QString &powerMode, int i, const QJsonArray &modes, CObjectTable &path0,
-                   CObjectTable &path1)
+void PutSinglePath(const QString &powerMode, int i, const QStringList &modes, CTextTable &path0,
+                   CTextTable &path1)
 {
     path0.Put(QStringLiteral("%1,Partial-On Path0,G%2").arg(powerMode).arg(i), modes);
     const QString key = QStringLiteral("%1,Partial-On Path1,G%2,").arg(powerMode).arg(i);
@@ -53,18 +53,18 @@ void PutSinglePath(const QString &powerMode, int i, const QJsonArray &modes, COb
 }
 
 // Both paths together: path 0 offers what has any partner, path 1 the partners.
-void PutBothPaths(const QString &powerMode, int i, const SMMRfRxGainInfoV7 &info,
-                  CObjectTable &path0, CObjectTable &path1)
+void PutBothPaths(const QString &powerMode, int i, const SMMRfRxGainInfoV7 &info, CTextTable &path0,
+                  CTextTable &path1)
 {
     const QString key = QStringLiteral("%1,Simultaneously,G%2").arg(powerMode).arg(i);
-    QJsonArray withPartner;
+    QStringList withPartner;
     for (int k = 0; k < kGainModes; ++k) {
-        const QJsonArray partners = GainModes(info.t2[i][k]);
+        const QStringList partners = GainModes(info.t2[i][k]);
         path1.Put(key + QLatin1Char(',') + GainMode(k), partners);
         if (!partners.isEmpty())
             withPartner.append(GainMode(k));
     }
-    path1.Put(key + QLatin1Char(','), "");
+    path1.Put(key + QLatin1Char(','), QString());
     path0.Put(key, withPartner);
 }
 
@@ -78,15 +78,15 @@ bool CNrDataModelCapUpdater::UpdateRSSIGainInfoV7(QJsonObject &doc, const SRxGai
     if (!infos[0] || !infos[1])
         return writer.Fail(kNoGainInfo);
 
-    CObjectTable path0;
-    CObjectTable path1;
+    CTextTable path0;
+    CTextTable path1;
     QString path0Default;
     for (std::size_t mode = 0; mode < std::size(infos); ++mode) {
         const QString powerMode = QString::fromLatin1(kPowerModes[mode]);
         for (int i = 0; i < kElnaGains; ++i) {
-            const QJsonArray modes = GainModes(infos[mode]->t1[i]);
+            const QStringList modes = GainModes(infos[mode]->t1[i]);
             if (mode == 0 && path0Default.isEmpty())
-                path0Default = modes.at(0).toString();
+                path0Default = modes.value(0);
             PutSinglePath(powerMode, i, modes, path0, path1);
             PutBothPaths(powerMode, i, *infos[mode], path0, path1);
         }

@@ -3,6 +3,7 @@
 
 #include "Controller/capability/DocumentWriter.h"
 #include "Controller/capability/EntryTable.h"
+#include "Controller/capability/TextTable.h"
 #include "Controller/capability/VrbRanges.h"
 #include "Controller/fields/CommandConversions.h"
 
@@ -44,17 +45,17 @@ bool CNrDataModelCapUpdater::UpdateModulationTxCommonV7(QJsonObject &doc,
     const QString band0 = path.bands.at(0).toString();
     CCarrierFlags slotTable;
     CCarrierFlags mimoTable;
-    CObjectTable mimoValues;
-    CObjectTable routeTable;
+    CTextTable mimoValues;
+    CTextTable routeTable;
     for (const QJsonValue &element : path.bands) {
         const QString name = element.toString();
         const int band = BandNumber(name);
         slotTable.Put(name, tables.slotFlags.value(name).toInt());
         mimoTable.Put(name, IsBandMimoSupported(EBandDirection::Tx, band) ? 1 : 0);
-        mimoValues.Put(name, "false");
+        mimoValues.Put(name, std::string_view("false"));
         QStringList routes;
         if (GetTxRoutesByBand(routes, band))
-            routeTable.Put(name, QJsonArray::fromStringList(routes));
+            routeTable.Put(name, routes);
     }
 
     const QJsonObject slotFlags = slotTable.First();
@@ -92,18 +93,18 @@ bool CNrDataModelCapUpdater::UpdateCwTxCommonV7(QJsonObject &doc, const SCWTxCom
     if (!m_target.GetTxCommonPathV7(table, false))
         return writer.Fail("Get route info from L1 capbiliy failed ");
 
-    CObjectTable routeTable;
-    CObjectTable regionTable;
-    CObjectTable rangeTable;
+    CTextTable routeTable;
+    CTextTable regionTable;
+    CTextTable rangeTable;
     for (const QJsonValue &element : path.bands) {
         const QString name = element.toString();
         QStringList routes;
         if (!GetTxRoutesByBand(routes, BandNumber(name)))
             continue;
-        routeTable.Put(name, QJsonArray::fromStringList(routes));
+        routeTable.Put(name, routes);
         for (const QString &route : qAsConst(routes)) {
             const STxRouteInfoV7 *row = RowOf(table, GetTxRouteIndex(route.toInt()));
-            QJsonArray regions;
+            QStringList regions;
             uint32_t lowerMhz = 0;
             for (int i = 0; row && i < row->bwRegionCount; ++i) {
                 const QString region = QLatin1String("BW") + QString::number(i);
