@@ -192,11 +192,8 @@ std::optional<CIniLines> CCalIniFile::ReadSection(const std::string &section)
         return {};
     std::vector<CIniLines::SLine> lines;
     lines.reserve(keys->size());
-    for (const auto &[key, value] : *keys) {
-        // Of a key with several values the library lists the first one first.
-        if (lines.empty() || keys->key_comp()(lines.back().key, key))
-            lines.push_back({key.pItem, value, key.nOrder});
-    }
+    for (const auto &[key, value] : *keys)
+        lines.push_back({key.pItem, value, key.nOrder});
     return CIniLines(section, std::move(lines));
 }
 

@@ -36,10 +36,13 @@ CIniLines::CIniLines(const std::string &name, std::vector<SLine> lines)
 const wchar_t *CIniLines::Find(std::string_view key) const
 {
     if (m_next < m_inFile.size()) {
-        const size_t place = m_inFile[m_next];
+        size_t place = m_inFile[m_next];
         if (Compare(m_lines[place].key, key) == 0) {
             ++m_next;
             m_place = place + 1;
+            while (place > 0 && m_lines[place - 1].order < m_lines[place].order &&
+                   Compare(m_lines[place - 1].key, key) == 0)
+                --place;
             return m_lines[place].value;
         }
     }

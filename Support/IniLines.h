@@ -25,16 +25,17 @@ public:
         int order;  // of the lines in the file
     };
 
-    // lines: sorted by key, as the library keeps them, each key once.
+    // lines: sorted by key, as the library keeps them; of a key that comes several times the first
+    // one of the file first.
     CIniLines(const std::string &name, std::vector<SLine> lines);
 
     const std::string &Name() const { return m_name; }
-    // The value of a key; null when there is none. Quickest for keys that come in the order of the
+    // The first value of a key; null when there is none. Quickest for keys that come in the order of the
     // file; a run of absent keys, sorted, is no slower.
     const wchar_t *Find(std::string_view key) const;
 
 private:
-    // Of the first line whose key is not below this one.
+    // The first line whose key is not below this one.
     size_t PlaceOf(std::string_view key) const;
 
     std::string m_name;

@@ -25,7 +25,8 @@ struct SCalKey
     CCalCells (*cells)(Record &record, int row);
 };
 
-// The "%d" and "%s" of a form replaced by the texts, in their order.
+// The "%d" and "%s" of a form replaced by the texts, in their order; the first function appends it.
+void AppendForm(std::string &to, std::string_view form, std::initializer_list<std::string> texts);
 std::string FormText(std::string_view form, std::initializer_list<std::string> texts);
 
 // What a key that a section lacks reads as.
@@ -41,7 +42,9 @@ std::string_view KeyText(const SCalKey<Record> &key, int row, std::string &buffe
 {
     if (key.rows == 1)
         return key.key;
-    return buffer = FormText(key.key, {std::to_string(row)});
+    buffer.clear();
+    AppendForm(buffer, key.key, {std::to_string(row)});
+    return buffer;
 }
 
 template <typename Record, size_t keyCount>
