@@ -15,6 +15,15 @@ bool IsSameKind(const SColumnRow &one, const SColumnRow &other)
            one.wish.items == other.wish.items;
 }
 
+// A cell, as it was when its text was this one.
+void Recall(const SDataType &type, QWidget *cell, const QString &text)
+{
+    if (type.recallCell)
+        type.recallCell(cell, text);
+    else
+        type.show(cell, {}, text);
+}
+
 SCellWish WishOf(const SColumnRow &content, int column)
 {
     SCellWish wish = content.wish;
@@ -85,8 +94,9 @@ void CColumnCells::Show(int row, int column, const SDataType &type, const QJsonO
         return;
     }
     QString &shown = Texts(*found)[column];
-    QWidget *scratch = Scratch(found->content);
-    type.recallCell(scratch, shown);
+    QWidget *scratch = Scratch(*found);
+    if (type.recallCell)
+        type.recallCell(scratch, shown);
     type.show(scratch, member, text);
     shown = type.text(scratch);
     found->isShown = true;
@@ -102,9 +112,9 @@ int CColumnCells::WidthHint(int row)
         const QWidget *editor = Editor(row, 0, type);
         return editor ? editor->sizeHint().width() : 0;
     }
-    QWidget *scratch = Scratch(found->content);
+    QWidget *scratch = Scratch(*found);
     if (found->isShown)
-        type.recallCell(scratch, found->texts.first());
+        Recall(type, scratch, found->texts.first());
     else
         type.startCell(scratch, WishOf(found->content, 0));
     return scratch->sizeHint().width();
@@ -114,7 +124,7 @@ QStringList &CColumnCells::Texts(SRow &row)
 {
     const SDataType &type = *row.content.type;
     for (int c = row.texts.size(); c < Table()->columnCount(); ++c) {
-        QWidget *scratch = Scratch(row.content);
+        QWidget *scratch = Scratch(row);
         type.startCell(scratch, WishOf(row.content, c));
         row.texts.append(type.text(scratch));
     }
@@ -122,21 +132,24 @@ QStringList &CColumnCells::Texts(SRow &row)
 }
 
 // A child of the viewport as the cells are, for their font and style.
-QWidget *CColumnCells::Scratch(const SColumnRow &content)
+QWidget *CColumnCells::Scratch(SRow &row)
 {
-    for (const auto &[kind, scratch] : m_scratches) {
-        if (IsSameKind(*kind, content))
-            return scratch;
+    if (row.scratch)
+        return row.scratch;
+    for (const SRow &other : m_rows) {
+        if (other.scratch && IsSameKind(row.content, other.content))
+            row.scratch = other.scratch;
     }
-    QWidget *scratch = content.type->makeCell(content.wish);
-    m_scratches.emplace_back(&content, scratch);
-    return scratch;
+    if (!row.scratch) {
+        row.scratch = row.content.type->makeCell(row.content.wish);
+        m_scratches.push_back(row.scratch);
+    }
+    return row.scratch;
 }
 
 void CColumnCells::Make()
 {
-    for (const auto &[kind, scratch] : std::exchange(m_scratches, {}))
-        delete scratch;
+    qDeleteAll(std::exchange(m_scratches, {}));
     for (size_t r = 0; r < m_rows.size(); ++r) {
         if (m_rows[r].content.type)
             MakeRow(static_cast<int>(r), m_rows[r]);
@@ -161,6 +174,7 @@ void CColumnCells::MakeRow(int row, SRow &from)
     }
     // The editors have them now.
     from.texts.clear();
+    from.scratch = nullptr;
     from.content.wish = {};
     from.content.defaults = {};
 }
@@ -176,6 +190,6 @@ QWidget *CColumnCells::MakeCell(const SRow &from, int column) const
     QWidget *cell = type.makeCell(wish);
     // An editor starts within the limits of the document, which may be finer than its decimals.
     if (type.text(cell) != text)
-        type.recallCell(cell, text);
+        Recall(type, cell, text);
     return cell;
 }

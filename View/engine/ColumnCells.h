@@ -12,7 +12,6 @@
 //   cells->Text(0, 1, *type);   // "2.25000"
 #pragma once
 
-#include <utility>
 #include <vector>
 
 #include <QJsonArray>
@@ -65,17 +64,18 @@ private:
         SColumnRow content = {};
         QStringList texts = {};  // empty until they are asked for
         bool isShown = false;    // Show has written a text
+        QWidget *scratch = nullptr;
     };
 
     SRow *Row(int row, int column);
     QWidget *Editor(int row, int column, const SDataType &type) const;
     QStringList &Texts(SRow &row);
-    QWidget *Scratch(const SColumnRow &content);
+    QWidget *Scratch(SRow &row);
     void MakeRow(int row, SRow &from);
     QWidget *MakeCell(const SRow &from, int column) const;
 
     const QPointer<QWidget> m_page;
     const QPointer<CEditSession> m_edits;
     std::vector<SRow> m_rows;
-    std::vector<std::pair<const SColumnRow *, QWidget *>> m_scratches;
+    std::vector<QWidget *> m_scratches;
 };

@@ -87,7 +87,8 @@ struct SDataType
     // Gives a cell the value of its wish, as makeCell does, whatever it held before.
     void (*startCell)(QWidget *cell, const SCellWish &wish) = nullptr;
     bool updatesCell = false;  // Update writes it
-    // Brings a cell that Update writes to a text that such a cell held before.
+    // Brings a cell that Update writes to a text that such a cell held before; null where showing
+    // the text does.
     void (*recallCell)(QWidget *cell, const QString &text) = nullptr;
     int columnWidth = 0;  // pixels that it wants; 0: the table's own
     const char *relateCellLog = nullptr;

@@ -120,12 +120,6 @@ void StartNumberCell(QWidget *cell, const SCellWish &wish)
 }
 
 template <typename Box>
-void RecallNumber(QWidget *cell, const QString &text)
-{
-    ShowNumber<Box>(cell, {}, text);
-}
-
-template <typename Box>
 QWidget *MakeNumberCell(const SCellWish &wish)
 {
     const bool asItCame = wish.use == ECellUse::RowAppend;
@@ -241,7 +235,6 @@ SDataType RangeType()
         .cellReadsEntry = true,
         .startCell = StartNumberCell<QSpinBox>,
         .updatesCell = true,
-        .recallCell = RecallNumber<QSpinBox>,
         .relateCellLog = "---> [Value Relevance][type3] Spin Box <---",
         .relateCell = RelateNumberCell<QSpinBox>,
     };
@@ -269,7 +262,6 @@ SDataType PointRangeType()
         .entryLog = "== Has the decimals setting <--- ",
         .startCell = StartNumberCell<QDoubleSpinBox>,
         .updatesCell = true,
-        .recallCell = RecallNumber<QDoubleSpinBox>,
         .relateCellLog = "---> [Value Relevance][type3] Double Spin Box <---",
         .relateCell = RelateNumberCell<QDoubleSpinBox>,
     };

@@ -101,11 +101,6 @@ void StartLabelCell(QWidget *cell, const SCellWish &wish)
     ShowLabel(cell, {}, given ? wish.value.toString() : QStringLiteral("0"));
 }
 
-void RecallLabel(QWidget *cell, const QString &text)
-{
-    ShowLabel(cell, {}, text);
-}
-
 QWidget *MakeLabelCell(const SCellWish &wish)
 {
     auto *label = new QLabel(wish.parent);
@@ -208,7 +203,6 @@ SDataType LabelType()
         .alignment = LabelAlignment,
         .startCell = StartLabelCell,
         .updatesCell = true,
-        .recallCell = RecallLabel,
     };
 }
 
