@@ -21,12 +21,7 @@
 #include <type_traits>
 #include <variant>
 
-enum class ECalValue
-{
-    Number,
-    Db,
-    Volt,
-};
+#include "Operations/calibration/CalValue.h"
 
 // A field of a record, of whatever width.
 class CCalCell

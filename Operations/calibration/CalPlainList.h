@@ -15,7 +15,7 @@
 #include <optional>
 #include <span>
 
-#include "Operations/calibration/CalCells.h"
+#include "Operations/calibration/CalValue.h"
 
 // The number of values that the list has, at most as many as there is room for; what it holds
 // beyond them is not looked at. Nothing when the list is not plain.

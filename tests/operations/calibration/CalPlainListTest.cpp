@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Operations/calibration/CalCells.h"
 #include "Support/WideText.h"
 
 namespace {
