@@ -1,4 +1,4 @@
-// Documents as text. A document crosses threads only as compact JSON in a std::string.
+// Documents as text, the one place where they are printed and parsed.
 //
 // Nothing throws: a text that does not parse, or whose root is no object, gives an empty object.
 //
@@ -12,3 +12,11 @@
 
 QJsonObject ModelFromText(const std::string &text);
 std::string ModelToText(const QJsonObject &document);
+
+// How many documents the calling thread has parsed and printed so far. For tests.
+struct SModelTextCount
+{
+    int parsed = 0;
+    int printed = 0;
+};
+SModelTextCount ModelTextCount();

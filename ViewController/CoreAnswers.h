@@ -8,6 +8,8 @@
 // Given() tell the two apart: an answer that was given before the moment of the question is not for
 // the asker.
 //
+// A document in an answer is parsed on the pool thread that gives it.
+//
 //   connect(&answers, &CCoreAnswers::Signal_TestDone, this, [this, asked = answers.Now()] {
 //       if (CCoreAnswers::Get().Given() > asked) ...
 //   });
@@ -16,6 +18,7 @@
 #include <atomic>
 #include <string>
 
+#include <QJsonObject>
 #include <QObject>
 #include <QString>
 #include <QVector>
@@ -35,6 +38,8 @@ public:
     quint64 Now() const { return m_count.load(); }
     // Of the answer that is being signalled.
     quint64 Given() const { return m_given; }
+    // The document of the answer that is being signalled.
+    QJsonObject Document() const { return m_document; }
 
 signals:
     void Signal_TestDone(SEachItemOperationResult itemResult, std::string resultModel);
@@ -45,6 +50,7 @@ signals:
                                     QVector<SEachItemOperationResult> itemResult);
     void Signal_SaveToFileDone(bool isAllSuccess, QVector<SEachItemOperationResult> itemResult);
     void Signal_LoadFromFileDone(bool isAllSuccess, QVector<SEachItemOperationResult> itemResult);
+    void Signal_CalDocument(QString item, std::string document);
     void Signal_CalProgress(QString item, int round, int routesDone, int routesInAll);
     void Signal_CalRemarks(QString item, SCalRemarks remarks);
 
@@ -55,4 +61,5 @@ private:
 
     std::atomic<quint64> m_count{0};  // answers given so far
     quint64 m_given = 0;
+    QJsonObject m_document;
 };

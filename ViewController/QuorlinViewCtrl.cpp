@@ -3,6 +3,7 @@
 #include <QPointer>
 
 #include "Controller/core/NrCore.h"
+#include "Model/ModelText.h"
 #include "Support/Threads.h"
 
 void CQuorlinViewCtrl::SetTargetHandle(uint32_t handle)
@@ -19,6 +20,11 @@ void CQuorlinViewCtrl::ResetTargetCache()
 {
     ++m_epoch;
     GetCore().ResetTargetCache();
+}
+
+QJsonObject CQuorlinViewCtrl::DocumentOf(const std::string &text) const
+{
+    return m_answered.isEmpty() && !text.empty() ? ModelFromText(text) : m_answered;
 }
 
 void CQuorlinViewCtrl::ReportIdle()

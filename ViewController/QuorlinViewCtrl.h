@@ -15,6 +15,11 @@
 // A calibration request that stores or asks for a record takes the page's packaged document with
 // it; its file, where it has one, lives as long as its flow, whatever becomes of the page.
 //
+// Documents. A page hands over objects: the requests of any page and item, by id. The named ones
+// take text, which is parsed on the pool. A signal carries its document as text; a slot takes the
+// same as an object, which is there already, with DocumentOf. So the GUI thread neither prints nor
+// parses.
+//
 //   connect(ctrl, &CQuorlinViewCtrl::Signal_ContRxTestDone, this, &Page::Slot_ContRxTestDone);
 //   ctrl->ContRxTest(document);
 #pragma once
@@ -22,8 +27,10 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include <QFuture>
+#include <QJsonObject>
 #include <QObject>
 #include <QStringList>
 
@@ -31,6 +38,7 @@
 #include "Controller/core/CalItemTable.h"
 #include "Controller/core/PageId.h"
 #include "Model/CalRemarks.h"
+#include "Model/HandedDocument.h"
 #include "Model/OperationResult.h"
 #include "Support/JobQueue.h"
 
@@ -63,9 +71,22 @@ public:
         Count,
     };
     void RequestDataModel(EPageId page);
-    void RequestTest(EPageId page, std::string document);
+    void RequestTest(EPageId page, CHandedDocument document);
     // path: of the file, of a save or load.
-    void RequestFlow(ECalItem item, ECalFlow flow, std::string document, QString path = {});
+    void RequestFlow(ECalItem item, ECalFlow flow, CHandedDocument document, QString path = {});
+    // Reads beside a page's test, answered by the signals of the named ones below.
+    void RequestDlFreq(EPageId page, CHandedDocument document);
+    void RequestPdValue(EPageId page, CHandedDocument document);
+    void RequestReport(EPageId page, CHandedDocument document);
+    void RequestClear(EPageId page, CHandedDocument document);
+    void RequestGains(EPageId page, CHandedDocument document);
+
+    // In a slot of an answer: its document, whose text is given. Outside one it parses the text.
+    // Empty: no document.
+    QJsonObject DocumentOf(const std::string &text) const;
+    // In a slot of a flow's answer: the document of the request with the record that memory holds
+    // under its selection. Empty: there is nothing to show.
+    QJsonObject FlowDocument() const { return m_answered; }
 
     // Documents, one request a page.
     void GetPuschTxForceDataModel() { RequestDataModel(EPageId::PuschTxForce); }
@@ -112,7 +133,10 @@ public:
     {
         RequestDlFreq(EPageId::PuschTxNormal, std::move(document));
     }
-    void GetSingleToneTxPdValue(std::string document);
+    void GetSingleToneTxPdValue(std::string document)
+    {
+        RequestPdValue(EPageId::SingleToneTx, std::move(document));
+    }
     void RsrpForceFetchReport(std::string document)
     {
         RequestReport(EPageId::RsrpForce, std::move(document));
@@ -122,8 +146,14 @@ public:
         RequestReport(EPageId::RsrpNormal, std::move(document));
     }
     void RsrpResetCounter();
-    void RsrpClearReport(std::string document);
-    void RssiGainCalculator(std::string document);
+    void RsrpClearReport(std::string document)
+    {
+        RequestClear(EPageId::RsrpNormal, std::move(document));
+    }
+    void RssiGainCalculator(std::string document)
+    {
+        RequestGains(EPageId::Rssi, std::move(document));
+    }
 
     // Stops: of the NR tests, and of the multi-RAT ones; under the handle of the last test that was
     // asked for here.
@@ -179,6 +209,9 @@ public:
     // whose selection changes.
     std::string GetCalibrationData(ECalItem item, const std::string &document);
     void SetCalibrationData(ECalItem item, const std::string &document);
+    // Empty: the DUT is of another generation.
+    QJsonObject GetCalibrationData(ECalItem item, const QJsonObject &document);
+    void SetCalibrationData(ECalItem item, const QJsonObject &document);
     std::string GetAptCalibrationData(std::string document)
     {
         return GetCalibrationData(ECalItem::Apt, document);
@@ -263,8 +296,6 @@ private:
 
     struct SPageRequests;  // the requests of one page
     static const SPageRequests &RequestsOf(EPageId page);
-    void RequestReport(EPageId page, std::string document);
-    void RequestDlFreq(EPageId page, std::string document);
     void RequestStop(const char *internalName, EStop kind);
     void PassTestAnswer(EPageId page, const SEachItemOperationResult &result,
                         const std::string &response);
@@ -278,6 +309,9 @@ private:
     void PassFlowAnswer(ECalItem item, ECalFlow flow,
                         const QVector<SEachItemOperationResult> &itemResult);
 
+    template <typename... Answers>
+    void EmitAnswer(void (CQuorlinViewCtrl::*signal)(Answers...), QJsonObject document,
+                    const Answers &...answers);
     template <typename Done, typename... Answers>
     void AwaitAnswer(void (CCoreAnswers::*signal)(Answers...), Done done);
 
@@ -292,6 +326,8 @@ private:
     // Prescribed; see docs/decisions/0036-prescribed-surface.md
     QFuture<void> m_future;
     int m_epoch = 0;                    // changes with a reset
-    std::string m_document;             // of the upload or load that runs, for its done slot
+    std::string m_document;             // of the flow that has ended, for its done slot
+    QJsonObject m_shown;                // the same as an object
+    QJsonObject m_answered;             // of the answer that is being signalled
     std::optional<EPageId> m_testPage;  // whose test was asked for last
 };

@@ -20,7 +20,7 @@ File FileAt(const QString &path)
 
 struct CQuorlinViewCtrl::SCalFlow
 {
-    void (*start)(CNrCore &core, const QStringList &items, File file);
+    void (*start)(CNrCore &core, ECalItem item, const QJsonObject &document, File file);
     void (CCoreAnswers::*coreDone)(bool, QVector<SEachItemOperationResult>);
     bool storesFirst;  // the page's record goes into memory before the flow
     bool hasFile;
@@ -48,26 +48,27 @@ const CQuorlinViewCtrl::SCalFlow &CQuorlinViewCtrl::FlowOf(ECalFlow flow)
 {
     using Core = CCoreAnswers;
     static constexpr std::array<SCalFlow, static_cast<size_t>(ECalFlow::Count)> kFlows = {
-        SCalFlow{.start = [](CNrCore &core, const QStringList &items,
-                             File) { core.UploadFromFlashStart(items); },
+        SCalFlow{.start = [](CNrCore &core, ECalItem item, const QJsonObject &document,
+                             File) { core.UploadFromFlashStart(item, document); },
                  .coreDone = &Core::Signal_UploadFromFlashDone,
                  .storesFirst = false,
                  .hasFile = false},
-        SCalFlow{.start = [](CNrCore &core, const QStringList &items,
-                             File) { core.DownloadToFlashStart(items); },
+        SCalFlow{.start = [](CNrCore &core, ECalItem item, const QJsonObject &document,
+                             File) { core.DownloadToFlashStart(item, document); },
                  .coreDone = &Core::Signal_DownloadToFlashDone,
                  .storesFirst = true,
                  .hasFile = false},
-        SCalFlow{.start = [](CNrCore &core, const QStringList &items,
-                             File file) { core.SaveToFileStart(std::move(file), items); },
+        SCalFlow{.start = [](CNrCore &core, ECalItem item, const QJsonObject &document,
+                             File file) { core.SaveToFileStart(std::move(file), item, document); },
                  .coreDone = &Core::Signal_SaveToFileDone,
                  .storesFirst = true,
                  .hasFile = true},
-        SCalFlow{.start = [](CNrCore &core, const QStringList &items,
-                             File file) { core.LoadFromFileStart(std::move(file), items); },
-                 .coreDone = &Core::Signal_LoadFromFileDone,
-                 .storesFirst = false,
-                 .hasFile = true},
+        SCalFlow{
+            .start = [](CNrCore &core, ECalItem item, const QJsonObject &document,
+                        File file) { core.LoadFromFileStart(std::move(file), item, document); },
+            .coreDone = &Core::Signal_LoadFromFileDone,
+            .storesFirst = false,
+            .hasFile = true},
     };
     return kFlows[static_cast<size_t>(flow)];
 }
@@ -113,6 +114,14 @@ void CQuorlinViewCtrl::AwaitFlow(ECalItem item, ECalFlow flow)
                              const QVector<SEachItemOperationResult> &itemResult) {
                     self->PassFlowAnswer(item, flow, itemResult);
                 });
+    AwaitAnswer(&CCoreAnswers::Signal_CalDocument,
+                [own = CalItemName(item)](CQuorlinViewCtrl *self, const QString &name,
+                                          const std::string &document) {
+                    if (name != own)
+                        return;
+                    self->m_document = document;
+                    self->m_shown = CCoreAnswers::Get().Document();
+                });
     AwaitAnswer(&CCoreAnswers::Signal_CalProgress,
                 [own = CalItemName(item)](CQuorlinViewCtrl *self, const QString &name, int round,
                                           int routesDone, int routesInAll) {
@@ -127,30 +136,32 @@ void CQuorlinViewCtrl::AwaitFlow(ECalItem item, ECalFlow flow)
                 });
 }
 
-void CQuorlinViewCtrl::RequestFlow(ECalItem item, ECalFlow flow, std::string document, QString path)
+void CQuorlinViewCtrl::RequestFlow(ECalItem item, ECalFlow flow, CHandedDocument document,
+                                   QString path)
 {
-    const SCalRequest &request = CalRequest(item, flow);
     File file = FlowOf(flow).hasFile ? FileAt(path) : nullptr;
     AwaitFlow(item, flow);
-    m_document = request.result ? std::string() : document;
-    m_future = StartOnPool([item, flow, job = request.job, &core = GetCore(),
+    m_document.clear();
+    m_shown = {};
+    m_future = StartOnPool([item, flow, job = CalRequest(item, flow).job, &core = GetCore(),
                             file = std::move(file), document = std::move(document), epoch = m_epoch,
                             self = QPointer<CQuorlinViewCtrl>(this)]() mutable {
         qCDebug(lcCore) << job;
-        const QString name = CalItemName(item);
         QString failure;
         try {
+            const QJsonObject object = document.Take();
             if (FlowOf(flow).storesFirst)
-                core.SetCalibrationData(item, document);
-            FlowOf(flow).start(core, {name}, std::move(file));
+                core.SetCalibrationData(item, object);
+            FlowOf(flow).start(core, item, object, std::move(file));
             return;
         } catch (const std::exception &thrown) {
             failure = QString::fromUtf8(thrown.what());
         }
         qCCritical(lcCore) << job << "ended by an exception" << failure;
-        PostToGui([item, flow, self, epoch, name, failure] {
+        PostToGui([item, flow, self, epoch, failure] {
             if (self && self->m_epoch == epoch)
-                self->PassFlowAnswer(item, flow, {{name, eStatusNotExecuted, failure}});
+                self->PassFlowAnswer(item, flow,
+                                     {{CalItemName(item), eStatusNotExecuted, failure}});
         });
     });
 }
@@ -165,15 +176,16 @@ void CQuorlinViewCtrl::PassFlowAnswer(ECalItem item, ECalFlow flow,
         return;
     CCoreAnswers &core = CCoreAnswers::Get();
     disconnect(&core, FlowOf(flow).coreDone, this, nullptr);
+    disconnect(&core, &CCoreAnswers::Signal_CalDocument, this, nullptr);
     disconnect(&core, &CCoreAnswers::Signal_CalProgress, this, nullptr);
     disconnect(&core, &CCoreAnswers::Signal_CalRemarks, this, nullptr);
     const SCalRequest &request = CalRequest(item, flow);
-    if (request.result) {
-        emit(this->*request.result)(answer);
-        return;
-    }
+    QJsonObject shown = std::exchange(m_shown, {});
     const std::string document = std::exchange(m_document, {});
-    emit(this->*request.response)(answer, GetCore().GetCalibrationData(item, document));
+    if (request.result)
+        EmitAnswer(request.result, std::move(shown), answer);
+    else
+        EmitAnswer(request.response, std::move(shown), answer, document);
 }
 
 std::string CQuorlinViewCtrl::GetCalibrationData(ECalItem item, const std::string &document)
@@ -182,6 +194,16 @@ std::string CQuorlinViewCtrl::GetCalibrationData(ECalItem item, const std::strin
 }
 
 void CQuorlinViewCtrl::SetCalibrationData(ECalItem item, const std::string &document)
+{
+    GetCore().SetCalibrationData(item, document);
+}
+
+QJsonObject CQuorlinViewCtrl::GetCalibrationData(ECalItem item, const QJsonObject &document)
+{
+    return GetCore().GetCalibrationData(item, document).value_or(QJsonObject());
+}
+
+void CQuorlinViewCtrl::SetCalibrationData(ECalItem item, const QJsonObject &document)
 {
     GetCore().SetCalibrationData(item, document);
 }

@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <tuple>
+#include <utility>
 
 #include <QPointer>
 
@@ -16,6 +17,7 @@
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
 #include "Support/Threads.h"
+#include "ViewController/AnswerDocument.h"
 #include "ViewController/CoreAnswers.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
@@ -46,12 +48,30 @@ CJobQueue::Job CQuorlinViewCtrl::PoolJob(const char *internalName,
         } catch (...) {
             qCCritical(lcCore) << internalName << "ended by an exception";
         }
-        PostToGui([self, signal, epoch, answers = std::move(answers)] {
-            const auto emitAll = [&](const Answers &...each) { emit(self->*signal)(each...); };
+        QJsonObject document =
+            std::apply([](const Answers &...each) { return ParseDocument(each...); }, answers);
+        PostToGui([self, signal, epoch, document = std::move(document),
+                   answers = std::move(answers)]() mutable {
+            const auto emitAll = [&](const Answers &...each) {
+                self->EmitAnswer(signal, std::move(document), each...);
+            };
             if (self && self->m_epoch == epoch)
                 std::apply(emitAll, answers);
         });
     };
+}
+
+// document: of the answers, for DocumentOf in a slot. This object may be gone behind the signal.
+template <typename... Answers>
+void CQuorlinViewCtrl::EmitAnswer(void (CQuorlinViewCtrl::*signal)(Answers...),
+                                  QJsonObject document, const Answers &...answers)
+{
+    const QPointer<CQuorlinViewCtrl> self(this);
+    // of an event loop around this one
+    QJsonObject outer = std::exchange(m_answered, std::move(document));
+    emit(this->*signal)(answers...);
+    if (self)
+        m_answered = std::move(outer);
 }
 
 template <typename Job, typename... Answers>

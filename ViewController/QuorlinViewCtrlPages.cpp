@@ -108,7 +108,7 @@ void CQuorlinViewCtrl::RequestDataModel(EPageId page)
 }
 
 // The core answers tests through a signal of its own.
-void CQuorlinViewCtrl::RequestTest(EPageId page, std::string document)
+void CQuorlinViewCtrl::RequestTest(EPageId page, CHandedDocument document)
 {
     AwaitAnswer(
         &CCoreAnswers::Signal_TestDone,
@@ -117,9 +117,9 @@ void CQuorlinViewCtrl::RequestTest(EPageId page, std::string document)
     m_testPage = page;
     CNrCore &core = GetCore();
     m_future = StartOnPool([job = RequestsOf(page).testJob, &core, page,
-                            document = std::move(document), asked = core.Moment()] {
+                            document = std::move(document), asked = core.Moment()]() mutable {
         qCDebug(lcCore) << job;
-        core.Test(PageName(page), document, asked);
+        core.Test(PageName(page), std::move(document), asked);
     });
 }
 
@@ -135,17 +135,17 @@ void CQuorlinViewCtrl::PassTestAnswer(EPageId page, const SEachItemOperationResu
     if (row.testDone)
         emit(this->*row.testDone)(result);
     else
-        emit(this->*row.testDoneWithDocument)(result, response);
+        EmitAnswer(row.testDoneWithDocument, CCoreAnswers::Get().Document(), result, response);
 }
 
-void CQuorlinViewCtrl::RequestReport(EPageId page, std::string document)
+void CQuorlinViewCtrl::RequestReport(EPageId page, CHandedDocument document)
 {
     const SPageRequests &row = RequestsOf(page);
     RunOnPool(row.reportJob, row.reportDone,
               [page, document = std::move(document)](CNrCore &core) mutable {
                   SEachItemOperationResult result;
-                  std::string response =
-                      core.FetchMixRxReport(PageName(page), std::move(document), result);
-                  return std::make_tuple(result, std::move(response));
+                  const QJsonObject response =
+                      core.FetchMixRxReport(PageName(page), document.Take(), result);
+                  return std::make_tuple(result, ModelToText(response));
               });
 }

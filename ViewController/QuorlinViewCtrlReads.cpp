@@ -1,21 +1,21 @@
 // Reads beside a test: a page's document goes to the core, and comes back with what was read.
 #include "ViewController/QuorlinViewCtrlJobs.h"
 
-void CQuorlinViewCtrl::RequestDlFreq(EPageId page, std::string document)
+void CQuorlinViewCtrl::RequestDlFreq(EPageId page, CHandedDocument document)
 {
     RunOnPool("GetPuschTxDlFreqInternal", &CQuorlinViewCtrl::Signal_GetPuschTxDlFreqDone,
               [page, document = std::move(document)](CNrCore &core) mutable {
                   return std::make_tuple(
-                      core.GetDlFreqForPuschTx(PageName(page), std::move(document)));
+                      ModelToText(core.GetDlFreqForPuschTx(PageName(page), document.Take())));
               });
 }
 
-void CQuorlinViewCtrl::GetSingleToneTxPdValue(std::string document)
+void CQuorlinViewCtrl::RequestPdValue(EPageId, CHandedDocument document)
 {
     RunOnPool("GetSingleToneTxPdValueInternal",
               &CQuorlinViewCtrl::Signal_GetSingleToneTxPdValueDone,
               [document = std::move(document)](CNrCore &core) mutable {
-                  return std::make_tuple(core.GetPdValue(std::move(document)));
+                  return std::make_tuple(ModelToText(core.GetPdValue(document.Take())));
               });
 }
 
@@ -25,20 +25,20 @@ void CQuorlinViewCtrl::RsrpResetCounter()
               [](CNrCore &core) { return std::make_tuple(core.ResetMixRxCounter()); });
 }
 
-void CQuorlinViewCtrl::RsrpClearReport(std::string document)
+void CQuorlinViewCtrl::RequestClear(EPageId, CHandedDocument document)
 {
     RunOnPool("RsrpClearReportInternal", &CQuorlinViewCtrl::Signal_RsrpClearReportDone,
               [document = std::move(document)](CNrCore &core) mutable {
-                  return std::make_tuple(core.ClearMixRxReport(std::move(document)));
+                  return std::make_tuple(ModelToText(core.ClearMixRxReport(document.Take())));
               });
 }
 
-void CQuorlinViewCtrl::RssiGainCalculator(std::string document)
+void CQuorlinViewCtrl::RequestGains(EPageId, CHandedDocument document)
 {
     RunOnPool("RssiGainCalculatorInternal", &CQuorlinViewCtrl::Signal_RssiGainCalculatorDone,
               [document = std::move(document)](CNrCore &core) mutable {
                   SEachItemOperationResult result;
-                  std::string response = core.RssiGainCalculate(std::move(document), result);
-                  return std::make_tuple(result, std::move(response));
+                  const QJsonObject response = core.RssiGainCalculate(document.Take(), result);
+                  return std::make_tuple(result, ModelToText(response));
               });
 }

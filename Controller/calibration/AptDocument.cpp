@@ -29,14 +29,14 @@ STxPlace ReadTxPlace(const QJsonObject &document, const char *logName)
 
 }  // namespace
 
-std::optional<std::string> ShowAptDocument(const CMultiRatAptProfileV7 &item,
+std::optional<QJsonObject> ShowAptDocument(const CMultiRatAptProfileV7 &item,
                                            const QJsonObject &document, const SSupportedGains &)
 {
     const STxPlace place = ReadTxPlace(document, "GetAptCalibrationData: route ");
     const SAptRouteBwRecord *record = item.GetAptCalibrationData(place.route, place.bwIdx);
     if (!record)
         return std::nullopt;
-    return CCalResponseBuilder().GetAptDataModelV7(document, *record);
+    return CCalResponseBuilder().ShowApt(document, *record);
 }
 
 void StoreAptDocument(CMultiRatAptProfileV7 &item, const QJsonObject &document)

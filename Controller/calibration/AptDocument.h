@@ -3,11 +3,10 @@
 // The rows of the table of calibration items (core/CalItemTable.cpp) call these, under the lock of
 // the item's records.
 //
-//   if (const std::optional<std::string> shown = ShowAptDocument(item, document, {}))
+//   if (const std::optional<QJsonObject> shown = ShowAptDocument(item, document, {}))
 #pragma once
 
 #include <optional>
-#include <string>
 
 #include <QJsonObject>
 
@@ -15,7 +14,7 @@
 #include "Operations/calibration/MultiRatAptProfileV7.h"
 
 // The document with the record in it; none: there is no such record.
-std::optional<std::string> ShowAptDocument(const CMultiRatAptProfileV7 &item,
+std::optional<QJsonObject> ShowAptDocument(const CMultiRatAptProfileV7 &item,
                                            const QJsonObject &document, const SSupportedGains &);
 // Takes what the page shows into the record. A record that was not valid stays so.
 void StoreAptDocument(CMultiRatAptProfileV7 &item, const QJsonObject &document);

@@ -1,5 +1,7 @@
 #include "Controller/calibration/CalResponseBuilder.h"
 
+#include <utility>
+
 #include "Controller/calibration/CalWalks.h"
 #include "Controller/calibration/LossConfig.h"
 #include "Model/ModelText.h"
@@ -28,9 +30,14 @@ QStringList SlotCaptions(const SMMRfRxGainInfoV7 &gains)
 std::string CCalResponseBuilder::GetAptDataModelV7(QJsonObject document,
                                                    SAptRouteBwRecord record) const
 {
+    return ModelToText(ShowApt(std::move(document), record));
+}
+
+QJsonObject CCalResponseBuilder::ShowApt(QJsonObject document, SAptRouteBwRecord record) const
+{
     CCalShow show(document);
     MoveApt(show, record);
-    return ModelToText(document);
+    return document;
 }
 
 const SMMRfRxGainInfoV7 *CCalResponseBuilder::GainsFor(const QJsonObject &document) const
@@ -42,16 +49,16 @@ const SMMRfRxGainInfoV7 *CCalResponseBuilder::GainsFor(const QJsonObject &docume
 std::string CCalResponseBuilder::GetType1PathLossDataModelV7(QJsonObject document,
                                                              SMMType1PathlossByRouteV7 record) const
 {
-    return ShowType1PathLoss(document, record, GainsFor(document));
+    return ModelToText(ShowType1PathLoss(document, record, GainsFor(document)));
 }
 
 std::string CCalResponseBuilder::GetType2PathLossDataModelV7(QJsonObject document,
                                                              SMMType2PathlossByRouteV7 record) const
 {
-    return ShowType2PathLoss(document, record, GainsFor(document));
+    return ModelToText(ShowType2PathLoss(document, record, GainsFor(document)));
 }
 
-std::string CCalResponseBuilder::ShowType1PathLoss(QJsonObject document,
+QJsonObject CCalResponseBuilder::ShowType1PathLoss(QJsonObject document,
                                                    SMMType1PathlossByRouteV7 record,
                                                    const SMMRfRxGainInfoV7 *gains) const
 {
@@ -64,11 +71,11 @@ std::string CCalResponseBuilder::ShowType1PathLoss(QJsonObject document,
     MoveType1(show, record, view);
     if (!gains)
         show.Fail(QString::fromLatin1(mode.noGains));
-    return ModelToText(document);
+    return document;
 }
 
 // Without the supported gains it is not known which gain a column stands for.
-std::string CCalResponseBuilder::ShowType2PathLoss(QJsonObject document,
+QJsonObject CCalResponseBuilder::ShowType2PathLoss(QJsonObject document,
                                                    SMMType2PathlossByRouteV7 record,
                                                    const SMMRfRxGainInfoV7 *gains) const
 {
@@ -80,5 +87,5 @@ std::string CCalResponseBuilder::ShowType2PathLoss(QJsonObject document,
               {mode.half, config.freqIdx, config.path, config.bigG, {}, gains != nullptr});
     if (!gains)
         show.Fail(QStringLiteral("Get gain info failed"));
-    return ModelToText(document);
+    return document;
 }

@@ -48,7 +48,7 @@ void Store(CMultiRatPathLossV7 &item, uint16_t route, const QJsonObject &documen
 
 }  // namespace
 
-std::optional<std::string> ShowPathLossDocument(const CMultiRatPathLossV7 &item,
+std::optional<QJsonObject> ShowPathLossDocument(const CMultiRatPathLossV7 &item,
                                                 const QJsonObject &document,
                                                 const SSupportedGains &gains)
 {

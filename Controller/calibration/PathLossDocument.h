@@ -8,7 +8,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 
 #include <QJsonObject>
 
@@ -16,7 +15,7 @@
 #include "Operations/calibration/MultiRatPathLossV7.h"
 
 // The document with the record in it.
-std::optional<std::string> ShowPathLossDocument(const CMultiRatPathLossV7 &item,
+std::optional<QJsonObject> ShowPathLossDocument(const CMultiRatPathLossV7 &item,
                                                 const QJsonObject &document,
                                                 const SSupportedGains &gains);
 // Takes what the page shows into the record. A record that was not valid stays so.

@@ -15,7 +15,7 @@ std::unique_ptr<ICalItemByL1Operation> Make()
 }
 
 template <typename Item, auto ShowDocument>
-std::optional<std::string> Show(const ICalItemByL1Operation &item, const QJsonObject &document,
+std::optional<QJsonObject> Show(const ICalItemByL1Operation &item, const QJsonObject &document,
                                 const SSupportedGains &gains)
 {
     return ShowDocument(static_cast<const Item &>(item), document, gains);

@@ -10,15 +10,14 @@
 
 #include <memory>
 #include <optional>
-#include <string>
 
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
 #include "Controller/core/PageId.h"
 
 class ICalItemByL1Operation;
-class QJsonObject;
 struct SSupportedGains;
 
 enum class ECalItem
@@ -44,7 +43,7 @@ struct SCalItemRow
     std::unique_ptr<ICalItemByL1Operation> (*make)();
     // show: the document with the record that it selects; none when there is no such record. store:
     // takes what the page shows into that record. The item is one that make has made.
-    std::optional<std::string> (*show)(const ICalItemByL1Operation &item,
+    std::optional<QJsonObject> (*show)(const ICalItemByL1Operation &item,
                                        const QJsonObject &document, const SSupportedGains &gains);
     void (*store)(ICalItemByL1Operation &item, const QJsonObject &document);
 };

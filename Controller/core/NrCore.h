@@ -40,6 +40,7 @@
 #include "Controller/core/PageTable.h"
 #include "Controller/core/RunningTests.h"
 #include "Controller/core/TestSteps.h"
+#include "Model/HandedDocument.h"
 #include "Model/OperationResult.h"
 #include "Operations/calibration/CalItemByL1Operation.h"
 #include "Operations/capability/TargetCapability.h"
@@ -62,6 +63,14 @@ public:
     void DownloadToFlashStart(QStringList items) override;
     void LoadFromFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) override;
     void SaveToFileStart(std::shared_ptr<CCalIniFile> file, QStringList items) override;
+    // The same for a page, with the document that it has packaged: Signal_CalDocument comes before
+    // the answer then, unless a reset came first.
+    void UploadFromFlashStart(ECalItem item, CHandedDocument document);
+    void DownloadToFlashStart(ECalItem item, CHandedDocument document);
+    void LoadFromFileStart(std::shared_ptr<CCalIniFile> file, ECalItem item,
+                           CHandedDocument document);
+    void SaveToFileStart(std::shared_ptr<CCalIniFile> file, ECalItem item,
+                         CHandedDocument document);
     // First stops the tests that run, on the pool. A start that has not reached the target answers
     // 4 and does not go there any more.
     void ResetTargetCache() override;
@@ -84,7 +93,7 @@ public:
     // The same for a question of an earlier moment. A test that was called off since then does not
     // reach the target and answers 4.
     uint64_t Moment() const { return m_runningTests.Moment(); }
-    void Test(QString pageName, std::string document, uint64_t asked);
+    void Test(QString pageName, CHandedDocument document, uint64_t asked);
     // Pool threads only. Stops the page's test, under the handle of its start; for a page without
     // one, and without a page, the last test of that kind, or what runs under the current handle. A
     // test that was stopped since the question, with all others, is not stopped again.
@@ -102,9 +111,15 @@ public:
     // A test runs, or may run after a start that failed at the target.
     bool HasRunningTests() const { return m_runningTests.IsAny(); }
 
-    // Reads beside a test: a document in, the document with what was read out. Pool threads only;
-    // each blocks on the link. On another generation the document comes back as it was, and a
-    // result has status 2.
+    // Reads beside a test: a document in, the document with what was read out, both as objects or
+    // both as text. Pool threads only; each blocks on the link. On another generation the document
+    // comes back as it was, and a result has status 2.
+    QJsonObject GetPdValue(QJsonObject document);
+    QJsonObject GetDlFreqForPuschTx(const QString &pageName, QJsonObject document);
+    QJsonObject FetchMixRxReport(const QString &pageName, QJsonObject document,
+                                 SEachItemOperationResult &result);
+    QJsonObject ClearMixRxReport(QJsonObject document);
+    QJsonObject RssiGainCalculate(QJsonObject document, SEachItemOperationResult &result);
     std::string GetPdValue(std::string document);
     std::string GetDlFreqForPuschTx(QString pageName, std::string document);
     std::string FetchMixRxReport(QString pageName, std::string document,
@@ -115,11 +130,13 @@ public:
 
     // The record of the route that a packaged calibration document selects, between the item's
     // memory and the document: Get answers with the document filled, Set stores what the page
-    // shows. Storing makes no record valid. On another generation Get answers with an empty text
-    // and Set does nothing. Any thread; they work on what is in memory and wait for no job but a
+    // shows. Storing makes no record valid. On another generation Get answers with an empty text, or
+    // with no object, and Set does nothing. Any thread; they work on what is in memory and wait for no job but a
     // flow of their own item, once the page has its document.
     std::string GetCalibrationData(ECalItem item, const std::string &document);
     void SetCalibrationData(ECalItem item, const std::string &document);
+    std::optional<QJsonObject> GetCalibrationData(ECalItem item, const QJsonObject &document);
+    void SetCalibrationData(ECalItem item, const QJsonObject &document);
     std::string GetAptCalibrationData(std::string document)
     {
         return GetCalibrationData(ECalItem::Apt, document);
@@ -150,6 +167,9 @@ signals:
     void Signal_TestDone(SEachItemOperationResult itemResult, std::string resultModel);
     // Prescribed; see docs/decisions/0036-prescribed-surface.md
     void Signal_TestStopDone(SEachItemOperationResult itemResult);
+    // A flow's document with the record that memory holds when it has ended, under the selection of
+    // the document. Empty on another generation.
+    void Signal_CalDocument(QString item, std::string document);
     // isAny: true when the first test starts, false when the last one has ended.
     void Signal_TestsRun(bool isAny);
 
@@ -158,7 +178,7 @@ protected:
     CNrCore();
 
     // Pool side of Test and TestStopStart.
-    void TestInternal(const QString &pageName, const std::string &document, uint64_t asked);
+    void TestInternal(const QString &pageName, CHandedDocument document, uint64_t asked);
     void TestStopInternal(bool isNr, uint64_t asked);
 
     std::string GetDataModelV7(EPageId page);
@@ -188,14 +208,22 @@ private:
     uint32_t SendStop(const STargetStop &stop, QString &message);
     void QueueStops();
     void DropCaches();
-    // Calls read with the parsed document, under the lock, and answers with the document. On
-    // another generation read is not called.
+    // Calls read with the document, under the lock, and answers with it. On another generation read
+    // is not called.
     template <typename Read>
-    std::string FillDocument(const std::string &document, Read read);
+    QJsonObject FillDocument(QJsonObject document, Read read);
 
+    // What a page gets shown behind a flow.
+    struct SCalShow
+    {
+        ECalItem item;
+        CHandedDocument document;
+    };
     void StartFlow(const SCalFlow &flow, const QStringList &items,
-                   std::shared_ptr<CCalIniFile> file);
-    void RunFlow(const SCalFlow &flow, const QStringList &items, std::shared_ptr<CCalIniFile> file);
+                   std::shared_ptr<CCalIniFile> file, std::optional<SCalShow> show = std::nullopt);
+    void RunFlow(const SCalFlow &flow, const QStringList &items, std::shared_ptr<CCalIniFile> file,
+                 std::optional<SCalShow> show);
+    void TellDocument(SCalShow show);
     void RunFlowItems(const SCalFlow &flow, const QStringList &items, CCalIniFile *file);
     // Replaces the items of an earlier connection by empty ones: the records of one DUT are not for
     // the next.
@@ -207,6 +235,9 @@ private:
     // Under m_targetLock.
     void LookForCalItem(ECalItem item);
     SCalView CalView(ECalItem item);
+    // The document with the record that it selects; none when there is no such record.
+    std::optional<QJsonObject> ShowRecord(ECalItem item, const SCalView &view,
+                                          const QJsonObject &document);
     // The status of the move; its text is in m_errorMessage then.
     int RunCalItem(const SCalFlow &flow, ECalItem item, CCalIniFile *file);
 

@@ -2,6 +2,7 @@
 #include "Controller/core/NrCore.h"
 
 #include "Model/ModelText.h"
+#include "Support/Log.h"
 
 namespace {
 
@@ -63,21 +64,55 @@ CNrCore::SCalView CNrCore::CalView(ECalItem item)
     return last();
 }
 
+std::optional<QJsonObject> CNrCore::ShowRecord(ECalItem item, const SCalView &view,
+                                               const QJsonObject &document)
+{
+    const CLockSentry lock(CalItem(item).lock);
+    return FindCalItem(item).show(*CalItem(item).operation, document, view.gains);
+}
+
 std::string CNrCore::GetCalibrationData(ECalItem item, const std::string &document)
 {
-    const QJsonObject object = ModelFromText(document);
     const SCalView view = CalView(item);
     if (view.generation != 1)
         return {};
-    const CLockSentry lock(CalItem(item).lock);
-    return FindCalItem(item).show(*CalItem(item).operation, object, view.gains).value_or(document);
+    const std::optional<QJsonObject> shown = ShowRecord(item, view, ModelFromText(document));
+    return shown ? ModelToText(*shown) : document;
+}
+
+std::optional<QJsonObject> CNrCore::GetCalibrationData(ECalItem item, const QJsonObject &document)
+{
+    const SCalView view = CalView(item);
+    if (view.generation != 1)
+        return std::nullopt;
+    return ShowRecord(item, view, document).value_or(document);
+}
+
+// Under m_targetLock. After a reset nobody asks for it any more, and the items are those of the
+// next DUT.
+void CNrCore::TellDocument(SCalShow show)
+{
+    if (m_areItemsStale.load())
+        return;
+    try {
+        const std::optional<QJsonObject> shown =
+            GetCalibrationData(show.item, show.document.Take());
+        emit Signal_CalDocument(CalItemName(show.item),
+                                shown ? ModelToText(*shown) : std::string());
+    } catch (...) {
+        qCCritical(lcCore) << "[CNrCore] no document behind a flow" << CalItemName(show.item);
+    }
 }
 
 void CNrCore::SetCalibrationData(ECalItem item, const std::string &document)
 {
-    const QJsonObject object = ModelFromText(document);
+    SetCalibrationData(item, ModelFromText(document));
+}
+
+void CNrCore::SetCalibrationData(ECalItem item, const QJsonObject &document)
+{
     if (CalView(item).generation != 1)
         return;
     const CLockSentry lock(CalItem(item).lock);
-    FindCalItem(item).store(*CalItem(item).operation, object);
+    FindCalItem(item).store(*CalItem(item).operation, document);
 }

@@ -91,20 +91,45 @@ void CNrCore::SaveToFileStart(std::shared_ptr<CCalIniFile> file, QStringList ite
     StartFlow(SCalFlow::kSave, items, std::move(file));
 }
 
+void CNrCore::UploadFromFlashStart(ECalItem item, CHandedDocument document)
+{
+    StartFlow(SCalFlow::kUpload, {CalItemName(item)}, nullptr, SCalShow{item, std::move(document)});
+}
+
+void CNrCore::DownloadToFlashStart(ECalItem item, CHandedDocument document)
+{
+    StartFlow(SCalFlow::kDownload, {CalItemName(item)}, nullptr,
+              SCalShow{item, std::move(document)});
+}
+
+void CNrCore::LoadFromFileStart(std::shared_ptr<CCalIniFile> file, ECalItem item,
+                                CHandedDocument document)
+{
+    StartFlow(SCalFlow::kLoad, {CalItemName(item)}, std::move(file),
+              SCalShow{item, std::move(document)});
+}
+
+void CNrCore::SaveToFileStart(std::shared_ptr<CCalIniFile> file, ECalItem item,
+                              CHandedDocument document)
+{
+    StartFlow(SCalFlow::kSave, {CalItemName(item)}, std::move(file),
+              SCalShow{item, std::move(document)});
+}
+
 void CNrCore::StartFlow(const SCalFlow &flow, const QStringList &items,
-                        std::shared_ptr<CCalIniFile> file)
+                        std::shared_ptr<CCalIniFile> file, std::optional<SCalShow> show)
 {
     if (flow.startLog)
         qCDebug(lcCore) << flow.startLog << items.size();
-    StartOnPool([this, &flow, items, file = std::move(file)]() mutable {
-        RunFlow(flow, items, std::move(file));
+    StartOnPool([this, &flow, items, file = std::move(file), show = std::move(show)]() mutable {
+        RunFlow(flow, items, std::move(file), std::move(show));
     });
     if (flow.startLog)
         qCDebug(lcCore).nospace() << flow.startLog << "--";
 }
 
 void CNrCore::RunFlow(const SCalFlow &flow, const QStringList &items,
-                      std::shared_ptr<CCalIniFile> file)
+                      std::shared_ptr<CCalIniFile> file, std::optional<SCalShow> show)
 {
     const CLockSentry lock(m_targetLock);
     ResetItemResults();
@@ -117,6 +142,8 @@ void CNrCore::RunFlow(const SCalFlow &flow, const QStringList &items,
             AddItemResult(item, eStatusNotExecuted, {});
     }
     file.reset();
+    if (show)
+        TellDocument(std::move(*show));
     emit(this->*flow.done)(m_isAllSuccess, m_itemResults);
     qCDebug(lcCore) << flow.endLog;
 }

@@ -1,6 +1,8 @@
 // Reads of the core beside a test: power detector, DL frequency, RSRP report, RSSI gains.
 #include "Controller/core/NrCore.h"
 
+#include <utility>
+
 #include "Model/JsonPath.h"
 #include "Model/ModelIntegrity.h"
 #include "Model/ModelText.h"
@@ -51,18 +53,17 @@ SEachItemOperationResult NothingRan()
 }  // namespace
 
 template <typename Read>
-std::string CNrCore::FillDocument(const std::string &document, Read read)
+QJsonObject CNrCore::FillDocument(QJsonObject document, Read read)
 {
     const CLockSentry lock(m_targetLock);
-    QJsonObject object = ModelFromText(document);
     if (m_target.GetNrGeneration() == 1)
-        read(object);
-    return ModelToText(object);
+        read(document);
+    return document;
 }
 
-std::string CNrCore::GetPdValue(std::string document)
+QJsonObject CNrCore::GetPdValue(QJsonObject document)
 {
-    return FillDocument(document, [this](QJsonObject &object) {
+    return FillDocument(std::move(document), [this](QJsonObject &object) {
         int16_t value = 0;
         const uint32_t status = m_operations.singleToneTx.GetPdValue(kPdNr, &value);
         ShowRead(object, kPdValue, status, QString::number(value * kDbmPerPdUnit, 'g', 6),
@@ -70,9 +71,9 @@ std::string CNrCore::GetPdValue(std::string document)
     });
 }
 
-std::string CNrCore::GetDlFreqForPuschTx(QString pageName, std::string document)
+QJsonObject CNrCore::GetDlFreqForPuschTx(const QString &pageName, QJsonObject document)
 {
-    return FillDocument(document, [this, &pageName](QJsonObject &object) {
+    return FillDocument(std::move(document), [this, &pageName](QJsonObject &object) {
         const bool isNormal = PageByName(pageName) == EPageId::PuschTxNormal;
         const SNrDlFreqCmdV7 command = m_operations.commands.GetPuschDlFreqCmd(object, isNormal);
         SNrDlFreqCnfV7 downlink = {};
@@ -82,11 +83,11 @@ std::string CNrCore::GetDlFreqForPuschTx(QString pageName, std::string document)
     });
 }
 
-std::string CNrCore::FetchMixRxReport(QString pageName, std::string document,
+QJsonObject CNrCore::FetchMixRxReport(const QString &pageName, QJsonObject document,
                                       SEachItemOperationResult &result)
 {
     result = NothingRan();
-    return FillDocument(document, [&](QJsonObject &object) {
+    return FillDocument(std::move(document), [&](QJsonObject &object) {
         NRfTestResult_GetMixRxReportV7 report = {};
         const uint32_t status = m_operations.rsrp.GetMixRxReport(&report);
         if (const auto show = FindPage(PageByName(pageName)).showReport)
@@ -108,17 +109,17 @@ SEachItemOperationResult CNrCore::ResetMixRxCounter()
     return {QString(), static_cast<int>(status), m_operations.rsrp.GetErrorMessage()};
 }
 
-std::string CNrCore::ClearMixRxReport(std::string document)
+QJsonObject CNrCore::ClearMixRxReport(QJsonObject document)
 {
-    return FillDocument(document, [this](QJsonObject &object) {
+    return FillDocument(std::move(document), [this](QJsonObject &object) {
         m_operations.responses.CleanMixRxReportV7(object);
     });
 }
 
-std::string CNrCore::RssiGainCalculate(std::string document, SEachItemOperationResult &result)
+QJsonObject CNrCore::RssiGainCalculate(QJsonObject document, SEachItemOperationResult &result)
 {
     result = NothingRan();
-    return FillDocument(document, [&](QJsonObject &object) {
+    return FillDocument(std::move(document), [&](QJsonObject &object) {
         SMMGainSearchCnfV7 gains = {};
         const uint32_t status = m_operations.rssi.RunGainSearch(
             m_operations.commands.GetGainSearchCmdV7(object), &gains);
@@ -127,4 +128,30 @@ std::string CNrCore::RssiGainCalculate(std::string document, SEachItemOperationR
             result.message = m_operations.rssi.GetErrorMessage();
         m_operations.responses.UpdateRssiGainResultV7(object, gains, status == 0);
     });
+}
+
+std::string CNrCore::GetPdValue(std::string document)
+{
+    return ModelToText(GetPdValue(ModelFromText(document)));
+}
+
+std::string CNrCore::GetDlFreqForPuschTx(QString pageName, std::string document)
+{
+    return ModelToText(GetDlFreqForPuschTx(pageName, ModelFromText(document)));
+}
+
+std::string CNrCore::FetchMixRxReport(QString pageName, std::string document,
+                                      SEachItemOperationResult &result)
+{
+    return ModelToText(FetchMixRxReport(pageName, ModelFromText(document), result));
+}
+
+std::string CNrCore::ClearMixRxReport(std::string document)
+{
+    return ModelToText(ClearMixRxReport(ModelFromText(document)));
+}
+
+std::string CNrCore::RssiGainCalculate(std::string document, SEachItemOperationResult &result)
+{
+    return ModelToText(RssiGainCalculate(ModelFromText(document), result));
 }

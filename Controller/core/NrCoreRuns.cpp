@@ -1,7 +1,7 @@
 // Tests of the core.
 #include "Controller/core/NrCore.h"
 
-#include "Model/ModelText.h"
+#include "Model/HandedDocument.h"
 #include "Support/Log.h"
 #include "Support/Threads.h"
 
@@ -10,14 +10,14 @@ void CNrCore::Test(QString pageName, std::string document)
     Test(std::move(pageName), std::move(document), Moment());
 }
 
-void CNrCore::Test(QString pageName, std::string document, uint64_t asked)
+void CNrCore::Test(QString pageName, CHandedDocument document, uint64_t asked)
 {
-    StartOnPool([this, pageName, document = std::move(document), asked] {
-        TestInternal(pageName, document, asked);
+    StartOnPool([this, pageName, document = std::move(document), asked]() mutable {
+        TestInternal(pageName, std::move(document), asked);
     });
 }
 
-void CNrCore::TestInternal(const QString &pageName, const std::string &document, uint64_t asked)
+void CNrCore::TestInternal(const QString &pageName, CHandedDocument document, uint64_t asked)
 {
     const CLockSentry lock(m_targetLock);
     qCDebug(lcCore) << "CNrCore::Start--> " << pageName;
@@ -27,7 +27,7 @@ void CNrCore::TestInternal(const QString &pageName, const std::string &document,
     STestRun run{
         .page = page.id, .stop = page.stop, .asked = asked, .runningTests = m_runningTests};
     try {
-        status = RunTestStep(page, run, ModelFromText(document));
+        status = RunTestStep(page, run, document.Take());
     } catch (...) {
         qCCritical(lcCore) << "CNrCore::Test ended by an exception" << pageName;
     }

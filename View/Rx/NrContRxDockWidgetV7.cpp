@@ -6,9 +6,9 @@ namespace {
 
 constexpr SStartStopPage kPage = {
     .test = "Cont Rx",
+    .page = EPageId::ContRx,
     .getDataModel = &CQuorlinViewCtrl::GetContRxDataModel,
     .dataModelDone = &CQuorlinViewCtrl::Signal_GetContRxDataModelDone,
-    .start = &CQuorlinViewCtrl::ContRxTest,
     .startDone = &CQuorlinViewCtrl::Signal_ContRxTestDone,
     .startSlot = static_cast<ResultSlot>(&CNrContRxDockWidgetV7::Slot_ContRxTestDone),
     .stop = &CQuorlinViewCtrl::MultiRatTestStop,

@@ -8,7 +8,6 @@
 
 #include "Model/JsonPath.h"
 #include "Model/MemberPath.h"
-#include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
 #include "View/engine/TableGroup.h"
@@ -62,7 +61,7 @@ void CNrRsrpDockWidgetV7::StopAwaiting(SRsrpPage::Signal<Answers...> signal)
     disconnect(ViewCtrl(), signal, this, nullptr);
 }
 
-void CNrRsrpDockWidgetV7::PrepareStart(const std::string &document)
+void CNrRsrpDockWidgetV7::PrepareStart(const QJsonObject &document)
 {
     RequestClear(document);
 }
@@ -102,7 +101,7 @@ void CNrRsrpDockWidgetV7::FetchReport()
     m_isFetching = true;
     m_clearCountAtFetch = m_clearCount;
     Await(m_page.fetchDone, m_page.onFetchDone);
-    (ViewCtrl()->*m_page.fetch)(m_documentText);
+    ViewCtrl()->RequestReport(PageId(), m_reported);
 }
 
 // No box, whatever the result: a dialog at each tick would stop the run.
@@ -157,16 +156,16 @@ void CNrRsrpDockWidgetV7::ClearReport()
     };
     if (!BeginQuietRequest(turnOff))
         return;
-    RequestClear(PackageMemberValue());
+    RequestClear(PackageDocument());
 }
 
-void CNrRsrpDockWidgetV7::RequestClear(const std::string &document)
+void CNrRsrpDockWidgetV7::RequestClear(const QJsonObject &document)
 {
     ++m_clearCount;
     m_isClearing = true;
-    m_documentText = document;
+    m_reported = document;
     Await(&CQuorlinViewCtrl::Signal_RsrpClearReportDone, m_page.onClearDone);
-    ViewCtrl()->RsrpClearReport(document);
+    ViewCtrl()->RequestClear(PageId(), document);
 }
 
 void CNrRsrpDockWidgetV7::OnClearDone(const std::string &response)
@@ -189,14 +188,14 @@ void CNrRsrpDockWidgetV7::OnClearDone(const std::string &response)
 // the rows' cells. False when there is no document in it.
 bool CNrRsrpDockWidgetV7::AdoptReports(const std::string &response)
 {
-    const QJsonObject document = ModelFromText(response);
+    const QJsonObject document = DocumentOf(response);
     if (document.isEmpty())
         return false;
     m_dataModel = document;
     AppendWidget(m_dataModel);
     for (const QTableWidget *table : qAsConst(m_widgets.results))
         DropRowCells(m_dataModel, PathFromObjectName(table->objectName()));
-    m_documentText = ModelToText(m_dataModel);
+    m_reported = m_dataModel;
     return true;
 }
 

@@ -55,7 +55,6 @@ struct SRsrpPage
     const char *testDoneLog;
     const char *stopDoneLog;
 
-    void (CQuorlinViewCtrl::*fetch)(std::string document);
     Signal<SEachItemOperationResult, std::string> fetchDone;
     Slot<SEachItemOperationResult, std::string> onFetchDone;
     const char *fetchDoneLog;
@@ -104,14 +103,14 @@ protected:
     void OnClearDone(const std::string &response);
     void ShowUlFrequency(int dlFrequency);
 
-    void PrepareStart(const std::string &document) override;
+    void PrepareStart(const QJsonObject &document) override;
     void TakeStep(ETestStep step) override;
     void ShowControls() override;
     bool HoldsButtons() const override { return m_isResetting || m_isClearedByUser; }
     bool HoldsInputs() const override { return HoldsButtons(); }
 
 private:
-    void RequestClear(const std::string &document);
+    void RequestClear(const QJsonObject &document);
     bool AdoptReports(const std::string &response);
     void ShapeResults();
     template <typename... Answers>
@@ -122,7 +121,7 @@ private:
     const SRsrpPage &m_page;
     SRsrpWidgets m_widgets = {};
     QTimer m_reportTimer{this};
-    std::string m_documentText;  // m_dataModel from Start on
+    QJsonObject m_reported;  // m_dataModel from Start on, for the next fetch
     bool m_isFetching = false;
     bool m_isClearing = false;
     bool m_isResetting = false;

@@ -13,9 +13,9 @@ constexpr SRsrpPage CNrRsrpForceDockWidgetV7::kPage = {
     .test =
         {
             .test = "Rsrp",
+            .page = EPageId::RsrpForce,
             .getDataModel = &Ctrl::GetRsrpForceDataModel,
             .dataModelDone = &Ctrl::Signal_GetRsrpForceDataModelDone,
-            .start = &Ctrl::RsrpForceTest,
             .startDone = &Ctrl::Signal_RsrpForceTestDone,
             .startSlot = static_cast<ResultSlot>(&Page::Slot_RsrpForceTestDone),
             .stop = &Ctrl::NrTestStop,
@@ -23,7 +23,6 @@ constexpr SRsrpPage CNrRsrpForceDockWidgetV7::kPage = {
         },
     .testDoneLog = "Slot_RsrpForceTestDone",
     .stopDoneLog = "Slot_RsrpForceTestStopDone",
-    .fetch = &Ctrl::RsrpForceFetchReport,
     .fetchDone = &Ctrl::Signal_RsrpForceFetchReportDone,
     .onFetchDone = static_cast<SRsrpPage::Slot<SEachItemOperationResult, std::string>>(
         &Page::Slot_RsrpForceFetchReportDone),

@@ -13,9 +13,9 @@ constexpr SRsrpPage CNrRsrpNormalDockWidgetV7::kPage = {
     .test =
         {
             .test = "Rsrp",
+            .page = EPageId::RsrpNormal,
             .getDataModel = &Ctrl::GetRsrpNormalDataModel,
             .dataModelDone = &Ctrl::Signal_GetRsrpNormalDataModelDone,
-            .start = &Ctrl::RsrpNormalTest,
             .startDone = &Ctrl::Signal_RsrpNormalTestDone,
             .startSlot = static_cast<ResultSlot>(&Page::Slot_RsrpNormalTestDone),
             .stop = &Ctrl::NrTestStop,
@@ -23,7 +23,6 @@ constexpr SRsrpPage CNrRsrpNormalDockWidgetV7::kPage = {
         },
     .testDoneLog = "Slot_RsrpNormalTestDone",
     .stopDoneLog = "Slot_RsrpNormalTestStopDone",
-    .fetch = &Ctrl::RsrpNormalFetchReport,
     .fetchDone = &Ctrl::Signal_RsrpNormalFetchReportDone,
     .onFetchDone = static_cast<SRsrpPage::Slot<SEachItemOperationResult, std::string>>(
         &Page::Slot_RsrpNormalFetchReportDone),

@@ -5,7 +5,6 @@
 #include <QPointer>
 #include <QRegularExpression>
 
-#include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
 #include "View/editors/LateEditors.h"
@@ -80,6 +79,11 @@ void CNrRssiDockWidgetV7::RequestDataModel()
     m_viewCtrl->GetRssiDataModel();
 }
 
+QJsonObject CNrRssiDockWidgetV7::DocumentOf(const std::string &text)
+{
+    return m_viewCtrl->DocumentOf(text);
+}
+
 void CNrRssiDockWidgetV7::DisableTestControls()
 {
     m_ui->m_start->setEnabled(false);
@@ -134,9 +138,9 @@ void CNrRssiDockWidgetV7::on_m_start_clicked()
         return;
     connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiTestDone, this,
             &CNrRssiDockWidgetV7::Slot_RssiTestDone);
-    const std::string document = PackageMemberValue();
+    const QJsonObject document = PackageDocument();
     m_testMark->Package();
-    m_viewCtrl->RssiTest(document);
+    m_viewCtrl->RequestTest(EPageId::Rssi, document);
 }
 
 void CNrRssiDockWidgetV7::on_m_btnRssiSeqSrhCalculator_clicked()
@@ -146,9 +150,9 @@ void CNrRssiDockWidgetV7::on_m_btnRssiSeqSrhCalculator_clicked()
         return;
     connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiGainCalculatorDone, this,
             &CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone);
-    const std::string document = PackageMemberValue();
+    const QJsonObject document = PackageDocument();
     m_calculatorMark->Package();
-    m_viewCtrl->RssiGainCalculator(document);
+    m_viewCtrl->RequestGains(EPageId::Rssi, document);
 }
 
 void CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone(SEachItemOperationResult result,
@@ -179,7 +183,7 @@ void CNrRssiDockWidgetV7::EndAsking(CResultMark &mark, const STexts &texts,
 {
     const QPointer<CNrRssiDockWidgetV7> self(this);
     // A test that did not run answers no document; adopting that would cost the page its own.
-    const QJsonObject response = ModelFromText(responseStr);
+    const QJsonObject response = DocumentOf(responseStr);
     if (!response.isEmpty())
         UpdateWidget(response);
     if (!self)

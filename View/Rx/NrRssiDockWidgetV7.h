@@ -47,6 +47,9 @@ public slots:
     // Nothing to stop. Prescribed; see docs/decisions/0036-prescribed-surface.md
     void Slot_TriggerStopTest() override;
 
+protected:
+    QJsonObject DocumentOf(const std::string &text) override;
+
 private slots:
     void on_m_start_clicked();
     void on_m_btnRssiSeqSrhCalculator_clicked();

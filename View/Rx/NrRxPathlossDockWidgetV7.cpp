@@ -14,34 +14,29 @@ using Page = CNrRxPathlossDockWidgetV7;
 using Ctrl = CQuorlinViewCtrl;
 
 constexpr SCalibrationPage kPage = {
+    .item = ECalItem::PathLoss,
     .getDataModel = &Ctrl::GetPathLossDataModel,
     .dataModelDone = &Ctrl::Signal_GetPathLossDataModelDone,
     .upload =
         {
-            .request = &Ctrl::PathLossUploadFromFlash,
             .done = &Ctrl::Signal_PathLossUploadFromFlashDone,
             .slot = static_cast<CalibrationReadSlot>(&Page::Slot_PathLossUploadFromFlashDone),
         },
     .download =
         {
-            .request = &Ctrl::PathLossDownloadToFlash,
             .done = &Ctrl::Signal_PathLossDownloadToFlashDone,
             .slot = static_cast<CalibrationWriteSlot>(&Page::Slot_PathLossDownloadToFlashDone),
         },
     .load =
         {
-            .request = &Ctrl::PathLossLoadFromFile,
             .done = &Ctrl::Signal_PathLossLoadFromFileDone,
             .slot = static_cast<CalibrationReadSlot>(&Page::Slot_PathLossLoadFromFileDone),
         },
     .save =
         {
-            .request = &Ctrl::PathLossSaveToFile,
             .done = &Ctrl::Signal_PathLossSaveToFileDone,
             .slot = static_cast<CalibrationWriteSlot>(&Page::Slot_PathLossSaveToFileDone),
         },
-    .store = &Ctrl::SetPathLossCalibrationData,
-    .fetch = &Ctrl::GetPathLossCalibrationData,
 };
 
 constexpr int kType1Page = 0;
@@ -117,9 +112,9 @@ void CNrRxPathlossDockWidgetV7::Slot_InitDone()
 }
 
 void CNrRxPathlossDockWidgetV7::Slot_PathLossUploadFromFlashDone(SEachItemOperationResult result,
-                                                                 std::string resultDataModel)
+                                                                 std::string)
 {
-    FinishFlow(ECalibrationFlow::Upload, result, resultDataModel);
+    FinishFlow(ECalibrationFlow::Upload, result);
 }
 
 void CNrRxPathlossDockWidgetV7::Slot_PathLossDownloadToFlashDone(SEachItemOperationResult result)
@@ -128,9 +123,9 @@ void CNrRxPathlossDockWidgetV7::Slot_PathLossDownloadToFlashDone(SEachItemOperat
 }
 
 void CNrRxPathlossDockWidgetV7::Slot_PathLossLoadFromFileDone(SEachItemOperationResult result,
-                                                              std::string resultDataModel)
+                                                              std::string)
 {
-    FinishFlow(ECalibrationFlow::Load, result, resultDataModel);
+    FinishFlow(ECalibrationFlow::Load, result);
 }
 
 void CNrRxPathlossDockWidgetV7::Slot_PathLossSaveToFileDone(SEachItemOperationResult result)

@@ -10,34 +10,29 @@ using Page = CNrAptProfileDockWidgetV7;
 using Ctrl = CQuorlinViewCtrl;
 
 constexpr SCalibrationPage kPage = {
+    .item = ECalItem::Apt,
     .getDataModel = &Ctrl::GetAptDataModel,
     .dataModelDone = &Ctrl::Signal_GetAptDataModelDone,
     .upload =
         {
-            .request = &Ctrl::AptUploadFromFlash,
             .done = &Ctrl::Signal_AptUploadFromFlashDone,
             .slot = static_cast<CalibrationReadSlot>(&Page::Slot_AptUploadFromFlashDone),
         },
     .download =
         {
-            .request = &Ctrl::AptDownloadToFlash,
             .done = &Ctrl::Signal_AptDownloadToFlashDone,
             .slot = static_cast<CalibrationWriteSlot>(&Page::Slot_AptDownloadToFlashDone),
         },
     .load =
         {
-            .request = &Ctrl::AptLoadFromFile,
             .done = &Ctrl::Signal_AptLoadFromFileDone,
             .slot = static_cast<CalibrationReadSlot>(&Page::Slot_AptLoadFromFileDone),
         },
     .save =
         {
-            .request = &Ctrl::AptSaveToFile,
             .done = &Ctrl::Signal_AptSaveToFileDone,
             .slot = static_cast<CalibrationWriteSlot>(&Page::Slot_AptSaveToFileDone),
         },
-    .store = &Ctrl::SetAptCalibrationData,
-    .fetch = &Ctrl::GetAptCalibrationData,
 };
 
 }  // namespace
@@ -83,9 +78,9 @@ void CNrAptProfileDockWidgetV7::Slot_InitDone()
 }
 
 void CNrAptProfileDockWidgetV7::Slot_AptUploadFromFlashDone(SEachItemOperationResult result,
-                                                            std::string resultDataModel)
+                                                            std::string)
 {
-    FinishFlow(ECalibrationFlow::Upload, result, resultDataModel);
+    FinishFlow(ECalibrationFlow::Upload, result);
 }
 
 void CNrAptProfileDockWidgetV7::Slot_AptDownloadToFlashDone(SEachItemOperationResult result)
@@ -94,9 +89,9 @@ void CNrAptProfileDockWidgetV7::Slot_AptDownloadToFlashDone(SEachItemOperationRe
 }
 
 void CNrAptProfileDockWidgetV7::Slot_AptLoadFromFileDone(SEachItemOperationResult result,
-                                                         std::string resultDataModel)
+                                                         std::string)
 {
-    FinishFlow(ECalibrationFlow::Load, result, resultDataModel);
+    FinishFlow(ECalibrationFlow::Load, result);
 }
 
 void CNrAptProfileDockWidgetV7::Slot_AptSaveToFileDone(SEachItemOperationResult result)

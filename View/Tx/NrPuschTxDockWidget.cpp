@@ -8,9 +8,9 @@ SStartStopPage TestOf(const SPuschMode &mode)
 {
     return {
         .test = "Pusch TX",
+        .page = mode.page,
         .getDataModel = mode.getDataModel,
         .dataModelDone = mode.dataModelDone,
-        .start = mode.start,
         .startDone = mode.startDone,
         .startSlot = mode.startSlot,
         .stop = &CQuorlinViewCtrl::NrTestStop,
@@ -23,7 +23,7 @@ STxReading DlFreqOf(const SPuschMode &mode)
     return {
         .startStatus = "Start fetch DL frequence...",
         .doneStatus = "Finish fetch DL frequence.",
-        .request = mode.getDlFreq,
+        .request = &CQuorlinViewCtrl::RequestDlFreq,
         .done = &CQuorlinViewCtrl::Signal_GetPuschTxDlFreqDone,
         .slot = mode.dlFreqSlot,
         .takesTestButtons = true,

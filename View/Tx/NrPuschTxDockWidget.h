@@ -21,13 +21,12 @@
 // What one page has other than its twin.
 struct SPuschMode
 {
+    EPageId page;
     ViewRequest getDataModel;
     TextSignal dataModelDone;
-    DocumentRequest start;
     ResultSignal startDone;
     ResultSlot startSlot;
     ResultSlot stopSlot;
-    DocumentRequest getDlFreq;
     TextSlot dlFreqSlot;
     bool calculateRestsDuringTest;
     bool dlFreqStaysConnected;

@@ -5,14 +5,13 @@
 namespace {
 
 constexpr SPuschMode kMode = {
+    .page = EPageId::PuschTxForce,
     .getDataModel = &CQuorlinViewCtrl::GetPuschTxForceDataModel,
     .dataModelDone = &CQuorlinViewCtrl::Signal_GetPuschTxForceDataModelDone,
-    .start = &CQuorlinViewCtrl::PuschTxForceTest,
     .startDone = &CQuorlinViewCtrl::Signal_PuschTxForceTestDone,
     .startSlot = static_cast<ResultSlot>(&CNrPuschTxForcedDockWidgetV7::Slot_PuschTxForceTestDone),
     .stopSlot =
         static_cast<ResultSlot>(&CNrPuschTxForcedDockWidgetV7::Slot_PuschTxForceTestStopDone),
-    .getDlFreq = &CQuorlinViewCtrl::GetPuschTxForceDlFreq,
     .dlFreqSlot = static_cast<TextSlot>(&CNrPuschTxForcedDockWidgetV7::Slot_PuschTxForceDlFreqDone),
     .calculateRestsDuringTest = false,
     .dlFreqStaysConnected = false,

@@ -5,14 +5,13 @@
 namespace {
 
 constexpr SPuschMode kMode = {
+    .page = EPageId::PuschTxNormal,
     .getDataModel = &CQuorlinViewCtrl::GetPuschTxNormalDataModel,
     .dataModelDone = &CQuorlinViewCtrl::Signal_GetPuschTxNormalDataModelDone,
-    .start = &CQuorlinViewCtrl::PuschTxNormalTest,
     .startDone = &CQuorlinViewCtrl::Signal_PuschTxNormalTestDone,
     .startSlot = static_cast<ResultSlot>(&CNrPuschTxNormalDockWidgetV7::Slot_PuschTxNormalTestDone),
     .stopSlot =
         static_cast<ResultSlot>(&CNrPuschTxNormalDockWidgetV7::Slot_PuschTxNormalTestStopDone),
-    .getDlFreq = &CQuorlinViewCtrl::GetPuschTxNormalDlFreq,
     .dlFreqSlot =
         static_cast<TextSlot>(&CNrPuschTxNormalDockWidgetV7::Slot_PuschTxNormalDlFreqDone),
     .calculateRestsDuringTest = true,

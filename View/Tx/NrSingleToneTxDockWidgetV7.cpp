@@ -6,9 +6,9 @@ namespace {
 
 constexpr SStartStopPage kPage = {
     .test = "Single Tone Tx",
+    .page = EPageId::SingleToneTx,
     .getDataModel = &CQuorlinViewCtrl::GetSingleToneTxDataModel,
     .dataModelDone = &CQuorlinViewCtrl::Signal_GetSingleToneTxDataModelDone,
-    .start = &CQuorlinViewCtrl::SingleToneTxTest,
     .startDone = &CQuorlinViewCtrl::Signal_SingleToneTxTestDone,
     .startSlot = static_cast<ResultSlot>(&CNrSingleToneTxDockWidgetV7::Slot_SingleToneTxTestDone),
     .stop = &CQuorlinViewCtrl::MultiRatTestStop,
@@ -19,7 +19,7 @@ constexpr SStartStopPage kPage = {
 constexpr STxReading kPdValue = {
     .startStatus = "Start fetch PD value...",
     .doneStatus = "Finish fetch PD value.",
-    .request = &CQuorlinViewCtrl::GetSingleToneTxPdValue,
+    .request = &CQuorlinViewCtrl::RequestPdValue,
     .done = &CQuorlinViewCtrl::Signal_GetSingleToneTxPdValueDone,
     .slot = static_cast<TextSlot>(&CNrSingleToneTxDockWidgetV7::Slot_GetSingleToneTxPdValueDone),
     .takesTestButtons = false,

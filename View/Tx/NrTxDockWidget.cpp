@@ -2,7 +2,6 @@
 
 #include <QPushButton>
 
-#include "Model/ModelText.h"
 #include "Support/Log.h"
 
 namespace {
@@ -67,9 +66,9 @@ void CNrTxDockWidget::StartReading()
     if (!BeginRequest(turnOff))
         return;
     connect(ViewCtrl(), m_reading.done, this, m_reading.slot);
-    const std::string document = PackageMemberValue();
+    const QJsonObject document = PackageDocument();
     m_mark->Package();
-    (ViewCtrl()->*m_reading.request)(document);
+    (ViewCtrl()->*m_reading.request)(PageId(), document);
 }
 
 // An answer that comes again must not end the busy state of something else, nor open another box.
@@ -91,7 +90,7 @@ void CNrTxDockWidget::FinishReading(const std::string &resultModel)
     emit Signal_UpdateStatus(QLatin1String(m_reading.doneStatus));
     if (isHere)
         StopIfAsked();
-    const QJsonObject response = ModelFromText(resultModel);
+    const QJsonObject response = DocumentOf(resultModel);
     if (response.isEmpty()) {
         qCCritical(lcForm) << windowTitle() << "the answer of a reading is no document";
         return;

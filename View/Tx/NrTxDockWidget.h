@@ -18,7 +18,7 @@ struct STxReading
 {
     const char *startStatus;
     const char *doneStatus;
-    DocumentRequest request;
+    PageRequest request;
     TextSignal done;
     TextSlot slot;
     // Start and Stop go off with it; the answer turns Start on, and Stop if a test runs.

@@ -9,6 +9,7 @@
 #include <QSpinBox>
 
 #include "Model/JsonPath.h"
+#include "Model/ModelCopy.h"
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
@@ -26,7 +27,7 @@ const QLatin1String
 const QLatin1String kLineBreak("<br>");  // the box shows its text as rich text
 
 // Qt's JSON keeps the bytes of overwritten strings, so a document that is packaged for days is made
-// anew from its text now and then.
+// anew now and then.
 constexpr int kPackagesBetweenRenewals = 256;
 
 void LogFramed(const char *words, const QString &title)
@@ -34,6 +35,11 @@ void LogFramed(const char *words, const QString &title)
     qCDebug(lcEngine) << kHyphens.data();
     qCDebug(lcEngine) << words << title;
     qCDebug(lcEngine) << kHyphens.data();
+}
+
+void LogPackaged(const std::string &text)
+{
+    qCDebug(lcEngine) << "============ [Done] Package MemberValue ============ " << text.c_str();
 }
 
 QString CheckText(int state)
@@ -94,7 +100,7 @@ void CAutoBindingDataModelDockWidget::Slot_GetDataModelDone(std::string dataMode
         qCDebug(lcEngine) << "Without any INIT info, Data Model is empty STRING format.";
         SetGroupBoxFonts(AllWidgets());
     } else {
-        m_dataModel = ModelFromText(dataModelStr);
+        m_dataModel = DocumentOf(dataModelStr);
         InitWidget();
         m_modelReady = true;
         const QPointer<CAutoBindingDataModelDockWidget> self(this);
@@ -156,13 +162,31 @@ void CAutoBindingDataModelDockWidget::AppendWidget(QJsonObject update)
 
 std::string CAutoBindingDataModelDockWidget::PackageMemberValue()
 {
+    Package();
+    const std::string text = ModelToText(m_dataModel);
+    LogPackaged(text);
+    return text;
+}
+
+QJsonObject CAutoBindingDataModelDockWidget::PackageDocument()
+{
+    Package();
+    if (lcEngine().isDebugEnabled())
+        LogPackaged(ModelToText(m_dataModel));
+    return m_dataModel;
+}
+
+void CAutoBindingDataModelDockWidget::Package()
+{
     FinishEdit();
     Walk(kPackageWalk, BindingOf(m_dataModel));
-    const std::string text = ModelToText(m_dataModel);
-    qCDebug(lcEngine) << "============ [Done] Package MemberValue ============ " << text.c_str();
     if (++m_packageCount % kPackagesBetweenRenewals == 0)
-        m_dataModel = ModelFromText(text);
-    return text;
+        m_dataModel = CopyModel(m_dataModel);
+}
+
+QJsonObject CAutoBindingDataModelDockWidget::DocumentOf(const std::string &text)
+{
+    return ModelFromText(text);
 }
 
 void CAutoBindingDataModelDockWidget::Slot_ValueChange(QString currentText)

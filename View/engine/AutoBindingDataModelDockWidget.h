@@ -47,7 +47,7 @@
 //   };
 //   // on Start:
 //   if (BeginRequest([this] { DisableTestControls(); }))
-//       m_viewCtrl->ContRxTest(PackageMemberValue());
+//       m_viewCtrl->RequestTest(EPageId::ContRx, PackageDocument());
 //   // its answer:
 //   EndRequest([this] { EnableTestControls(); });
 #pragma once
@@ -114,14 +114,20 @@ public slots:
     void Slot_PointRangeCheck();
 
 protected:
+    // The document of an answer that came with this text. A page whose view controller has it as an
+    // object already takes that.
+    virtual QJsonObject DocumentOf(const std::string &text);
+
     bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     // When the widget with the focus is turned off, nothing has the focus: a button that got it
     // would be pressed by the next Space.
     bool focusNextPrevChild(bool next) override;
 
-    // The walks, for a page's own actions. The document's text.
-    std::string PackageMemberValue();  // ends the edit under way first
+    // The walks, for a page's own actions. Package ends the edit under way first; the text is
+    // printed for the one who asks for it.
+    std::string PackageMemberValue();
+    QJsonObject PackageDocument();
     void UpdateWidget(QJsonObject update);
     void AppendWidget(QJsonObject update);
 
@@ -178,6 +184,7 @@ private:
     QList<QWidget *> AllWidgets() const;
     SBinding BindingOf(const QJsonObject &update);
     void Publish(ERelevance kind, const QString &currentText);
+    void Package();
     void ShowErrorBox(const QString &text);
 
     // AutoBindingDataModelDockWidgetRequests.cpp

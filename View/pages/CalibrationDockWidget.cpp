@@ -7,7 +7,6 @@
 #include <QDoubleSpinBox>
 #include <QEvent>
 #include <QHeaderView>
-#include <QJsonDocument>
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -151,7 +150,7 @@ bool CCalibrationDockWidget::eventFilter(QObject *object, QEvent *event)
 
 void CCalibrationDockWidget::TakeSnapshot()
 {
-    m_lastDocument = PackageMemberValue();
+    m_lastDocument = PackageDocument();
 }
 
 void CCalibrationDockWidget::ShowSelectionDetails() {}
@@ -165,11 +164,11 @@ bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &sel
         return false;
     qCDebug(lcForm) << log;
     // Without a snapshot there is nothing to store: the user has not been to a selector.
-    if (!m_lastDocument.empty())
-        (m_viewCtrl.get()->*m_page.store)(m_lastDocument);
+    if (!m_lastDocument.isEmpty())
+        m_viewCtrl->SetCalibrationData(m_page.item, m_lastDocument);
     {
         const QScopedValueRollback<bool> boxesWait(m_boxesWait, true);
-        ShowDocument((m_viewCtrl.get()->*m_page.fetch)(PackageMemberValue()));
+        ShowDocument(m_viewCtrl->GetCalibrationData(m_page.item, PackageDocument()));
     }
     ShowSelectionDetails();
     EndRequest([this] { SetButtonsEnabled(true); });
@@ -177,15 +176,19 @@ bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &sel
 }
 
 // A DUT of another generation gives no document; the page then keeps what it has.
-void CCalibrationDockWidget::ShowDocument(const std::string &document)
+void CCalibrationDockWidget::ShowDocument(const QJsonObject &document)
 {
-    if (!document.empty())
-        UpdateWidget(QJsonDocument::fromJson(QByteArray::fromStdString(document)).object());
+    if (!document.isEmpty())
+        UpdateWidget(document);
 }
 
-template <typename Flow, typename... Arguments>
-void CCalibrationDockWidget::StartFlow(ECalibrationFlow kind, const Flow &flow,
-                                       const Arguments &...arguments)
+QJsonObject CCalibrationDockWidget::DocumentOf(const std::string &text)
+{
+    return m_viewCtrl->DocumentOf(text);
+}
+
+template <typename Flow>
+void CCalibrationDockWidget::StartFlow(ECalibrationFlow kind, const Flow &flow, const QString &path)
 {
     m_undo.Forget();
     const auto turnOff = [this] {
@@ -195,7 +198,7 @@ void CCalibrationDockWidget::StartFlow(ECalibrationFlow kind, const Flow &flow,
     if (!BeginRequest(turnOff))
         return;
     qCDebug(lcForm) << Texts(kind).log;
-    const std::string document = PackageMemberValue();
+    const QJsonObject document = PackageDocument();
     m_remarks = {};
     connect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_CalRemarks, this,
             [this](const SCalRemarks &remarks) { m_remarks = remarks; });
@@ -205,7 +208,7 @@ void CCalibrationDockWidget::StartFlow(ECalibrationFlow kind, const Flow &flow,
                 ShowProgress(kind, round, routesDone, routesInAll);
             });
     connect(m_viewCtrl.get(), flow.done, this, flow.slot);
-    (m_viewCtrl.get()->*flow.request)(document, arguments...);
+    m_viewCtrl->RequestFlow(m_page.item, kind, document, path);
 }
 
 void CCalibrationDockWidget::on_m_btnUpload_clicked()
@@ -279,20 +282,16 @@ void CCalibrationDockWidget::EndFlow(ECalibrationFlow flow)
     case ECalibrationFlow::Save:
         EndFlow(m_page.save);
         break;
+    case ECalibrationFlow::Count:
+        break;
     }
-}
-
-bool CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
-                                        const SEachItemOperationResult &result)
-{
-    return FinishFlow(flow, result, (m_viewCtrl.get()->*m_page.fetch)(PackageMemberValue()));
 }
 
 // Whatever has ended the flow, it may have changed what memory holds.
 bool CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
-                                        const SEachItemOperationResult &result,
-                                        const std::string &document)
+                                        const SEachItemOperationResult &result)
 {
+    const QJsonObject document = m_viewCtrl->FlowDocument();
     const QPointer<CCalibrationDockWidget> self(this);
     EndFlow(flow);
     if (!self)

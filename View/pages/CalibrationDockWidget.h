@@ -25,7 +25,10 @@
 // Threads. GUI thread. An answer's connection lives for one flow. Storing and fetching a selection
 // works on the core's copy and does not wait for the target.
 //
-//   constexpr SCalibrationPage kPage = {.getDataModel = &CQuorlinViewCtrl::GetAptDataModel, ...};
+// Documents pass as objects. A change of selection prints and parses none, and neither does the GUI
+// thread at the end of a flow: what memory holds comes from the pool.
+//
+//   constexpr SCalibrationPage kPage = {.item = ECalItem::Apt, ...};
 //   CNrAptProfileDockWidgetV7::CNrAptProfileDockWidgetV7(QWidget *parent)
 //       : CCalibrationDockWidget(kPage, parent), m_ui(...)
 //   {
@@ -42,6 +45,7 @@
 #include <memory>
 #include <string>
 
+#include <QJsonObject>
 #include <QList>
 
 #include "View/engine/AutoBindingDataModelDockWidget.h"
@@ -51,23 +55,16 @@
 class CCalibrationDockWidget;
 class QAbstractButton;
 
-enum class ECalibrationFlow
-{
-    Upload,
-    Download,
-    Load,
-    Save,
-};
+using ECalibrationFlow = CQuorlinViewCtrl::ECalFlow;
 
-// A flow's request, the signal that answers it, and the page's slot for the answer, which a record
-// takes with a static_cast. Arguments: what the request takes behind the document.
-template <typename Answer, typename... Arguments>
+// The signal that answers a flow's request, and the page's slot for the answer, which a record takes
+// with a static_cast.
+template <typename Answer>
 struct SCalibrationFlow;
 
-template <typename... Answers, typename... Arguments>
-struct SCalibrationFlow<void(Answers...), Arguments...>
+template <typename... Answers>
+struct SCalibrationFlow<void(Answers...)>
 {
-    void (CQuorlinViewCtrl::*request)(std::string, Arguments...);
     void (CQuorlinViewCtrl::*done)(Answers...);
     void (CCalibrationDockWidget::*slot)(Answers...);
 };
@@ -79,15 +76,13 @@ using CalibrationWriteSlot = void (CCalibrationDockWidget::*)(SEachItemOperation
 
 struct SCalibrationPage
 {
+    ECalItem item;
     void (CQuorlinViewCtrl::*getDataModel)();
     void (CQuorlinViewCtrl::*dataModelDone)(std::string);
     SCalibrationFlow<CalibrationRead> upload;
     SCalibrationFlow<CalibrationWrite> download;
-    SCalibrationFlow<CalibrationRead, QString> load;
-    SCalibrationFlow<CalibrationWrite, QString> save;
-    // The core's copy under the selection that a document names.
-    void (CQuorlinViewCtrl::*store)(const std::string &);
-    std::string (CQuorlinViewCtrl::*fetch)(std::string);
+    SCalibrationFlow<CalibrationRead> load;
+    SCalibrationFlow<CalibrationWrite> save;
 };
 
 struct SCalibrationForm
@@ -130,14 +125,14 @@ protected:
     // The form's parts, once it is built.
     void SetForm(const SCalibrationForm &form);
 
-    // The answers. False when the flow failed, or the page was destroyed in a box.
+    // The answers, in their slots. False when the flow failed, or the page was destroyed in a box.
     bool FinishFlow(ECalibrationFlow flow, const SEachItemOperationResult &result);
-    bool FinishFlow(ECalibrationFlow flow, const SEachItemOperationResult &result,
-                    const std::string &document);
 
     // For a selector's slot: stores the snapshot and shows the data of the new selection. False
     // when nothing was shown: the page has no document yet, or has left its window.
     bool ChangeSelection(const char *log, const QString &selected);
+
+    QJsonObject DocumentOf(const std::string &text) override;
 
     // A snapshot has been taken, or new data are shown.
     virtual void ShowSelectionDetails();
@@ -152,8 +147,8 @@ protected:
 private:
     struct SFlowTexts;
 
-    template <typename Flow, typename... Arguments>
-    void StartFlow(ECalibrationFlow kind, const Flow &flow, const Arguments &...arguments);
+    template <typename Flow>
+    void StartFlow(ECalibrationFlow kind, const Flow &flow, const QString &path = {});
     template <typename Flow>
     void EndFlow(const Flow &flow);
     void EndFlow(ECalibrationFlow flow);
@@ -165,13 +160,13 @@ private:
     void SetButtonsEnabled(bool isEnabled);
     void TakeSnapshot();
     // The page may be gone when it returns, unless boxes wait.
-    void ShowDocument(const std::string &document);
+    void ShowDocument(const QJsonObject &document);
     // round: the transfer under way, 0 for a file; routesInAll: 0 while that is not known yet.
     void ShowProgress(ECalibrationFlow kind, int round, int routesDone, int routesInAll);
     static const SFlowTexts &Texts(ECalibrationFlow flow);
 
     const SCalibrationPage m_page;
-    std::string m_lastDocument;  // as it stood when the user went to a selector
+    QJsonObject m_lastDocument;  // as it stood when the user went to a selector
     const std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
     SCalibrationForm m_form{};
     CResetUndo m_undo{this, [this] { FinishEdit(); }};

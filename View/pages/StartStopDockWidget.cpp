@@ -149,28 +149,31 @@ QVector<QWidget *> CStartStopDockWidget::RequestEditors() const
     return editors;
 }
 
-void CStartStopDockWidget::PrepareStart(const std::string &) {}
+void CStartStopDockWidget::PrepareStart(const QJsonObject &) {}
+
+QJsonObject CStartStopDockWidget::DocumentOf(const std::string &text)
+{
+    return m_viewCtrl->DocumentOf(text);
+}
 
 void CStartStopDockWidget::StartTest()
 {
     qCDebug(lcForm) << "on_m_start_clicked";
     if (!HasAllChoices() || !BeginRequest([this] { TakeStep(ETestStep::Starting); }))
         return;
-    const std::string document = PackageMemberValue();
+    const QJsonObject document = PackageDocument();
     PrepareStart(document);
-    if (m_page.start) {
+    if (m_page.startDone)
         connect(ViewCtrl(), m_page.startDone, this, m_page.startSlot);
-        (ViewCtrl()->*m_page.start)(document);
-    } else {
+    else
         connect(ViewCtrl(), &CQuorlinViewCtrl::Signal_TestDone, this, m_page.startSlot);
-        ViewCtrl()->RequestTest(m_page.page, document);
-    }
+    ViewCtrl()->RequestTest(m_page.page, document);
 }
 
 void CStartStopDockWidget::FinishStart(const char *slot, const SEachItemOperationResult &result)
 {
     qCDebug(lcForm) << slot;
-    if (m_page.start)
+    if (m_page.startDone)
         disconnect(ViewCtrl(), m_page.startDone, this, nullptr);
     else
         disconnect(ViewCtrl(), &CQuorlinViewCtrl::Signal_TestDone, this, nullptr);

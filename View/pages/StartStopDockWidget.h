@@ -57,21 +57,20 @@ class QPushButton;
 // Requests of the view controller, the signals that answer them, and slots of a page, which a
 // record takes with a static_cast.
 using ViewRequest = void (CQuorlinViewCtrl::*)();
-using DocumentRequest = void (CQuorlinViewCtrl::*)(std::string);
+using PageRequest = void (CQuorlinViewCtrl::*)(EPageId, CHandedDocument);
 using TextSignal = void (CQuorlinViewCtrl::*)(std::string);
 using ResultSignal = void (CQuorlinViewCtrl::*)(SEachItemOperationResult);
 using TextSlot = void (CStartStopDockWidget::*)(std::string);
 using ResultSlot = void (CStartStopDockWidget::*)(SEachItemOperationResult);
 
-// A page without requests of its own asks by its id: page stands for getDataModel, dataModelDone,
-// start and startDone then.
+// Start asks by the page's id. A page without requests of its own leaves out getDataModel,
+// dataModelDone and startDone.
 struct SStartStopPage
 {
     const char *test = nullptr;  // name in status lines and titles
     EPageId page = EPageId::ErrorPage;
     ViewRequest getDataModel = nullptr;
     TextSignal dataModelDone = &CQuorlinViewCtrl::Signal_DataModelDone;
-    DocumentRequest start = nullptr;
     ResultSignal startDone = nullptr;
     ResultSlot startSlot = nullptr;
     ViewRequest stop = nullptr;
@@ -126,7 +125,9 @@ protected:
     virtual bool HoldsButtons() const { return false; }
     virtual bool HoldsInputs() const { return false; }
     // The document is packaged; the start is next.
-    virtual void PrepareStart(const std::string &document);
+    virtual void PrepareStart(const QJsonObject &document);
+
+    QJsonObject DocumentOf(const std::string &text) override;
 
     // From now on Start can be pressed though a test runs, until the test is over.
     void LetStartAgain();
@@ -135,6 +136,7 @@ protected:
     bool IsTestRunning() const { return m_isRunning; }
 
     CQuorlinViewCtrl *ViewCtrl() const { return m_viewCtrl.get(); }
+    EPageId PageId() const { return m_page.page; }
 
 private:
     enum class EUnderWay
