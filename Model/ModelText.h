@@ -13,10 +13,11 @@
 QJsonObject ModelFromText(const std::string &text);
 std::string ModelToText(const QJsonObject &document);
 
-// How many documents the calling thread has parsed and printed so far. For tests.
+// How many documents were parsed and printed so far: by the calling thread, and by all. For tests.
 struct SModelTextCount
 {
     int parsed = 0;
     int printed = 0;
 };
-SModelTextCount ModelTextCount();
+SModelTextCount ModelTextCountHere();
+SModelTextCount ModelTextCountInAll();

@@ -2,6 +2,7 @@
 // own settings: they must be quiet about what is right and must find what is wrong.
 //
 //   HandedRace right    the document is handed to the pool, its answer back: exit 0
+//   HandedRace object   an object that shares its content is written by both ends: exit 0
 //   HandedRace thread   two plain threads write one document
 //   HandedRace pool     a pool's job and the GUI thread write one document
 //   HandedRace qt       a document goes to the pool without any order but Qt's own, and is written
@@ -16,6 +17,7 @@
 #include <thread>
 
 #include <QCoreApplication>
+#include <QJsonObject>
 #include <QThreadPool>
 #include <QtConcurrent>
 
@@ -49,6 +51,38 @@ int HandRight()
         });
     });
     return QCoreApplication::exec();
+}
+
+// What one end has after its writes.
+QJsonObject Written(QJsonObject document, const QString &by, int members)
+{
+    for (int i = 0; i < 20000; ++i) {
+        QJsonObject values = document.value("values").toObject();
+        values.insert(QString::number(i % members), by + QString::number(i / members));
+        document.insert("values", values);
+    }
+    return document;
+}
+
+int HandObject()
+{
+    constexpr int kMembers = 200;
+    QJsonObject values;
+    for (int i = 0; i < kMembers; ++i)
+        values.insert(QString::number(i), "at first");
+    const QJsonObject document{{"values", values}};
+    StartOnPool([document] {
+        const QJsonObject theirs = Written(document, "pool", kMembers);
+        PostToGui([theirs] {
+            const auto isTheirs = theirs.value("values").toObject().value("0") == "pool99";
+            QCoreApplication::exit(isTheirs ? 0 : 1);
+        });
+    });
+    const QJsonObject ours = Written(document, "page", kMembers);
+    const int code = QCoreApplication::exec();
+    const bool isOurs = ours.value("values").toObject().value("0") == "page99" &&
+                        document.value("values").toObject().value("0") == "at first";
+    return isOurs ? code : 1;
 }
 
 int RaceOfThreads()
@@ -93,11 +127,9 @@ int RaceOfCopies()
 int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
-    const std::map<std::string, int (*)()> cases = {{"right", &HandRight},
-                                                    {"thread", &RaceOfThreads},
-                                                    {"pool", &RaceWithAPoolJob},
-                                                    {"qt", &RaceThroughQt},
-                                                    {"copy", &RaceOfCopies}};
+    const std::map<std::string, int (*)()> cases = {
+        {"right", &HandRight},       {"object", &HandObject}, {"thread", &RaceOfThreads},
+        {"pool", &RaceWithAPoolJob}, {"qt", &RaceThroughQt},  {"copy", &RaceOfCopies}};
     const auto found = cases.find(argc == 2 ? argv[1] : "");
     if (found == cases.end())
         return 2;
