@@ -143,7 +143,7 @@ void InitColumnTable(const SBinding &binding, const QString &path, QWidget *widg
         table->verticalHeader()->resizeSection(r, kCellRowHeight);
         InitRow(binding, *cells, table, r, group);
     }
-    table->setHorizontalHeaderLabels(headers);
+    SetColumnHeaders(table, headers);
     table->setVerticalHeaderLabels(group.Captions(group.rows));
 
     const bool narrow = group.columns <= kNarrowColumns;

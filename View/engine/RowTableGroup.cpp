@@ -11,6 +11,7 @@
 #include "View/editors/ExactClass.h"
 #include "View/engine/Binding.h"
 #include "View/engine/RowTableCells.h"
+#include "View/engine/TableCells.h"
 #include "View/engine/TableGroup.h"
 #include "View/engine/TableSize.h"
 
@@ -77,7 +78,7 @@ void InitRowTable(const SBinding &binding, const QString &path, QWidget *widget)
         rowHeaders.append(
             GetJsonValueConst(instances, instance.toString() + QLatin1String(".caption"))
                 .toString());
-    table->setHorizontalHeaderLabels(group.Captions(group.members));
+    SetColumnHeaders(table, group.Captions(group.members));
     table->setVerticalHeaderLabels(rowHeaders);
 
     const bool narrow = group.instances.size() <= kNarrowRows;
@@ -155,7 +156,7 @@ void AppendRowTable(const SBinding &binding, const QString &path, QWidget *widge
         table->clear();
         table->setColumnCount(group.members.size());
         table->setRowCount(0);
-        table->setHorizontalHeaderLabels(group.Captions(group.members));
+        SetColumnHeaders(table, group.Captions(group.members));
         SetFixedTableSize(table, WithRoomForRows(table, FitTableSize(table)));
         qCDebug(lcEngine) << "---> [Append][type2] Clear table.";
         return;

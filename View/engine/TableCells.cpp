@@ -1,5 +1,6 @@
 #include "View/engine/TableCells.h"
 
+#include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <QTableWidget>
 
@@ -29,6 +30,17 @@ void FillPlaces(QTableWidget *table)
     table->setItemDelegate(new CCellDelegate(table));
     if (!CTableKeys::Of(table))
         new CTableKeys(table);
+}
+
+// Qt's header looks for its size anew at each label.
+void SetColumnHeaders(QTableWidget *table, const QStringList &headers)
+{
+    {
+        const QSignalBlocker quiet(table->model());
+        table->setHorizontalHeaderLabels(headers);
+    }
+    if (table->columnCount() > 0)
+        emit table->model()->headerDataChanged(Qt::Horizontal, 0, table->columnCount() - 1);
 }
 
 // A widget with a size of its own is not asked for its best one when it is shown.

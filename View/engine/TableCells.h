@@ -9,10 +9,14 @@
 //   PlaceEditor(table, row, column, type->makeCell(wish));
 #pragma once
 
+#include <QStringList>
+
 class QTableWidget;
 class QWidget;
 
 constexpr int kCellRowHeight = 22;  // pixels
 
 void FillPlaces(QTableWidget *table);
+// At once, from the first column on.
+void SetColumnHeaders(QTableWidget *table, const QStringList &headers);
 void PlaceEditor(QTableWidget *table, int row, int column, QWidget *editor);
