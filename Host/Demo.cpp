@@ -8,12 +8,12 @@
 
 #include "Host/BenchHost.h"
 #include "Host/PluginHandle.h"
+#include "Host/ToolWindow.h"
 
 namespace {
 
 constexpr char kPage[] = "Continuous RX";
 constexpr char kStartButton[] = "m_start";
-constexpr char kStopButton[] = "m_stop";
 constexpr int kTargetOperations = 2;  // a start and a stop
 
 QString PlainText(const QString &text)

@@ -12,7 +12,6 @@
 namespace {
 
 constexpr char kToolWindowName[] = "CQuorlinForm";
-constexpr char kStopButton[] = "m_stop";
 
 }  // namespace
 

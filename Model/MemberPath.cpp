@@ -1,12 +1,5 @@
 #include "Model/MemberPath.h"
 
-namespace {
-
-const QLatin1String kMemberProperty("memberProperty");
-const QLatin1String kMemberValue("memberValue");
-
-}  // namespace
-
 QString PathFromObjectName(const QString &objectName)
 {
     QString path = objectName;

@@ -6,9 +6,6 @@
 
 namespace {
 
-const QLatin1String kMemberValue("memberValue");
-const QLatin1String kMemberProperty("memberProperty");
-
 QString Swapped(QString path, QLatin1String from, QLatin1String to)
 {
     return path.replace(from, to);

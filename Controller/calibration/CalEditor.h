@@ -15,6 +15,12 @@
 #include <QJsonObject>
 #include <QStringList>
 
+// The path of a member of a group, which is a path itself.
+inline QString PropertyPath(const char *group, const QString &member)
+{
+    return QLatin1String(group) + QLatin1String(".memberProperty.") + member;
+}
+
 class CCalEditor
 {
 public:

@@ -15,11 +15,6 @@ QString ValuePath(const char *group, const QString &member)
     return QLatin1String(group) + QLatin1String(".memberValue.") + member;
 }
 
-QString PropertyPath(const char *group, const QString &member)
-{
-    return QLatin1String(group) + QLatin1String(".memberProperty.") + member;
-}
-
 int CountToFirst0(const uint32_t (&freq)[kVondCalMaxSubbands], int length)
 {
     return static_cast<int>(std::find(freq, freq + length, 0u) - freq);

@@ -51,11 +51,6 @@ std::optional<SCalShown> ShownBy(const CCalEditor &editor, ECalText kind)
                      kUnitsADb};
 }
 
-QString PropertyPath(const char *group, const QString &member)
-{
-    return QLatin1String(group) + QLatin1String(".memberProperty.") + member;
-}
-
 // Collects what the fields of a walk show.
 class CFieldFinder : public ICalMove
 {

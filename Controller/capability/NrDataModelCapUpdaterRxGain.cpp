@@ -12,7 +12,7 @@ namespace {
 constexpr int kElnaGains = 7;   // G0 to G6
 constexpr int kGainModes = 3;   // g0 to g2
 constexpr int kLnaColumns = 8;  // of the path loss tables
-constexpr const char *kPowerModes[] = {"HPM", "LPM"};
+constexpr const char *kPowerModeNames[] = {"HPM", "LPM"};
 constexpr char kNoGainInfo[] = "Get RX gain Hpm info failed";
 
 constexpr const char *kLnaMembers[kLnaColumns] = {"lna0", "lna1", "lna2", "lna3",
@@ -82,7 +82,7 @@ bool CNrDataModelCapUpdater::UpdateRSSIGainInfoV7(QJsonObject &doc, const SRxGai
     CTextTable path1;
     QString path0Default;
     for (std::size_t mode = 0; mode < std::size(infos); ++mode) {
-        const QString powerMode = QString::fromLatin1(kPowerModes[mode]);
+        const QString powerMode = QString::fromLatin1(kPowerModeNames[mode]);
         for (int i = 0; i < kElnaGains; ++i) {
             const QStringList modes = GainModes(infos[mode]->t1[i]);
             if (mode == 0 && path0Default.isEmpty())

@@ -20,7 +20,7 @@ uint8_t FourByFourFlag(const QString &text)
 }
 using AsFourByFour = AsConverted<FourByFourFlag>;
 
-constexpr SCommandField<SNrRsrpCommonV7> kReceiver[] = {
+constexpr SCommandField<SNrRsrpCommonV7> kRsrpReceiver[] = {
     Field<&SNrRsrpCommonV7::measCnt, AsNumber>("measCnt"),
     Field<&SNrRsrpCommonV7::dlFrequency, AsNumber>("dlFrequency"),
     Field<&SNrRsrpCommonV7::rxScs, AsScs>("rxScs"),
@@ -31,7 +31,7 @@ constexpr SCommandField<SNrRsrpCommonV7> kReceiver[] = {
 };
 
 // For a transmitter that runs beside the receiver.
-constexpr SCommandField<SNrRsrpCommonV7> kTransmitter[] = {
+constexpr SCommandField<SNrRsrpCommonV7> kRsrpTransmitter[] = {
     Field<&SNrRsrpCommonV7::txPowerValue, AsPower>("txPowerValue"),
     Field<&SNrRsrpCommonV7::vrbStart, AsNumber>("vrbStart"),
     Field<&SNrRsrpCommonV7::vrbLength, AsNumber>("vrbLength"),
@@ -52,9 +52,9 @@ constexpr SCommandField<SNrRsrpCcV7> kNormalReceiver[] = {
 
 void FillCarrier(const CPackagedGroup &rx, const CPackagedGroup &tx, SNrRsrpCommonV7 &carrier)
 {
-    FillFields(kReceiver, rx, carrier);
+    FillFields(kRsrpReceiver, rx, carrier);
     if (carrier.trxMode != 0)
-        FillFields(kTransmitter, tx, carrier);
+        FillFields(kRsrpTransmitter, tx, carrier);
 }
 
 }  // namespace

@@ -8,7 +8,6 @@ namespace {
 
 constexpr char kRequest[] = "cmdIf.request.group1";
 
-constexpr uint32_t kRadioNr = 1;
 constexpr uint32_t kRouteKindPlain = 1;
 constexpr uint32_t kRouteKindGainMode = 3;  // a type 2 route whose gain mode flag is set
 constexpr uint32_t kPathBoth = 3;           // no single path is meant

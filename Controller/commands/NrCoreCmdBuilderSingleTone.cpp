@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr uint32_t kRadioNr = 1;
-
 constexpr SCommandField<SMMSingleToneCmdV7> kTone[] = {
     Field<&SMMSingleToneCmdV7::band, AsBand>("band"),
     Field<&SMMSingleToneCmdV7::txRoute, AsNumber>("txRoute"),

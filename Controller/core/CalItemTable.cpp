@@ -44,7 +44,7 @@ constexpr std::array kCalItems = {
                 .store = &Store<CMultiRatAptProfileV7, StoreAptDocument>},
 };
 
-constexpr bool PositionsAreIds()
+constexpr bool ItemPositionsAreIds()
 {
     for (size_t i = 0; i < kCalItems.size(); ++i) {
         if (Index(kCalItems[i].id) != i)
@@ -52,7 +52,7 @@ constexpr bool PositionsAreIds()
     }
     return kCalItems.size() == kCalItemCount;
 }
-static_assert(PositionsAreIds(), "kCalItems is indexed by item id");
+static_assert(ItemPositionsAreIds(), "kCalItems is indexed by item id");
 
 template <typename Matches>
 std::optional<ECalItem> Find(Matches matches)

@@ -14,6 +14,7 @@
 
 #include <QString>
 
+constexpr uint32_t kRadioNr = 1;       // radioKind of a record
 constexpr double kPowerScale = 256.0;  // dBm in 1/256 dB
 constexpr double kGainScale = 32.0;    // dB in 1/32 dB
 

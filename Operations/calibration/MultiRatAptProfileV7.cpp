@@ -4,7 +4,7 @@
 
 namespace {
 
-QString RefusedText(const SMMCalVerdictV7 &verdict)
+QString AptRefusedText(const SMMCalVerdictV7 &verdict)
 {
     return QStringLiteral("L1 status code = %1 (SUCCESS = 1)\n").arg(verdict.status) +
            VerdictText(verdict.txText);
@@ -17,7 +17,7 @@ CMultiRatAptProfileV7::CMultiRatAptProfileV7(ERadioKind kind)
                             {{"add to upload: current route "},
                              "Failed to get Blk info before reading APT from target: ",
                              "INI file is NULL",
-                             RefusedText},
+                             AptRefusedText},
                             {{&m_area, &m_sections}})
 {
 }

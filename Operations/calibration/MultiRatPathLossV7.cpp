@@ -4,7 +4,7 @@
 
 namespace {
 
-QString RefusedText(const SMMCalVerdictV7 &verdict)
+QString PathLossRefusedText(const SMMCalVerdictV7 &verdict)
 {
     return QStringLiteral("L1 status code = %1 (SUCCESS = 1)\n Type1: ").arg(verdict.status) +
            VerdictText(verdict.type1Text) + QLatin1String("\n Type2: ") +
@@ -19,7 +19,7 @@ CMultiRatPathLossV7::CMultiRatPathLossV7(ERadioKind kind)
           {{"add for upload: T1 current route ", "add for upload: T2 current route "},
            "Failed to get Blk info before reading RX path loss from target: ",
            "",
-           RefusedText},
+           PathLossRefusedText},
           {{&m_type1Area, &m_type1Sections}, {&m_type2Area, &m_type2Sections}})
 {
 }

@@ -9,6 +9,8 @@
 #include "Simulator/profile/Profile.h"
 #include "Vond/VondCommandRecords.h"
 
+constexpr uint8_t kHighestSlotFormat = 55;
+
 // An RX route as a command names it.
 struct SRxRouteChoice
 {

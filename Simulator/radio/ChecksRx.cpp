@@ -7,7 +7,6 @@
 namespace {
 
 constexpr uint8_t kMostMeasurements = 10;
-constexpr uint8_t kHighestSlotFormat = 55;
 
 // The parts that the gain blocks of continuous RX and RSSI have in common, by field name.
 template <class Single>

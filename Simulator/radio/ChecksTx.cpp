@@ -5,7 +5,6 @@
 namespace {
 
 constexpr uint16_t kHighestCellId = 1007;
-constexpr uint8_t kHighestSlotFormat = 55;
 constexpr int32_t kWidestToneOffset = 540;  // kHz
 
 SVerdict CheckPuschCarrier(const SProfile &profile, const SNrPuschCcV7 &carrier, bool forced)

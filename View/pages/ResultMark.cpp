@@ -7,11 +7,10 @@
 #include <QSpinBox>
 #include <QTableWidget>
 
+#include "Model/MemberPath.h"
 #include "View/editors/LateEditors.h"
 
 namespace {
-
-const QLatin1String kRequestName("cmdIf_request_");
 
 // The table's cells, or the widget itself.
 QList<QWidget *> Parts(QWidget *widget)

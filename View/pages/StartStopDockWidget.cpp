@@ -9,8 +9,6 @@
 
 namespace {
 
-const QLatin1String kRequestName("cmdIf_request_");
-
 // The widget's own flag, whatever its page's: a page is off as a whole while another is on top.
 bool IsOn(const QWidget *widget)
 {
