@@ -79,6 +79,19 @@ function(quorlin_precompile target kind)
   target_precompile_headers(${target} REUSE_FROM ${holder})
 endfunction()
 
+# With QUORLIN_UNITY the sources of a folder are compiled as one: half of what the compiler does for a
+# source it does for the headers, and then only once. So names of unnamed namespaces differ within a folder.
+# Pages stay apart, which are twins and name their parts alike. Presets without it compile each source by
+# itself, which has to include what it needs.
+function(quorlin_unite target sources)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ${QUORLIN_UNITY} UNITY_BUILD_MODE GROUP)
+  foreach(source IN LISTS sources)
+    get_filename_component(folder ${source} DIRECTORY)
+    string(MAKE_C_IDENTIFIER "${target}/${folder}" group)
+    set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${group})
+  endforeach()
+endfunction()
+
 # A module: one folder, one static library. Its headers are found by their folder's name
 # ("Model/JsonPath.h"); scripts/static-checks.sh holds its includes to the arrows between the folders.
 #   DEPENDS          modules and libraries that its headers show
@@ -89,6 +102,7 @@ function(quorlin_module)
   target_include_directories(${M_NAME} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(${M_NAME} PUBLIC ${M_DEPENDS} PRIVATE ${M_PRIVATE_DEPENDS})
   quorlin_precompile(${M_NAME} product)
+  quorlin_unite(${M_NAME} "${M_SOURCES}")
 endfunction()
 
 # A page: adds its header, source and Designer form to the module of the folder it lies in. The module

@@ -119,9 +119,9 @@ check_circles() {
 }
 
 # Sources that clang-tidy looks at: a changed header stands for the source of its name. Only what
-# the build compiles.
+# the build compiles, by the commands of the folder.
 tidy_sources() {
-    local file
+    local folder=$1 file
     if [ "$tidy_base" = all ]; then
         printf '%s\n' "${sources[@]}"
     else
@@ -129,16 +129,43 @@ tidy_sources() {
         project_git ls-files --others --exclude-standard
     fi | sed -n 's/\.\(cpp\|h\)$/.cpp/p' | grep -v '^\(tests\|bench\)/' | sort -u |
         while read -r file; do
-            ! grep -qF "\"file\": \"$PWD/$file\"" build/release/compile_commands.json ||
+            ! grep -qF "\"file\": \"$PWD/$file\"" "$folder/compile_commands.json" ||
                 echo "$PWD/$file"
         done
 }
 
 # GCC's precompiled headers mean nothing to clang: the commands are copied without them. Clang counts a
-# change of sign as a conversion, GCC does not.
+# change of sign as a conversion, GCC does not. Where the build compiles a folder as one, each source gets
+# that command for itself.
 tidy_commands() {
     sed -E -e 's/ -Winvalid-pch//g' -e 's/ -Wconversion/& -Wno-sign-conversion/g' -e 's/ -include [^ "]*cmake_pch\.hxx//g' \
-        build/release/compile_commands.json >"$1/compile_commands.json"
+        build/release/compile_commands.json | each_source_alone >"$1/compile_commands.json"
+}
+
+each_source_alone() {
+    awk '
+        function entry(file, command, at) {
+            if ((at = index(command, " -c " whole)) > 0)
+                command = substr(command, 1, at - 1) " -c " file substr(command, at + 4 + length(whole))
+            printf "%s{\n%s\n%s\n  \"file\": \"%s\"\n}", comma, directory, command, file
+            comma = ",\n"
+        }
+        BEGIN { print "[" }
+        /^ *"directory": / { directory = $0 }
+        /^ *"command": / { command = $0 }
+        /^ *"file": / {
+            whole = $0
+            gsub(/^ *"file": "|",?$/, "", whole)
+            if (whole !~ /\/Unity\/unity_[^\/]*$/)
+                entry(whole, command)
+            else
+                while ((getline line <whole) > 0)
+                    if (line ~ /^#include "/) {
+                        gsub(/^#include "|"$/, "", line)
+                        entry(line, command)
+                    }
+        }
+        END { print "\n]" }'
 }
 
 # Runs a checker on the changed sources: its name, the program that must be there, and the command that
@@ -153,11 +180,14 @@ check_changed() {
         echo "Skipped: there is no commit $tidy_base to compare with (a shallow clone?)."
         return 0
     fi
-    mapfile -t files < <(tidy_sources)
-    echo "${#files[@]} files"
-    [ "${#files[@]}" -gt 0 ] || return 0
     folder=$(mktemp -d)
     tidy_commands "$folder"
+    mapfile -t files < <(tidy_sources "$folder")
+    echo "${#files[@]} files"
+    if [ "${#files[@]}" -eq 0 ]; then
+        rm -r "$folder"
+        return 0
+    fi
     "$command" "$folder" "${files[@]}" >"$folder/out" 2>&1 || good=false
     $good || grep -v -e 'warnings\? generated' -e '^clang-tidy-14 ' "$folder/out" >&2
     rm -r "$folder"
