@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int kEditorRows = 256;  // newest rows that hold editors
+constexpr int kEditorRows = 64;  // newest rows that hold editors: more than a page shows
 constexpr Qt::Alignment kUsualAlignment = Qt::AlignLeft | Qt::AlignVCenter;
 
 // An item of the table that looks like the editor would.

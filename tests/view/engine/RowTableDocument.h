@@ -12,7 +12,7 @@
 #include "tests/view/engine/TestDocument.h"
 
 constexpr char kRowTable[] = "response.group1.label";  // the table bears its first member's name
-constexpr int kEditorRows = 256;                       // newest rows that hold editors
+constexpr int kEditorRows = 64;                        // newest rows that hold editors
 
 CTestDocument RowDocument(const QVector<QStringList> &rows,
                           const QMap<QString, QString> &captions = {});
