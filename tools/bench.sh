@@ -49,6 +49,7 @@ done
 if [ -n "$against" ] && ! compgen -G "$against/bin/*Bench" >/dev/null; then
     usage "$against is no build folder: it has no bin/*Bench."
 fi
+[ -z "$against" ] || against=$(realpath "$against")
 all=false
 if [ "${#programs[@]}" -eq 0 ]; then
     all=true
