@@ -138,10 +138,11 @@ QTableWidget *Shape(QTableWidget *table, const STable &like)
     return table;
 }
 
+// A child of the viewport from the start: the table would make it one, at a cost of its own.
 template <typename Box>
 QWidget *BareEditor(QTableWidget *table)
 {
-    auto *box = new Box(table);
+    auto *box = new Box(table->viewport());
     box->setRange(-100, 100);
     box->setValue(1);
     box->setButtonSymbols(QAbstractSpinBox::NoButtons);
