@@ -13,4 +13,5 @@ class QAbstractSpinBox;
 class QWidget;
 
 void TellRefusedKeys(QAbstractSpinBox *box);
+// Of an editor that is not visible nobody sees any.
 void ShowLimitTip(QWidget *editor, const QString &limits);
