@@ -39,6 +39,11 @@ CColumnCells::CColumnCells(QTableWidget *table, QWidget *page, CEditSession *edi
 {
 }
 
+CColumnCells::~CColumnCells()
+{
+    RemoveScratches();
+}
+
 CColumnCells *CColumnCells::Of(const QWidget *table)
 {
     return static_cast<CColumnCells *>(CLateEditors::Of(table));
@@ -147,9 +152,19 @@ QWidget *CColumnCells::Scratch(SRow &row)
     return row.scratch;
 }
 
+// The table may have gone before, and they with it. A walk over all widgets of the page may still
+// come to them.
+void CColumnCells::RemoveScratches()
+{
+    for (const QPointer<QWidget> &scratch : std::exchange(m_scratches, {})) {
+        if (scratch)
+            scratch->deleteLater();
+    }
+}
+
 void CColumnCells::Make()
 {
-    qDeleteAll(std::exchange(m_scratches, {}));
+    RemoveScratches();
     for (size_t r = 0; r < m_rows.size(); ++r) {
         if (m_rows[r].content.type)
             MakeRow(static_cast<int>(r), m_rows[r]);

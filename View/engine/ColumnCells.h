@@ -40,6 +40,7 @@ class CColumnCells : public CLateEditors
 public:
     // page has the slots of range checks, edits watches the editors; both may go before the table.
     CColumnCells(QTableWidget *table, QWidget *page, CEditSession *edits);
+    ~CColumnCells() override;
 
     // Null when the table has no such cells.
     static CColumnCells *Of(const QWidget *table);
@@ -71,11 +72,12 @@ private:
     QWidget *Editor(int row, int column, const SDataType &type) const;
     QStringList &Texts(SRow &row);
     QWidget *Scratch(SRow &row);
+    void RemoveScratches();
     void MakeRow(int row, SRow &from);
     QWidget *MakeCell(const SRow &from, int column) const;
 
     const QPointer<QWidget> m_page;
     const QPointer<CEditSession> m_edits;
     std::vector<SRow> m_rows;
-    std::vector<QWidget *> m_scratches;
+    std::vector<QPointer<QWidget>> m_scratches;  // one a kind of row
 };
