@@ -141,7 +141,7 @@ bool CCalibrationDockWidget::eventFilter(QObject *object, QEvent *event)
 {
     if (!m_modelReady)
         return true;
-    if (MayComeBeforeAChange(event->type())) {
+    if (MayComeBeforeAChange(event->type()) && !m_hasSnapshot) {
         TakeSnapshot();
         ShowSelectionDetails();
     }
@@ -287,27 +287,39 @@ void CCalibrationDockWidget::EndFlow(ECalibrationFlow flow)
     }
 }
 
-// Whatever has ended the flow, it may have changed what memory holds.
-bool CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
+// Whatever has ended the flow, it may have changed what memory holds. The page is still off while
+// that is shown; it goes on with an event of its own, so that neither is long.
+void CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
                                         const SEachItemOperationResult &result)
 {
-    const QJsonObject document = m_viewCtrl->FlowDocument();
+    // A reset between the two takes the page out of its window.
+    const auto goOn = [this, flow, result, window = parentWidget()] {
+        if (parentWidget() == window)
+            GoOnAfter(flow, result);
+    };
+    QMetaObject::invokeMethod(this, goOn, Qt::QueuedConnection);
+    const QScopedValueRollback<bool> boxesWait(m_boxesWait, true);
+    ShowDocument(m_viewCtrl->FlowDocument());
+}
+
+void CCalibrationDockWidget::GoOnAfter(ECalibrationFlow flow,
+                                       const SEachItemOperationResult &result)
+{
     const QPointer<CCalibrationDockWidget> self(this);
+    TakeSnapshot();
+    m_hasSnapshot = true;  // the focus comes back
     EndFlow(flow);
     if (!self)
-        return false;
-    {
-        const QScopedValueRollback<bool> boxesWait(m_boxesWait, true);
-        ShowDocument(document);
-    }
-    TakeSnapshot();
+        return;
+    m_hasSnapshot = false;
     ShowSelectionDetails();
-    const bool isDone = result.status == eStatusSuccess;
     const SFlowTexts &texts = Texts(flow);
-    emit Signal_UpdateStatus(isDone ? QString(QLatin1String(texts.done))
-                                    : QLatin1String(texts.failed) + QLatin1Char('.'));
-    ShowOutcome(texts, result, std::exchange(m_remarks, {}));
-    return self && isDone;
+    if (result.status == eStatusSuccess)
+        emit Signal_UpdateStatus(QLatin1String(texts.done));
+    else
+        emit Signal_UpdateStatus(QLatin1String(texts.failed) + QLatin1Char('.'));
+    if (self)
+        ShowOutcome(texts, result, std::exchange(m_remarks, {}));
 }
 
 // The page may be gone when a box has closed.

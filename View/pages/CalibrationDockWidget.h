@@ -125,8 +125,8 @@ protected:
     // The form's parts, once it is built.
     void SetForm(const SCalibrationForm &form);
 
-    // The answers, in their slots. False when the flow failed, or the page was destroyed in a box.
-    bool FinishFlow(ECalibrationFlow flow, const SEachItemOperationResult &result);
+    // The answers, in their slots: shows what memory holds, then ends the flow.
+    void FinishFlow(ECalibrationFlow flow, const SEachItemOperationResult &result);
 
     // For a selector's slot: stores the snapshot and shows the data of the new selection. False
     // when nothing was shown: the page has no document yet, or has left its window.
@@ -152,6 +152,7 @@ private:
     template <typename Flow>
     void EndFlow(const Flow &flow);
     void EndFlow(ECalibrationFlow flow);
+    void GoOnAfter(ECalibrationFlow flow, const SEachItemOperationResult &result);
     // The file that the user chooses; empty when the dialog was cancelled, which has been said
     // then.
     QString AskFile(bool isSave);
@@ -167,6 +168,7 @@ private:
 
     const SCalibrationPage m_page;
     QJsonObject m_lastDocument;  // as it stood when the user went to a selector
+    bool m_hasSnapshot = false;  // it was taken in this event
     const std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
     SCalibrationForm m_form{};
     CResetUndo m_undo{this, [this] { FinishEdit(); }};

@@ -267,6 +267,15 @@ void PageDocumentTest::pageMayGoWhileAReadFills()
     QVERIFY(QThreadPool::globalInstance()->waitForDone(kLongMs));
     page.reset();
     QCoreApplication::processEvents();
+
+    // The answer is shown, and the page has not gone on yet.
+    page = std::make_unique<CShown<CNrRxPathlossDockWidgetV7>>();
+    QVERIFY(page->IsReady());
+    QVERIFY(QMetaObject::invokeMethod(page.get(), "Slot_PathLossUploadFromFlashDone",
+                                      Q_ARG(SEachItemOperationResult, SEachItemOperationResult()),
+                                      Q_ARG(std::string, std::string())));
+    page.reset();
+    QCoreApplication::processEvents();
 }
 
 QTEST_MAIN(PageDocumentTest)
