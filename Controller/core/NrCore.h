@@ -223,7 +223,7 @@ private:
                    std::shared_ptr<CCalIniFile> file, std::optional<SCalShow> show = std::nullopt);
     void RunFlow(const SCalFlow &flow, const QStringList &items, std::shared_ptr<CCalIniFile> file,
                  std::optional<SCalShow> show);
-    void TellDocument(SCalShow show);
+    void TellDocument(std::optional<SCalShow> show);
     void RunFlowItems(const SCalFlow &flow, const QStringList &items, CCalIniFile *file);
     // Replaces the items of an earlier connection by empty ones: the records of one DUT are not for
     // the next.

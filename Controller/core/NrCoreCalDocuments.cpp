@@ -90,17 +90,17 @@ std::optional<QJsonObject> CNrCore::GetCalibrationData(ECalItem item, const QJso
 
 // Under m_targetLock. After a reset nobody asks for it any more, and the items are those of the
 // next DUT.
-void CNrCore::TellDocument(SCalShow show)
+void CNrCore::TellDocument(std::optional<SCalShow> show)
 {
-    if (m_areItemsStale.load())
+    if (!show || m_areItemsStale.load())
         return;
     try {
         const std::optional<QJsonObject> shown =
-            GetCalibrationData(show.item, show.document.Take());
-        emit Signal_CalDocument(CalItemName(show.item),
+            GetCalibrationData(show->item, show->document.Take());
+        emit Signal_CalDocument(CalItemName(show->item),
                                 shown ? ModelToText(*shown) : std::string());
     } catch (...) {
-        qCCritical(lcCore) << "[CNrCore] no document behind a flow" << CalItemName(show.item);
+        qCCritical(lcCore) << "[CNrCore] no document behind a flow" << CalItemName(show->item);
     }
 }
 

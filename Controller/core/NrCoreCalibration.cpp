@@ -142,8 +142,7 @@ void CNrCore::RunFlow(const SCalFlow &flow, const QStringList &items,
             AddItemResult(item, eStatusNotExecuted, {});
     }
     file.reset();
-    if (show)
-        TellDocument(std::move(*show));
+    TellDocument(std::move(show));
     emit(this->*flow.done)(m_isAllSuccess, m_itemResults);
     qCDebug(lcCore) << flow.endLog;
 }
