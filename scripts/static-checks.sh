@@ -75,7 +75,8 @@ View/Rx View/pages|View/engine|View/editors|Model|Support|ViewController
 View/Tx View/pages|View/engine|View/editors|Model|Support|ViewController
 PluginInterface View|Support
 Host PluginInterface
-Simulator Vond
+Trace Vond
+Simulator Trace|Vond
 END
     while read -r folder allowed; do
         look_at_includes "$folder" "${folder%%/*}/" "($folder/${allowed:+|$allowed})" || good=false
@@ -87,6 +88,7 @@ Controller/commands Controller/(Interface|fields)/
 Controller/responses Controller/(Interface|fields)/
 Controller/calibration Controller/(Interface|fields)/
 Controller/core Controller/
+Trace/dictionary
 Simulator/basis
 Simulator/faults Simulator/basis/
 Simulator/profile Simulator/(basis|faults)/

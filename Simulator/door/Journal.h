@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "Simulator/VondSim.h"
-#include "Simulator/basis/Functions.h"
+#include "Trace/dictionary/Functions.h"
 
 struct SJournalEntry
 {

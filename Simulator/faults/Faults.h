@@ -16,7 +16,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "Simulator/basis/Functions.h"
+#include "Trace/dictionary/Functions.h"
 
 enum class EFaultKind
 {

@@ -13,7 +13,7 @@
 #include <cstdint>
 #include <mutex>
 
-#include "Simulator/basis/Functions.h"
+#include "Trace/dictionary/Functions.h"
 
 class CGates
 {

@@ -2,10 +2,10 @@
 // ParseProfile alone; failures are std::runtime_error that name the place.
 #pragma once
 
-#include "Simulator/basis/Functions.h"
 #include "Simulator/basis/JsonReader.h"
 #include "Simulator/faults/Faults.h"
 #include "Simulator/profile/Profile.h"
+#include "Trace/dictionary/Functions.h"
 
 void ReadBands(CJsonReader &reader, SProfile &profile);
 // Routes, their frequency limits and the "generate" rule; needs the bands.

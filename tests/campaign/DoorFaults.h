@@ -15,7 +15,7 @@
 
 #include <QString>
 
-#include "Simulator/basis/Functions.h"
+#include "Trace/dictionary/Functions.h"
 
 enum class EFault
 {

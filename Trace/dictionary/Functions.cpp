@@ -1,4 +1,4 @@
-#include "Simulator/basis/Functions.h"
+#include "Trace/dictionary/Functions.h"
 
 #include <array>
 
