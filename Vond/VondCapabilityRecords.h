@@ -33,8 +33,6 @@ struct SVondCapabilityReq
     uint32_t calibrationSize;  // bytes
 };
 VOND_SIZE(SVondCapabilityReq, 8);
-VOND_OFFSET(SVondCapabilityReq, capabilitySize, 0);
-VOND_OFFSET(SVondCapabilityReq, calibrationSize, 4);
 
 // Answer of VOND_ERf_GetRfCapability_r.
 struct SERfCapability
@@ -44,9 +42,6 @@ struct SERfCapability
     uint8_t reserved12[236];
 };
 VOND_SIZE(SERfCapability, 248);
-VOND_OFFSET(SERfCapability, reserved0, 0);
-VOND_OFFSET(SERfCapability, rfChipId, 8);
-VOND_OFFSET(SERfCapability, reserved12, 12);
 
 constexpr uint32_t kVondRatNr = 0x40;  // bit of NR in the value of the world mode word
 
@@ -58,9 +53,6 @@ struct SMMRfCapability
     uint8_t reserved48[96];
 };
 VOND_SIZE(SMMRfCapability, 144);
-VOND_OFFSET(SMMRfCapability, reserved0, 0);
-VOND_OFFSET(SMMRfCapability, worldMode, 44);
-VOND_OFFSET(SMMRfCapability, reserved48, 48);
 
 // Answer of VOND_NRf_GetRfCapability_r.
 struct SNRfCapability
@@ -71,10 +63,6 @@ struct SNRfCapability
     uint8_t reserved16[20];
 };
 VOND_SIZE(SNRfCapability, 36);
-VOND_OFFSET(SNRfCapability, reserved0, 0);
-VOND_OFFSET(SNRfCapability, rfChipId, 8);
-VOND_OFFSET(SNRfCapability, generation, 12);
-VOND_OFFSET(SNRfCapability, reserved16, 16);
 
 struct SMMRfBandEntryV7
 {
@@ -83,9 +71,6 @@ struct SMMRfBandEntryV7
     uint8_t uplinkOnly;    // 1: supplementary uplink, left out of RX lists
 };
 VOND_SIZE(SMMRfBandEntryV7, 4);
-VOND_OFFSET(SMMRfBandEntryV7, band, 0);
-VOND_OFFSET(SMMRfBandEntryV7, downlinkOnly, 2);
-VOND_OFFSET(SMMRfBandEntryV7, uplinkOnly, 3);
 
 // Frequency limits that the target declares for single routes, one direction.
 struct SRouteFreqRangeHalf
@@ -93,15 +78,11 @@ struct SRouteFreqRangeHalf
     uint16_t count;
     uint16_t band[kVondMaxFreqLimits];   // NR band number
     uint16_t route[kVondMaxFreqLimits];  // route number
-    int32_t low[kVondMaxFreqLimits];     // lowest carrier frequency, kHz
-    int32_t high[kVondMaxFreqLimits];    // highest carrier frequency, kHz
+    uint8_t reserved58[2];
+    int32_t low[kVondMaxFreqLimits];   // lowest carrier frequency, kHz
+    int32_t high[kVondMaxFreqLimits];  // highest carrier frequency, kHz
 };
 VOND_SIZE(SRouteFreqRangeHalf, 172);
-VOND_OFFSET(SRouteFreqRangeHalf, count, 0);
-VOND_OFFSET(SRouteFreqRangeHalf, band, 2);
-VOND_OFFSET(SRouteFreqRangeHalf, route, 30);
-VOND_OFFSET(SRouteFreqRangeHalf, low, 60);
-VOND_OFFSET(SRouteFreqRangeHalf, high, 116);
 
 struct SRouteFreqRangeV7
 {
@@ -109,8 +90,6 @@ struct SRouteFreqRangeV7
     SRouteFreqRangeHalf rx;
 };
 VOND_SIZE(SRouteFreqRangeV7, 344);
-VOND_OFFSET(SRouteFreqRangeV7, tx, 0);
-VOND_OFFSET(SRouteFreqRangeV7, rx, 172);
 
 struct SMMRfTxRouteV7
 {
@@ -121,11 +100,6 @@ struct SMMRfTxRouteV7
     uint32_t bwRegionKhz[kVondMaxBwRegions];  // upper bound of each region, kHz
 };
 VOND_SIZE(SMMRfTxRouteV7, 24);
-VOND_OFFSET(SMMRfTxRouteV7, band, 0);
-VOND_OFFSET(SMMRfTxRouteV7, route, 2);
-VOND_OFFSET(SMMRfTxRouteV7, bwRegionCount, 4);
-VOND_OFFSET(SMMRfTxRouteV7, reserved, 6);
-VOND_OFFSET(SMMRfTxRouteV7, bwRegionKhz, 8);
 
 struct SMMRfRxType1RouteV7
 {
@@ -133,8 +107,6 @@ struct SMMRfRxType1RouteV7
     uint16_t route;  // route number
 };
 VOND_SIZE(SMMRfRxType1RouteV7, 4);
-VOND_OFFSET(SMMRfRxType1RouteV7, band, 0);
-VOND_OFFSET(SMMRfRxType1RouteV7, route, 2);
 
 struct SMMRfRxType2RouteV7
 {
@@ -145,11 +117,6 @@ struct SMMRfRxType2RouteV7
     uint8_t reserved9;
 };
 VOND_SIZE(SMMRfRxType2RouteV7, 10);
-VOND_OFFSET(SMMRfRxType2RouteV7, band, 0);
-VOND_OFFSET(SMMRfRxType2RouteV7, route, 2);
-VOND_OFFSET(SMMRfRxType2RouteV7, reserved4, 4);
-VOND_OFFSET(SMMRfRxType2RouteV7, gainModeFlag, 8);
-VOND_OFFSET(SMMRfRxType2RouteV7, reserved9, 9);
 
 // Which RX gain modes (g0..g2) go with which eLNA gain (G0..G6), for one power mode.
 struct SMMRfRxGainInfoV7
@@ -159,9 +126,6 @@ struct SMMRfRxGainInfoV7
     uint8_t reserved84[526];
 };
 VOND_SIZE(SMMRfRxGainInfoV7, 610);
-VOND_OFFSET(SMMRfRxGainInfoV7, t1, 0);
-VOND_OFFSET(SMMRfRxGainInfoV7, t2, 21);
-VOND_OFFSET(SMMRfRxGainInfoV7, reserved84, 84);
 
 // The part of the route configuration that the capability readers hand out as one table.
 struct SMMRfRouteTableV7
@@ -175,13 +139,6 @@ struct SMMRfRouteTableV7
     SMMRfRxType2RouteV7 rxType2Route[kVondMaxRxRoutes];
 };
 VOND_SIZE(SMMRfRouteTableV7, 3808);
-VOND_OFFSET(SMMRfRouteTableV7, txRouteCount, 0);
-VOND_OFFSET(SMMRfRouteTableV7, rxType1RouteCount, 2);
-VOND_OFFSET(SMMRfRouteTableV7, rxType2RouteCount, 4);
-VOND_OFFSET(SMMRfRouteTableV7, reserved6, 6);
-VOND_OFFSET(SMMRfRouteTableV7, txRoute, 8);
-VOND_OFFSET(SMMRfRouteTableV7, rxType1Route, 2408);
-VOND_OFFSET(SMMRfRouteTableV7, rxType2Route, 2808);
 
 // Answer of VOND_MMRf_GetRouteConfigV7_r; the request is one u32 radio kind (0 LTE side, 1 NR).
 struct SMMRfRouteConfigV7
@@ -193,11 +150,6 @@ struct SMMRfRouteConfigV7
     SMMRfRxGainInfoV7 rxGainInfo[kVondRxPowerModes];  // index 0 HPM, 1 LPM
 };
 VOND_SIZE(SMMRfRouteConfigV7, 5476);
-VOND_OFFSET(SMMRfRouteConfigV7, bandCount, 0);
-VOND_OFFSET(SMMRfRouteConfigV7, band, 4);
-VOND_OFFSET(SMMRfRouteConfigV7, freqRange, 104);
-VOND_OFFSET(SMMRfRouteConfigV7, routes, 448);
-VOND_OFFSET(SMMRfRouteConfigV7, rxGainInfo, 4256);
 
 // Answer of VOND_NRf_GetBandRxInfo_r: MIMO ability by band.
 struct SNRfBandRxInfo
@@ -208,10 +160,6 @@ struct SNRfBandRxInfo
     uint8_t rx4x4[kVondMaxBands];   // 1: 4x4 RX
 };
 VOND_SIZE(SNRfBandRxInfo, 102);
-VOND_OFFSET(SNRfBandRxInfo, count, 0);
-VOND_OFFSET(SNRfBandRxInfo, band, 2);
-VOND_OFFSET(SNRfBandRxInfo, ulMimo, 52);
-VOND_OFFSET(SNRfBandRxInfo, rx4x4, 77);
 
 struct SNRfRxRouteValueEntry
 {
@@ -220,9 +168,6 @@ struct SNRfRxRouteValueEntry
     uint16_t value[kVondMaxRouteValues];  // TX route numbers that can pair with the RX route
 };
 VOND_SIZE(SNRfRxRouteValueEntry, 204);
-VOND_OFFSET(SNRfRxRouteValueEntry, route, 0);
-VOND_OFFSET(SNRfRxRouteValueEntry, valueCount, 2);
-VOND_OFFSET(SNRfRxRouteValueEntry, value, 4);
 
 // Answer of VOND_NRf_GetRxRouteValues_r.
 struct SNRfRxRouteValues
@@ -231,8 +176,6 @@ struct SNRfRxRouteValues
     SNRfRxRouteValueEntry entry[kVondMaxRxRoutes];
 };
 VOND_SIZE(SNRfRxRouteValues, 20402);
-VOND_OFFSET(SNRfRxRouteValues, count, 0);
-VOND_OFFSET(SNRfRxRouteValues, entry, 2);
 
 struct SMMRfRouteDetailTxPair
 {
@@ -241,9 +184,6 @@ struct SMMRfRouteDetailTxPair
     uint32_t bwRegionKhz;  // one bandwidth region of that route, kHz
 };
 VOND_SIZE(SMMRfRouteDetailTxPair, 8);
-VOND_OFFSET(SMMRfRouteDetailTxPair, route, 0);
-VOND_OFFSET(SMMRfRouteDetailTxPair, reserved2, 2);
-VOND_OFFSET(SMMRfRouteDetailTxPair, bwRegionKhz, 4);
 
 // Request of VOND_MMRf_GetRouteDetailV7_r. The counts are bytes: at most 255 rows of each kind.
 struct SMMRfRouteDetailReqV7
@@ -259,15 +199,6 @@ struct SMMRfRouteDetailReqV7
     uint8_t reserved14180[4200];
 };
 VOND_SIZE(SMMRfRouteDetailReqV7, 18380);
-VOND_OFFSET(SMMRfRouteDetailReqV7, radioKind, 0);
-VOND_OFFSET(SMMRfRouteDetailReqV7, rxType1Count, 4);
-VOND_OFFSET(SMMRfRouteDetailReqV7, rxType2Count, 5);
-VOND_OFFSET(SMMRfRouteDetailReqV7, txPairCount, 6);
-VOND_OFFSET(SMMRfRouteDetailReqV7, reserved7, 7);
-VOND_OFFSET(SMMRfRouteDetailReqV7, rxType1Route, 8);
-VOND_OFFSET(SMMRfRouteDetailReqV7, rxType2Route, 2370);
-VOND_OFFSET(SMMRfRouteDetailReqV7, txPair, 4732);
-VOND_OFFSET(SMMRfRouteDetailReqV7, reserved14180, 14180);
 
 // Hardware behind one RX route. Type 1 and type 2 routes read the tail differently.
 struct SRxRouteHw
@@ -293,16 +224,6 @@ struct SRxRouteHw
     };
 };
 VOND_SIZE(SRxRouteHw, 52);
-VOND_OFFSET(SRxRouteHw, antMask, 0);
-VOND_OFFSET(SRxRouteHw, feRouteNum, 4);
-VOND_OFFSET(SRxRouteHw, port, 6);
-VOND_OFFSET(SRxRouteHw, type1.srx, 38);
-VOND_OFFSET(SRxRouteHw, type1.mimoPairCount, 39);
-VOND_OFFSET(SRxRouteHw, type1.mimoPair, 40);
-VOND_OFFSET(SRxRouteHw, type2.srx, 38);
-VOND_OFFSET(SRxRouteHw, type2.mimoPairCount, 40);
-VOND_OFFSET(SRxRouteHw, type2.reserved, 41);
-VOND_OFFSET(SRxRouteHw, type2.mimoPair, 42);
 
 // Hardware behind one bandwidth region of a TX route.
 struct STxBwRegionHw
@@ -315,12 +236,6 @@ struct STxBwRegionHw
     uint16_t mimoPair[6];   // TX route numbers
 };
 VOND_SIZE(STxBwRegionHw, 36);
-VOND_OFFSET(STxBwRegionHw, antMask, 0);
-VOND_OFFSET(STxBwRegionHw, feRouteNum, 4);
-VOND_OFFSET(STxBwRegionHw, port, 6);
-VOND_OFFSET(STxBwRegionHw, stx, 22);
-VOND_OFFSET(STxBwRegionHw, mimoPairCount, 23);
-VOND_OFFSET(STxBwRegionHw, mimoPair, 24);
 
 // Answer of VOND_MMRf_GetRouteDetailV7_r, a hardware block for each row of the request, in its
 // order.
@@ -332,7 +247,3 @@ struct SMMRfRouteDetailCnfV7
     STxBwRegionHw txPair[kVondMaxDetailRoutes];
 };
 VOND_SIZE(SMMRfRouteDetailCnfV7, 183716);
-VOND_OFFSET(SMMRfRouteDetailCnfV7, reserved0, 0);
-VOND_OFFSET(SMMRfRouteDetailCnfV7, rxType1, 18376);
-VOND_OFFSET(SMMRfRouteDetailCnfV7, rxType2, 79788);
-VOND_OFFSET(SMMRfRouteDetailCnfV7, txPair, 141200);

@@ -187,7 +187,7 @@ SVerdict CSimulator::Admit(const SCall &call, const SFunction &function) const
         return EResult::NotOffered;
     const bool missing = (call.request.size > 0 && call.request.data == nullptr) ||
                          (call.answer.size > 0 && call.answer.data == nullptr) ||
-                         (function.hasStatus && call.status == nullptr);
+                         (function.HasStatus() && call.status == nullptr);
     return missing ? SVerdict(EResult::NullPointer) : SVerdict();
 }
 

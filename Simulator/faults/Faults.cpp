@@ -77,7 +77,7 @@ bool CanShow(const SFunction &function, EFaultKind kind)
     case EFaultKind::Bytes:
         return !isText;
     case EFaultKind::Status:
-        return function.hasStatus;
+        return function.HasStatus();
     case EFaultKind::NullText:
         return isText;
     case EFaultKind::Delay:

@@ -2,42 +2,120 @@
 
 #include <array>
 
+#include "Trace/dictionary/CalRecordLayouts.h"
+#include "Trace/dictionary/CapabilityLayouts.h"
+#include "Trace/dictionary/CommandLayouts.h"
+#include "Trace/dictionary/ResultLayouts.h"
+#include "Trace/dictionary/RouteDetailLayouts.h"
+#include "Trace/dictionary/ScalarLayouts.h"
+
 namespace {
 
 using K = EFunctionKind;
 using F = EFunction;
+using S = EStatusPlace;
 
 constexpr std::size_t kFunctionCount = static_cast<std::size_t>(EFunction::Count);
 
 constexpr std::array<SFunction, kFunctionCount> kFunctions = {{
-    {F::QueryFunctionSupported, "VOND_QueryFunctionSupported_r", K::Target, false},
-    {F::GetErrorString, "VOND_GetErrorString", K::Library, false},
-    {F::LteCapability, "VOND_ERf_GetRfCapability_r", K::Target, false},
-    {F::MultiModeCapability, "VOND_MMRf_GetRfCapability_r", K::Target, false},
-    {F::NrCapability, "VOND_NRf_GetRfCapability_r", K::Target, false},
-    {F::RouteConfig, "VOND_MMRf_GetRouteConfigV7_r", K::Target, false},
-    {F::BandRxInfo, "VOND_NRf_GetBandRxInfo_r", K::Target, false},
-    {F::RxRouteValues, "VOND_NRf_GetRxRouteValues_r", K::Target, false},
-    {F::RouteDetail, "VOND_MMRf_GetRouteDetailV7_r", K::Target, false},
-    {F::LteChipName, "VOND_ERf_GetChipIdName", K::Library, false},
-    {F::NrChipName, "VOND_NRf_GetChipIdName", K::Library, false},
-    {F::PuschTx, "VOND_NRf_PuschTxV7_r", K::Target, true},
-    {F::Rsrp, "VOND_NRf_RsrpV7_r", K::Target, true},
-    {F::GetDlFreq, "VOND_NRf_GetDlFreqV7_r", K::Target, true},
-    {F::GainSearch, "VOND_MMRf_GainSearchV7_r", K::Target, false},
-    {F::Rssi, "VOND_MMRf_RssiV7_r", K::Target, false},
-    {F::SingleToneTx, "VOND_MMRf_SingleToneTxV7_r", K::Target, false},
-    {F::ContRx, "VOND_MMRf_ContRxV7_r", K::Target, false},
-    {F::GetPdValue, "VOND_MMRf_GetPdValueV7_r", K::Target, false},
-    {F::GetMixRxReport, "VOND_NRf_GetMixRxReportV7_r", K::Target, false},
-    {F::ResetMixRxReport, "VOND_NRf_ResetMixRxReportV7_r", K::Target, false},
-    {F::NrTestStop, "VOND_NRf_TestStop_r", K::Target, false},
-    {F::MultiModeTestStop, "VOND_MMRf_TestStopV7_r", K::Target, false},
-    {F::GetCalBlkInfo, "VOND_MMRf_GetCalBlkInfoV7_r", K::Target, false},
-    {F::GetCalData, "VOND_MMRf_GetCalDataV7_r", K::Target, false},
-    {F::SetCalData, "VOND_MMRf_SetCalDataV7_r", K::Target, false},
-    {F::ModemActiveIndex, "VondConn_GetMdActiveIdx", K::Connection, false},
-    {F::ModemService, "VondConn_GetMdSrv", K::Connection, false},
+    {.id = F::QueryFunctionSupported,
+     .name = "VOND_QueryFunctionSupported_r",
+     .request = &kFunctionNameLayout},
+    {.id = F::GetErrorString,
+     .name = "VOND_GetErrorString",
+     .kind = K::Library,
+     .request = &kResultCodeLayout,
+     .answer = &kAnswerTextLayout},
+    {.id = F::LteCapability,
+     .name = "VOND_ERf_GetRfCapability_r",
+     .request = &kLayoutOf<SVondCapabilityReq>,
+     .answer = &kLayoutOf<SERfCapability>},
+    {.id = F::MultiModeCapability,
+     .name = "VOND_MMRf_GetRfCapability_r",
+     .request = &kLayoutOf<SVondCapabilityReq>,
+     .answer = &kLayoutOf<SMMRfCapability>},
+    {.id = F::NrCapability,
+     .name = "VOND_NRf_GetRfCapability_r",
+     .request = &kLayoutOf<SVondCapabilityReq>,
+     .answer = &kLayoutOf<SNRfCapability>},
+    {.id = F::RouteConfig,
+     .name = "VOND_MMRf_GetRouteConfigV7_r",
+     .request = &kRadioKindLayout,
+     .answer = &kLayoutOf<SMMRfRouteConfigV7>},
+    {.id = F::BandRxInfo, .name = "VOND_NRf_GetBandRxInfo_r", .answer = &kLayoutOf<SNRfBandRxInfo>},
+    {.id = F::RxRouteValues,
+     .name = "VOND_NRf_GetRxRouteValues_r",
+     .answer = &kLayoutOf<SNRfRxRouteValues>},
+    {.id = F::RouteDetail,
+     .name = "VOND_MMRf_GetRouteDetailV7_r",
+     .request = &kLayoutOf<SMMRfRouteDetailReqV7>,
+     .answer = &kLayoutOf<SMMRfRouteDetailCnfV7>},
+    {.id = F::LteChipName,
+     .name = "VOND_ERf_GetChipIdName",
+     .kind = K::Library,
+     .request = &kChipIdLayout,
+     .answer = &kAnswerTextLayout},
+    {.id = F::NrChipName,
+     .name = "VOND_NRf_GetChipIdName",
+     .kind = K::Library,
+     .request = &kChipIdLayout,
+     .answer = &kAnswerTextLayout},
+    {.id = F::PuschTx,
+     .name = "VOND_NRf_PuschTxV7_r",
+     .status = S::Argument,
+     .request = &kLayoutOf<SNrPuschTxCmdV7>},
+    {.id = F::Rsrp,
+     .name = "VOND_NRf_RsrpV7_r",
+     .status = S::Argument,
+     .request = &kLayoutOf<SNrRsrpCmdV7>},
+    {.id = F::GetDlFreq,
+     .name = "VOND_NRf_GetDlFreqV7_r",
+     .status = S::Answer,
+     .request = &kLayoutOf<SNrDlFreqCmdV7>,
+     .answer = &kLayoutOf<SNrDlFreqCnfV7>},
+    {.id = F::GainSearch,
+     .name = "VOND_MMRf_GainSearchV7_r",
+     .request = &kLayoutOf<SMMGainSearchCmdV7>,
+     .answer = &kLayoutOf<SMMGainSearchCnfV7>},
+    {.id = F::Rssi,
+     .name = "VOND_MMRf_RssiV7_r",
+     .request = &kLayoutOf<SMMRssiCmdV7>,
+     .answer = &kLayoutOf<SMMRssiCnfV7>},
+    {.id = F::SingleToneTx,
+     .name = "VOND_MMRf_SingleToneTxV7_r",
+     .request = &kLayoutOf<SMMSingleToneCmdV7>},
+    {.id = F::ContRx, .name = "VOND_MMRf_ContRxV7_r", .request = &kLayoutOf<SMMContRxCmdV7>},
+    {.id = F::GetPdValue,
+     .name = "VOND_MMRf_GetPdValueV7_r",
+     .request = &kPdKindLayout,
+     .answer = &kPdValueLayout},
+    {.id = F::GetMixRxReport,
+     .name = "VOND_NRf_GetMixRxReportV7_r",
+     .answer = &kLayoutOf<NRfTestResult_GetMixRxReportV7>},
+    {.id = F::ResetMixRxReport, .name = "VOND_NRf_ResetMixRxReportV7_r"},
+    {.id = F::NrTestStop, .name = "VOND_NRf_TestStop_r"},
+    {.id = F::MultiModeTestStop, .name = "VOND_MMRf_TestStopV7_r", .request = &kStopKindLayout},
+    {.id = F::GetCalBlkInfo,
+     .name = "VOND_MMRf_GetCalBlkInfoV7_r",
+     .request = &kRadioKindLayout,
+     .answer = &kLayoutOf<SMMCalBlkInfoCnfV7>},
+    {.id = F::GetCalData,
+     .name = "VOND_MMRf_GetCalDataV7_r",
+     .request = &kLayoutOf<SMMGetCalDataReqV7>,
+     .answer = &kLayoutOf<SMMGetCalDataCnfV7>},
+    {.id = F::SetCalData,
+     .name = "VOND_MMRf_SetCalDataV7_r",
+     .request = &kLayoutOf<SMMSetCalDataReqV7>,
+     .answer = &kLayoutOf<SMMSetCalDataCnfV7>},
+    {.id = F::ModemActiveIndex,
+     .name = "VondConn_GetMdActiveIdx",
+     .kind = K::Connection,
+     .answer = &kModemIndexLayout},
+    {.id = F::ModemService,
+     .name = "VondConn_GetMdSrv",
+     .kind = K::Connection,
+     .request = &kModemIndexLayout,
+     .answer = &kServiceTypeLayout},
 }};
 
 constexpr bool InOrder()
@@ -49,6 +127,10 @@ constexpr bool InOrder()
     return true;
 }
 static_assert(InOrder(), "the rows stand in the order of EFunction");
+
+static_assert(HasWhatDecides(kLayoutOf<SMMRssiCmdV7>, kLayoutOf<SMMRssiCnfV7>),
+              "the field that the answer hangs on is one of its request");
+static_assert(CanDecide(kLayoutOf<SNrDlFreqCnfV7>, "status"), "the answer has its status word");
 
 }  // namespace
 

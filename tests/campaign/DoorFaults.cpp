@@ -107,7 +107,7 @@ std::vector<SDoorFault> FaultsOf(const SFunction &function, int calls, int noise
         for (int seed = 1; seed <= noises; ++seed)
             faults.push_back({&function, EFault::Noise, 0, 0, static_cast<uint32_t>(seed)});
     }
-    if (function.hasStatus) {
+    if (function.HasStatus()) {
         for (uint32_t status = 1; status <= kLastStatus; ++status)
             faults.push_back({&function, EFault::Status, 0, status});
     }

@@ -1,0 +1,23 @@
+// A field by its dotted name, as C++ writes it behind the record.
+//
+//   const auto found = FindField(kLayoutOf<SNrPuschTxCmdV7>, "normalMode.carrier[1].band");
+//   found->offset       // 52
+//   found->field->form  // EForm::Band
+//
+// An array without an index, and a record, are found as a whole. Whether a part of a union holds is not
+// asked.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "Trace/dictionary/Field.h"
+
+struct SFoundField
+{
+    const SField *field = nullptr;
+    uint32_t offset = 0;  // from the beginning of the outermost record
+    uint32_t size = 0;    // bytes of what was named
+};
+
+std::optional<SFoundField> FindField(const SLayout &layout, std::string_view path);

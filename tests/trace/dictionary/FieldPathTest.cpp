@@ -1,0 +1,61 @@
+// Fields are found by the names that a reader tells.
+
+#include "Trace/dictionary/FieldPath.h"
+
+#include <gtest/gtest.h>
+
+#include "Trace/dictionary/CapabilityLayouts.h"
+#include "Trace/dictionary/CommandLayouts.h"
+#include "Trace/dictionary/Decode.h"
+
+namespace {
+
+TEST(FieldPathTest, EveryNameThatIsReadIsFoundWhereItWasRead)
+{
+    for (int id = 0; id < static_cast<int>(EFunction::Count); ++id) {
+        const SFunction &function = FunctionOf(static_cast<EFunction>(id));
+        for (const SLayout *layout : {function.request, function.answer}) {
+            if (layout == nullptr)
+                continue;
+            const std::vector<uint8_t> bytes(layout->size);
+            Decode(*layout, bytes, {}, [&](const SFieldValue &value) {
+                const auto found = FindField(*layout, value.name);
+                ASSERT_TRUE(found) << value.name;
+                ASSERT_EQ(found->field, value.field) << value.name;
+                ASSERT_EQ(found->offset, value.offset) << value.name;
+                ASSERT_EQ(found->size, value.bytes.size()) << value.name;
+            });
+        }
+    }
+}
+
+TEST(FieldPathTest, ArraysAndRecordsAreFoundAsAWhole)
+{
+    const SLayout &config = kLayoutOf<SMMRfRouteConfigV7>;
+    EXPECT_EQ(FindField(config, "routes.txRoute")->size, 2400u);
+    EXPECT_EQ(FindField(config, "routes.txRoute")->offset, 456u);
+    EXPECT_EQ(FindField(config, "routes.txRoute[2]")->offset, 504u);
+    EXPECT_EQ(FindField(config, "freqRange.rx")->offset, 276u);
+    EXPECT_EQ(FindField(config, "rxGainInfo[1].t2[6][2][1]")->offset, 4256u + 610 + 21 + 61);
+}
+
+TEST(FieldPathTest, PartOfAUnionIsFoundWhetherItHoldsOrNot)
+{
+    const SLayout &command = kLayoutOf<SNrPuschTxCmdV7>;
+    EXPECT_EQ(FindField(command, "normalMode.carrier[1].band")->offset, 52u);
+    EXPECT_EQ(FindField(command, "forcedMode.carrier.band")->offset, 4u);
+}
+
+TEST(FieldPathTest, WhatIsNoFieldIsNotFound)
+{
+    const SLayout &command = kLayoutOf<SNrPuschTxCmdV7>;
+    for (const char *path :
+         {"", ".", "force", "forcedMod", "forced.x", "forced[0]", "forcedMode.",
+          "forcedMode.carriers", "normalMode.carrier.band", "normalMode.carrier[2].band",
+          "normalMode.carrier[].band", "normalMode.carrier[-1].band", "normalMode.carrier[1",
+          "normalMode.carrier[1]band", "normalMode.carrier[1][0].band",
+          "normalMode.carrier[99999999999].band"})
+        EXPECT_FALSE(FindField(command, path)) << path;
+}
+
+}  // namespace
