@@ -29,12 +29,6 @@ struct SAptLevel
     int16_t paGain;  // dB, 1/32 dB
 };
 VOND_SIZE(SAptLevel, 8);
-VOND_OFFSET(SAptLevel, paMode, 0);
-VOND_OFFSET(SAptLevel, dc2dcLevel, 1);
-VOND_OFFSET(SAptLevel, usage256Qam, 2);
-VOND_OFFSET(SAptLevel, reserved3, 3);
-VOND_OFFSET(SAptLevel, prf, 4);
-VOND_OFFSET(SAptLevel, paGain, 6);
 
 // The part of an APT block that belongs to one PA mode.
 struct SAptPaPart
@@ -47,12 +41,6 @@ struct SAptPaPart
     int16_t powerDetectorTempOffset[kVondCalTemperatures];  // by temperature, 1/32 dB
 };
 VOND_SIZE(SAptPaPart, 98);
-VOND_OFFSET(SAptPaPart, prfIndex, 0);
-VOND_OFFSET(SAptPaPart, reserved1, 1);
-VOND_OFFSET(SAptPaPart, paGain, 2);
-VOND_OFFSET(SAptPaPart, paGainTempOffset, 34);
-VOND_OFFSET(SAptPaPart, powerDetector, 50);
-VOND_OFFSET(SAptPaPart, powerDetectorTempOffset, 82);
 
 // One block of a TX route's bandwidth region.
 struct SAptBlock
@@ -69,18 +57,6 @@ struct SAptBlock
     uint8_t reserved450[2];
 };
 VOND_SIZE(SAptBlock, 452);
-VOND_OFFSET(SAptBlock, band, 0);
-VOND_OFFSET(SAptBlock, normalTempIndex, 2);
-VOND_OFFSET(SAptBlock, paControlLevel, 3);
-VOND_OFFSET(SAptBlock, paModeCount, 4);
-VOND_OFFSET(SAptBlock, reserved5, 5);
-VOND_OFFSET(SAptBlock, level, 6);
-VOND_OFFSET(SAptBlock, couplerLoss, 86);
-VOND_OFFSET(SAptBlock, freq, 92);
-VOND_OFFSET(SAptBlock, pa[0], 156);
-VOND_OFFSET(SAptBlock, pa[1], 254);
-VOND_OFFSET(SAptBlock, pa[2], 352);
-VOND_OFFSET(SAptBlock, reserved450, 450);
 
 enum class EVondRxPath
 {
@@ -95,8 +71,6 @@ struct SMMLossPair
     int16_t hpm;  // high power mode, 1/32 dB
 };
 VOND_SIZE(SMMLossPair, 4);
-VOND_OFFSET(SMMLossPair, lpm, 0);
-VOND_OFFSET(SMMLossPair, hpm, 2);
 
 constexpr int kVondLossGainSlots = 8;  // gain modes that a loss table has room for
 constexpr int kVondSrxPaths = 2;       // paths of a type 2 route
@@ -145,11 +119,6 @@ struct SMMType1PathlossBlockV7
     int16_t plOffset[kVondCalTemperatures];  // by temperature, 1/32 dB
 };
 VOND_SIZE(SMMType1PathlossBlockV7, 1108);
-VOND_OFFSET(SMMType1PathlossBlockV7, band, 0);
-VOND_OFFSET(SMMType1PathlossBlockV7, reserved2, 2);
-VOND_OFFSET(SMMType1PathlossBlockV7, freq, 4);
-VOND_OFFSET(SMMType1PathlossBlockV7, loss, 68);
-VOND_OFFSET(SMMType1PathlossBlockV7, plOffset, 1092);
 
 // One block of a type 2 RX route.
 struct SMMType2PathlossBlockV7
@@ -161,8 +130,3 @@ struct SMMType2PathlossBlockV7
     int16_t plOffset[kVondCalTemperatures];  // by temperature, 1/32 dB
 };
 VOND_SIZE(SMMType2PathlossBlockV7, 18260);
-VOND_OFFSET(SMMType2PathlossBlockV7, band, 0);
-VOND_OFFSET(SMMType2PathlossBlockV7, reserved2, 2);
-VOND_OFFSET(SMMType2PathlossBlockV7, freq, 4);
-VOND_OFFSET(SMMType2PathlossBlockV7, loss, 68);
-VOND_OFFSET(SMMType2PathlossBlockV7, plOffset, 18244);

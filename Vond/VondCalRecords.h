@@ -34,8 +34,6 @@ struct SMMCalRxRowV7
     uint16_t blockTotal;
 };
 VOND_SIZE(SMMCalRxRowV7, 4);
-VOND_OFFSET(SMMCalRxRowV7, route, 0);
-VOND_OFFSET(SMMCalRxRowV7, blockTotal, 2);
 
 // A TX route in the answer of the block information.
 struct SMMCalTxRowV7
@@ -46,10 +44,6 @@ struct SMMCalTxRowV7
     uint8_t reserved12[4];
 };
 VOND_SIZE(SMMCalTxRowV7, 16);
-VOND_OFFSET(SMMCalTxRowV7, route, 0);
-VOND_OFFSET(SMMCalTxRowV7, blockTotal, 2);
-VOND_OFFSET(SMMCalTxRowV7, blockCount, 4);
-VOND_OFFSET(SMMCalTxRowV7, reserved12, 12);
 
 // Answer of VOND_MMRf_GetCalBlkInfoV7_r: what the flash holds.
 struct SMMCalBlkInfoCnfV7
@@ -62,12 +56,6 @@ struct SMMCalBlkInfoCnfV7
     SMMCalTxRowV7 tx[kVondMaxTxRoutes];
 };
 VOND_SIZE(SMMCalBlkInfoCnfV7, 2406);
-VOND_OFFSET(SMMCalBlkInfoCnfV7, type1Count, 0);
-VOND_OFFSET(SMMCalBlkInfoCnfV7, type2Count, 2);
-VOND_OFFSET(SMMCalBlkInfoCnfV7, txCount, 4);
-VOND_OFFSET(SMMCalBlkInfoCnfV7, type1, 6);
-VOND_OFFSET(SMMCalBlkInfoCnfV7, type2, 406);
-VOND_OFFSET(SMMCalBlkInfoCnfV7, tx, 806);
 
 // An RX route of a round.
 struct SMMCalRxEntryV7
@@ -76,8 +64,6 @@ struct SMMCalRxEntryV7
     uint16_t route;
 };
 VOND_SIZE(SMMCalRxEntryV7, 4);
-VOND_OFFSET(SMMCalRxEntryV7, blockCount, 0);
-VOND_OFFSET(SMMCalRxEntryV7, route, 2);
 
 // A bandwidth region of a TX route, asked for.
 struct SMMCalTxRequestEntryV7
@@ -90,12 +76,6 @@ struct SMMCalTxRequestEntryV7
     uint8_t reserved14[2];
 };
 VOND_SIZE(SMMCalTxRequestEntryV7, 16);
-VOND_OFFSET(SMMCalTxRequestEntryV7, blockCount, 0);
-VOND_OFFSET(SMMCalTxRequestEntryV7, route, 2);
-VOND_OFFSET(SMMCalTxRequestEntryV7, bandwidth, 4);
-VOND_OFFSET(SMMCalTxRequestEntryV7, reserved8, 8);
-VOND_OFFSET(SMMCalTxRequestEntryV7, routeAgain, 12);
-VOND_OFFSET(SMMCalTxRequestEntryV7, reserved14, 14);
 
 // A bandwidth region of a TX route whose blocks the record carries.
 struct SMMCalTxEntryV7
@@ -105,9 +85,6 @@ struct SMMCalTxEntryV7
     uint16_t route;
 };
 VOND_SIZE(SMMCalTxEntryV7, 8);
-VOND_OFFSET(SMMCalTxEntryV7, bandwidth, 0);
-VOND_OFFSET(SMMCalTxEntryV7, blockCount, 4);
-VOND_OFFSET(SMMCalTxEntryV7, route, 6);
 
 // Some targets use this layout in an upload answer, for all entries or for some.
 struct SMMCalTxEntryCountFirstV7
@@ -117,9 +94,6 @@ struct SMMCalTxEntryCountFirstV7
     uint32_t bandwidth;  // upper bound of the region, kHz
 };
 VOND_SIZE(SMMCalTxEntryCountFirstV7, 8);
-VOND_OFFSET(SMMCalTxEntryCountFirstV7, blockCount, 0);
-VOND_OFFSET(SMMCalTxEntryCountFirstV7, route, 2);
-VOND_OFFSET(SMMCalTxEntryCountFirstV7, bandwidth, 4);
 
 // Request of VOND_MMRf_GetCalDataV7_r: one round of an upload.
 struct SMMGetCalDataReqV7
@@ -134,14 +108,6 @@ struct SMMGetCalDataReqV7
     SMMCalTxRequestEntryV7 tx[kVondCalTxBlocks];
 };
 VOND_SIZE(SMMGetCalDataReqV7, 2404);
-VOND_OFFSET(SMMGetCalDataReqV7, radioKind, 0);
-VOND_OFFSET(SMMGetCalDataReqV7, type1Count, 4);
-VOND_OFFSET(SMMGetCalDataReqV7, type2Count, 6);
-VOND_OFFSET(SMMGetCalDataReqV7, txCount, 8);
-VOND_OFFSET(SMMGetCalDataReqV7, reserved10, 10);
-VOND_OFFSET(SMMGetCalDataReqV7, type1, 12);
-VOND_OFFSET(SMMGetCalDataReqV7, type2, 232);
-VOND_OFFSET(SMMGetCalDataReqV7, tx, 244);
 
 // Verdict of the target, the head of both answers. The texts end with a 0 or fill their room.
 struct SMMCalVerdictV7
@@ -152,10 +118,6 @@ struct SMMCalVerdictV7
     char txText[kVondCalText];
 };
 VOND_SIZE(SMMCalVerdictV7, 193);
-VOND_OFFSET(SMMCalVerdictV7, status, 0);
-VOND_OFFSET(SMMCalVerdictV7, type1Text, 1);
-VOND_OFFSET(SMMCalVerdictV7, type2Text, 65);
-VOND_OFFSET(SMMCalVerdictV7, txText, 129);
 
 // Answer of VOND_MMRf_GetCalDataV7_r. The three type 2 entries stand as two columns.
 struct SMMGetCalDataCnfV7
@@ -176,20 +138,6 @@ struct SMMGetCalDataCnfV7
     SAptBlock txBlock[kVondCalTxBlocks];
 };
 VOND_SIZE(SMMGetCalDataCnfV7, 178276);
-VOND_OFFSET(SMMGetCalDataCnfV7, verdict, 0);
-VOND_OFFSET(SMMGetCalDataCnfV7, reserved193, 193);
-VOND_OFFSET(SMMGetCalDataCnfV7, type1Count, 194);
-VOND_OFFSET(SMMGetCalDataCnfV7, type2Count, 196);
-VOND_OFFSET(SMMGetCalDataCnfV7, txCount, 198);
-VOND_OFFSET(SMMGetCalDataCnfV7, type1, 200);
-VOND_OFFSET(SMMGetCalDataCnfV7, type2BlockCount, 420);
-VOND_OFFSET(SMMGetCalDataCnfV7, reserved426, 426);
-VOND_OFFSET(SMMGetCalDataCnfV7, type2Route, 432);
-VOND_OFFSET(SMMGetCalDataCnfV7, reserved438, 438);
-VOND_OFFSET(SMMGetCalDataCnfV7, tx, 456);
-VOND_OFFSET(SMMGetCalDataCnfV7, type1Block, 1536);
-VOND_OFFSET(SMMGetCalDataCnfV7, type2Block, 62476);
-VOND_OFFSET(SMMGetCalDataCnfV7, txBlock, 117256);
 
 // Request of VOND_MMRf_SetCalDataV7_r: one round of a download.
 struct SMMSetCalDataReqV7
@@ -211,21 +159,6 @@ struct SMMSetCalDataReqV7
     SAptBlock txBlock[kVondCalTxBlocks];
 };
 VOND_SIZE(SMMSetCalDataReqV7, 178096);
-VOND_OFFSET(SMMSetCalDataReqV7, radioKind, 0);
-VOND_OFFSET(SMMSetCalDataReqV7, version, 4);
-VOND_OFFSET(SMMSetCalDataReqV7, reserved5, 5);
-VOND_OFFSET(SMMSetCalDataReqV7, type1Count, 6);
-VOND_OFFSET(SMMSetCalDataReqV7, type2Count, 8);
-VOND_OFFSET(SMMSetCalDataReqV7, txCount, 10);
-VOND_OFFSET(SMMSetCalDataReqV7, type1, 12);
-VOND_OFFSET(SMMSetCalDataReqV7, type2BlockCount, 232);
-VOND_OFFSET(SMMSetCalDataReqV7, reserved238, 238);
-VOND_OFFSET(SMMSetCalDataReqV7, type2Route, 244);
-VOND_OFFSET(SMMSetCalDataReqV7, reserved250, 250);
-VOND_OFFSET(SMMSetCalDataReqV7, tx, 276);
-VOND_OFFSET(SMMSetCalDataReqV7, type1Block, 1356);
-VOND_OFFSET(SMMSetCalDataReqV7, type2Block, 62296);
-VOND_OFFSET(SMMSetCalDataReqV7, txBlock, 117076);
 
 // Answer of VOND_MMRf_SetCalDataV7_r.
 using SMMSetCalDataCnfV7 = SMMCalVerdictV7;

@@ -35,27 +35,6 @@ struct SNrPuschCcV7
     uint8_t reserved42[2];
 };
 VOND_SIZE(SNrPuschCcV7, 44);
-VOND_OFFSET(SNrPuschCcV7, band, 0);
-VOND_OFFSET(SNrPuschCcV7, tddSlotConfig, 2);
-VOND_OFFSET(SNrPuschCcV7, reserved3, 3);
-VOND_OFFSET(SNrPuschCcV7, ulFrequency, 4);
-VOND_OFFSET(SNrPuschCcV7, sulFreqShift, 8);
-VOND_OFFSET(SNrPuschCcV7, reserved9, 9);
-VOND_OFFSET(SNrPuschCcV7, cellId, 10);
-VOND_OFFSET(SNrPuschCcV7, ulBandwidth, 12);
-VOND_OFFSET(SNrPuschCcV7, vrbStart, 16);
-VOND_OFFSET(SNrPuschCcV7, vrbLength, 18);
-VOND_OFFSET(SNrPuschCcV7, txScs, 20);
-VOND_OFFSET(SNrPuschCcV7, mcsMode, 24);
-VOND_OFFSET(SNrPuschCcV7, txPowerValue, 28);
-VOND_OFFSET(SNrPuschCcV7, reserved30, 30);
-VOND_OFFSET(SNrPuschCcV7, networkSelection, 32);
-VOND_OFFSET(SNrPuschCcV7, txCloseLoopDisble, 36);
-VOND_OFFSET(SNrPuschCcV7, amprEnbl, 37);
-VOND_OFFSET(SNrPuschCcV7, txRoute, 38);
-VOND_OFFSET(SNrPuschCcV7, enableCsr, 40);
-VOND_OFFSET(SNrPuschCcV7, enableMimo, 41);
-VOND_OFFSET(SNrPuschCcV7, reserved42, 42);
 
 struct SNrPuschTxForcedV7
 {
@@ -63,8 +42,6 @@ struct SNrPuschTxForcedV7
     uint8_t reserved44[48];
 };
 VOND_SIZE(SNrPuschTxForcedV7, 92);
-VOND_OFFSET(SNrPuschTxForcedV7, carrier, 0);
-VOND_OFFSET(SNrPuschTxForcedV7, reserved44, 44);
 
 struct SNrPuschTxNormalV7
 {
@@ -73,9 +50,6 @@ struct SNrPuschTxNormalV7
     SNrPuschCcV7 carrier[2];
 };
 VOND_SIZE(SNrPuschTxNormalV7, 92);
-VOND_OFFSET(SNrPuschTxNormalV7, ulCCNum, 0);
-VOND_OFFSET(SNrPuschTxNormalV7, reserved1, 1);
-VOND_OFFSET(SNrPuschTxNormalV7, carrier, 4);
 
 // Command of VOND_NRf_PuschTxV7_r.
 struct SNrPuschTxCmdV7
@@ -89,12 +63,6 @@ struct SNrPuschTxCmdV7
     };
 };
 VOND_SIZE(SNrPuschTxCmdV7, 96);
-VOND_OFFSET(SNrPuschTxCmdV7, forced, 0);
-VOND_OFFSET(SNrPuschTxCmdV7, reserved1, 1);
-VOND_OFFSET(SNrPuschTxCmdV7, forcedMode.carrier, 4);
-VOND_OFFSET(SNrPuschTxCmdV7, normalMode.ulCCNum, 4);
-VOND_OFFSET(SNrPuschTxCmdV7, normalMode.carrier[0], 8);
-VOND_OFFSET(SNrPuschTxCmdV7, normalMode.carrier[1], 52);
 
 // Command of VOND_NRf_GetDlFreqV7_r.
 struct SNrDlFreqCmdV7
@@ -107,12 +75,6 @@ struct SNrDlFreqCmdV7
     uint16_t txRoute;  // forced mode only
 };
 VOND_SIZE(SNrDlFreqCmdV7, 12);
-VOND_OFFSET(SNrDlFreqCmdV7, band, 0);
-VOND_OFFSET(SNrDlFreqCmdV7, reserved2, 2);
-VOND_OFFSET(SNrDlFreqCmdV7, ulFrequency, 4);
-VOND_OFFSET(SNrDlFreqCmdV7, forced, 8);
-VOND_OFFSET(SNrDlFreqCmdV7, reserved9, 9);
-VOND_OFFSET(SNrDlFreqCmdV7, txRoute, 10);
 
 // Command of VOND_MMRf_SingleToneTxV7_r.
 struct SMMSingleToneCmdV7
@@ -128,15 +90,6 @@ struct SMMSingleToneCmdV7
     uint32_t afcDataType;    // 1: afcdac applies
 };
 VOND_SIZE(SMMSingleToneCmdV7, 28);
-VOND_OFFSET(SMMSingleToneCmdV7, radioKind, 0);
-VOND_OFFSET(SMMSingleToneCmdV7, band, 4);
-VOND_OFFSET(SMMSingleToneCmdV7, txRoute, 6);
-VOND_OFFSET(SMMSingleToneCmdV7, afcdac, 8);
-VOND_OFFSET(SMMSingleToneCmdV7, txPowerValue, 10);
-VOND_OFFSET(SMMSingleToneCmdV7, ulFrequency, 12);
-VOND_OFFSET(SMMSingleToneCmdV7, aggBwKhzRange, 16);
-VOND_OFFSET(SMMSingleToneCmdV7, ulFreqOffset, 20);
-VOND_OFFSET(SMMSingleToneCmdV7, afcDataType, 24);
 
 // The part of an RSRP carrier that both modes share.
 struct SNrRsrpCommonV7
@@ -157,20 +110,6 @@ struct SNrRsrpCommonV7
     uint32_t mcsMode;      // waveform and modulation; pseudo mode only
 };
 VOND_SIZE(SNrRsrpCommonV7, 32);
-VOND_OFFSET(SNrRsrpCommonV7, measCnt, 0);
-VOND_OFFSET(SNrRsrpCommonV7, reserved1, 1);
-VOND_OFFSET(SNrRsrpCommonV7, dlFrequency, 4);
-VOND_OFFSET(SNrRsrpCommonV7, rxScs, 8);
-VOND_OFFSET(SNrRsrpCommonV7, band, 12);
-VOND_OFFSET(SNrRsrpCommonV7, tddSlotConfig, 14);
-VOND_OFFSET(SNrRsrpCommonV7, reserved15, 15);
-VOND_OFFSET(SNrRsrpCommonV7, dlBandwidth, 16);
-VOND_OFFSET(SNrRsrpCommonV7, trxMode, 20);
-VOND_OFFSET(SNrRsrpCommonV7, reserved21, 21);
-VOND_OFFSET(SNrRsrpCommonV7, txPowerValue, 22);
-VOND_OFFSET(SNrRsrpCommonV7, vrbStart, 24);
-VOND_OFFSET(SNrRsrpCommonV7, vrbLength, 26);
-VOND_OFFSET(SNrRsrpCommonV7, mcsMode, 28);
 
 // One carrier of a normal mode RSRP test.
 struct SNrRsrpCcV7
@@ -180,9 +119,6 @@ struct SNrRsrpCcV7
     uint8_t reserved33[3];
 };
 VOND_SIZE(SNrRsrpCcV7, 36);
-VOND_OFFSET(SNrRsrpCcV7, common, 0);
-VOND_OFFSET(SNrRsrpCcV7, mimo4x4, 32);
-VOND_OFFSET(SNrRsrpCcV7, reserved33, 33);
 
 // The carrier of a forced mode RSRP test: longer than the normal one by the power mode byte.
 struct SNrRsrpForcedCcV7
@@ -194,11 +130,6 @@ struct SNrRsrpForcedCcV7
     uint8_t reserved37[3];
 };
 VOND_SIZE(SNrRsrpForcedCcV7, 40);
-VOND_OFFSET(SNrRsrpForcedCcV7, common, 0);
-VOND_OFFSET(SNrRsrpForcedCcV7, rxRoute, 32);
-VOND_OFFSET(SNrRsrpForcedCcV7, txRoute, 34);
-VOND_OFFSET(SNrRsrpForcedCcV7, lpmHpmConf, 36);
-VOND_OFFSET(SNrRsrpForcedCcV7, reserved37, 37);
 
 struct SNrRsrpForcedV7
 {
@@ -206,8 +137,6 @@ struct SNrRsrpForcedV7
     uint8_t reserved40[36];
 };
 VOND_SIZE(SNrRsrpForcedV7, 76);
-VOND_OFFSET(SNrRsrpForcedV7, carrier, 0);
-VOND_OFFSET(SNrRsrpForcedV7, reserved40, 40);
 
 struct SNrRsrpNormalV7
 {
@@ -216,9 +145,6 @@ struct SNrRsrpNormalV7
     SNrRsrpCcV7 carrier[2];  // the second is not used
 };
 VOND_SIZE(SNrRsrpNormalV7, 76);
-VOND_OFFSET(SNrRsrpNormalV7, carrierCount, 0);
-VOND_OFFSET(SNrRsrpNormalV7, reserved1, 1);
-VOND_OFFSET(SNrRsrpNormalV7, carrier, 4);
 
 // Command of VOND_NRf_RsrpV7_r.
 struct SNrRsrpCmdV7
@@ -232,12 +158,6 @@ struct SNrRsrpCmdV7
     };
 };
 VOND_SIZE(SNrRsrpCmdV7, 80);
-VOND_OFFSET(SNrRsrpCmdV7, forced, 0);
-VOND_OFFSET(SNrRsrpCmdV7, reserved1, 1);
-VOND_OFFSET(SNrRsrpCmdV7, forcedMode.carrier, 4);
-VOND_OFFSET(SNrRsrpCmdV7, normalMode.carrierCount, 4);
-VOND_OFFSET(SNrRsrpCmdV7, normalMode.carrier[0], 8);
-VOND_OFFSET(SNrRsrpCmdV7, normalMode.carrier[1], 44);
 
 // Gain block of a continuous RX command; SMMContRxCmdV7::singlePath says which layout holds.
 union UMMContRxGainV7
@@ -277,26 +197,6 @@ struct SMMContRxCmdV7
     uint32_t dlFrequency;  // kHz
 };
 VOND_SIZE(SMMContRxCmdV7, 40);
-VOND_OFFSET(SMMContRxCmdV7, routeKind, 0);
-VOND_OFFSET(SMMContRxCmdV7, lowPower, 4);
-VOND_OFFSET(SMMContRxCmdV7, dlBandwidth, 8);
-VOND_OFFSET(SMMContRxCmdV7, band, 12);
-VOND_OFFSET(SMMContRxCmdV7, rxRoute, 14);
-VOND_OFFSET(SMMContRxCmdV7, singlePath, 16);
-VOND_OFFSET(SMMContRxCmdV7, reserved17, 17);
-VOND_OFFSET(SMMContRxCmdV7, path, 20);
-VOND_OFFSET(SMMContRxCmdV7, gain.single.mainRfGain, 24);
-VOND_OFFSET(SMMContRxCmdV7, gain.single.divRfGain, 26);
-VOND_OFFSET(SMMContRxCmdV7, gain.single.reserved4, 28);
-VOND_OFFSET(SMMContRxCmdV7, gain.simultaneous.path0MainGainIdx, 24);
-VOND_OFFSET(SMMContRxCmdV7, gain.simultaneous.path0DivGainIdx, 25);
-VOND_OFFSET(SMMContRxCmdV7, gain.simultaneous.path1MainGainIdx, 26);
-VOND_OFFSET(SMMContRxCmdV7, gain.simultaneous.path1DivGainIdx, 27);
-VOND_OFFSET(SMMContRxCmdV7, gain.simultaneous.path0MainRfGain, 28);
-VOND_OFFSET(SMMContRxCmdV7, gain.simultaneous.path0DivRfGain, 30);
-VOND_OFFSET(SMMContRxCmdV7, gain.simultaneous.path1MainRfGain, 32);
-VOND_OFFSET(SMMContRxCmdV7, gain.simultaneous.path1DivRfGain, 34);
-VOND_OFFSET(SMMContRxCmdV7, dlFrequency, 36);
 
 // Command of VOND_MMRf_GainSearchV7_r.
 struct SMMGainSearchCmdV7
@@ -310,13 +210,6 @@ struct SMMGainSearchCmdV7
     uint8_t reserved18[2];
 };
 VOND_SIZE(SMMGainSearchCmdV7, 20);
-VOND_OFFSET(SMMGainSearchCmdV7, radioKind, 0);
-VOND_OFFSET(SMMGainSearchCmdV7, lowPower, 4);
-VOND_OFFSET(SMMGainSearchCmdV7, simultaneous, 8);
-VOND_OFFSET(SMMGainSearchCmdV7, elnaModeMain, 12);
-VOND_OFFSET(SMMGainSearchCmdV7, elnaModeDiv, 13);
-VOND_OFFSET(SMMGainSearchCmdV7, search, 14);
-VOND_OFFSET(SMMGainSearchCmdV7, reserved18, 18);
 
 // Command of VOND_MMRf_RssiV7_r.
 struct SMMRssiCmdV7
@@ -333,13 +226,3 @@ struct SMMRssiCmdV7
     UMMRssiGainV7 gain;  // singlePath says which layout holds
 };
 VOND_SIZE(SMMRssiCmdV7, 60);
-VOND_OFFSET(SMMRssiCmdV7, routeKind, 0);
-VOND_OFFSET(SMMRssiCmdV7, lowPower, 4);
-VOND_OFFSET(SMMRssiCmdV7, dlFrequency, 8);
-VOND_OFFSET(SMMRssiCmdV7, band, 28);
-VOND_OFFSET(SMMRssiCmdV7, rxRoute, 30);
-VOND_OFFSET(SMMRssiCmdV7, singlePath, 32);
-VOND_OFFSET(SMMRssiCmdV7, numFreq, 33);
-VOND_OFFSET(SMMRssiCmdV7, reserved34, 34);
-VOND_OFFSET(SMMRssiCmdV7, path, 36);
-VOND_OFFSET(SMMRssiCmdV7, gain, 40);

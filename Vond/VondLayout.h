@@ -1,11 +1,12 @@
 // Layout checks for records that cross the process boundary.
 //
-// Every wire record is little-endian and naturally aligned. A record states its size once and the
-// offset of every field once; a compiler that would lay it out differently fails here instead of on
-// the target.
+// Every wire record is little-endian and naturally aligned, and has no bytes without a name. Its size
+// stands beside it. The offset of each field, its unit and the names of its values stand in its row of
+// Trace/dictionary, once; a compiler that would lay the record out differently fails there instead of on
+// the target. Records that no row describes, those in memory, state their offsets here.
 //
 //   VOND_SIZE(SNrDlFreqCnfV7, 8);
-//   VOND_OFFSET(SNrDlFreqCnfV7, dlFrequency, 4);
+//   VOND_OFFSET(SAptRouteBwRecord, band, 0);
 #pragma once
 
 #include <cstddef>

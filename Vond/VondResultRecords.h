@@ -16,8 +16,6 @@ struct SNrDlFreqCnfV7
     uint32_t dlFrequency;  // kHz
 };
 VOND_SIZE(SNrDlFreqCnfV7, 8);
-VOND_OFFSET(SNrDlFreqCnfV7, status, 0);
-VOND_OFFSET(SNrDlFreqCnfV7, dlFrequency, 4);
 
 // Answer of VOND_NRf_GetMixRxReportV7_r. RSSI and RSRP are dBm in 1/128 dB, one column an antenna.
 struct NRfTestResult_GetMixRxReportV7
@@ -36,18 +34,6 @@ struct NRfTestResult_GetMixRxReportV7
     uint32_t BadBLK;   // transport blocks lost since the last reset
 };
 VOND_SIZE(NRfTestResult_GetMixRxReportV7, 172);
-VOND_OFFSET(NRfTestResult_GetMixRxReportV7, reportCount, 0);
-VOND_OFFSET(NRfTestResult_GetMixRxReportV7, reserved1, 1);
-VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSSI0, 4);
-VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSSI1, 24);
-VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSSI2, 44);
-VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSSI3, 64);
-VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSRP0, 84);
-VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSRP1, 104);
-VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSRP2, 124);
-VOND_OFFSET(NRfTestResult_GetMixRxReportV7, RSRP3, 144);
-VOND_OFFSET(NRfTestResult_GetMixRxReportV7, GoodBLK, 164);
-VOND_OFFSET(NRfTestResult_GetMixRxReportV7, BadBLK, 168);
 
 // Answer of VOND_MMRf_GainSearchV7_r.
 struct SMMGainSearchCnfV7
@@ -58,10 +44,6 @@ struct SMMGainSearchCnfV7
     UMMRssiGainV7 gain;     // simultaneous says which layout holds
 };
 VOND_SIZE(SMMGainSearchCnfV7, 28);
-VOND_OFFSET(SMMGainSearchCnfV7, adviseDlPower, 0);
-VOND_OFFSET(SMMGainSearchCnfV7, reserved2, 2);
-VOND_OFFSET(SMMGainSearchCnfV7, simultaneous, 4);
-VOND_OFFSET(SMMGainSearchCnfV7, gain, 8);
 
 // Rows of an RSSI measurement; the command's singlePath says which layout holds. RSSI is dBm in
 // 1/32 dB; the G (eLNA) and g (gain mode) bytes are the gains in force.
@@ -108,23 +90,3 @@ struct SMMRssiCnfV7
     UMMRssiRowsV7 rows;
 };
 VOND_SIZE(SMMRssiCnfV7, 76);
-VOND_OFFSET(SMMRssiCnfV7, reserved0, 0);
-VOND_OFFSET(SMMRssiCnfV7, dlFrequency, 8);
-VOND_OFFSET(SMMRssiCnfV7, rows.single.row, 28);
-VOND_OFFSET(SMMRssiCnfV7, rows.single.row[0].rssiDiv, 30);
-VOND_OFFSET(SMMRssiCnfV7, rows.single.mainG, 48);
-VOND_OFFSET(SMMRssiCnfV7, rows.single.divG, 49);
-VOND_OFFSET(SMMRssiCnfV7, rows.single.maing, 50);
-VOND_OFFSET(SMMRssiCnfV7, rows.single.divg, 51);
-VOND_OFFSET(SMMRssiCnfV7, rows.single.reserved24, 52);
-VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.row, 28);
-VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.row[0].path0Div, 30);
-VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.row[0].path1Main, 32);
-VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.row[0].path1Div, 34);
-VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.mainG, 68);
-VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.divG, 69);
-VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.path0Maing, 70);
-VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.path0Divg, 71);
-VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.path1Maing, 72);
-VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.path1Divg, 73);
-VOND_OFFSET(SMMRssiCnfV7, rows.simultaneous.reserved46, 74);
