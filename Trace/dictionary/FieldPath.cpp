@@ -2,6 +2,8 @@
 
 #include <charconv>
 
+#include "Trace/dictionary/Number.h"
+
 namespace {
 
 // Does the path begin with the name, as a whole?
@@ -72,4 +74,14 @@ std::optional<SFoundField> FindField(const SLayout &layout, std::string_view pat
         return inner;
     }
     return std::nullopt;
+}
+
+std::optional<int64_t> NumberAt(const SLayout &layout, std::span<const uint8_t> bytes,
+                                std::string_view path)
+{
+    const std::optional<SFoundField> found = FindField(layout, path);
+    if (!found || found->size != SizeOf(found->field->at.type) ||
+        found->offset + found->size > bytes.size())
+        return std::nullopt;
+    return ReadNumber(found->field->at.type, bytes.subspan(found->offset));
 }

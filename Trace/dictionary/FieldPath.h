@@ -9,6 +9,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string_view>
 
 #include "Trace/dictionary/Field.h"
@@ -21,3 +22,10 @@ struct SFoundField
 };
 
 std::optional<SFoundField> FindField(const SLayout &layout, std::string_view path);
+
+// The raw number of a field of the bytes. Nothing where the path names no single number, and where the
+// bytes end before it.
+//
+//   NumberAt(kLayoutOf<SNRfCapability>, bytes, "rfChipId")   // 40
+std::optional<int64_t> NumberAt(const SLayout &layout, std::span<const uint8_t> bytes,
+                                std::string_view path);

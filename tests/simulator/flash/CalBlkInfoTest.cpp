@@ -1,7 +1,10 @@
 // What the flash says that it holds.
 
 #include <cstring>
+#include <span>
 
+#include "Trace/dictionary/CalRecordLayouts.h"
+#include "Trace/dictionary/FieldPath.h"
 #include "tests/simulator/flash/CalFixture.h"
 
 namespace {
@@ -19,11 +22,10 @@ protected:
     }
 };
 
-uint16_t U16At(const SMMCalBlkInfoCnfV7 &info, std::size_t offset)
+std::optional<int64_t> Told(const SMMCalBlkInfoCnfV7 &info, std::string_view name)
 {
-    uint16_t value = 0;
-    std::memcpy(&value, reinterpret_cast<const uint8_t *>(&info) + offset, sizeof(value));
-    return value;
+    const std::span bytes(reinterpret_cast<const uint8_t *>(&info), sizeof(info));
+    return NumberAt(kLayoutOf<SMMCalBlkInfoCnfV7>, bytes, name);
 }
 
 TEST_F(CalBlkInfoTest, FunctionsAreOffered)
@@ -60,19 +62,19 @@ TEST_F(CalBlkInfoTest, RowsAreThoseOfTheRouteTables)
 TEST_F(CalBlkInfoTest, RowsLieWhereTheRecordPutsThem)
 {
     const auto info = Info();
-    EXPECT_EQ(U16At(*info, 0), 18);  // type 1 rows of the handset
-    EXPECT_EQ(U16At(*info, 2), 8);
-    EXPECT_EQ(U16At(*info, 4), 19);
-    EXPECT_EQ(U16At(*info, 6), 1);      // type 1 route 1
-    EXPECT_EQ(U16At(*info, 8), 4);      // limits of 250 MHz: 50 subbands
-    EXPECT_EQ(U16At(*info, 406), 101);  // type 2 route 101
-    EXPECT_EQ(U16At(*info, 408), 1);    // 60 MHz: 12 subbands
-    EXPECT_EQ(U16At(*info, 806), 1);    // TX route 1: two regions, 12 subbands each
-    EXPECT_EQ(U16At(*info, 808), 2);
-    EXPECT_EQ(U16At(*info, 810), 1);
-    EXPECT_EQ(U16At(*info, 812), 1);
-    EXPECT_EQ(U16At(*info, 814), 0);
-    EXPECT_EQ(U16At(*info, 822), 2);  // the next row
+    EXPECT_EQ(Told(*info, "type1Count"), 18);  // of the handset
+    EXPECT_EQ(Told(*info, "type2Count"), 8);
+    EXPECT_EQ(Told(*info, "txCount"), 19);
+    EXPECT_EQ(Told(*info, "type1[0].route"), 1);
+    EXPECT_EQ(Told(*info, "type1[0].blockTotal"), 4);  // limits of 250 MHz: 50 subbands
+    EXPECT_EQ(Told(*info, "type2[0].route"), 101);
+    EXPECT_EQ(Told(*info, "type2[0].blockTotal"), 1);  // 60 MHz: 12 subbands
+    EXPECT_EQ(Told(*info, "tx[0].route"), 1);          // two regions, 12 subbands each
+    EXPECT_EQ(Told(*info, "tx[0].blockTotal"), 2);
+    EXPECT_EQ(Told(*info, "tx[0].blockCount[0]"), 1);
+    EXPECT_EQ(Told(*info, "tx[0].blockCount[1]"), 1);
+    EXPECT_EQ(Told(*info, "tx[0].blockCount[2]"), 0);
+    EXPECT_EQ(Told(*info, "tx[1].route"), 2);
 }
 
 TEST_F(CalBlkInfoTest, UnusedRowsAreZero)

@@ -1,8 +1,10 @@
 // The capability reads: the profile's values at their places in the wire records.
 
-#include <cstring>
+#include <span>
 #include <memory>
 
+#include "Trace/dictionary/CapabilityLayouts.h"
+#include "Trace/dictionary/FieldPath.h"
 #include "tests/simulator/SimulatorFixture.h"
 
 namespace {
@@ -19,12 +21,12 @@ protected:
     }
 };
 
-// Counts from the bytes themselves, so that a shifted record is seen.
-uint32_t WordAt(const void *record, std::size_t offset)
+// From the bytes themselves.
+template <class Record>
+uint32_t WordAt(const Record &record, std::string_view name)
 {
-    uint32_t word = 0;
-    std::memcpy(&word, static_cast<const uint8_t *>(record) + offset, sizeof(word));
-    return word;
+    const std::span bytes(reinterpret_cast<const uint8_t *>(&record), sizeof(record));
+    return static_cast<uint32_t>(NumberAt(kLayoutOf<Record>, bytes, name).value_or(0));
 }
 
 TEST_F(CapabilityTest, LteSideTellsItsChip)
@@ -33,7 +35,7 @@ TEST_F(CapabilityTest, LteSideTellsItsChip)
     SERfCapability answer = {};
     ASSERT_EQ(VOND_ERf_GetRfCapability_r(kHandle, kTimeoutMs, &request, 8, &answer, 248),
               VOND_SUCCESS);
-    EXPECT_EQ(WordAt(&answer, 8), 11u);
+    EXPECT_EQ(WordAt(answer, "rfChipId"), 11u);
     EXPECT_STREQ(VOND_ERf_GetChipIdName(11), "VR6211");
     EXPECT_EQ(VOND_ERf_GetChipIdName(999), nullptr);
 }
@@ -44,8 +46,8 @@ TEST_F(CapabilityTest, WorldModeWordIsValidAndHoldsNr)
     SMMRfCapability answer = {};
     ASSERT_EQ(VOND_MMRf_GetRfCapability_r(kHandle, kTimeoutMs, &request, 8, &answer, 144),
               VOND_SUCCESS);
-    EXPECT_TRUE(VondItemValid(WordAt(&answer, 44)));
-    EXPECT_EQ(VondItemValue(WordAt(&answer, 44)), 103u);
+    EXPECT_TRUE(VondItemValid(WordAt(answer, "worldMode")));
+    EXPECT_EQ(VondItemValue(WordAt(answer, "worldMode")), 103u);
 }
 
 TEST_F(CapabilityTest, WorldModeOfNoNrLacksTheNrBit)
@@ -76,8 +78,8 @@ TEST_F(CapabilityTest, NrTellsChipAndGeneration)
     SNRfCapability answer = {};
     ASSERT_EQ(VOND_NRf_GetRfCapability_r(kHandle, kTimeoutMs, &request, 8, &answer, 36),
               VOND_SUCCESS);
-    EXPECT_EQ(WordAt(&answer, 8), 40u);
-    EXPECT_EQ(VondItemValue(WordAt(&answer, 12)) & 0xffu, 1u);
+    EXPECT_EQ(WordAt(answer, "rfChipId"), 40u);
+    EXPECT_EQ(VondItemValue(WordAt(answer, "generation")) & 0xffu, 1u);
     EXPECT_STREQ(VOND_NRf_GetChipIdName(40), "VR6240");
 
     VondSim_SetProfile("gen0");

@@ -46,6 +46,24 @@ TEST(FieldPathTest, PartOfAUnionIsFoundWhetherItHoldsOrNot)
     EXPECT_EQ(FindField(command, "forcedMode.carrier.band")->offset, 4u);
 }
 
+TEST(FieldPathTest, NumbersAreReadByTheirName)
+{
+    SMMRfRouteConfigV7 config = {};
+    config.freqRange.tx.low[13] = -5;
+    config.routes.txRoute[99].bwRegionKhz[3] = 100000;
+    const std::span bytes(reinterpret_cast<const uint8_t *>(&config), sizeof config);
+    const auto read = [&](std::string_view path) {
+        return NumberAt(kLayoutOf<SMMRfRouteConfigV7>, bytes, path);
+    };
+    EXPECT_EQ(read("freqRange.tx.low[13]"), -5);
+    EXPECT_EQ(read("routes.txRoute[99].bwRegionKhz[3]"), 100000);
+    EXPECT_EQ(read("routes.txRoute[99].bwRegionKhz"), std::nullopt);
+    EXPECT_EQ(read("routes.txRoute[99]"), std::nullopt);
+    EXPECT_EQ(read("routes.reserved6"), std::nullopt);
+    EXPECT_EQ(read("routes.nothing"), std::nullopt);
+    EXPECT_EQ(NumberAt(kLayoutOf<SMMRfRouteConfigV7>, bytes.first(3), "bandCount"), std::nullopt);
+}
+
 TEST(FieldPathTest, WhatIsNoFieldIsNotFound)
 {
     const SLayout &command = kLayoutOf<SNrPuschTxCmdV7>;
