@@ -9,6 +9,7 @@
 
 #include "Operations/capability/TargetCapability.h"
 #include "Simulator/VondSim.h"
+#include "Trace/dictionary/Functions.h"
 #include "Vond/VondCore.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 #include "tests/fuzz/wire/BlockJournal.h"
@@ -115,33 +116,19 @@ int32_t ResultOf(const char *function)
 
 const std::vector<SFuzzAnswer> &FuzzAnswerTable()
 {
-    static const std::vector<SFuzzAnswer> table = {
-        {"VOND_QueryFunctionSupported_r", 0},
-        {"VOND_ERf_GetRfCapability_r", sizeof(SERfCapability)},
-        {"VOND_MMRf_GetRfCapability_r", sizeof(SMMRfCapability)},
-        {"VOND_NRf_GetRfCapability_r", sizeof(SNRfCapability)},
-        {"VOND_MMRf_GetRouteConfigV7_r", sizeof(SMMRfRouteConfigV7)},
-        {"VOND_NRf_GetBandRxInfo_r", sizeof(SNRfBandRxInfo)},
-        {"VOND_NRf_GetRxRouteValues_r", sizeof(SNRfRxRouteValues)},
-        {"VOND_MMRf_GetRouteDetailV7_r", sizeof(SMMRfRouteDetailCnfV7)},
-        {"VOND_MMRf_GetCalBlkInfoV7_r", sizeof(SMMCalBlkInfoCnfV7)},
-        {"VOND_MMRf_GetCalDataV7_r", sizeof(SMMGetCalDataCnfV7)},
-        {"VOND_MMRf_SetCalDataV7_r", sizeof(SMMSetCalDataCnfV7)},
-        {"VOND_NRf_PuschTxV7_r", sizeof(uint32_t)},
-        {"VOND_NRf_RsrpV7_r", sizeof(uint32_t)},
-        {"VOND_NRf_GetDlFreqV7_r", sizeof(SNrDlFreqCnfV7)},
-        {"VOND_MMRf_GainSearchV7_r", sizeof(SMMGainSearchCnfV7)},
-        {"VOND_MMRf_RssiV7_r", sizeof(SMMRssiCnfV7)},
-        {"VOND_MMRf_SingleToneTxV7_r", 0},
-        {"VOND_MMRf_ContRxV7_r", 0},
-        {"VOND_MMRf_GetPdValueV7_r", sizeof(int16_t)},
-        {"VOND_NRf_GetMixRxReportV7_r", sizeof(NRfTestResult_GetMixRxReportV7)},
-        {"VOND_NRf_ResetMixRxReportV7_r", 0},
-        {"VOND_NRf_TestStop_r", 0},
-        {"VOND_MMRf_TestStopV7_r", 0},
-        {"VondConn_GetMdActiveIdx", sizeof(int32_t)},
-        {"VondConn_GetMdSrv", sizeof(int32_t)},
-    };
+    static const std::vector<SFuzzAnswer> table = [] {
+        std::vector<SFuzzAnswer> rows;
+        for (int id = 0; id < static_cast<int>(EFunction::Count); ++id) {
+            const SFunction &function = FunctionOf(static_cast<EFunction>(id));
+            if (function.kind == EFunctionKind::Library)
+                continue;
+            std::size_t size = function.answer != nullptr ? function.answer->size : 0;
+            if (function.status == EStatusPlace::Argument)
+                size = sizeof(uint32_t);
+            rows.push_back({function.name.data(), size});
+        }
+        return rows;
+    }();
     return table;
 }
 

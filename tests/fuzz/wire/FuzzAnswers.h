@@ -20,7 +20,7 @@
 struct SFuzzAnswer
 {
     const char *function;
-    std::size_t size;  // bytes of the record; 0: a result alone
+    std::size_t size;  // bytes of the record or the status word; 0: a result alone
 };
 
 // All functions of VondCore that answer a record or a result.

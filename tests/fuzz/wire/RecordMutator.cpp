@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "Vond/VondCalRecords.h"
-#include "Vond/VondCapabilityRecords.h"
+#include "Trace/dictionary/FieldPath.h"
+#include "Trace/dictionary/Functions.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 #include "tests/fuzz/common/JsonMutator.h"
 #include "tests/fuzz/wire/FuzzAnswers.h"
@@ -20,45 +20,53 @@ constexpr int kMaxBytes = 40;
 struct SPlace
 {
     const char *function;
-    std::size_t offset;
+    const char *field;
 };
 constexpr SPlace kPlaces[] = {
-    {"VOND_MMRf_GetRfCapability_r", offsetof(SMMRfCapability, worldMode)},
-    {"VOND_NRf_GetRfCapability_r", offsetof(SNRfCapability, generation)},
-    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, bandCount)},
-    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, band)},
-    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, freqRange.tx)},
-    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, freqRange.rx)},
-    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, routes.txRouteCount)},
-    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, routes.rxType1RouteCount)},
-    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, routes.rxType2RouteCount)},
-    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, routes.txRoute)},
-    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, routes.rxType1Route)},
-    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, routes.rxType2Route)},
-    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, rxGainInfo[0])},
-    {"VOND_MMRf_GetRouteConfigV7_r", offsetof(SMMRfRouteConfigV7, rxGainInfo[1])},
-    {"VOND_NRf_GetBandRxInfo_r", offsetof(SNRfBandRxInfo, count)},
-    {"VOND_NRf_GetBandRxInfo_r", offsetof(SNRfBandRxInfo, ulMimo)},
-    {"VOND_NRf_GetRxRouteValues_r", offsetof(SNRfRxRouteValues, count)},
-    {"VOND_NRf_GetRxRouteValues_r", offsetof(SNRfRxRouteValues, entry)},
-    {"VOND_MMRf_GetRouteDetailV7_r", offsetof(SMMRfRouteDetailCnfV7, rxType1)},
-    {"VOND_MMRf_GetRouteDetailV7_r", offsetof(SMMRfRouteDetailCnfV7, rxType2)},
-    {"VOND_MMRf_GetRouteDetailV7_r", offsetof(SMMRfRouteDetailCnfV7, txPair)},
-    {"VOND_MMRf_GetCalBlkInfoV7_r", offsetof(SMMCalBlkInfoCnfV7, type1Count)},
-    {"VOND_MMRf_GetCalBlkInfoV7_r", offsetof(SMMCalBlkInfoCnfV7, type1)},
-    {"VOND_MMRf_GetCalBlkInfoV7_r", offsetof(SMMCalBlkInfoCnfV7, type2)},
-    {"VOND_MMRf_GetCalBlkInfoV7_r", offsetof(SMMCalBlkInfoCnfV7, tx)},
-    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, verdict)},
-    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, type1Count)},
-    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, type1)},
-    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, type2BlockCount)},
-    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, type2Route)},
-    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, tx)},
-    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, type1Block)},
-    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, type2Block)},
-    {"VOND_MMRf_GetCalDataV7_r", offsetof(SMMGetCalDataCnfV7, txBlock)},
-    {"VOND_MMRf_SetCalDataV7_r", offsetof(SMMSetCalDataCnfV7, status)},
+    {"VOND_MMRf_GetRfCapability_r", "worldMode"},
+    {"VOND_NRf_GetRfCapability_r", "generation"},
+    {"VOND_MMRf_GetRouteConfigV7_r", "bandCount"},
+    {"VOND_MMRf_GetRouteConfigV7_r", "band"},
+    {"VOND_MMRf_GetRouteConfigV7_r", "freqRange.tx"},
+    {"VOND_MMRf_GetRouteConfigV7_r", "freqRange.rx"},
+    {"VOND_MMRf_GetRouteConfigV7_r", "routes.txRouteCount"},
+    {"VOND_MMRf_GetRouteConfigV7_r", "routes.rxType1RouteCount"},
+    {"VOND_MMRf_GetRouteConfigV7_r", "routes.rxType2RouteCount"},
+    {"VOND_MMRf_GetRouteConfigV7_r", "routes.txRoute"},
+    {"VOND_MMRf_GetRouteConfigV7_r", "routes.rxType1Route"},
+    {"VOND_MMRf_GetRouteConfigV7_r", "routes.rxType2Route"},
+    {"VOND_MMRf_GetRouteConfigV7_r", "rxGainInfo[0]"},
+    {"VOND_MMRf_GetRouteConfigV7_r", "rxGainInfo[1]"},
+    {"VOND_NRf_GetBandRxInfo_r", "count"},
+    {"VOND_NRf_GetBandRxInfo_r", "ulMimo"},
+    {"VOND_NRf_GetRxRouteValues_r", "count"},
+    {"VOND_NRf_GetRxRouteValues_r", "entry"},
+    {"VOND_MMRf_GetRouteDetailV7_r", "rxType1"},
+    {"VOND_MMRf_GetRouteDetailV7_r", "rxType2"},
+    {"VOND_MMRf_GetRouteDetailV7_r", "txPair"},
+    {"VOND_MMRf_GetCalBlkInfoV7_r", "type1Count"},
+    {"VOND_MMRf_GetCalBlkInfoV7_r", "type1"},
+    {"VOND_MMRf_GetCalBlkInfoV7_r", "type2"},
+    {"VOND_MMRf_GetCalBlkInfoV7_r", "tx"},
+    {"VOND_MMRf_GetCalDataV7_r", "verdict"},
+    {"VOND_MMRf_GetCalDataV7_r", "type1Count"},
+    {"VOND_MMRf_GetCalDataV7_r", "type1"},
+    {"VOND_MMRf_GetCalDataV7_r", "type2BlockCount"},
+    {"VOND_MMRf_GetCalDataV7_r", "type2Route"},
+    {"VOND_MMRf_GetCalDataV7_r", "tx"},
+    {"VOND_MMRf_GetCalDataV7_r", "type1Block"},
+    {"VOND_MMRf_GetCalDataV7_r", "type2Block"},
+    {"VOND_MMRf_GetCalDataV7_r", "txBlock"},
+    {"VOND_MMRf_SetCalDataV7_r", "status"},
 };
+
+uint32_t OffsetOf(const SPlace &place)
+{
+    const auto found = FindField(*FindFunction(place.function)->answer, place.field);
+    Require(found.has_value(), "a place is a field of the answer");
+    return found->offset;
+}
+
 constexpr int kNear = 48;  // bytes around a place, a few rows
 
 constexpr uint32_t kNumbers[] = {0,   1,   2,   3,    4,     5,     16,    55,         64,
@@ -100,7 +108,7 @@ SRecordChange NewChange(std::mt19937 &random)
     if (FuzzBelow(random, 3) != 0) {
         const SPlace &place = One(random, kPlaces);
         change.function = place.function;
-        change.offset = static_cast<uint32_t>(place.offset);
+        change.offset = OffsetOf(place);
         if (FuzzBelow(random, 2) == 0)
             change.offset += static_cast<uint32_t>(FuzzBelow(random, kNear));
     } else {
@@ -119,7 +127,7 @@ SRecordChange FewRoutes(std::mt19937 &random)
 {
     SRecordChange change;
     change.function = "VOND_MMRf_GetRouteConfigV7_r";
-    change.offset = offsetof(SMMRfRouteConfigV7, routes.txRouteCount);
+    change.offset = OffsetOf({"VOND_MMRf_GetRouteConfigV7_r", "routes.txRouteCount"});
     for (int most : {4, 3, 1}) {
         change.bytes.append(static_cast<char>(1 + FuzzBelow(random, most)));
         change.bytes.append('\0');
