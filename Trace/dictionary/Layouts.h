@@ -82,7 +82,7 @@ constexpr SFieldPlace As(const SLayout &layout, SFieldPlace place)
 }
 
 #define TRACE_AT(Record, member, bytes)                                                            \
-    PlaceOf<decltype(std::declval<Record &>().member), offsetof(Record, member), bytes>(#member)
+    PlaceOf<decltype(std::declval<Record>().member), offsetof(Record, member), bytes>(#member)
 
 // The third argument, if any, is the choice: .choice = {.field = "forced"}.
 #define TRACE_LAYOUT(Record, rows, ...)                                                            \

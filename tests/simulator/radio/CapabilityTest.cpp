@@ -1,7 +1,7 @@
 // The capability reads: the profile's values at their places in the wire records.
 
-#include <span>
 #include <memory>
+#include <span>
 
 #include "Trace/dictionary/CapabilityLayouts.h"
 #include "Trace/dictionary/FieldPath.h"
