@@ -6,6 +6,7 @@
 #include <fstream>
 #include <map>
 #include <string>
+#include <vector>
 
 #include <benchmark/benchmark.h>
 
@@ -21,9 +22,9 @@ public:
     void ReportRuns(const std::vector<Run> &runs) override
     {
         for (const Run &run : runs) {
-            if (!run.error_occurred)
-                m_seconds[Name(run)] =
-                    run.real_accumulated_time / static_cast<double>(run.iterations);
+            if (!run.error_occurred && run.run_type == Run::RT_Iteration)
+                m_seconds[Name(run)].push_back(run.real_accumulated_time /
+                                               static_cast<double>(run.iterations));
         }
         ConsoleReporter::ReportRuns(runs);
     }
@@ -40,22 +41,32 @@ public:
             const auto floor = m_seconds.find(floorName);
             if (measured == m_seconds.end() || (ratio.floor && floor == m_seconds.end()))
                 continue;
-            const double unit = ratio.floor ? floor->second : 1e-3;
+            const double seconds = Median(measured->second);
+            const double unit = ratio.floor ? Median(floor->second) : 1e-3;
             const std::string aim = ratio.aim > 0 ? Text("%.1f", ratio.aim) : "";
-            std::printf("%-40s %-40s %8.2f %6s\n", ratio.measured, floorName,
-                        measured->second / unit, aim.c_str());
-            file << ratio.measured << ',' << Text("%.3f", measured->second * 1e3) << ','
-                 << floorName << ',' << Text("%.3f", unit * 1e3) << ','
-                 << Text("%.2f", measured->second / unit) << ',' << aim << '\n';
+            std::printf("%-40s %-40s %8.2f %6s\n", ratio.measured, floorName, seconds / unit,
+                        aim.c_str());
+            file << ratio.measured << ',' << Text("%.3f", seconds * 1e3) << ',' << floorName << ','
+                 << Text("%.3f", unit * 1e3) << ',' << Text("%.2f", seconds / unit) << ',' << aim
+                 << '\n';
         }
     }
 
 private:
-    // Without the settings that the library writes behind a name ("/iterations:25", "/manual_time").
+    // Without the settings that the library writes behind a name ("/iterations:25", "/repeats:5").
     static std::string Name(const Run &run)
     {
-        const std::string name = run.benchmark_name();
-        return name.substr(0, std::min(name.find("/iterations:"), name.find("/manual_time")));
+        std::string name = run.run_name.function_name;
+        if (!run.run_name.args.empty())
+            name += '/' + run.run_name.args;
+        return name;
+    }
+
+    static double Median(std::vector<double> values)
+    {
+        const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+        std::nth_element(values.begin(), middle, values.end());
+        return *middle;
     }
 
     static std::string Text(const char *format, double number)
@@ -65,7 +76,7 @@ private:
         return text;
     }
 
-    std::map<std::string, double> m_seconds;  // by benchmark, of one iteration
+    std::map<std::string, std::vector<double>> m_seconds;  // by benchmark, of one iteration
 };
 
 }  // namespace
@@ -79,8 +90,17 @@ void SetUpBench()
 
 int RunBenchmarks(int argc, char **argv, const SRatio *ratios, int count)
 {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    const char *turns[] = {"--benchmark_repetitions=5",
+                           "--benchmark_enable_random_interleaving=true",
+                           "--benchmark_min_time=0.1"};
+    std::vector<char *> arguments{argv[0]};
+    for (const char *turn : turns)
+        arguments.push_back(const_cast<char *>(turn));
+    arguments.insert(arguments.end(), argv + 1, argv + argc);  // these come last and count
+    int all = static_cast<int>(arguments.size());
+    arguments.push_back(nullptr);
+    benchmark::Initialize(&all, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(all, arguments.data()))
         return 1;
     CRatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);

@@ -1,9 +1,11 @@
 // Runs the benchmarks of a program and prints ratios against floors measured in the same run.
 //
-// A ratio names two benchmarks: what is measured, and the floor that it cannot be faster than. The
-// aim, where there is one, is printed beside it; nothing fails. Without a floor the aim is the time
-// itself, in milliseconds. With QUORLIN_RATIOS the ratios go into the file of that name as well, a
-// line each: measured, its milliseconds, floor, its milliseconds, ratio, aim.
+// A ratio names two benchmarks: what is measured, and the floor that it cannot be faster than. All
+// run five times, in a random order, and the ratio is that of the medians, so that a machine that
+// slows down slows both. The aim, where there is one, is printed beside it; nothing fails. Without
+// a floor the aim is the time itself, in milliseconds. With QUORLIN_RATIOS the ratios go into the
+// file of that name as well, a line each: measured, its milliseconds, floor, its milliseconds,
+// ratio, aim.
 //
 //   static const SRatio kRatios[] = {{"LeafWrite/5000", "LeafWriteMap/5000", 5.0}};
 //   int main(int argc, char **argv) { return RunBenchmarks(argc, argv, kRatios, 1); }
