@@ -40,6 +40,19 @@ bool CRsrpSession::Running()
     return WaitForStatus("Rsrp start...");
 }
 
+bool CRsrpSession::WaitForStatus(const QString &text) const
+{
+    if (!CPluginSession::WaitForStatus(text))
+        return false;
+    // A start clears the reports first. The answer to that may come behind the start's, and until
+    // then a tick fetches nothing.
+    if (text == "Rsrp start...") {
+        QThreadPool::globalInstance()->waitForDone(1000);
+        QCoreApplication::processEvents();
+    }
+    return true;
+}
+
 bool CRsrpSession::Stop()
 {
     Press("m_stop");

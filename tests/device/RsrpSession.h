@@ -31,6 +31,8 @@ public:
     // Shown; started as well.
     bool Ready();
     bool Running();
+    // As the session's; a start is waited for with the clear before it.
+    bool WaitForStatus(const QString &text) const;
     bool Stop();
     // The timer's slot.
     void Tick() const;
