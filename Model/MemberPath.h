@@ -15,9 +15,9 @@
 
 #include <QString>
 
-constexpr QLatin1String kMemberProperty("memberProperty");  // in a member's path
-constexpr QLatin1String kMemberValue("memberValue");        // in the path of its packaged value
-constexpr QLatin1String kRequestName("cmdIf_request_");     // begins the name of a test's input
+inline const QLatin1String kMemberProperty("memberProperty");  // in a member's path
+inline const QLatin1String kMemberValue("memberValue");        // in the path of its packaged value
+inline const QLatin1String kRequestName("cmdIf_request_");     // begins the name of a test's input
 
 // Every "_" turned into ".".
 QString PathFromObjectName(const QString &objectName);
