@@ -3,13 +3,13 @@
 #   cmake --install build/release --prefix /opt/quorlin-rf     a tree that may be moved about
 #   scripts/package.sh                                         build/package/quorlin-rf_*.deb
 #
-# The tree is the build's own: bin/quorlin-host, plugins/libQuorlinRf.so, the Vond pair in lib/ where
+# The tree is the build's own: bin/quorlin-host, bin/quorlin, plugins/libQuorlinRf.so, the Vond pair in lib/ where
 # the plug-in's relative RUNPATH finds it, and the header that a host needs in include/. With VOND_ROOT
 # the pair stays where it is, and the plug-in's RUNPATH names that folder.
 include_guard(GLOBAL)
 include(GNUInstallDirs)
 
-install(TARGETS quorlin-host RUNTIME DESTINATION bin COMPONENT tool)
+install(TARGETS quorlin-host quorlin RUNTIME DESTINATION bin COMPONENT tool)
 install(TARGETS QuorlinRf LIBRARY DESTINATION plugins COMPONENT tool)
 if(NOT VOND_ROOT)
   install(TARGETS VondCore VondApp LIBRARY DESTINATION lib COMPONENT tool)

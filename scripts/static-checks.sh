@@ -77,6 +77,7 @@ PluginInterface View|Support
 Host PluginInterface
 Trace Vond
 Simulator Trace|Vond
+Cli Trace|Runner
 END
     while read -r folder allowed; do
         look_at_includes "$folder" "${folder%%/*}/" "($folder/${allowed:+|$allowed})" || good=false
@@ -89,6 +90,7 @@ Controller/responses Controller/(Interface|fields)/
 Controller/calibration Controller/(Interface|fields)/
 Controller/core Controller/
 Trace/dictionary
+Trace/lines Trace/dictionary/
 Simulator/basis
 Simulator/faults Simulator/basis/
 Simulator/profile Simulator/(basis|faults)/
