@@ -131,8 +131,8 @@ public:
     // The record of the route that a packaged calibration document selects, between the item's
     // memory and the document: Get answers with the document filled, Set stores what the page
     // shows. Storing makes no record valid. On another generation Get answers with an empty text, or
-    // with no object, and Set does nothing. Any thread; they work on what is in memory and wait for no job but a
-    // flow of their own item, once the page has its document.
+    // with no object, and Set does nothing. Any thread; they work on what is in memory and wait for
+    // no job but a flow of their own item, once the page has its document.
     std::string GetCalibrationData(ECalItem item, const std::string &document);
     void SetCalibrationData(ECalItem item, const std::string &document);
     std::optional<QJsonObject> GetCalibrationData(ECalItem item, const QJsonObject &document);

@@ -1,8 +1,6 @@
 // Page list and documents of the core.
 #include "Controller/core/NrCore.h"
 
-#include <exception>
-
 #include "Model/ModelText.h"
 #include "Support/Log.h"
 
@@ -48,8 +46,8 @@ void CNrCore::PrepareNextDataModel()
     try {
         if (m_target.GetNrGeneration() == 1)
             m_awaited.Keep(*page, GetDataModelV7(*page), connection);
-    } catch (const std::exception &failure) {
-        qCCritical(lcCore) << "no document in advance:" << failure.what();
+    } catch (...) {
+        qCCritical(lcCore) << "[CNrCore] no document in advance" << PageName(*page);
     }
 }
 
