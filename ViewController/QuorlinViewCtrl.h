@@ -78,8 +78,8 @@ public:
     void RequestDlFreq(EPageId page, CHandedDocument document);
     void RequestPdValue(EPageId page, CHandedDocument document);
     void RequestReport(EPageId page, CHandedDocument document);
-    void RequestClear(EPageId page, CHandedDocument document);
-    void RequestGains(EPageId page, CHandedDocument document);
+    void RequestClear(CHandedDocument document);
+    void RequestGains(CHandedDocument document);
 
     // In a slot of an answer: its document, whose text is given. Outside one it parses the text.
     // Empty: no document.
@@ -146,14 +146,8 @@ public:
         RequestReport(EPageId::RsrpNormal, std::move(document));
     }
     void RsrpResetCounter();
-    void RsrpClearReport(std::string document)
-    {
-        RequestClear(EPageId::RsrpNormal, std::move(document));
-    }
-    void RssiGainCalculator(std::string document)
-    {
-        RequestGains(EPageId::Rssi, std::move(document));
-    }
+    void RsrpClearReport(std::string document) { RequestClear(std::move(document)); }
+    void RssiGainCalculator(std::string document) { RequestGains(std::move(document)); }
 
     // Stops: of the NR tests, and of the multi-RAT ones; under the handle of the last test that was
     // asked for here.

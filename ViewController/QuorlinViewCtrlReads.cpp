@@ -25,7 +25,7 @@ void CQuorlinViewCtrl::RsrpResetCounter()
               [](CNrCore &core) { return std::make_tuple(core.ResetMixRxCounter()); });
 }
 
-void CQuorlinViewCtrl::RequestClear(EPageId, CHandedDocument document)
+void CQuorlinViewCtrl::RequestClear(CHandedDocument document)
 {
     RunOnPool("RsrpClearReportInternal", &CQuorlinViewCtrl::Signal_RsrpClearReportDone,
               [document = std::move(document)](CNrCore &core) mutable {
@@ -33,7 +33,7 @@ void CQuorlinViewCtrl::RequestClear(EPageId, CHandedDocument document)
               });
 }
 
-void CQuorlinViewCtrl::RequestGains(EPageId, CHandedDocument document)
+void CQuorlinViewCtrl::RequestGains(CHandedDocument document)
 {
     RunOnPool("RssiGainCalculatorInternal", &CQuorlinViewCtrl::Signal_RssiGainCalculatorDone,
               [document = std::move(document)](CNrCore &core) mutable {

@@ -165,7 +165,7 @@ void CNrRsrpDockWidgetV7::RequestClear(const QJsonObject &document)
     m_isClearing = true;
     m_reported = document;
     Await(&CQuorlinViewCtrl::Signal_RsrpClearReportDone, m_page.onClearDone);
-    ViewCtrl()->RequestClear(PageId(), document);
+    ViewCtrl()->RequestClear(document);
 }
 
 void CNrRsrpDockWidgetV7::OnClearDone(const std::string &response)

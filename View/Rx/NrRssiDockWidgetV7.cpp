@@ -152,7 +152,7 @@ void CNrRssiDockWidgetV7::on_m_btnRssiSeqSrhCalculator_clicked()
             &CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone);
     const QJsonObject document = PackageDocument();
     m_calculatorMark->Package();
-    m_viewCtrl->RequestGains(EPageId::Rssi, document);
+    m_viewCtrl->RequestGains(document);
 }
 
 void CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone(SEachItemOperationResult result,
