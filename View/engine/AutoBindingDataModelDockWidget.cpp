@@ -118,18 +118,7 @@ void CAutoBindingDataModelDockWidget::InitWidget()
     const QList<QWidget *> widgets = AllWidgets();
     SetGroupBoxFonts(widgets);
     InitMembers(BindingOf(m_dataModel), widgets);
-    SizeTables();
     qCDebug(lcEngine) << "============ [Done] Init widget ============ ";
-}
-
-// All tables of a page at once: showing their headers shows every editor of the page again.
-void CAutoBindingDataModelDockWidget::SizeTables()
-{
-    const auto sizings = std::exchange(m_sizings, {});
-    if (sizings.empty())
-        return;
-    for (const auto &size : sizings)
-        size();
 }
 
 SBinding CAutoBindingDataModelDockWidget::BindingOf(const QJsonObject &update)
@@ -141,7 +130,6 @@ SBinding CAutoBindingDataModelDockWidget::BindingOf(const QJsonObject &update)
         .index = m_index,
         .page = *this,
         .edits = m_edits,
-        .sizings = m_sizings,
     };
 }
 

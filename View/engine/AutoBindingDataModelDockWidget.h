@@ -179,7 +179,6 @@ protected:
 private:
     void StartInit();
     void InitWidget();
-    void SizeTables();
     static void SetGroupBoxFonts(const QList<QWidget *> &widgets);
     QList<QWidget *> AllWidgets() const;
     SBinding BindingOf(const QJsonObject &update);
@@ -201,7 +200,6 @@ private:
 
     CWidgetIndex m_index;  // built when the page is first shown
     CRelevance m_relevance{m_dataModel, m_modelInterface, m_index};
-    std::vector<std::function<void()>> m_sizings;  // of the tables that Init has filled
     CEditSession m_edits;
     CWheelGuard m_wheel;
     int m_packageCount = 0;

@@ -7,9 +7,6 @@
 //   FindGroupType(1)->update(binding, path, widget);
 #pragma once
 
-#include <functional>
-#include <vector>
-
 #include <QJsonObject>
 #include <QString>
 
@@ -25,7 +22,6 @@ struct SBinding
     const CWidgetIndex &index;  // of the page's widgets
     QWidget &page;              // has the slots that a data type names
     CEditSession &edits;        // watches the editors
-    std::vector<std::function<void()>> &sizings;  // run at the end of Init: sizes of tables
 
     // A path of a publish or subscribe list, with the interface's word in front.
     QString AbsolutePath(const QString &relativePath) const;

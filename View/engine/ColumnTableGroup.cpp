@@ -1,7 +1,6 @@
 #include "View/engine/ColumnTableGroup.h"
 
 #include <QHeaderView>
-#include <QPointer>
 #include <QTableWidget>
 
 #include "Model/JsonPath.h"
@@ -147,16 +146,13 @@ void InitColumnTable(const SBinding &binding, const QString &path, QWidget *widg
     table->setVerticalHeaderLabels(group.Captions(group.rows));
 
     const bool narrow = group.columns <= kNarrowColumns;
-    binding.sizings.push_back([table, narrow, cells = QPointer<CColumnCells>(cells)] {
-        LayHeadersOut(table);
-        table->setMaximumSize(narrow ? FitTableSize(table) : FitWideTableSize(table));
-        table->setMinimumSize(table->maximumSize());
-        if (narrow)
-            table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        if (cells)
-            cells->MakeAtPaint();
-    });
+    LayHeadersOut(table);
+    table->setMaximumSize(narrow ? FitTableSize(table) : FitWideTableSize(table));
+    table->setMinimumSize(table->maximumSize());
+    if (narrow)
+        table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    cells->MakeAtPaint();
 }
 
 void UpdateColumnTable(const SBinding &binding, const QString &path, QWidget *widget)

@@ -82,13 +82,11 @@ void InitRowTable(const SBinding &binding, const QString &path, QWidget *widget)
     table->setVerticalHeaderLabels(rowHeaders);
 
     const bool narrow = group.instances.size() <= kNarrowRows;
-    binding.sizings.push_back([table, narrow] {
-        LayHeadersOut(table);
-        SetFixedTableSize(
-            table, WithRoomForRows(table, narrow ? FitTableSize(table) : FitWideTableSize(table)));
-        if (narrow)
-            table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    });
+    LayHeadersOut(table);
+    SetFixedTableSize(
+        table, WithRoomForRows(table, narrow ? FitTableSize(table) : FitWideTableSize(table)));
+    if (narrow)
+        table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
 void UpdateRowTable(const SBinding &binding, const QString &path, QWidget *widget)
