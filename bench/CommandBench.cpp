@@ -4,29 +4,13 @@
 #include <QJsonObject>
 
 #include "Controller/commands/NrCoreCmdBuilder.h"
+#include "bench/BenchDocuments.h"
 
 namespace {
 
-QJsonObject PackagedDocument()
-{
-    QJsonObject values{
-        {"band", "n1"},       {"rxRoute", "1"},
-        {"dlBw", "5M"},       {"dlFrequency", "1950000"},
-        {"powerMode", "HPM"}, {"calType", "Simultaneously"},
-    };
-    for (const char *path : {"path0", "path1"}) {
-        for (const char *antenna : {"Main", "Div"}) {
-            values[QString(path) + antenna + "RfGain"] = "60.10";
-            values[QString(path) + antenna + "GainIdx"] = "16";
-        }
-    }
-    const QJsonObject group{{"memberValue", values}};
-    return {{"cmdIf", QJsonObject{{"request", QJsonObject{{"group1", group}}}}}};
-}
-
 void CommandFromDocument(benchmark::State &state)
 {
-    const QJsonObject document = PackagedDocument();
+    const QJsonObject document = PackagedContRx();
     const CNrCoreCmdBuilder builder;
     for (auto _ : state)
         benchmark::DoNotOptimize(builder.GetContRxCmdV7(document));

@@ -10,12 +10,10 @@
 #include "View/Rx/NrContRxDockWidgetV7.h"
 #include "View/editors/LateEditors.h"
 #include "View/engine/WidgetIndex.h"
+#include "bench/BenchDocuments.h"
 #include "bench/BenchPage.h"
 
 namespace {
-
-constexpr int kRows = 8;
-constexpr int kColumns = 64;
 
 std::string ContRxText()
 {
@@ -77,38 +75,13 @@ void PageReadWidgets(benchmark::State &state)
 }
 BENCHMARK(PageReadWidgets)->Unit(benchmark::kMicrosecond);
 
-QJsonObject ColumnDocument()
-{
-    QJsonArray members;
-    QJsonArray values;
-    for (int c = 0; c < kColumns; ++c)
-        values.append(QString::number(c % 70));
-    QJsonObject properties{{"dimentionCount", kColumns}, {"startIndex", 0}, {"indexStep", 1}};
-    for (int r = 0; r < kRows; ++r) {
-        const QString key = QString("row%1").arg(r);
-        members.append(key);
-        properties[key] =
-            QJsonObject{{"caption", key},
-                        {"defaultSupport", 1},
-                        {"defaultEnableStatus", 1},
-                        {"trait", QJsonObject{{"dataType", "pointRange"},
-                                              {"defaultValue", values},
-                                              {"value", QJsonObject{{"min", 0}, {"max", 70}}}}}};
-    }
-    const QJsonObject group{
-        {"groupType", 3}, {"memberList", members}, {"memberProperty", properties}};
-    return {{"cmdIf", QJsonObject{{"response", QJsonObject{{"group1", group}}}}}};
-}
-
-const char kTableName[] = "cmdIf_response_group1_memberProperty_row0";
-
 // isSeen: with editors, which a table without a look does not have.
 void InitColumnTable(benchmark::State &state, bool isSeen)
 {
-    const QJsonObject document = ColumnDocument();
+    const QJsonObject document = ColumnDocument(0);
     for (auto _ : state) {
         CBenchPage page;
-        const QTableWidget *table = page.AddTable(kTableName);
+        const QTableWidget *table = page.AddTable(kBenchTable);
         page.Open(document);
         if (isSeen)
             EnsureEditors(table);
@@ -127,10 +100,10 @@ void ColumnTableBareCells(benchmark::State &state)
     for (auto _ : state) {
         CBenchPage page;
         QTableWidget *table = page.AddTable("table");
-        table->setRowCount(kRows);
-        table->setColumnCount(kColumns);
-        for (int r = 0; r < kRows; ++r) {
-            for (int c = 0; c < kColumns; ++c)
+        table->setRowCount(kBenchRows);
+        table->setColumnCount(kBenchColumns);
+        for (int r = 0; r < kBenchRows; ++r) {
+            for (int c = 0; c < kBenchColumns; ++c)
                 table->setCellWidget(r, c, new QDoubleSpinBox(table));
         }
         page.show();
@@ -141,8 +114,8 @@ BENCHMARK(ColumnTableBareCells)->Unit(benchmark::kMillisecond);
 void UpdateColumnTable(benchmark::State &state, bool isSeen)
 {
     CBenchPage page;
-    const QTableWidget *table = page.AddTable(kTableName);
-    const QJsonObject document = ColumnDocument();
+    const QTableWidget *table = page.AddTable(kBenchTable);
+    const QJsonObject document = ColumnDocument(0);
     page.Open(document);
     if (isSeen)
         EnsureEditors(table);
@@ -159,8 +132,8 @@ BENCHMARK_CAPTURE(UpdateColumnTable, ColumnTableUpdateUnseen, false)
 void PackageColumnTable(benchmark::State &state, bool isSeen)
 {
     CBenchPage page;
-    const QTableWidget *table = page.AddTable(kTableName);
-    page.Open(ColumnDocument());
+    const QTableWidget *table = page.AddTable(kBenchTable);
+    page.Open(ColumnDocument(0));
     if (isSeen)
         EnsureEditors(table);
     for (auto _ : state)
@@ -177,12 +150,12 @@ BENCHMARK_CAPTURE(PackageColumnTable, ColumnTablePackageUnseen, false)
 void ColumnTableReadCells(benchmark::State &state)
 {
     CBenchPage page;
-    QTableWidget *table = page.AddTable(kTableName);
-    page.Open(ColumnDocument());
+    QTableWidget *table = page.AddTable(kBenchTable);
+    page.Open(ColumnDocument(0));
     EnsureEditors(table);
     for (auto _ : state) {
-        for (int r = 0; r < kRows; ++r) {
-            for (int c = 0; c < kColumns; ++c)
+        for (int r = 0; r < kBenchRows; ++r) {
+            for (int c = 0; c < kBenchColumns; ++c)
                 benchmark::DoNotOptimize(
                     static_cast<QDoubleSpinBox *>(table->cellWidget(r, c))->text());
         }

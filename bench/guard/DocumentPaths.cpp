@@ -14,6 +14,7 @@
 #include "Controller/responses/NrDataModelResponseBuilder.h"
 #include "Model/JsonPath.h"
 #include "Model/ModelText.h"
+#include "bench/BenchDocuments.h"
 #include "bench/guard/Counted.h"
 #include "bench/guard/GuardPaths.h"
 
@@ -101,20 +102,7 @@ void CountCapability(CNrDataModelCapUpdater &updater)
 // A command from a document, beside the document's text there and back.
 void CountCommand()
 {
-    QJsonObject values{
-        {"band", "n1"},       {"rxRoute", "1"},
-        {"dlBw", "5M"},       {"dlFrequency", "1950000"},
-        {"powerMode", "HPM"}, {"calType", "Simultaneously"},
-    };
-    for (const char *path : {"path0", "path1"}) {
-        for (const char *antenna : {"Main", "Div"}) {
-            values[QString(path) + antenna + "RfGain"] = "60.10";
-            values[QString(path) + antenna + "GainIdx"] = "16";
-        }
-    }
-    const QJsonObject group{{"memberValue", values}};
-    const QJsonObject request{{"group1", group}};
-    const QJsonObject document{{"cmdIf", QJsonObject{{"request", request}}}};
+    const QJsonObject document = PackagedContRx();
     const std::string text = ModelToText(document);
     const CNrCoreCmdBuilder builder;
     CountPath(

@@ -12,6 +12,7 @@
 
 #include "Model/ModelText.h"
 #include "View/Rx/NrContRxDockWidgetV7.h"
+#include "bench/BenchDocuments.h"
 #include "bench/BenchPage.h"
 #include "bench/guard/Counted.h"
 #include "bench/guard/GuardPaths.h"
@@ -49,9 +50,6 @@ void CountPage()
         "pagePackage", [&] { page.PackageMemberValue(); }, [&] { ModelToText(document); });
 }
 
-constexpr int kRows = 8;
-constexpr int kColumns = 64;
-
 QJsonObject Document(int groupType, const QJsonArray &members, QJsonObject properties,
                      const QJsonArray &instances = {})
 {
@@ -60,27 +58,6 @@ QJsonObject Document(int groupType, const QJsonArray &members, QJsonObject prope
                             {"memberProperty", properties},
                             {"instanceList", instances}};
     return {{"cmdIf", QJsonObject{{"response", QJsonObject{{"group1", group}}}}}};
-}
-
-QJsonObject ColumnDocument(int first)
-{
-    QJsonArray members;
-    QJsonArray values;
-    for (int c = 0; c < kColumns; ++c)
-        values.append(QString::number((first + c) % 70));
-    QJsonObject properties{{"dimentionCount", kColumns}, {"startIndex", 0}, {"indexStep", 1}};
-    for (int r = 0; r < kRows; ++r) {
-        const QString key = QString("row%1").arg(r);
-        members.append(key);
-        properties[key] =
-            QJsonObject{{"caption", key},
-                        {"defaultSupport", 1},
-                        {"defaultEnableStatus", 1},
-                        {"trait", QJsonObject{{"dataType", "pointRange"},
-                                              {"defaultValue", values},
-                                              {"value", QJsonObject{{"min", 0}, {"max", 70}}}}}};
-    }
-    return Document(3, members, properties);
 }
 
 // Two answers, of which each changes every cell; beside bare editors that take as many values.
@@ -92,11 +69,11 @@ void CountColumnUpdate()
     QTableWidget *table = page.AddTable("cmdIf_response_group1_memberProperty_row0");
     page.Open(first);
     page.grab();  // the editors are there
-    if (!table->cellWidget(kRows - 1, kColumns - 1))
+    if (!table->cellWidget(kBenchRows - 1, kBenchColumns - 1))
         qFatal("the table has no editors");
     QWidget bare;
     QVector<QDoubleSpinBox *> boxes;
-    for (int i = 0; i < kRows * kColumns; ++i)
+    for (int i = 0; i < kBenchRows * kBenchColumns; ++i)
         boxes.append(new QDoubleSpinBox(&bare));
     CountPath(
         "columnUpdate",
