@@ -3,6 +3,8 @@
 #include <charconv>
 #include <iterator>
 
+#include "Vond/VondCapabilityRecords.h"
+
 namespace {
 
 constexpr char kDigits[] = "0123456789abcdef";
@@ -94,9 +96,9 @@ std::string BandText(int64_t band)
 
 std::string ItemText(uint32_t word, const SField &field)
 {
-    if ((word & 1u) == 0)
+    if (!VondItemValid(word))
         return "absent";
-    const uint32_t item = (word >> 2) & field.itemMask;
+    const uint32_t item = VondItemValue(word) & field.itemMask;
     return field.bits.empty() ? std::to_string(item) : MaskText(item, field.bits);
 }
 
