@@ -1,0 +1,127 @@
+// The tool in the hands of a program: loaded, shown where no display is, worked as a person works it,
+// by titles, texts and object names.
+//
+// A bench loads the library that opens the link (if one is named), takes its handle, loads the plug-in,
+// asks whether it can run on the DUT, shows it and waits for its pages. Its end turns RF off, hides and
+// unloads the tool, and closes the link. One bench a process; an application object made by
+// MakeBenchApplication comes before it and goes after it.
+//
+// Waits. Everything that waits runs the event loop meanwhile and has a bound. Interrupt() ends every
+// wait, the one under way included, until Resume(). Boxes and file dialogs that open are closed at once and
+// kept; a file dialog gets the file that AnswerFileDialog has named.
+//
+// Errors come back as values; nothing throws. GUI thread.
+//
+//   auto application = MakeBenchApplication({});
+//   CBench bench;
+//   const SBenchError error = bench.Open({.profile = "handset"});
+//   if (error.kind != EBenchError::None)
+//       return Complain(error.text);
+//   CBenchPage *page = bench.FindPage("RSSI", nullptr);
+//   page->Set("request.group1.band", "n77");
+//   const SPressEnd end = page->Press("Start", std::chrono::seconds(60));
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include <QApplication>
+#include <QObject>
+
+#include "Runner/bench/BenchTypes.h"
+
+class CBenchPage;
+
+constexpr std::chrono::milliseconds kBenchWait = std::chrono::seconds(60);
+
+struct SBenchOptions
+{
+    QString pluginFile = {};  // empty: ../plugins/libQuorlinRf.so beside the program's folder
+    QString profile = {};     // of the simulated DUT; empty: as the environment says
+    uint32_t handle = 1;      // not used with a link
+    QString linkFile = {};    // a library with VondLink_Open and VondLink_Close; empty: none
+    bool isVerbose = false;   // debug lines of the tool on stderr
+    std::chrono::milliseconds wait = kBenchWait;  // for the pages
+};
+
+enum class EBenchError
+{
+    None,
+    Wrong,        // no such profile, plug-in or link file: the command line is wrong
+    Unsupported,  // the tool can't run on this DUT
+    Failed,       // the pages did not come up
+};
+
+struct SBenchError
+{
+    EBenchError kind = EBenchError::None;
+    QString text = {};  // a sentence
+};
+
+enum class EBenchWait
+{
+    Done,
+    Late,         // the bound has passed
+    Interrupted,  // by Interrupt()
+    Gone,         // the tool's window or pages are gone
+};
+
+// The application object of a bench: Qt's offscreen platform, whatever the environment says.
+std::unique_ptr<QApplication> MakeBenchApplication(const SBenchOptions &options);
+
+class CBench : public QObject
+{
+    Q_OBJECT
+
+public:
+    CBench();
+    ~CBench() override;  // Close()
+
+    SBenchError Open(const SBenchOptions &options);
+    // RF Off, hide, unload, link closed. What RF Off came to: true when the DUT has confirmed that no
+    // test runs. Safe to call twice.
+    bool Close();
+
+    QVector<CBenchPage *> Pages() const;
+    // By title or class name. Null: error says which there are.
+    CBenchPage *FindPage(const QString &name, SRefusal *error) const;
+    // The page in front, or null.
+    CBenchPage *FrontPage() const;
+
+    // Presses RF Off and waits for its end; it goes next on the link, whatever waits. refusal: null for
+    // who doesn't ask.
+    bool RfOff(std::chrono::milliseconds bound, QString *why = nullptr);
+    // Does a test run on the DUT, as the tool's pages and RF Off tell?
+    bool MayTransmit() const;
+
+    bool IsBusy() const;
+    QString Status() const;  // the line in the status bar
+    uint32_t Handle() const;
+    QString ChipName() const;  // of the DUT; empty where the plug-in does not tell
+    QString ToolName() const;  // "Quorlin RF"
+    QString ToolVersion() const;
+
+    EBenchWait WaitIdle(std::chrono::milliseconds bound);
+    // The condition is looked at after every turn of the event loop.
+    EBenchWait WaitUntil(const std::function<bool()> &condition, std::chrono::milliseconds bound);
+    void Interrupt();
+    void Resume();
+    bool IsInterrupted() const;
+
+    // The file for the next file dialog; without one a dialog is cancelled. Absolute.
+    void AnswerFileDialog(const QString &file);
+    // The boxes since the last call.
+    QVector<SBenchBox> TakeBoxes();
+
+signals:
+    void Signal_Status(const QString &line);
+    void Signal_Busy(bool isBusy);
+    void Signal_Box(const SBenchBox &box);
+
+private:
+    struct SParts;
+    std::unique_ptr<SParts> m_parts;
+};
