@@ -5,7 +5,8 @@
 //   trace.calls[0].function->name     // "VOND_QueryFunctionSupported_r"
 //   trace.notes[0].before             // 0: the note stands before the first call
 //
-// A line has at most kLongestTraceLine bytes. The whole trace is held in memory, its records as bytes.
+// A line has at most kLongestTraceLine bytes (LineSource.h). The whole trace is held in memory, its
+// records as bytes.
 #pragma once
 
 #include <cstddef>
@@ -15,8 +16,6 @@
 #include <vector>
 
 #include "Trace/lines/TraceCall.h"
-
-constexpr std::size_t kLongestTraceLine = 16 * 1024 * 1024;
 
 // The first line.
 struct STraceHeader
