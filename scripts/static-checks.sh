@@ -76,6 +76,7 @@ View/Tx View/pages|View/engine|View/editors|Model|Support|ViewController
 PluginInterface View|Support
 Host PluginInterface
 Trace Vond
+Tap Trace|Vond
 Simulator Trace|Vond
 Cli Trace|Runner
 END
@@ -91,6 +92,7 @@ Controller/calibration Controller/(Interface|fields)/
 Controller/core Controller/
 Trace/dictionary
 Trace/lines Trace/dictionary/
+Tap/replay
 Simulator/basis
 Simulator/faults Simulator/basis/
 Simulator/profile Simulator/(basis|faults)/
