@@ -1,5 +1,6 @@
 #include "Trace/lines/LineObject.h"
 
+#include <array>
 #include <stdexcept>
 #include <utility>
 
@@ -17,16 +18,24 @@ std::string Quoted(std::string_view key)
     throw std::runtime_error(reason);
 }
 
-// 16 for what is no digit.
+constexpr uint8_t kNoDigit = 16;
+
+constexpr std::array<uint8_t, 256> DigitTable()
+{
+    std::array<uint8_t, 256> table = {};
+    table.fill(kNoDigit);
+    for (uint8_t i = 0; i < 10; ++i)
+        table[std::size_t{'0'} + i] = i;
+    for (uint8_t i = 0; i < 6; ++i)
+        table[std::size_t{'a'} + i] = table[std::size_t{'A'} + i] = static_cast<uint8_t>(10 + i);
+    return table;
+}
+// By sign, for a trace of an hour has a hundred million of them.
+constexpr std::array<uint8_t, 256> kDigits = DigitTable();
+
 uint8_t DigitOf(char sign)
 {
-    if (sign >= '0' && sign <= '9')
-        return static_cast<uint8_t>(sign - '0');
-    if (sign >= 'a' && sign <= 'f')
-        return static_cast<uint8_t>(sign - 'a' + 10);
-    if (sign >= 'A' && sign <= 'F')
-        return static_cast<uint8_t>(sign - 'A' + 10);
-    return 16;
+    return kDigits[static_cast<uint8_t>(sign)];
 }
 
 }  // namespace
@@ -151,7 +160,7 @@ TraceBytes CLineObject::Bytes(std::string_view key) const
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         const uint8_t high = DigitOf((*digits)[2 * i]);
         const uint8_t low = DigitOf((*digits)[2 * i + 1]);
-        if (high > 15 || low > 15)
+        if (high == kNoDigit || low == kNoDigit)
             FailLine(Quoted(key) + " has a sign that is no hexadecimal digit, in byte " +
                      std::to_string(i));
         bytes[i] = static_cast<uint8_t>(high << 4 | low);
