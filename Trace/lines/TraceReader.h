@@ -16,17 +16,7 @@
 #include <vector>
 
 #include "Trace/lines/TraceCall.h"
-
-// The first line.
-struct STraceHeader
-{
-    std::string tool;         // version of the tool that wrote it
-    std::string time;         // of the beginning, ISO 8601
-    std::string core;         // file name of VondCore
-    std::string coreBuildId;  // hexadecimal; empty where the file has none
-    std::string app;          // of VondApp
-    std::string appBuildId;
-};
+#include "Trace/lines/TraceHeader.h"
 
 struct STraceNote
 {
