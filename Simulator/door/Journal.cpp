@@ -1,11 +1,11 @@
 #include "Simulator/door/Journal.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 #include <utility>
 
 #include "Simulator/basis/Results.h"
+#include "Trace/lines/LoadedLibrary.h"
 
 namespace {
 
@@ -16,31 +16,32 @@ std::size_t BytesOf(const SJournalEntry &entry)
     return sizeof(entry) + entry.request.size() + entry.answer.size();
 }
 
-void AppendHex(std::string &line, const std::vector<uint8_t> &bytes)
+STraceHeader HeaderOfThePair()
 {
-    static constexpr char kDigits[] = "0123456789abcdef";
-    for (const uint8_t byte : bytes) {
-        line += kDigits[byte >> 4];
-        line += kDigits[byte & 15];
-    }
+    const SLoadedLibrary core = FindLoadedLibrary("libVondCore.so");
+    const SLoadedLibrary app = FindLoadedLibrary("libVondApp.so");
+    return {.tool = QUORLIN_VERSION,
+            .core = core.name,
+            .coreBuildId = core.buildId,
+            .app = app.name,
+            .appBuildId = app.buildId};
 }
 
 }  // namespace
 
 CJournal::CJournal(const std::string &path)
+    : m_writer({.path = path, .who = "VondSim"}, path.empty() ? STraceHeader() : HeaderOfThePair())
 {
-    if (path.empty())
-        return;
-    m_file.open(path, std::ios::trunc);
-    if (!m_file)
-        std::fprintf(stderr, "VondSim: journal %s cannot be written\n", path.c_str());
 }
 
-void CJournal::Append(SJournalEntry entry)
+void CJournal::Append(SJournalEntry entry, CTraceWriter::Line line, const STraceView &answer)
 {
+    m_writer.End(std::move(line), {.answer = answer,
+                                   .result = entry.result,
+                                   .text = ResultText(entry.result),
+                                   .status = entry.status,
+                                   .durationNs = entry.durationNs});
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_file.is_open())
-        WriteLine(entry);
     m_bytes += BytesOf(entry);
     m_entries.push_back(std::move(entry));
     while (m_bytes > kMostBytes) {
@@ -100,23 +101,4 @@ uint32_t CJournal::Copy(uint32_t index, std::vector<uint8_t> SJournalEntry::*par
     if (bytes != nullptr && count > 0)
         std::memcpy(bytes, source.data(), count);
     return static_cast<uint32_t>(source.size());
-}
-
-void CJournal::WriteLine(const SJournalEntry &entry)
-{
-    // Function names and result texts are this library's own and need no escapes.
-    std::string line = "{\"index\":" + std::to_string(m_lines++) + ",\"function\":\"";
-    line += entry.function->name;
-    line += "\",\"handle\":" + std::to_string(entry.handle);
-    line += ",\"timeout\":" + std::to_string(entry.timeoutMs);
-    line += ",\"request\":\"";
-    AppendHex(line, entry.request);
-    line += "\",\"answer\":\"";
-    AppendHex(line, entry.answer);
-    line += "\",\"result\":" + std::to_string(entry.result);
-    line += ",\"text\":\"";
-    line += ResultText(entry.result);
-    line += "\",\"status\":" + std::to_string(entry.status);
-    line += ",\"durationNs\":" + std::to_string(entry.durationNs) + "}\n";
-    m_file << line << std::flush;
 }

@@ -1,22 +1,25 @@
 // The journal: every call in the order in which the calls ended, in memory and, when
-// VOND_SIM_JOURNAL names a file, as one JSON line each. All functions may be called from any
-// thread.
+// VOND_SIM_JOURNAL names a file, as a trace (docs/trace-format.md). All functions may be called from
+// any thread.
 //
-// The file is emptied when the journal opens and flushed with each line. Its keys are told in
-// docs/simulated-dut.md. Clearing the journal leaves the file as it is. Memory is bounded, so that a
-// run may last for days: beyond 64 MiB the oldest calls go, while the numbers of the others stay.
-// The file keeps everything.
+// The trace tells a call at its begin, too. It has the caller's answer record as it lies there when the
+// call ends; in memory are only answers that are the target's. Clearing the journal leaves the trace as it
+// is. Memory is bounded, so that a run may last for days: beyond 64 MiB the oldest calls go, while the
+// numbers of the others stay. The trace keeps everything.
+//
+//   CTraceWriter::Line line = journal.Begin({.function = &function, .request = {&command, 40}});
+//   journal.Append(std::move(entry), std::move(line), {&answer, 8});
 #pragma once
 
 #include <cstdint>
 #include <deque>
-#include <fstream>
 #include <mutex>
 #include <string>
 #include <vector>
 
 #include "Simulator/VondSim.h"
 #include "Trace/dictionary/Functions.h"
+#include "Trace/lines/TraceWriter.h"
 
 struct SJournalEntry
 {
@@ -33,10 +36,11 @@ struct SJournalEntry
 class CJournal
 {
 public:
-    // An empty path: no file. A file that cannot be written costs one line on stderr.
+    // An empty path: no trace. A file that cannot be written costs one line on stderr.
     explicit CJournal(const std::string &path);
 
-    void Append(SJournalEntry entry);
+    CTraceWriter::Line Begin(const STraceBegin &begin) { return m_writer.Begin(begin); }
+    void Append(SJournalEntry entry, CTraceWriter::Line line, const STraceView &answer);
     void Clear();
     // Calls since the last clear, those that have gone too.
     uint32_t Count() const;
@@ -47,7 +51,6 @@ public:
                   uint32_t size) const;
 
 private:
-    void WriteLine(const SJournalEntry &entry);
     // Null where Get is false.
     const SJournalEntry *Find(uint32_t index) const;
 
@@ -55,6 +58,5 @@ private:
     std::deque<SJournalEntry> m_entries;
     uint32_t m_gone = 0;      // entries dropped from the front
     std::size_t m_bytes = 0;  // of the entries in memory
-    std::ofstream m_file;
-    uint64_t m_lines = 0;
+    CTraceWriter m_writer;
 };

@@ -28,6 +28,14 @@ std::vector<uint8_t> CopyOf(const void *data, std::size_t size)
     return std::vector<uint8_t>(bytes, bytes + size);
 }
 
+STraceBegin BeginOf(const SCall &call, const SFunction &function)
+{
+    return {.function = &function,
+            .handle = call.handle,
+            .timeoutMs = call.timeoutMs,
+            .request = {call.request.data, call.request.size}};
+}
+
 void FillWithNoise(const SBytes &bytes, uint32_t seed)
 {
     if (bytes.data == nullptr)
@@ -91,8 +99,9 @@ CSimulator::CSimulator() : m_journal(Environment("VOND_SIM_JOURNAL"))
 
 int32_t CSimulator::Run(const SCall &call, const Body &body)
 {
-    const Clock::time_point start = Clock::now();
     const SFunction &function = FunctionOf(call.function);
+    CTraceWriter::Line line = m_journal.Begin(BeginOf(call, function));
+    const Clock::time_point start = Clock::now();
     SJournalEntry entry;
     entry.request = CopyOf(call.request.data, call.request.size);
     const SFaultPlan plan = Enter(function);
@@ -118,14 +127,15 @@ int32_t CSimulator::Run(const SCall &call, const Body &body)
     if (outcome.answered)
         entry.answer = CopyOf(call.answer.data, call.answer.size);
     entry.durationNs = NanosecondsSince(start);
-    m_journal.Append(std::move(entry));
+    m_journal.Append(std::move(entry), std::move(line), {call.answer.data, call.answer.size});
     return outcome.result;
 }
 
 const char *CSimulator::RunText(const SCall &call, const TextBody &body)
 {
-    const Clock::time_point start = Clock::now();
     const SFunction &function = FunctionOf(call.function);
+    CTraceWriter::Line line = m_journal.Begin(BeginOf(call, function));
+    const Clock::time_point start = Clock::now();
     SJournalEntry entry;
     entry.request = CopyOf(call.request.data, call.request.size);
     const SFaultPlan plan = Enter(function);
@@ -136,9 +146,10 @@ const char *CSimulator::RunText(const SCall &call, const TextBody &body)
         text = body(m_dut);
     }
     entry.function = &function;
-    entry.answer = CopyOf(text, text != nullptr ? std::strlen(text) : 0);
+    const std::size_t length = text != nullptr ? std::strlen(text) : 0;
+    entry.answer = CopyOf(text, length);
     entry.durationNs = NanosecondsSince(start);
-    m_journal.Append(std::move(entry));
+    m_journal.Append(std::move(entry), std::move(line), {text, length});
     return text;
 }
 

@@ -324,6 +324,8 @@ void RunningTestEndTest::endOfTheProcessStopsIt()
     for (const QByteArray &line : journal.readAll().split('\n')) {
         const QJsonObject call = QJsonDocument::fromJson(line).object();
         const QString function = call.value("function").toString();
+        if (!call.contains("index"))
+            continue;  // the begin of a call
         if (function == kPages[1].start || function == kNrStop || function == kMmStop)
             calls.append(QString("%1@%2").arg(function).arg(call.value("handle").toInt()));
     }

@@ -2,6 +2,7 @@
 // them.
 
 #include <cstdlib>
+#include <cstring>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -12,6 +13,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Simulator/VondSim.h"
+#include "Trace/lines/TraceReader.h"
 #include "Vond/VondApp.h"
 #include "Vond/VondCore.h"
 
@@ -31,12 +33,20 @@ const bool kEnvironmentIsSet = [] {
     return true;
 }();
 
-std::vector<nlohmann::json> JournalLines()
+std::vector<nlohmann::json> AllLines()
 {
     std::vector<nlohmann::json> lines;
     std::ifstream file(JournalPath());
     for (std::string line; std::getline(file, line);)
         lines.push_back(nlohmann::json::parse(line));
+    return lines;
+}
+
+// Those that tell a whole call.
+std::vector<nlohmann::json> JournalLines()
+{
+    std::vector<nlohmann::json> lines = AllLines();
+    std::erase_if(lines, [](const nlohmann::json &line) { return !line.contains("index"); });
     return lines;
 }
 
@@ -95,12 +105,30 @@ TEST_F(EnvironmentTest, JournalFileHasALineForEachCallAtOnce)
     EXPECT_EQ(stop.at("handle"), 0x22);
     EXPECT_EQ(stop.at("timeout"), 4321);
     EXPECT_EQ(stop.at("request"), "07000000");
-    EXPECT_EQ(stop.at("answer"), "");
+    EXPECT_TRUE(stop.at("answer").is_null());
     EXPECT_EQ(stop.at("text"), "Target: unknown stop kind");
     EXPECT_NE(stop.at("result"), 0);
     EXPECT_EQ(stop.at("status"), 0);
     EXPECT_GT(stop.at("durationNs"), 0);
     EXPECT_EQ(lines[before + 1].at("answer"), "00000000");
+}
+
+TEST_F(EnvironmentTest, JournalFileIsATrace)
+{
+    SNrDlFreqCnfV7 answer;
+    std::memset(&answer, 0x5a, sizeof(answer));
+    VOND_NRf_GetDlFreqV7_r(1, 1000, nullptr, &answer);
+    const STrace trace = ReadTrace(JournalPath(), ECutLine::Refused);
+    EXPECT_EQ(trace.header.core, "libVondCore.so");
+    EXPECT_EQ(trace.header.app, "libVondApp.so");
+    EXPECT_FALSE(trace.header.tool.empty());
+    const STraceCall &call = trace.calls.back();
+    EXPECT_EQ(call.function, &FunctionOf(EFunction::GetDlFreq));
+    EXPECT_EQ(call.request, std::nullopt);
+    EXPECT_EQ(call.answer, std::vector<uint8_t>(sizeof(answer), 0x5a));
+    EXPECT_EQ(call.text, "Argument: null pointer");
+    EXPECT_EQ(call.process, static_cast<uint64_t>(getpid()));
+    EXPECT_EQ(AllLines().size(), 1 + 2 * trace.calls.size());
 }
 
 TEST_F(EnvironmentTest, ClearingTheJournalLeavesTheFile)
