@@ -78,6 +78,7 @@ Host PluginInterface
 Trace Vond
 Tap Trace|Vond
 Simulator Trace|Vond
+Runner PluginInterface
 Cli Trace|Runner
 END
     while read -r folder allowed; do
@@ -93,6 +94,10 @@ Controller/core Controller/
 Trace/dictionary
 Trace/lines Trace/dictionary/
 Tap/replay
+Runner/plan
+Runner/report
+Runner/bench
+Runner/run Runner/(plan|report|bench)/
 Simulator/basis
 Simulator/faults Simulator/basis/
 Simulator/profile Simulator/(basis|faults)/
