@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
-#include <map>
 
 #include "Trace/dictionary/Decode.h"
-#include "Trace/dictionary/ValueText.h"
+#include "Trace/dictionary/FieldDifference.h"
 
 namespace {
 
@@ -51,43 +50,20 @@ std::size_t CountDifferent(const std::vector<SPlace> &places, const RequestView 
     return static_cast<std::size_t>(count) + (a.size() != b.size() ? 1 : 0);
 }
 
-struct SWorded
-{
-    std::string text;
-    std::vector<uint8_t> bytes;
-};
-
-std::map<std::string, SWorded> WordedFields(const SFunction &function, const RequestView &request)
-{
-    std::map<std::string, SWorded> fields;
-    DecodeRequest(function, BytesOf(request), [&](const SFieldValue &value) {
-        fields[std::string(value.name)] = {ValueText(value),
-                                           {value.bytes.begin(), value.bytes.end()}};
-    });
-    return fields;
-}
-
 }  // namespace
 
 std::string Differences(const SFunction &function, const RequestView &asked, const STraceCall &call)
 {
     const RequestView recorded = RequestOf(call);
-    std::vector<std::string> texts;
-    if (asked.has_value() != recorded.has_value() ||
-        BytesOf(asked).size() != BytesOf(recorded).size())
-        texts.push_back(SizeText(recorded) + " in place of " + SizeText(asked));
-    const auto fields = WordedFields(function, recorded);
-    DecodeRequest(function, BytesOf(asked), [&](const SFieldValue &value) {
-        const std::string name(value.name);
-        const auto field = fields.find(name);
-        if (field != fields.end() && !std::ranges::equal(field->second.bytes, value.bytes))
-            texts.push_back(name + ' ' + field->second.text + " in place of " + ValueText(value));
-    });
+    if (asked.has_value() != recorded.has_value())
+        return SizeText(recorded) + " in place of " + SizeText(asked);
+    const auto fields = RequestDifferences(function, BytesOf(recorded), BytesOf(asked));
     std::string line;
-    for (std::size_t i = 0; i < std::min(texts.size(), kMostNamedFields); ++i)
-        line += (i > 0 ? ", " : "") + texts[i];
-    if (texts.size() > kMostNamedFields)
-        line += " and " + std::to_string(texts.size() - kMostNamedFields) + " more";
+    for (std::size_t i = 0; i < std::min(fields.size(), kMostNamedFields); ++i)
+        line += (i > 0 ? ", " : "") + fields[i].name + ' ' + fields[i].one + " in place of " +
+                fields[i].other;
+    if (fields.size() > kMostNamedFields)
+        line += " and " + std::to_string(fields.size() - kMostNamedFields) + " more";
     return line;
 }
 

@@ -67,7 +67,8 @@ TEST(ReplayTextTest, RequestOfAnotherSizeOrNoneIsToldSo)
     EXPECT_EQ(
         LineOf(EFunction::LteCapability, sizes, {Recorded(EFunction::LteCapability, uint32_t{56})}),
         "Replay: VOND_ERf_GetRfCapability_r: no call like this in the trace; the nearest, call "
-        "0, has 4 bytes in place of 8 bytes\n");
+        "0, has calibrationSize absent in place of 180 bytes, (size) 4 bytes in place of 8 "
+        "bytes\n");
     EXPECT_EQ(
         LineOf(EFunction::LteCapability, sizes, {Recorded(EFunction::LteCapability)}),
         "Replay: VOND_ERf_GetRfCapability_r: no call like this in the trace; the nearest, call "
