@@ -1,0 +1,14 @@
+#include <cstdio>
+#include <exception>
+
+#include "Cli/Commands.h"
+
+void RunCommand(int &exitCode, const std::function<int()> &command)
+{
+    try {
+        exitCode = command();
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "quorlin: %s\n", error.what());
+        exitCode = kExitTrouble;
+    }
+}

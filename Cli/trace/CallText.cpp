@@ -1,0 +1,80 @@
+#include "Cli/trace/CallText.h"
+
+#include <cstdio>
+
+#include "Trace/dictionary/ValueNames.h"
+
+namespace {
+
+std::string Scaled(uint64_t ns, double unit, int decimals, const char *name)
+{
+    char text[40];
+    std::snprintf(text, sizeof(text), "%.*f %s", decimals, static_cast<double>(ns) / unit, name);
+    return text;
+}
+
+std::string FileText(const std::string &file, const std::string &buildId)
+{
+    return buildId.empty() ? file : file + " (" + buildId + ")";
+}
+
+}  // namespace
+
+std::string DurationText(uint64_t ns)
+{
+    if (ns < 1000)
+        return std::to_string(ns) + " ns";
+    if (ns < 1000 * 1000)
+        return Scaled(ns, 1e3, 1, "µs");
+    if (ns < 1000 * 1000 * 1000)
+        return Scaled(ns, 1e6, 1, "ms");
+    return Scaled(ns, 1e9, 3, "s");
+}
+
+std::string ResultText(const STraceCall &call)
+{
+    const std::string number = std::to_string(call.result);
+    return call.text.empty() ? number : PrintableText(call.text) + " (" + number + ")";
+}
+
+std::string StatusText(uint32_t status)
+{
+    const std::string number = std::to_string(status);
+    for (const SValueName &row : kStatusNames) {
+        if (row.value == status)
+            return std::string(row.name) + " (" + number + ")";
+    }
+    return number;
+}
+
+bool HasFailed(const STraceCall &call)
+{
+    return call.isEnded && (call.result != 0 || call.status != 0);
+}
+
+std::string HeaderText(const std::string &path, const STraceHeader &header)
+{
+    return PrintableText(path + ": of " + header.time + ", by Quorlin RF " + header.tool +
+                         ", with " + FileText(header.core, header.coreBuildId) + " and " +
+                         FileText(header.app, header.appBuildId));
+}
+
+std::string PrintableText(std::string_view text)
+{
+    static constexpr char kDigits[] = "0123456789abcdef";
+    std::string printable;
+    for (const char sign : text) {
+        const auto byte = static_cast<uint8_t>(sign);
+        if (byte >= ' ' && byte != 0x7f)
+            printable += sign;
+        else
+            printable += {'\\', 'x', kDigits[byte >> 4], kDigits[byte & 15]};
+    }
+    return printable;
+}
+
+void WarnOfCutLine(const std::string &path, const STrace &trace)
+{
+    if (trace.isCut)
+        std::fprintf(stderr, "quorlin: %s: the last line is cut, and is left out\n", path.c_str());
+}
