@@ -4,18 +4,20 @@
 #   scripts/package.sh                                         build/package/quorlin-rf_*.deb
 #
 # The tree is the build's own: bin/quorlin-host, bin/quorlin, plugins/libQuorlinRf.so, the Vond pair in lib/ where
-# the plug-in's relative RUNPATH finds it, and the header that a host needs in include/. With VOND_ROOT
-# the pair stays where it is, and the plug-in's RUNPATH names that folder.
+# the plug-in's relative RUNPATH finds it, the tap beside the pair, and the header that a host needs in
+# include/. With VOND_ROOT the pair stays where it is, and the plug-in's RUNPATH names that folder.
 include_guard(GLOBAL)
 include(GNUInstallDirs)
 
 install(TARGETS quorlin-host quorlin RUNTIME DESTINATION bin COMPONENT tool)
 install(TARGETS QuorlinRf LIBRARY DESTINATION plugins COMPONENT tool)
+install(TARGETS VondTap LIBRARY DESTINATION lib COMPONENT tool)
 if(NOT VOND_ROOT)
   install(TARGETS VondCore VondApp LIBRARY DESTINATION lib COMPONENT tool)
 endif()
 install(FILES PluginInterface/VondPluginInterface.h DESTINATION include/PluginInterface
         COMPONENT header)
+install(FILES Tap/VondTap.h DESTINATION include/Tap COMPONENT header)
 
 # The Debian package: the same tree as a private folder, as the plug-in and its pair are nobody
 # else's libraries; what users and the system look for stands in its usual place.

@@ -27,6 +27,11 @@ STraceHeader HeaderOfThePair()
             .appBuildId = app.buildId};
 }
 
+bool HasResult(const SFunction &function)
+{
+    return function.kind != EFunctionKind::Library;
+}
+
 }  // namespace
 
 CJournal::CJournal(const std::string &path)
@@ -36,11 +41,12 @@ CJournal::CJournal(const std::string &path)
 
 void CJournal::Append(SJournalEntry entry, CTraceWriter::Line line, const STraceView &answer)
 {
-    m_writer.End(std::move(line), {.answer = answer,
-                                   .result = entry.result,
-                                   .text = ResultText(entry.result),
-                                   .status = entry.status,
-                                   .durationNs = entry.durationNs});
+    m_writer.End(std::move(line),
+                 {.answer = answer,
+                  .result = entry.result,
+                  .text = HasResult(*entry.function) ? ResultText(entry.result) : "",
+                  .status = entry.status,
+                  .durationNs = entry.durationNs});
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_bytes += BytesOf(entry);
     m_entries.push_back(std::move(entry));
