@@ -1,5 +1,8 @@
 #include "tests/common/SimJournal.h"
 
+#include "Trace/dictionary/FieldPath.h"
+#include "Trace/dictionary/Functions.h"
+
 namespace {
 
 using ReadBytes = uint32_t (*)(uint32_t, void *, uint32_t);
@@ -46,4 +49,13 @@ int CountCalls(const char *function)
     for (uint32_t i = 0; VondSim_GetCall(i, &call) == 0; ++i)
         count += qstrcmp(call.function, function) == 0;
     return count;
+}
+
+std::optional<int64_t> RequestNumber(const SJournalCall &call, std::string_view field)
+{
+    const SFunction *const function = FindFunction(call.call.function);
+    if (function == nullptr || function->request == nullptr)
+        return std::nullopt;
+    const auto *const bytes = reinterpret_cast<const uint8_t *>(call.request.constData());
+    return NumberAt(*function->request, {bytes, static_cast<size_t>(call.request.size())}, field);
 }

@@ -5,6 +5,9 @@
 //   QCOMPARE(starts[0].request, expectedBytes);
 #pragma once
 
+#include <optional>
+#include <string_view>
+
 #include <QByteArray>
 #include <QString>
 #include <QVector>
@@ -22,3 +25,5 @@ struct SJournalCall
 QVector<SJournalCall> Journal();
 QVector<SJournalCall> JournalOf(const char *function);
 int CountCalls(const char *function);
+// A number of the call's request, by its name in Trace/dictionary; nothing where it has no such number.
+std::optional<int64_t> RequestNumber(const SJournalCall &call, std::string_view field);

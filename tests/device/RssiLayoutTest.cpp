@@ -5,7 +5,7 @@
 #include <QHeaderView>
 #include <QStackedWidget>
 
-#include "Vond/VondResultRecords.h"
+#include "tests/common/AnswerField.h"
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
@@ -40,7 +40,8 @@ void RssiLayoutTest::tablesHaveFiveColumnsWhateverTheChannelNumber()
     session.Press(kStartButton);
     CBoxWatcher boxes;  // the DUT may refuse to measure nothing
     QVERIFY(WaitUntil([&] { return session.busy.size() == 2; }));
-    QCOMPARE(static_cast<int>(JournalOf(kRssiCall).last().request.at(33)), channels);
+    QCOMPARE(RequestNumber(JournalOf(kRssiCall).last(), "numFreq"),
+             std::optional<int64_t>(channels));
     for (int path : {0, 1}) {
         QCOMPARE(session.ResultTable(path)->columnCount(), 5);
         QCOMPARE(session.ResultTable(path)->rowCount(), 3);
@@ -75,9 +76,9 @@ void RssiLayoutTest::noResultIsCutOff()
 {
     CRssiSession session;
     QVERIFY(session.ShowAndWait());
-    AddAnswerBytes(kRssiCall, offsetof(SMMRssiCnfV7, dlFrequency),
-                   "ffffffff");  // the highest of the record
-    AddAnswerBytes(kRssiCall, offsetof(SMMRssiCnfV7, rows), "00800080");  // and the lowest level
+    AnswerField(kRssiCall, "dlFrequency[0]", 4294967295);           // the highest of the record
+    AnswerField(kRssiCall, "rows.single.row[0].rssiMain", -32768);  // and the lowest level
+    AnswerField(kRssiCall, "rows.single.row[0].rssiDiv", -32768);
     QVERIFY(Measure(session));
     QCOMPARE(session.ResultRow(0, CRssiSession::MainRssi)[0], QString("-1024.00000"));
     for (auto row : {CRssiSession::DlFreq, CRssiSession::MainRssi, CRssiSession::DivRssi}) {

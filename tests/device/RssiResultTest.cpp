@@ -6,6 +6,7 @@
 #include <QDockWidget>
 
 #include "Vond/VondResultRecords.h"
+#include "tests/common/AnswerField.h"
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
@@ -54,10 +55,9 @@ void RssiResultTest::unusedColumnsComeFromTheTarget()
 {
     CRssiSession session;
     QVERIFY(session.ShowAndWait());
-    AddAnswerBytes(kRssiCall, offsetof(SMMRssiCnfV7, dlFrequency[4]),
-                   "39300000");  // 12345 kHz in the last column
-    AddAnswerBytes(kRssiCall, offsetof(SMMRssiCnfV7, rows.single.row[4]),
-                   "f0ff2000");  // -16/32 and 32/32 dBm
+    AnswerField(kRssiCall, "dlFrequency[4]", 12345);             // kHz, in the last column
+    AnswerField(kRssiCall, "rows.single.row[4].rssiMain", -16);  // in 1/32 dBm
+    AnswerField(kRssiCall, "rows.single.row[4].rssiDiv", 32);
     QVERIFY(Measure(session));
     QCOMPARE(session.ResultRow(0, CRssiSession::DlFreq)[0], QString("1950000"));
     QCOMPARE(session.ResultRow(0, CRssiSession::DlFreq)[4], QString("12345"));

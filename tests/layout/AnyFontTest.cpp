@@ -17,7 +17,7 @@
 #include <QStatusBar>
 #include <QTest>
 
-#include "Vond/VondResultRecords.h"
+#include "tests/common/AnswerField.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/RssiSession.h"
 #include "tests/layout/LayoutCheck.h"
@@ -142,9 +142,9 @@ void AnyFontTest::pageShowsAllOfItsResults()
     QFETCH(QString, done);
     QDockWidget *dock = RaisePage(*m_session, page);
     QVERIFY(dock);
-    AddAnswerBytes(kRssiCall, offsetof(SMMRssiCnfV7, dlFrequency),
-                   "ffffffff");  // the highest of the record
-    AddAnswerBytes(kRssiCall, offsetof(SMMRssiCnfV7, rows), "00800080");  // and the lowest level
+    AnswerField(kRssiCall, "dlFrequency[0]", 4294967295);           // the highest of the record
+    AnswerField(kRssiCall, "rows.single.row[0].rssiMain", -32768);  // and the lowest level
+    AnswerField(kRssiCall, "rows.single.row[0].rssiDiv", -32768);
     QTest::mouseClick(dock->findChild<QPushButton *>(button), Qt::LeftButton);
     QVERIFY(m_session->WaitForStatus(done));
     QCOMPARE(Faults(dock), QString());

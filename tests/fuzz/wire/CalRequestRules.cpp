@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "Trace/dictionary/CalRecordLayouts.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 
 namespace {
@@ -11,6 +12,31 @@ bool IsZero(const T &value)
 {
     const auto *bytes = reinterpret_cast<const uint8_t *>(&value);
     return std::all_of(bytes, bytes + sizeof value, [](uint8_t byte) { return byte == 0; });
+}
+
+// Of the request and of its entries. Blocks are passed over: they go back as they came.
+bool IsReservedZero(const SLayout &layout, const uint8_t *bytes)
+{
+    for (const SField &field : layout.fields) {
+        const uint8_t *at = bytes + field.at.offset;
+        if (field.at.isReserved &&
+            std::any_of(at, at + field.at.size, [](uint8_t byte) { return byte != 0; }))
+            return false;
+        if (field.at.type != EFieldType::Record || field.at.name.ends_with("Block"))
+            continue;
+        for (uint32_t i = 0; i < CountOf(field.at); ++i, at += field.at.size) {
+            if (!IsReservedZero(*field.at.record, at))
+                return false;
+        }
+    }
+    return true;
+}
+
+template <typename Request>
+void RequireReservedZero(const Request &request)
+{
+    Require(IsReservedZero(kLayoutOf<Request>, reinterpret_cast<const uint8_t *>(&request)),
+            "reserved bytes are 0");
 }
 
 // blocksOf(i): the block count of entry i; isEmpty(i): nothing stands in it.
@@ -53,14 +79,12 @@ void CheckRequest(const SMMGetCalDataReqV7 &request)
     Require(request.radioKind == 1, "calibration data is of NR");
     Require(request.type1Count + request.type2Count + request.txCount > 0,
             "no round goes out empty");
-    Require(IsZero(request.reserved10), "reserved bytes are 0");
+    RequireReservedZero(request);
     CheckPart(request.type1Count, request.type1);
     CheckPart(request.type2Count, request.type2);
     CheckPart(request.txCount, request.tx);
-    for (const SMMCalTxRequestEntryV7 &entry : request.tx) {
+    for (const SMMCalTxRequestEntryV7 &entry : request.tx)
         Require(entry.route == entry.routeAgain, "a TX entry names its route twice");
-        Require(IsZero(entry.reserved8) && IsZero(entry.reserved14), "reserved bytes are 0");
-    }
 }
 
 void CheckRequest(const SMMSetCalDataReqV7 &request)
@@ -69,8 +93,7 @@ void CheckRequest(const SMMSetCalDataReqV7 &request)
     Require(request.version == kVondCalVersion, "a download tells its version");
     Require(request.type1Count + request.type2Count + request.txCount > 0,
             "no round goes out empty");
-    Require(request.reserved5 == 0 && IsZero(request.reserved238) && IsZero(request.reserved250),
-            "reserved bytes are 0");
+    RequireReservedZero(request);
     const int type1 = CheckPart(request.type1Count, request.type1);
     const int type2 = CheckPart(
         request.type2Count, kVondCalType2Blocks, [&](int i) { return request.type2BlockCount[i]; },

@@ -1,6 +1,7 @@
 #include "tests/hands/rules/FlashRule.h"
 
 #include "Simulator/VondSim.h"
+#include "Trace/dictionary/FieldPath.h"
 #include "tests/hands/witness/PageReader.h"
 
 namespace {
@@ -16,11 +17,11 @@ bool IsOfPage(const QString &page, const FlashPlace &place)
 // has been read.
 bool IsGrownByImport(const CFlashFile::SRecord &record, int blocks)
 {
-    const bool isApt = record.place.kind == eFlashApt;
-    const size_t list = isApt ? offsetof(SAptBlock, freq) : offsetof(SMMType1PathlossBlockV7, freq);
-    const int last = int(list) + 4 * (kVondCalBlockSubbands - 1);
-    uint32_t frequency = 0;
-    std::memcpy(&frequency, record.blocks.last().constData() + last, sizeof frequency);
+    const QByteArray &block = record.blocks.last();
+    const std::string last = "freq[" + std::to_string(kVondCalBlockSubbands - 1) + ']';
+    const auto frequency = NumberAt(
+        BlockLayout(record.place.kind),
+        {reinterpret_cast<const uint8_t *>(block.constData()), size_t(block.size())}, last);
     return blocks == record.blocks.size() + 1 && frequency != 0;
 }
 

@@ -6,6 +6,8 @@
 #include <QJsonObject>
 #include <QTableWidget>
 
+#include "Trace/dictionary/CalBlockLayouts.h"
+#include "Trace/dictionary/FieldPath.h"
 #include "tests/hands/witness/PageReader.h"
 
 namespace {
@@ -13,12 +15,11 @@ namespace {
 constexpr int kSubbands = kVondCalBlockSubbands;
 constexpr int kAllBlocks = -1;
 
-// A field of a record: bytes of a block, or of all of them.
-struct SField
+// A field of a block, by its name in Trace/dictionary, or of all blocks of a record.
+struct SCellField
 {
     int block = kAllBlocks;
-    int offset = -1;  // none
-    int size = 2;
+    QString name;  // empty: none
     int64_t value = 0;
 };
 
@@ -27,9 +28,10 @@ int64_t Db(const QString &text)
     return static_cast<int64_t>(std::trunc(text.toDouble() * 32));
 }
 
-SField OfSubband(const SCellKey &cell, int offset, int stride, int size, int64_t value)
+// The cell of a table whose columns are the subbands of all blocks.
+SCellField OfSubband(int column, const QString &name, int64_t value)
 {
-    return {cell.column / kSubbands, offset + stride * (cell.column % kSubbands), size, value};
+    return {column / kSubbands, name.arg(column % kSubbands), value};
 }
 
 // The number that a name ends with.
@@ -38,43 +40,43 @@ int Number(const QString &name)
     return name.mid(name.lastIndexOf(QRegExp("[^0-9]")) + 1).toInt();
 }
 
-SField AptLevelField(const SCellKey &cell, const QString &text)
+SCellField AptLevelField(const SCellKey &cell, const QString &text)
 {
-    const int level = Number(cell.member) - 1;
-    const int at = int(offsetof(SAptBlock, level)) + int(sizeof(SAptLevel)) * level;
+    const QString name = QString("level[%1].").arg(Number(cell.member) - 1);
     if (cell.group == "group2")
-        return {kAllBlocks, at, 1, text.toInt()};
+        return {kAllBlocks, name + "paMode", text.toInt()};
     if (cell.group == "group3")
-        return {kAllBlocks, at + 4, 2, text.toInt() * 32};
+        return {kAllBlocks, name + "prf", text.toInt() * 32};
     if (cell.group == "group4")
-        return {kAllBlocks, at + 6, 2, Db(text)};
+        return {kAllBlocks, name + "paGain", Db(text)};
     if (cell.group == "group5")
-        return {kAllBlocks, at + 1, 1, qRound(QString(text).remove('V').toDouble() * 10)};
-    return {kAllBlocks, at + 2, 1, text.toInt()};
+        return {kAllBlocks, name + "dc2dcLevel", qRound(QString(text).remove('V').toDouble() * 10)};
+    return {kAllBlocks, name + "usage256Qam", text.toInt()};
 }
 
-SField AptField(const SCellKey &cell, const QString &text)
+SCellField AptField(const SCellKey &cell, const QString &text)
 {
     const int group = Number(cell.group);
     const int mode = cell.member.contains("High") ? 0 : cell.member.contains("Middle") ? 1 : 2;
-    const int part = int(offsetof(SAptBlock, pa)) + int(sizeof(SAptPaPart)) * mode;
+    const QString part = QString("pa[%1].").arg(mode);
+    const QString offset = QString("[%1]").arg(cell.column);
     switch (group) {
     case 1:
-        return {kAllBlocks, 3, 1, text.toInt()};
+        return {kAllBlocks, "paControlLevel", text.toInt()};
     case 7:
-        return OfSubband(cell, part + 2, 2, 2, Db(text));
+        return OfSubband(cell.column, part + "paGain[%1]", Db(text));
     case 8:
-        return {kAllBlocks, part + 34 + 2 * cell.column, 2, Db(text)};
+        return {kAllBlocks, part + "paGainTempOffset" + offset, Db(text)};
     case 9:
-        return OfSubband(cell, part + 50, 2, 2, Db(text));
+        return OfSubband(cell.column, part + "powerDetector[%1]", Db(text));
     case 10:
-        return {kAllBlocks, part + 82 + 2 * cell.column, 2, Db(text)};
+        return {kAllBlocks, part + "powerDetectorTempOffset" + offset, Db(text)};
     case 11:
         if (cell.member == "normalTempIndex")
-            return {kAllBlocks, 2, 1, text.toInt()};
-        return {kAllBlocks, 86 + 2 * mode, 2, Db(text)};
+            return {kAllBlocks, "normalTempIndex", text.toInt()};
+        return {kAllBlocks, QString("couplerLoss[%1]").arg(mode), Db(text)};
     case 12:
-        return OfSubband(cell, int(offsetof(SAptBlock, freq)), 4, 4, text.toInt());
+        return OfSubband(cell.column, "freq[%1]", text.toInt());
     default:
         return AptLevelField(cell, text);
     }
@@ -85,37 +87,31 @@ bool IsType2(const Selection &selection)
     return selection["routeType"].contains('2');
 }
 
-SField PathLossField(const Selection &selection, const SCellKey &cell, const QString &text)
+SCellField PathLossField(const Selection &selection, const SCellKey &cell, const QString &text)
 {
-    using Block1 = SMMType1PathlossBlockV7;
-    using Block2 = SMMType2PathlossBlockV7;
     const int group = Number(cell.group);
     const bool isType2 = IsType2(selection);
     // Of the two kinds of routes the page stores the tables of one.
     if (isType2 ? group == 2 || group == 3 : group > 4)
         return {};
-    if (group == 1) {
-        const size_t at = isType2 ? offsetof(Block2, plOffset) : offsetof(Block1, plOffset);
-        return {kAllBlocks, int(at) + 2 * cell.column, 2, Db(text)};
-    }
+    if (group == 1)
+        return {kAllBlocks, QString("plOffset[%1]").arg(cell.column), Db(text)};
     if (group == 4)
-        return OfSubband(cell, int(offsetof(Block1, freq)), 4, 4, text.toInt());
-    const int half = selection["powerMode"] == "HPM" ? 2 : 0;
+        return OfSubband(cell.column, "freq[%1]", text.toInt());
+    const auto loss = [&](int pair) {
+        return QString("loss[%1][") + QString::number(pair) +
+               (selection["powerMode"] == "HPM" ? "].hpm" : "].lpm");
+    };
     const EVondRxPath row =
         group == 2 || group == 6 || cell.member == "main" ? EVondRxPath::Main : EVondRxPath::Div;
-    if (!isType2) {
-        const int pair = VondType1LossPair(row, Number(cell.member));
-        return OfSubband(cell, int(offsetof(Block1, loss)) + 4 * pair + half,
-                         4 * kVondType1LossPairs, 2, Db(text));
-    }
+    if (!isType2)
+        return OfSubband(cell.column, loss(VondType1LossPair(row, Number(cell.member))), Db(text));
     const int path = selection["path"].toInt();
     const int pair = group == 5
                          ? VondPartialOnPair(row, path, cell.column)
                          : VondGainByGainPair(row, path, Number(selection["type2GainModeIdx"]),
                                               Number(cell.member), cell.column);
-    const SCellKey subband{cell.group, cell.member, selection["freqIdx"].toInt()};
-    return OfSubband(subband, int(offsetof(Block2, loss)) + 4 * pair + half,
-                     4 * kVondType2LossPairs, 2, Db(text));
+    return OfSubband(selection["freqIdx"].toInt(), loss(pair), Db(text));
 }
 
 const CFlashFile::SRecord *RecordOf(const Selection &selection, const CFlashFile &flash)
@@ -132,6 +128,13 @@ const CFlashFile::SRecord *RecordOf(const Selection &selection, const CFlashFile
 }
 
 }  // namespace
+
+const SLayout &BlockLayout(uint32_t kind)
+{
+    return kind == eFlashApt     ? kLayoutOf<SAptBlock>
+           : kind == eFlashType2 ? kLayoutOf<SMMType2PathlossBlockV7>
+                                 : kLayoutOf<SMMType1PathlossBlockV7>;
+}
 
 QString PlaceText(const FlashPlace &place)
 {
@@ -211,14 +214,20 @@ FlashBytes BytesOf(const Selection &selection, const SCellKey &cell, const QStri
     const CFlashFile::SRecord *record = RecordOf(selection, flash);
     if (!record)
         return bytes;
-    const SField field =
+    const SCellField field =
         selection.contains("txRoute") ? AptField(cell, text) : PathLossField(selection, cell, text);
     const SFlashPlace &place = record->place;
-    for (int block = 0; field.offset >= 0 && block < record->blocks.size(); ++block) {
+    const auto found = FindField(BlockLayout(place.kind), field.name.toStdString());
+    if (!found && !field.name.isEmpty())
+        qFatal("%s is no field of a block", qPrintable(field.name));
+    if (!found)
+        return bytes;
+    for (int block = 0; block < record->blocks.size(); ++block) {
         if (field.block != kAllBlocks && field.block != block)
             continue;
-        for (int i = 0; i < field.size; ++i)
-            bytes[FlashPlace(place.kind, place.route, place.bandwidth, block, field.offset + i)] =
+        for (uint32_t i = 0; i < found->size; ++i)
+            bytes[FlashPlace(place.kind, place.route, place.bandwidth, block,
+                             static_cast<int>(found->offset + i))] =
                 static_cast<uint8_t>(static_cast<uint64_t>(field.value) >> (8 * i));
     }
     return bytes;

@@ -1,6 +1,7 @@
 // Where the cells of the calibration pages lie in the DUT's flash.
 //
-// A table of its own, of the records' layout: it shares no line with the core's.
+// A table of its own, from the pages' members to the names of the records: it shares no line with the
+// core's.
 //
 //   const SCellKey cell{"group2", "lna0", 3};
 //   for (const SFlashByte &byte : BytesOf(selection, cell, "1.50000", flash))
@@ -13,6 +14,7 @@
 #include <QMap>
 #include <QVector>
 
+#include "Trace/dictionary/Field.h"
 #include "tests/device/FlashFile.h"
 
 // A data cell of a page: its group, its member and its column, 0 for a single value.
@@ -34,6 +36,8 @@ using FlashPlace = std::tuple<uint32_t, uint32_t, uint32_t, int, int>;
 using FlashBytes = std::map<FlashPlace, uint8_t>;
 
 QString PlaceText(const FlashPlace &place);
+// What a block of a record of that kind consists of.
+const SLayout &BlockLayout(uint32_t kind);
 // The byte of a flash that is at the place, and the bytes in which two differ, as the second has
 // them. Both flashes are of one DUT.
 uint8_t ByteAt(const CFlashFile &flash, const FlashPlace &place);

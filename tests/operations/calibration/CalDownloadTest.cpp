@@ -6,6 +6,7 @@
 
 #include "Operations/link/TargetLink.h"
 #include "Support/Log.h"
+#include "tests/common/AnswerField.h"
 #include "tests/common/LogCapture.h"
 #include "tests/operations/calibration/CalFixture.h"
 
@@ -283,10 +284,10 @@ TEST_F(CalDownloadTest, RefusedRoundIsToldAndEndsTheDownload)
 {
     ASSERT_EQ(m_apt.UploadFromFlash(), 0u);
     ASSERT_EQ(m_pathLoss.UploadFromFlash(), 0u);
-    AnswerBytes(kSetCalData, offsetof(SMMCalVerdictV7, status), "00");
-    AnswerBytes(kSetCalData, offsetof(SMMCalVerdictV7, type1Text), "743100");
-    AnswerBytes(kSetCalData, offsetof(SMMCalVerdictV7, type2Text), "743200");
-    AnswerBytes(kSetCalData, offsetof(SMMCalVerdictV7, txText), "747800");
+    AnswerField(kSetCalData, "status", 0);
+    AnswerField(kSetCalData, "type1Text", "t1");
+    AnswerField(kSetCalData, "type2Text", "t2");
+    AnswerField(kSetCalData, "txText", "tx");
     EXPECT_EQ(m_apt.DownloadToFlash(), 203u);
     EXPECT_EQ(m_apt.GetErrorMessage(), QString("L1 status code = 0 (SUCCESS = 1)\ntx"));
     EXPECT_EQ(m_pathLoss.DownloadToFlash(), 203u);

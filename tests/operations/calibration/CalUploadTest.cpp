@@ -5,6 +5,7 @@
 
 #include "Operations/link/TargetLink.h"
 #include "Support/Log.h"
+#include "tests/common/AnswerField.h"
 #include "tests/common/LogCapture.h"
 #include "tests/operations/calibration/CalFixture.h"
 
@@ -189,10 +190,10 @@ TEST_F(CalUploadTest, FailedBlockInfoIsToldAndLeavesWhatWasValid)
 TEST_F(CalUploadTest, RefusedRoundIsToldWithTheTextOfTheItem)
 {
     const LogCapture log(lcCalibration());
-    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, status), "00");
-    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, type1Text), "743100");  // "t1"
-    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, type2Text), "743200");  // "t2"
-    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, txText), "747800");     // "tx"
+    AnswerField(kGetCalData, "verdict.status", 0);
+    AnswerField(kGetCalData, "verdict.type1Text", "t1");
+    AnswerField(kGetCalData, "verdict.type2Text", "t2");
+    AnswerField(kGetCalData, "verdict.txText", "tx");
     EXPECT_EQ(m_apt.UploadFromFlash(), 203u);
     EXPECT_EQ(m_apt.GetErrorMessage(), QString("L1 status code = 0 (SUCCESS = 1)\ntx"));
     EXPECT_EQ(m_pathLoss.UploadFromFlash(), 203u);
@@ -205,15 +206,17 @@ TEST_F(CalUploadTest, RefusedRoundIsToldWithTheTextOfTheItem)
 
 TEST_F(CalUploadTest, StatusThatIsNeitherOneNorZeroIsToldAsItIs)
 {
-    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, status), "05");
-    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, txText), "00");
+    AnswerField(kGetCalData, "verdict.status", 5);
+    AnswerField(kGetCalData, "verdict.txText", "");
     EXPECT_EQ(m_apt.UploadFromFlash(), 203u);
     EXPECT_EQ(m_apt.GetErrorMessage(), QString("L1 status code = 5 (SUCCESS = 1)\n"));
 }
 
 TEST_F(CalUploadTest, TextThatFillsItsRoomEndsThere)
 {
-    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, status), "00" + std::string(2 * 192, '7'));
+    AnswerField(kGetCalData, "verdict.status", 0);
+    for (const char *text : {"verdict.type1Text", "verdict.type2Text", "verdict.txText"})
+        AnswerField(kGetCalData, text, std::string(64, 'w'));
     EXPECT_EQ(m_apt.UploadFromFlash(), 203u);
     EXPECT_EQ(m_apt.GetErrorMessage(),
               "L1 status code = 0 (SUCCESS = 1)\n" + QString(64, QChar('w')));
@@ -233,7 +236,7 @@ TEST_F(CalUploadTest, ResultElevenIsAcceptedAndThenTheLibrarysFailure)
 TEST_F(CalUploadTest, AcceptedStatusWithAFailingResultIsTheLibrarysFailure)
 {
     Fault(kGetCalData, 4);
-    AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, status), "01");
+    AnswerField(kGetCalData, "verdict.status", 1);
     EXPECT_EQ(m_apt.UploadFromFlash(), 3u);
     EXPECT_EQ(m_apt.GetErrorMessage(), QString("Target: failure on demand"));
 }
@@ -252,8 +255,7 @@ TEST_F(CalUploadTest, FailureOfALaterRoundKeepsWhatCameBefore)
 TEST_F(CalUploadTest, RouteThatTheBlockInfoLacksIsLoggedAndSkipped)
 {
     const LogCapture log(lcCalibration());
-    AnswerBytes(kBlockInfo, offsetof(SMMCalBlkInfoCnfV7, tx[0].route),
-                "5000");  // the first TX row tells of route 80
+    AnswerField(kBlockInfo, "tx[0].route", 80);  // the first TX row tells of route 80
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_TRUE(log.Holds(QtDebugMsg, "Failed to get Blk info in L1 data: Route 1 bw20000"));
     const QStringList sections = ValidSections(m_apt);
@@ -264,8 +266,7 @@ TEST_F(CalUploadTest, RouteThatTheBlockInfoLacksIsLoggedAndSkipped)
 TEST_F(CalUploadTest, Type2RouteWithMoreBlocksThanARoundHoldsStaysInvalid)
 {
     const LogCapture log(lcCalibration());
-    AnswerBytes(kBlockInfo, offsetof(SMMCalBlkInfoCnfV7, type2[0].blockTotal),
-                "0400");  // of type 2 route 101
+    AnswerField(kBlockInfo, "type2[0].blockTotal", 4);  // of type 2 route 101
     EXPECT_EQ(m_pathLoss.UploadFromFlash(), 0u);
     EXPECT_TRUE(log.Holds(QtCriticalMsg, "T2 route 101 has 4 blocks in flash"));
     const QStringList sections = ValidSections(m_pathLoss);
@@ -276,8 +277,7 @@ TEST_F(CalUploadTest, Type2RouteWithMoreBlocksThanARoundHoldsStaysInvalid)
 TEST_F(CalUploadTest, RecordWithMoreBlocksThanItHoldsStaysInvalid)
 {
     const LogCapture log(lcCalibration());
-    AnswerBytes(kBlockInfo, offsetof(SMMCalBlkInfoCnfV7, tx[0].blockCount[0]),
-                "ffff");  // region 0 of TX route 1
+    AnswerField(kBlockInfo, "tx[0].blockCount[0]", 65535);  // region 0 of TX route 1
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_TRUE(log.Holds(QtCriticalMsg, "TX route 1 bw20000 has 65535 blocks in flash"));
     EXPECT_FALSE(ValidSections(m_apt).contains("NR n1 BW0 TPC"));
@@ -288,8 +288,7 @@ TEST_F(CalUploadTest, AnswerThatNamesAnotherRouteFillsNoRecord)
     const LogCapture log(lcCalibration());
     CMultiRatAptProfileV7 whole(ERadioKind::Nr);
     ASSERT_EQ(whole.UploadFromFlash(), 0u);
-    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, tx[0].route),
-                "ff7f");  // route of the first TX entry
+    AnswerField(kGetCalData, "tx[0].route", 32767);  // route of the first TX entry
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_TRUE(log.Holds(QtDebugMsg, "Can not get the bwIdx for route 32767"));
     EXPECT_FALSE(ValidSections(m_apt).contains("NR n1 BW0 TPC"));
@@ -301,8 +300,7 @@ TEST_F(CalUploadTest, AnswerThatNamesAnotherRouteFillsNoRecord)
 TEST_F(CalUploadTest, AnswerWithFewerBlocksThanAskedForLeavesTheRecordInvalid)
 {
     PlugHandsetWith(R"("calibration": {"txSubbands": {"default": 20}})");
-    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, tx[0].blockCount),
-                "0100");  // one block of two
+    AnswerField(kGetCalData, "tx[0].blockCount", 1);  // one block of two
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_FALSE(ValidSections(m_apt).contains("NR n1 BW0 TPC"));
 }
@@ -310,13 +308,15 @@ TEST_F(CalUploadTest, AnswerWithFewerBlocksThanAskedForLeavesTheRecordInvalid)
 TEST_F(CalUploadTest, CountsBeyondTheTablesAreNotFollowed)
 {
     const LogCapture log(lcCalibration());
-    AnswerBytes(kBlockInfo, offsetof(SMMCalBlkInfoCnfV7, type1Count), "ffffffffffff");
+    for (const char *count : {"type1Count", "type2Count", "txCount"})
+        AnswerField(kBlockInfo, count, 65535);
     EXPECT_EQ(m_apt.UploadFromFlash(), 0u);
     EXPECT_EQ(m_pathLoss.UploadFromFlash(), 0u);
-    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, type1Count), "ffffffffffff");
-    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, type1[0].blockCount), "ffff");
-    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, type2BlockCount[0]), "ffff");
-    AnswerBytes(kGetCalData, offsetof(SMMGetCalDataCnfV7, tx[0].blockCount), "ffff");
+    for (const char *count : {"type1Count", "type2Count", "txCount"})
+        AnswerField(kGetCalData, count, 65535);
+    AnswerField(kGetCalData, "type1[0].blockCount", 65535);
+    AnswerField(kGetCalData, "type2BlockCount[0]", 65535);
+    AnswerField(kGetCalData, "tx[0].blockCount", 65535);
     const QByteArray before = SaveBytes(m_apt);
     CMultiRatAptProfileV7 fresh(ERadioKind::Nr);
     EXPECT_EQ(fresh.UploadFromFlash(), 0u);
@@ -334,7 +334,7 @@ TEST_F(CalUploadTest, NoiseInPlaceOfAnswersEndsInACodeAndHarmsNothing)
         VondSim_ClearFaults();
         Noise(kBlockInfo, seed);
         Noise(kGetCalData, 100 + seed);
-        AnswerBytes(kGetCalData, offsetof(SMMCalVerdictV7, status), "01");
+        AnswerField(kGetCalData, "verdict.status", 1);
         for (uint32_t code : {m_apt.UploadFromFlash(), m_pathLoss.UploadFromFlash()})
             EXPECT_TRUE(code == 0 || code == 2) << code;
     }

@@ -51,9 +51,11 @@ TEST_F(PuschTxTest, BothCarriersOfANormalStartPass)
     command.normalMode.carrier[1].band = 80;
     EXPECT_EQ(m_puschTx.RunPuschTx(&command), 0u);
     ExpectOneCall(kPusch, BytesOf(command));
-    const QByteArray bytes = JournalOf(kPusch).value(0).request;
-    EXPECT_EQ(bytes.left(10), QByteArray::fromHex("00000000020000000300"));
-    EXPECT_EQ(bytes.mid(52, 2), QByteArray::fromHex("5000"));
+    const SJournalCall call = JournalOf(kPusch).value(0);
+    EXPECT_EQ(RequestNumber(call, "forced"), 0);
+    EXPECT_EQ(RequestNumber(call, "normalMode.ulCCNum"), 2);
+    EXPECT_EQ(RequestNumber(call, "normalMode.carrier[0].band"), 3);
+    EXPECT_EQ(RequestNumber(call, "normalMode.carrier[1].band"), 80);
 }
 
 TEST_F(PuschTxTest, CarrierOffTheRasterIsATargetFailureInWords)
