@@ -54,9 +54,11 @@ bool HasFailed(const STraceCall &call)
 
 std::string HeaderText(const std::string &path, const STraceHeader &header)
 {
-    return PrintableText(path + ": of " + header.time + ", by Quorlin RF " + header.tool +
-                         ", with " + FileText(header.core, header.coreBuildId) + " and " +
-                         FileText(header.app, header.appBuildId));
+    std::string text = path + ": of " + header.time + ", by Quorlin RF " + header.tool + ", with " +
+                       FileText(header.core, header.coreBuildId);
+    if (!header.app.empty())
+        text += " and " + FileText(header.app, header.appBuildId);
+    return PrintableText(text);
 }
 
 std::string PrintableText(std::string_view text)

@@ -1,5 +1,6 @@
 #include "Cli/trace/TraceShow.h"
 
+#include <algorithm>
 #include <functional>
 #include <stdexcept>
 
@@ -82,6 +83,13 @@ void Tell(const STrace &trace, const STraceShowOptions &options, const SStory &s
     }
 }
 
+bool IsAllZero(const SShownRecord &record)
+{
+    return !record.fields.empty() &&
+           std::none_of(record.fields.begin(), record.fields.end(),
+                        [](const SShownField &field) { return field.isSet; });
+}
+
 void PrintPart(COutput &output, const std::string &name, const SLayout *layout,
                const std::optional<SShownRecord> &record)
 {
@@ -91,7 +99,7 @@ void PrintPart(COutput &output, const std::string &name, const SLayout *layout,
     if (!record)
         head += ": none, a null pointer";
     else
-        head += ", " + ByteCount(record->size);
+        head += ", " + ByteCount(record->size) + (IsAllZero(*record) ? ", all zero" : "");
     output.Line(output.Palette().Aside(head));
     if (record)
         PrintRecord(output, *record, EWhichFields::Set, kFieldIndent);
