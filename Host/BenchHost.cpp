@@ -11,6 +11,7 @@
 #include <QTreeWidget>
 #include <QtGlobal>
 
+#include "Host/Tap.h"
 #include "Host/ToolWindow.h"
 #include "ui_BenchHost.h"
 
@@ -88,6 +89,7 @@ void CBenchHost::FillPluginFields()
 
 SPluginToolLaunchRequirement CBenchHost::Query()
 {
+    NoteOfHost("Host: Query");
     QApplication::setOverrideCursor(Qt::WaitCursor);
     QElapsedTimer timer;
     timer.start();
@@ -137,15 +139,21 @@ void CBenchHost::AddEvent(const QString &event, const QString &detail)
 }
 
 // Logged before the call, in front of the signals that the call raises.
+void CBenchHost::BeginAction(const QString &action)
+{
+    NoteOfHost("Host: " + action);
+    AddEvent(action, {});
+}
+
 void CBenchHost::ShowTool()
 {
-    AddEvent("Show", {});
+    BeginAction("Show");
     m_plugin.Tool().ShowPlugin();
 }
 
 void CBenchHost::on_m_hide_clicked()
 {
-    AddEvent("Hide", {});
+    BeginAction("Hide");
     m_plugin.Tool().HidePlugin();
 }
 
@@ -153,7 +161,7 @@ void CBenchHost::on_m_reset_clicked()
 {
     if (!MayStopTest("A test runs on the DUT. Stop it and reset the tool?"))
         return;
-    AddEvent("Reset", {});
+    BeginAction("Reset");
     m_plugin.Tool().ResetPlugin();
     if (m_plugin.IsActivated())
         m_ui->statusbar->showMessage("The pages are gone. Show the tool to have them again.");
@@ -161,13 +169,13 @@ void CBenchHost::on_m_reset_clicked()
 
 void CBenchHost::on_m_disable_clicked()
 {
-    AddEvent("Disable", {});
+    BeginAction("Disable");
     m_plugin.Tool().DisablePages();
 }
 
 void CBenchHost::on_m_enable_clicked()
 {
-    AddEvent("Enable", {});
+    BeginAction("Enable");
     m_plugin.Tool().EnablePages();
 }
 
@@ -175,6 +183,7 @@ void CBenchHost::closeEvent(QCloseEvent *event)
 {
     if (!MayClose(event, "the bench host"))
         return;
+    NoteOfHost("Host: Close");
     m_plugin.Tool().HidePlugin();
     event->accept();
 }

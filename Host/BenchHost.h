@@ -52,6 +52,8 @@ private slots:
     void on_m_enable_clicked();
 
 private:
+    // What the host is about to do: an event, and a note in the trace.
+    void BeginAction(const QString &action);
     void FillPluginFields();
     void FillAnswer(const SPluginToolLaunchRequirement &answer);
     void ShowState();

@@ -12,7 +12,8 @@ constexpr char kDescription[] =
     "Bench host: loads the Quorlin RF plug-in, queries it, and shows its window.\n"
     "\n"
     "Exit code: 0 good; 1 the demonstration failed or the tool can't run on the DUT;\n"
-    "2 wrong command line, or no such profile; 3 the plug-in can't be loaded;\n"
+    "2 wrong command line, no such profile, or no such trace;\n"
+    "3 the plug-in can't be loaded;\n"
     "4 there is no display.";
 
 const QCommandLineOption kHelp({"h", "help"}, "Show this help.");
@@ -33,6 +34,9 @@ const QCommandLineOption kScreenshot("screenshot",
                                      "Save a picture of the tool window as PNG: when "
                                      "its pages are there, with --demo at the end.",
                                      "FILE");
+const QCommandLineOption kRecord("record", "Write a trace of all calls to the target.", "FILE");
+const QCommandLineOption kReplay("replay", "Play a trace back: it answers in place of the target.",
+                                 "FILE");
 const QCommandLineOption kDemo("demo", "Without a person: query, show, start and stop continuous "
                                        "RX, end.");
 
@@ -57,7 +61,8 @@ std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
     const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(kDescription);
-    parser.addOptions({kHelp, kPlugin, kProfile, kHandle, kVerbose, kScreenshot, kDemo});
+    parser.addOptions(
+        {kHelp, kPlugin, kProfile, kHandle, kVerbose, kScreenshot, kRecord, kReplay, kDemo});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return Refuse(parser.errorText());
@@ -68,11 +73,13 @@ std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
     if (!parser.positionalArguments().isEmpty())
         return Refuse(
             QString("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
-    for (const QCommandLineOption &option : {kPlugin, kProfile, kScreenshot}) {
+    for (const QCommandLineOption &option : {kPlugin, kProfile, kScreenshot, kRecord, kReplay}) {
         if (parser.isSet(option) && parser.value(option).isEmpty())
             return Refuse(
                 QString("Option '%1' has an empty value.").arg(option.names().constFirst()));
     }
+    if (parser.isSet(kRecord) && parser.isSet(kReplay))
+        return Refuse("Options 'record' and 'replay' exclude each other.");
     const std::optional<uint32_t> handle = ReadHandle(parser.value(kHandle));
     if (!handle)
         return Refuse(QString("'%1' is no target handle.").arg(parser.value(kHandle)));
@@ -86,5 +93,7 @@ std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
     options.isVerbose = parser.isSet(kVerbose);
     options.isDemo = parser.isSet(kDemo);
     options.screenshotFile = parser.value(kScreenshot);
+    options.recordFile = parser.value(kRecord);
+    options.replayFile = parser.value(kReplay);
     return std::nullopt;
 }

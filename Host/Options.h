@@ -18,7 +18,7 @@ enum EHostExit : int
 {
     eHostExitGood = 0,
     eHostExitFailed = 1,     // the demonstration failed, or the tool can't run on the DUT
-    eHostExitOptions = 2,    // wrong command line, or no such profile
+    eHostExitOptions = 2,    // wrong command line, no such profile, or no such trace
     eHostExitNoPlugin = 3,   // the plug-in can't be loaded
     eHostExitNoDisplay = 4,  // Qt finds no display
 };
@@ -31,6 +31,8 @@ struct SHostOptions
     bool isVerbose = false;  // debug logs of the tool too
     bool isDemo = false;
     QString screenshotFile;  // empty: none
+    QString recordFile;      // trace to write; empty: none
+    QString replayFile;      // trace to play back; empty: none
 };
 
 // Returns the exit code if the program is to end at once, nothing if it is to go on with options.

@@ -12,6 +12,7 @@
 #include "Host/Options.h"
 #include "Host/PluginHandle.h"
 #include "Host/SimulatedDut.h"
+#include "Host/Tap.h"
 #include "Host/ToolWindow.h"
 
 namespace {
@@ -111,6 +112,10 @@ int main(int argc, char **argv)
     if (const std::optional<int> exitCode = ReadHostOptions(argc, argv, options))
         return *exitCode;
 
+    if (const QString error = RunUnderTap(options, argv); !error.isEmpty()) {
+        Complain(error);
+        return eHostExitOptions;
+    }
     // The simulated DUT comes with the plug-in and takes its profile at that moment.
     if (!options.profile.isEmpty())
         qputenv("VOND_SIM_PROFILE", options.profile.toUtf8());

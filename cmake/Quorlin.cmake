@@ -35,6 +35,16 @@ elseif(NOT QUORLIN_SANITIZE STREQUAL "none")
   message(FATAL_ERROR "QUORLIN_SANITIZE is one of none, address, thread")
 endif()
 
+# What stands in front of every other library that is preloaded: the runtime of the sanitizer, if any.
+set(QUORLIN_FIRST_PRELOAD "")
+if(NOT QUORLIN_SANITIZE STREQUAL "none")
+  set(runtime_of_address asan)
+  set(runtime_of_thread tsan)
+  execute_process(
+    COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=lib${runtime_of_${QUORLIN_SANITIZE}}.so
+    OUTPUT_VARIABLE QUORLIN_FIRST_PRELOAD OUTPUT_STRIP_TRAILING_WHITESPACE)
+endif()
+
 # Precompiled headers. A target may reuse one only if it is compiled alike, so there are four kinds:
 #   product   modules, and programs with product code alone
 #   qtest     QtTest programs and the libraries that they share

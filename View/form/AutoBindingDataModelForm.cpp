@@ -6,6 +6,7 @@
 #include <QTabBar>
 
 #include "Support/Log.h"
+#include "Support/TraceNote.h"
 #include "View/editors/TabOrder.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
 #include "View/form/FloatPlace.h"
@@ -270,6 +271,7 @@ bool CAutoBindingDataModelForm::InitOnePage(CAutoBindingDataModelDockWidget *pag
     connect(page, &CAutoBindingDataModelDockWidget::Signal_PluginIsBusy, this,
             [this, page](bool isBusy) { RelayPageSignal([&] { SetBusy(page, isBusy); }); });
     page->installEventFilter(this);
+    NotePresses(page, page->windowTitle());
 
     QEventLoop loop;
     bool isDone = false;

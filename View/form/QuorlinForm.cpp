@@ -6,6 +6,7 @@
 #include "Model/OperationResult.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
+#include "Support/TraceNote.h"
 #include "View/editors/FormFont.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
 #include "ui_QuorlinForm.h"
@@ -57,6 +58,7 @@ void CQuorlinForm::AddRfOff()
     Highlight(false);
     statusBar()->addPermanentWidget(m_rfOff);
     connect(m_rfOff, &QPushButton::clicked, this, &CQuorlinForm::RfOff);
+    NotePresses(statusBar(), windowTitle());
 }
 
 void CQuorlinForm::Highlight(bool isOn)

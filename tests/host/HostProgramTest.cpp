@@ -42,8 +42,9 @@ void HostProgramTest::HelpNeedsNoDisplayAndNamesAllOptions()
 {
     const SHostRun run = RunHost({"--help"}, {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"});
     QCOMPARE(run.exitCode, 0);
-    for (const char *option : {"--plugin <FILE>", "--profile <NAME>", "--handle <N>", "--verbose",
-                               "--screenshot <FILE>", "--demo"})
+    for (const char *option :
+         {"--plugin <FILE>", "--profile <NAME>", "--handle <N>", "--verbose", "--screenshot <FILE>",
+          "--record <FILE>", "--replay <FILE>", "--demo"})
         QVERIFY2(run.out.contains(option), option);
     QCOMPARE(run.err, QString());
 }
@@ -58,6 +59,16 @@ void HostProgramTest::RefusesAWrongCommandLine_data()
                                  << "Option 'profile' has an empty value.";
     QTest::newRow("wrong handle") << QStringList{"--handle", "first"}
                                   << "'first' is no target handle.";
+    QTest::newRow("record and replay") << QStringList{"--record", "a", "--replay", "b"}
+                                       << "Options 'record' and 'replay' exclude each other.";
+    QTest::newRow("empty trace name")
+        << QStringList{"--record", ""} << "Option 'record' has an empty value.";
+    QTest::newRow("trace that can't be written")
+        << QStringList{"--record", "/nowhere/run.jsonl"}
+        << "Can't open the trace /nowhere/run.jsonl: No such file or directory.";
+    QTest::newRow("trace that can't be read")
+        << QStringList{"--replay", "/nowhere/run.jsonl"}
+        << "Can't open the trace /nowhere/run.jsonl: No such file or directory.";
     QTest::newRow("extra argument") << QStringList{"extra"} << "Unexpected argument 'extra'.";
 }
 
