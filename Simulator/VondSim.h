@@ -44,6 +44,10 @@ const char *VondSim_ProfileText(void);
 // profile's own, all gates open, the journal empty.
 void VondSim_Reset(void);
 
+// Pulls the plug of the DUT (0), or puts it in again. Without a plug every call fails and no test
+// runs; profile, flash and faults stay. A profile that is put in place brings its own state.
+void VondSim_SetPlugged(int32_t isPlugged);
+
 // Adds a fault to those of the profile; the JSON object has the form of a profile's "faults"
 // entries, see docs/simulated-dut.md. Returns 0, or -1 with a line on stderr for a broken one.
 int32_t VondSim_AddFault(const char *json);

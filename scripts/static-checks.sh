@@ -103,7 +103,7 @@ Simulator/basis
 Simulator/faults Simulator/basis/
 Simulator/profile Simulator/(basis|faults)/
 Simulator/radio Simulator/(basis|profile)/
-Simulator/flash Simulator/(basis|profile|radio)/
+Simulator/flash Simulator/(basis|faults|profile|radio)/
 Simulator/door Simulator/
 Operations/link
 Operations/capability Operations/link/

@@ -177,8 +177,16 @@ CSimulator::SOutcome CSimulator::Carry(const SCall &call, const SFunction &funct
     try {
         const std::lock_guard<std::mutex> lock(m_mutex);
         outcome.verdict = Admit(call, function);
+        m_dut.flashFaults = plan.flash;
+        m_dut.flashOutcome = {};
         if (outcome.verdict.Ok())
             outcome.verdict = body(m_dut);
+        m_faults.CountBlocks(m_dut.flashOutcome.blocks);
+        if (m_dut.flashOutcome.isCut) {
+            m_faults.EndCuts();
+            LosePower();
+            outcome.verdict = EResult::NotConnected;
+        }
     } catch (const std::exception &) {
         outcome.verdict = EResult::Internal;
     }
@@ -239,6 +247,21 @@ void CSimulator::Reset()
     LoadFirstProfile();
     m_gates.ReleaseAll();
     m_journal.Clear();
+}
+
+void CSimulator::SetPlugged(bool isPlugged)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (isPlugged)
+        m_dut.profile.plugged = true;
+    else
+        LosePower();
+}
+
+void CSimulator::LosePower()
+{
+    m_dut.profile.plugged = false;
+    m_dut.radio = CRadio(m_dut.profile.radio.seed);
 }
 
 void CSimulator::AddFault(const std::string &json)

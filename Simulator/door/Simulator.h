@@ -18,7 +18,7 @@
 #include "Simulator/door/Journal.h"
 #include "Simulator/faults/Faults.h"
 #include "Simulator/faults/Gates.h"
-#include "Simulator/flash/Flash.h"
+#include "Simulator/flash/CalTransfers.h"
 #include "Simulator/profile/Profile.h"
 #include "Simulator/radio/Radio.h"
 
@@ -27,6 +27,9 @@ struct SDut
     SProfile profile;
     CRadio radio;
     CFlash flash;
+    // Of the call that runs: what goes wrong, and what became of it.
+    SFlashFaults flashFaults;
+    SFlashOutcome flashOutcome;
 };
 
 // Bytes from the caller. Null with a size: the caller passed a null pointer in place of a record.
@@ -82,6 +85,8 @@ public:
     void SetProfileText(const std::string &text);
     const char *ProfileText();
     void Reset();
+    // A DUT without a plug answers no call; its flash stays, its radio is off.
+    void SetPlugged(bool isPlugged);
     void AddFault(const std::string &json);
     void ClearFaults();
     const char *RunningTest();
@@ -104,6 +109,7 @@ private:
     SOutcome Carry(const SCall &call, const SFunction &function, const SFaultPlan &plan,
                    const Body &body);
     SVerdict Admit(const SCall &call, const SFunction &function) const;
+    void LosePower();
     void PutInPlace(SProfile profile, std::string text);
     void LoadFirstProfile();
 

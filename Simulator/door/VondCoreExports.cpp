@@ -284,7 +284,7 @@ VOND_RESULT VOND_MMRf_SetCalDataV7_r(uint32_t h, uint32_t t, const SMMSetCalData
                                      SMMSetCalDataCnfV7 *result)
 {
     return Run({EFunction::SetCalData, h, t, RequestOf(request), AnswerOf(result)}, [&](SDut &dut) {
-        StoreCalData(dut.profile, dut.flash, *request, *result);
+        dut.flashOutcome = StoreCalData(dut.profile, dut.flash, *request, *result, dut.flashFaults);
         return SVerdict();
     });
 }

@@ -70,6 +70,11 @@ void VondSim_Reset(void)
     CSimulator::Instance().Reset();
 }
 
+void VondSim_SetPlugged(int32_t isPlugged)
+{
+    CSimulator::Instance().SetPlugged(isPlugged != 0);
+}
+
 int32_t VondSim_AddFault(const char *json)
 {
     return Guarded("", [&] { CSimulator::Instance().AddFault(TextOf(json)); });

@@ -15,9 +15,10 @@ struct SKindRow
 };
 
 constexpr SKindRow kKinds[] = {
-    {"fail", EFaultKind::Fail},   {"status", EFaultKind::Status},
-    {"delay", EFaultKind::Delay}, {"nullText", EFaultKind::NullText},
-    {"noise", EFaultKind::Noise}, {"bytes", EFaultKind::Bytes},
+    {"fail", EFaultKind::Fail},         {"status", EFaultKind::Status},
+    {"delay", EFaultKind::Delay},       {"nullText", EFaultKind::NullText},
+    {"noise", EFaultKind::Noise},       {"bytes", EFaultKind::Bytes},
+    {"powerCut", EFaultKind::PowerCut}, {"stuck", EFaultKind::Stuck},
 };
 
 constexpr uint32_t kLongestDelayMs = 3600000;
@@ -42,6 +43,11 @@ const SFunction *ReadFunction(CJsonReader &reader)
     if (function == nullptr)
         CJsonReader::Fail(reader.Place("function"), "\"" + name + "\" is an unknown function");
     return function;
+}
+
+bool IsOfTheFlash(EFaultKind kind)
+{
+    return kind == EFaultKind::PowerCut || kind == EFaultKind::Stuck;
 }
 
 int HexDigit(char digit)
@@ -80,10 +86,23 @@ bool CanShow(const SFunction &function, EFaultKind kind)
         return function.HasStatus();
     case EFaultKind::NullText:
         return isText;
+    case EFaultKind::PowerCut:
+    case EFaultKind::Stuck:
+        return function.id == EFunction::SetCalData;
     case EFaultKind::Delay:
         break;
     }
     return true;
+}
+
+void ReadFlashFault(CJsonReader &reader, SFault &fault)
+{
+    fault.function = &FunctionOf(EFunction::SetCalData);
+    if (fault.kind == EFaultKind::PowerCut)
+        fault.cut = ReadPowerCut(reader);
+    else
+        fault.stuck = ReadStuckField(reader);
+    reader.Done();
 }
 
 }  // namespace
@@ -92,8 +111,12 @@ SFault ParseFault(const nlohmann::json &json, const std::string &place)
 {
     SFault fault;
     CJsonReader reader(json, place);
-    fault.function = ReadFunction(reader);
     fault.kind = ReadKind(reader);
+    if (IsOfTheFlash(fault.kind)) {
+        ReadFlashFault(reader, fault);
+        return fault;
+    }
+    fault.function = ReadFunction(reader);
     if (fault.function != nullptr && !CanShow(*fault.function, fault.kind))
         CJsonReader::Fail(reader.Place("kind"),
                           "does not go with " + std::string(fault.function->name));
@@ -148,7 +171,7 @@ SFaultPlan CFaultSet::Plan(const SFunction &function)
         const SFault &fault = state.fault;
         if (fault.function != nullptr && fault.function->id != function.id)
             continue;
-        if (!Fires(state) || !CanShow(function, fault.kind))
+        if (state.isOver || !Fires(state) || !CanShow(function, fault.kind))
             continue;
         switch (fault.kind) {
         case EFaultKind::Fail:
@@ -169,9 +192,30 @@ SFaultPlan CFaultSet::Plan(const SFunction &function)
         case EFaultKind::Bytes:
             plan.patches.push_back(fault.patch);
             break;
+        case EFaultKind::PowerCut:
+            if (!plan.flash.cut || fault.cut.blocksBefore < plan.flash.cut->blocksBefore)
+                plan.flash.cut = fault.cut;
+            break;
+        case EFaultKind::Stuck:
+            plan.flash.stuck.push_back(fault.stuck);
+            break;
         }
     }
     return plan;
+}
+
+void CFaultSet::CountBlocks(uint32_t blocks)
+{
+    for (SState &state : m_states)
+        state.fault.cut.blocksBefore -= std::min(blocks, state.fault.cut.blocksBefore);
+}
+
+void CFaultSet::EndCuts()
+{
+    for (SState &state : m_states) {
+        if (state.fault.kind == EFaultKind::PowerCut && state.fault.cut.blocksBefore == 0)
+            state.isOver = true;
+    }
 }
 
 CFaultSet::SState CFaultSet::NewState(const SFault &fault, bool ofProfile)

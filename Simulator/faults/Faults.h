@@ -16,6 +16,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "Simulator/faults/FlashFaults.h"
 #include "Trace/dictionary/Functions.h"
 
 enum class EFaultKind
@@ -25,7 +26,9 @@ enum class EFaultKind
     Delay,
     NullText,
     Noise,
-    Bytes
+    Bytes,
+    PowerCut,
+    Stuck
 };
 
 // Bytes that are laid over an answer.
@@ -44,6 +47,8 @@ struct SFault
     uint32_t delayMs = 0;  // Delay
     uint32_t seed = 1;     // Noise, and the draw of a probability
     SPatch patch;          // Bytes
+    SPowerCut cut;         // PowerCut
+    SStuckField stuck;     // Stuck
     uint32_t nth = 0;      // fires on this call only, counted from 1; 0: on every call
     std::optional<double> probability;
 };
@@ -57,6 +62,7 @@ struct SFaultPlan
     bool nullText = false;
     std::optional<uint32_t> noiseSeed;
     std::vector<SPatch> patches;  // in the order in which they were added
+    SFlashFaults flash;
 };
 
 // Throws std::runtime_error for an unknown key, kind or function, or a kind that the function
@@ -73,6 +79,10 @@ public:
 
     // Counts a call of the function and tells what the faults do to it.
     SFaultPlan Plan(const SFunction &function);
+    // So many blocks of a download were written as a whole.
+    void CountBlocks(uint32_t blocks);
+    // The power went: a cut is over.
+    void EndCuts();
 
 private:
     struct SState
@@ -81,6 +91,7 @@ private:
         bool ofProfile;
         uint32_t calls = 0;
         uint32_t fired = 0;
+        bool isOver = false;  // of a power cut
         std::mt19937 draw;
     };
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
-#include <utility>
 
 #include "Simulator/flash/CalRound.h"
+#include "Simulator/flash/FlashWrite.h"
 
 namespace {
 
@@ -71,33 +71,6 @@ void CopyBlocks(const SFlashImage &image, const SCalArea<Block> &area, Block *to
         to = std::copy(blocks.begin(), blocks.end(), to);
     }
 }
-
-// Puts the blocks of a download in place. Keeps the old ones, so that it can be undone.
-template <class Block>
-class CExchange
-{
-public:
-    CExchange(SFlashImage &image, const SCalArea<Block> &area)
-    {
-        const Block *block = area.blocks;
-        for (const SCalEntry &entry : area.entries) {
-            std::vector<Block> &record = image.Table<Block>().at(entry.key);
-            m_old.emplace_back(&record, std::vector<Block>(block, block + entry.blockCount));
-            record.swap(m_old.back().second);
-            block += entry.blockCount;
-        }
-    }
-
-    // In reverse: a record may stand in the round twice.
-    void Undo()
-    {
-        for (auto old = m_old.rbegin(); old != m_old.rend(); ++old)
-            old->first->swap(old->second);
-    }
-
-private:
-    std::vector<std::pair<std::vector<Block> *, std::vector<Block>>> m_old;
-};
 
 template <class Block>
 uint16_t BlocksOf(const SFlashImage &image, const SCalKey &key)
@@ -179,26 +152,35 @@ void AnswerCalData(const SProfile &profile, CFlash &flash, const SMMGetCalDataRe
     CopyBlocks(image, round.tx, answer.txBlock);
 }
 
-void StoreCalData(const SProfile &profile, CFlash &flash, const SMMSetCalDataReqV7 &request,
-                  SMMSetCalDataCnfV7 &answer)
+SFlashOutcome StoreCalData(const SProfile &profile, CFlash &flash,
+                           const SMMSetCalDataReqV7 &request, SMMSetCalDataCnfV7 &answer,
+                           const SFlashFaults &faults)
 {
-    if (request.radioKind != kNr)
-        return SayAll(answer, WrongKind(request.radioKind));
-    if (request.version != kVondCalVersion)
-        return SayAll(answer, "record version " + std::to_string(request.version));
+    if (request.radioKind != kNr) {
+        SayAll(answer, WrongKind(request.radioKind));
+        return {};
+    }
+    if (request.version != kVondCalVersion) {
+        SayAll(answer, "record version " + std::to_string(request.version));
+        return {};
+    }
     const SCalRound round = CalRoundOf(request);
-    answer = VerdictOf(CheckCalBlocks(profile, round.type1), CheckCalBlocks(profile, round.type2),
-                       CheckCalBlocks(profile, round.tx));
-    if (answer.status != kVondCalSuccess)
-        return;
-    SFlashImage &image = flash.Image(profile);
-    CExchange<SType1Block> oldType1(image, round.type1);
-    CExchange<SType2Block> oldType2(image, round.type2);
-    CExchange<SAptBlock> oldTx(image, round.tx);
-    if (flash.Keep())
-        return;
-    oldTx.Undo();
-    oldType2.Undo();
-    oldType1.Undo();
+    const SMMCalVerdictV7 verdict =
+        VerdictOf(CheckCalBlocks(profile, round.type1), CheckCalBlocks(profile, round.type2),
+                  CheckCalBlocks(profile, round.tx));
+    if (verdict.status != kVondCalSuccess) {
+        answer = verdict;
+        return {};
+    }
+    CFlashWrite write(flash.Image(profile), faults);
+    write.Round(round);
+    const bool isKept = flash.Keep();
+    if (write.IsCut())
+        return {.blocks = write.Blocks(), .isCut = true};
+    answer = verdict;
+    if (isKept)
+        return {.blocks = write.Blocks()};
+    write.Undo();
     SayAll(answer, "the flash cannot be written");
+    return {};
 }

@@ -25,9 +25,11 @@ struct SHead
 };
 VOND_SIZE(SHead, 24);
 
+constexpr uint32_t kTorn = 0x100;
+
 struct SRecordHead
 {
-    uint32_t kind;  // SCalKind::kId
+    uint32_t kind;  // SCalKind::kId; with kTorn, what follows may be anything
     uint32_t route;
     uint32_t bandwidth;  // kHz
     uint32_t blockCount;
@@ -50,10 +52,12 @@ void Append(std::string &bytes, const Record &record)
 }
 
 template <class Block>
-void AppendTable(std::string &bytes, const FlashTable<Block> &table)
+void AppendTable(std::string &bytes, const SFlashImage &image)
 {
-    for (const auto &[key, blocks] : table) {
-        Append(bytes, SRecordHead{SCalKind<Block>::kId, key.route, key.bandwidth,
+    for (const auto &[key, blocks] : image.Table<Block>()) {
+        const uint32_t kind = SCalKind<Block>::kId;
+        const bool isTorn = image.torn.count({kind, key}) != 0;
+        Append(bytes, SRecordHead{isTorn ? kind | kTorn : kind, key.route, key.bandwidth,
                                   static_cast<uint32_t>(blocks.size())});
         for (const Block &block : blocks)
             Append(bytes, block);
@@ -86,17 +90,21 @@ private:
 
 // The table in the file has the records of this one, in the same order.
 template <class Block>
-void ReadTable(CReader &reader, const SProfile &profile, FlashTable<Block> &table)
+void ReadTable(CReader &reader, const SProfile &profile, SFlashImage &image)
 {
-    for (auto &[key, blocks] : table) {
+    for (auto &[key, blocks] : image.Table<Block>()) {
         const auto head = reader.Take<SRecordHead>();
-        if (head.kind != SCalKind<Block>::kId || head.route != key.route ||
+        if ((head.kind & ~kTorn) != SCalKind<Block>::kId || head.route != key.route ||
             head.bandwidth != key.bandwidth ||
             head.blockCount > static_cast<uint32_t>(SCalKind<Block>::kBlocksOfRecord))
             throw CForeignFile(kOtherDut);
         blocks.clear();
         for (uint32_t i = 0; i < head.blockCount; ++i)
             blocks.push_back(reader.Take<Block>());
+        if ((head.kind & kTorn) != 0) {
+            image.torn.insert({SCalKind<Block>::kId, key});
+            continue;
+        }
         const std::string reason =
             CheckCalRecord(profile, key, blocks.data(), static_cast<int>(blocks.size()));
         if (!reason.empty())
@@ -152,7 +160,9 @@ void LoadFlash(const std::string &path, const SProfile &profile, SFlashImage &im
     if (reader.Take<SHead>().checksum != Checksum(bytes, sizeof(SHead)))
         throw std::runtime_error("is damaged");
     SFlashImage read = image;
-    std::apply([&](auto &...table) { (ReadTable(reader, profile, table), ...); }, read.tables);
+    ReadTable<SMMType1PathlossBlockV7>(reader, profile, read);
+    ReadTable<SMMType2PathlossBlockV7>(reader, profile, read);
+    ReadTable<SAptBlock>(reader, profile, read);
     if (!reader.AtEnd())
         throw CForeignFile(kOtherDut);
     image = std::move(read);
@@ -161,7 +171,9 @@ void LoadFlash(const std::string &path, const SProfile &profile, SFlashImage &im
 void SaveFlash(const std::string &path, const SFlashImage &image)
 {
     std::string bytes(sizeof(SHead), '\0');
-    std::apply([&](const auto &...table) { (AppendTable(bytes, table), ...); }, image.tables);
+    AppendTable<SMMType1PathlossBlockV7>(bytes, image);
+    AppendTable<SMMType2PathlossBlockV7>(bytes, image);
+    AppendTable<SAptBlock>(bytes, image);
     SHead head = {};
     std::copy(std::begin(kMagic), std::end(kMagic), head.magic);
     head.checksum = Checksum(bytes, sizeof(SHead));

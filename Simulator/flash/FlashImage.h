@@ -4,7 +4,9 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "Simulator/flash/CalPlaces.h"
@@ -12,11 +14,16 @@
 template <class Block>
 using FlashTable = std::map<SCalKey, std::vector<Block>>;
 
+// SCalKind::kId, and which record of the kind.
+using STornRecord = std::pair<uint32_t, SCalKey>;
+
 struct SFlashImage
 {
     std::tuple<FlashTable<SMMType1PathlossBlockV7>, FlashTable<SMMType2PathlossBlockV7>,
                FlashTable<SAptBlock>>
         tables;
+    // Records whose last download did not come to its end. What they hold may be anything.
+    std::set<STornRecord> torn;
 
     template <class Block>
     FlashTable<Block> &Table()

@@ -6,6 +6,7 @@
 //   constexpr int most = SCalKind<SAptBlock>::kBlocksOfRecord;   // 4
 #pragma once
 
+#include "Simulator/faults/FlashFaults.h"
 #include "Simulator/profile/Profile.h"
 #include "Vond/VondCalRecords.h"
 
@@ -15,7 +16,7 @@ struct SCalKind;
 template <>
 struct SCalKind<SMMType1PathlossBlockV7>
 {
-    static constexpr uint32_t kId = 1;
+    static constexpr uint32_t kId = static_cast<uint32_t>(EFlashRecord::Type1);
     static constexpr int kBlocksOfRound = kVondCalType1Blocks;
     static constexpr int kBlocksOfRecord = kVondCalMaxBlocks;
     static constexpr auto kText = &SMMCalVerdictV7::type1Text;
@@ -25,7 +26,7 @@ struct SCalKind<SMMType1PathlossBlockV7>
 template <>
 struct SCalKind<SMMType2PathlossBlockV7>
 {
-    static constexpr uint32_t kId = 2;
+    static constexpr uint32_t kId = static_cast<uint32_t>(EFlashRecord::Type2);
     static constexpr int kBlocksOfRound = kVondCalType2Blocks;
     static constexpr int kBlocksOfRecord = kVondCalType2Blocks;  // more fit in no round
     static constexpr auto kText = &SMMCalVerdictV7::type2Text;
@@ -35,7 +36,7 @@ struct SCalKind<SMMType2PathlossBlockV7>
 template <>
 struct SCalKind<SAptBlock>
 {
-    static constexpr uint32_t kId = 3;
+    static constexpr uint32_t kId = static_cast<uint32_t>(EFlashRecord::Apt);
     static constexpr int kBlocksOfRound = kVondCalTxBlocks;
     static constexpr int kBlocksOfRecord = kVondCalMaxBlocks;
     static constexpr auto kText = &SMMCalVerdictV7::txText;
