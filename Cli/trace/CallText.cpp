@@ -61,22 +61,9 @@ std::string HeaderText(const std::string &path, const STraceHeader &header)
     return PrintableText(text);
 }
 
-std::string PrintableText(std::string_view text)
-{
-    static constexpr char kDigits[] = "0123456789abcdef";
-    std::string printable;
-    for (const char sign : text) {
-        const auto byte = static_cast<uint8_t>(sign);
-        if (byte >= ' ' && byte != 0x7f)
-            printable += sign;
-        else
-            printable += {'\\', 'x', kDigits[byte >> 4], kDigits[byte & 15]};
-    }
-    return printable;
-}
-
 void WarnOfCutLine(const std::string &path, const STrace &trace)
 {
     if (trace.isCut)
-        std::fprintf(stderr, "quorlin: %s: the last line is cut, and is left out\n", path.c_str());
+        std::fprintf(stderr, "quorlin: %s: the last line is cut, and is left out\n",
+                     PrintableText(path).c_str());
 }

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "Trace/lines/PrintableText.h"
 #include "Trace/lines/TraceReader.h"
 
 // "850 ns", "81.2 µs", "1.5 ms", "10.000 s".
@@ -16,7 +17,5 @@ std::string StatusText(uint32_t status);
 bool HasFailed(const STraceCall &call);
 // "run.jsonl: of 2026-11-22T12:30:00Z, by Quorlin RF 0.1, with libVondCore.so (5a1c) and ..."
 std::string HeaderText(const std::string &path, const STraceHeader &header);
-// What is not printable is written as \x and two digits.
-std::string PrintableText(std::string_view text);
 // One line on stderr when the last line of the trace was left out.
 void WarnOfCutLine(const std::string &path, const STrace &trace);

@@ -16,13 +16,17 @@ struct SFieldList
 {
     std::vector<std::pair<std::string, SFieldValue>> fields = {};
     std::span<const uint8_t> bytes = {};
-    std::span<const uint8_t> rest = {};  // behind the record's end
+    std::size_t end = 0;  // of the last field
 
     FieldVisitor Visitor()
     {
-        return [this](const SFieldValue &value) { fields.emplace_back(value.name, value); };
+        return [this](const SFieldValue &value) {
+            fields.emplace_back(value.name, value);
+            end = std::max(end, value.offset + value.bytes.size());
+        };
     }
-    void End(const SDecoded &decoded) { rest = bytes.last(decoded.extra); }
+    // Behind the record, or of a field that is cut.
+    std::span<const uint8_t> Rest() const { return bytes.subspan(end); }
 };
 
 bool AreEqual(std::span<const uint8_t> one, std::span<const uint8_t> other)
@@ -32,7 +36,7 @@ bool AreEqual(std::span<const uint8_t> one, std::span<const uint8_t> other)
 
 std::string CountOfBytes(std::size_t count)
 {
-    return std::to_string(count) + " bytes";
+    return std::to_string(count) + (count == 1 ? " byte" : " bytes");
 }
 
 std::vector<SFieldDifference> Compare(const SFieldList &one, const SFieldList &other)
@@ -59,8 +63,8 @@ std::vector<SFieldDifference> Compare(const SFieldList &one, const SFieldList &o
     if (one.bytes.size() != other.bytes.size())
         differences.push_back(
             {"(size)", CountOfBytes(one.bytes.size()), CountOfBytes(other.bytes.size())});
-    else if (!AreEqual(one.rest, other.rest))
-        differences.push_back({"(rest)", CountOfBytes(one.rest.size()), "other bytes"});
+    else if (!AreEqual(one.Rest(), other.Rest()))
+        differences.push_back({"(rest)", CountOfBytes(one.Rest().size()), "other bytes"});
     return differences;
 }
 
@@ -74,7 +78,7 @@ std::vector<SFieldDifference> RequestDifferences(const SFunction &function,
         return {};
     SFieldList lists[2] = {{.bytes = one}, {.bytes = other}};
     for (SFieldList &list : lists)
-        list.End(DecodeRequest(function, list.bytes, list.Visitor()));
+        DecodeRequest(function, list.bytes, list.Visitor());
     return Compare(lists[0], lists[1]);
 }
 
@@ -85,7 +89,7 @@ std::vector<SFieldDifference> AnswerDifferences(const SFunction &function, const
         (!function.HangsOnRequest() || AreEqual(one.request, other.request)))
         return {};
     SFieldList lists[2] = {{.bytes = one.bytes}, {.bytes = other.bytes}};
-    lists[0].End(DecodeAnswer(function, one.bytes, one.request, lists[0].Visitor()));
-    lists[1].End(DecodeAnswer(function, other.bytes, other.request, lists[1].Visitor()));
+    DecodeAnswer(function, one.bytes, one.request, lists[0].Visitor());
+    DecodeAnswer(function, other.bytes, other.request, lists[1].Visitor());
     return Compare(lists[0], lists[1]);
 }

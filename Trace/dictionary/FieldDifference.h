@@ -6,7 +6,7 @@
 //
 // Fields come in the order of the first record's bytes, then what only the other has. A field that one
 // of the two lacks, since its record is cut or its union has the other layout, is "absent" there. Records
-// of two lengths differ in "(size)", and bytes behind their ends in "(rest)".
+// of two lengths differ in "(size)"; "(rest)" are bytes behind their ends, or of a field that is cut.
 #pragma once
 
 #include <span>

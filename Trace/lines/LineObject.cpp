@@ -8,9 +8,12 @@
 
 namespace {
 
+// A key may be as long as its line.
 std::string Quoted(std::string_view key)
 {
-    return '"' + std::string(key) + '"';
+    constexpr std::size_t kLongest = 80;
+    const bool isLong = key.size() > kLongest;
+    return '"' + std::string(key.substr(0, kLongest)) + (isLong ? "...\"" : "\"");
 }
 
 [[noreturn]] void FailLine(const std::string &reason)

@@ -10,6 +10,7 @@
 
 #include "Trace/lines/LineObject.h"
 #include "Trace/lines/LineSource.h"
+#include "Trace/lines/PrintableText.h"
 
 namespace {
 
@@ -139,7 +140,8 @@ STrace ReadTrace(std::istream &stream, const std::string &name, ECutLine cut)
     try {
         return ReadLines(source, cut);
     } catch (const std::exception &error) {
-        throw CTraceError(name + ":" + std::to_string(source.Number()) + ": " + error.what());
+        throw CTraceError(
+            PrintableText(name + ":" + std::to_string(source.Number()) + ": " + error.what()));
     }
 }
 
@@ -147,10 +149,11 @@ STrace ReadTrace(const std::string &path, ECutLine cut)
 {
     std::error_code ignored;
     if (std::filesystem::is_directory(path, ignored))
-        throw CTraceError(path + ": " + std::strerror(EISDIR));
+        throw CTraceError(PrintableText(path) + ": " + std::strerror(EISDIR));
     errno = 0;
     std::ifstream stream(path, std::ios::binary);
     if (!stream)
-        throw CTraceError(path + ": " + (errno != 0 ? std::strerror(errno) : "cannot be opened"));
+        throw CTraceError(PrintableText(path) + ": " +
+                          (errno != 0 ? std::strerror(errno) : "cannot be opened"));
     return ReadTrace(stream, path, cut);
 }

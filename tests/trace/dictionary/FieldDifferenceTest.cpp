@@ -76,7 +76,9 @@ TEST(FieldDifferenceTest, CutAndLongRecordsDifferInSizeAndRest)
     EXPECT_EQ(Words(RequestDifferences(pdValue, ByteList{1, 0, 0, 0}, ByteList{1, 0})),
               "kind: 1 | absent\n(size): 4 bytes | 2 bytes\n");
     EXPECT_EQ(Words(RequestDifferences(pdValue, ByteList{1, 0, 0, 0, 5}, ByteList{1, 0, 0, 0, 6})),
-              "(rest): 1 bytes | other bytes\n");
+              "(rest): 1 byte | other bytes\n");
+    EXPECT_EQ(Words(RequestDifferences(pdValue, ByteList{1, 0, 5}, ByteList{1, 0, 6})),
+              "(rest): 3 bytes | other bytes\n");
 }
 
 }  // namespace
