@@ -47,7 +47,7 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 
 # Absolute destinations: they are part of the package, not of an installed tree.
 function(quorlin_package_file file destination)
-  install(FILES ${file} DESTINATION ${destination} COMPONENT debian EXCLUDE_FROM_ALL)
+  install(FILES ${file} DESTINATION ${destination} COMPONENT debian EXCLUDE_FROM_ALL ${ARGN})
 endfunction()
 
 # Debian wants its man pages and changelogs compressed, without the time in the file's head.
@@ -58,14 +58,17 @@ function(quorlin_package_compressed file name destination)
 endfunction()
 
 file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/packaging)
-file(CREATE_LINK ../lib/quorlin-rf/bin/quorlin-host ${PROJECT_BINARY_DIR}/packaging/quorlin-host
-     SYMBOLIC)
+foreach(program quorlin-host quorlin)
+  file(CREATE_LINK ../lib/quorlin-rf/bin/${program} ${PROJECT_BINARY_DIR}/packaging/${program} SYMBOLIC)
+  quorlin_package_file(${PROJECT_BINARY_DIR}/packaging/${program} /usr/bin)
+  quorlin_package_compressed(${PROJECT_SOURCE_DIR}/packaging/${program}.1 ${program}.1
+                             /usr/share/man/man1)
+endforeach()
 configure_file(packaging/changelog.in ${PROJECT_BINARY_DIR}/packaging/changelog @ONLY)
-quorlin_package_file(${PROJECT_BINARY_DIR}/packaging/quorlin-host /usr/bin)
 quorlin_package_file(${PROJECT_SOURCE_DIR}/packaging/copyright /usr/share/doc/quorlin-rf)
 quorlin_package_file(${PROJECT_SOURCE_DIR}/packaging/quorlin-rf.desktop /usr/share/applications)
+quorlin_package_file(${PROJECT_SOURCE_DIR}/packaging/quorlin.bash-completion
+                     /usr/share/bash-completion/completions RENAME quorlin)
 quorlin_package_compressed(${PROJECT_BINARY_DIR}/packaging/changelog changelog
                            /usr/share/doc/quorlin-rf)
-quorlin_package_compressed(${PROJECT_SOURCE_DIR}/packaging/quorlin-host.1 quorlin-host.1
-                           /usr/share/man/man1)
 include(CPack)

@@ -51,7 +51,7 @@ SCliRun CCliFolder::Run(const std::string &arguments) const
 SCliRun CCliFolder::Shell(const std::string &command) const
 {
     const std::string line = "cd '" + m_path +
-                             "' && export BIN='" QUORLIN_BIN "' && QUORLIN=$BIN/quorlin"
+                             "' && export BIN='" QUORLIN_BIN "' && export QUORLIN=$BIN/quorlin"
                              " && { " +
                              command + "\n} >.out 2>.err </dev/null";
     const int status = std::system(line.c_str());
