@@ -117,14 +117,15 @@ void CAutoBindingDataModelDockWidget::InitWidget()
     qCDebug(lcEngine) << "============ [Start] Init widget ============ ";
     const QList<QWidget *> widgets = AllWidgets();
     SetGroupBoxFonts(widgets);
-    InitMembers(BindingOf(m_dataModel), widgets);
+    InitMembers(BindingOf(m_dataModel, m_dataModel), widgets);
     qCDebug(lcEngine) << "============ [Done] Init widget ============ ";
 }
 
-SBinding CAutoBindingDataModelDockWidget::BindingOf(const QJsonObject &update)
+SBinding CAutoBindingDataModelDockWidget::BindingOf(QJsonObject &document,
+                                                    const QJsonObject &update)
 {
     return {
-        .document = m_dataModel,
+        .document = document,
         .update = update,
         .modelInterface = m_modelInterface,
         .index = m_index,
@@ -136,7 +137,7 @@ SBinding CAutoBindingDataModelDockWidget::BindingOf(const QJsonObject &update)
 void CAutoBindingDataModelDockWidget::UpdateWidget(QJsonObject update)
 {
     m_modelReady = false;
-    Walk(kUpdateWalk, BindingOf(update));
+    Walk(kUpdateWalk, BindingOf(m_dataModel, update));
     const QPointer<CAutoBindingDataModelDockWidget> self(this);
     CheckDateModelIntegrity(update);
     if (self)
@@ -145,7 +146,7 @@ void CAutoBindingDataModelDockWidget::UpdateWidget(QJsonObject update)
 
 void CAutoBindingDataModelDockWidget::AppendWidget(QJsonObject update)
 {
-    Walk(kAppendWalk, BindingOf(update));
+    Walk(kAppendWalk, BindingOf(m_dataModel, update));
 }
 
 std::string CAutoBindingDataModelDockWidget::PackageMemberValue()
@@ -167,9 +168,21 @@ QJsonObject CAutoBindingDataModelDockWidget::PackageDocument()
 void CAutoBindingDataModelDockWidget::Package()
 {
     FinishEdit();
-    Walk(kPackageWalk, BindingOf(m_dataModel));
+    Walk(kPackageWalk, BindingOf(m_dataModel, m_dataModel));
     if (++m_packageCount % kPackagesBetweenRenewals == 0)
         m_dataModel = CopyModel(m_dataModel);
+}
+
+// What the walk writes goes into a copy: reading a page leaves its document as it is.
+QString CAutoBindingDataModelDockWidget::DocumentText()
+{
+    const QPointer<CAutoBindingDataModelDockWidget> self(this);
+    FinishEdit();
+    if (!self || m_dataModel.isEmpty())
+        return {};
+    QJsonObject document = m_dataModel;
+    Walk(kPackageWalk, BindingOf(document, document));
+    return QString::fromStdString(ModelToText(document));
 }
 
 QJsonObject CAutoBindingDataModelDockWidget::DocumentOf(const std::string &text)

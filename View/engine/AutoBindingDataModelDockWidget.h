@@ -93,6 +93,9 @@ public:
     // The tool has stopped every test on the DUT: the page shows itself idle (buttons, inputs,
     // timers, remembered stops), without a status line. A page without a test has nothing to show.
     virtual void ShowTestStopped() {}
+    // The document as packaged now, as compact text; empty while the page has none. Ends the edit under
+    // way and changes nothing else. For a host, which calls it by name.
+    Q_INVOKABLE QString DocumentText();
 
 signals:
     // Text for the status bar. timeout: Prescribed; see docs/decisions/0036-prescribed-surface.md
@@ -181,7 +184,7 @@ private:
     void InitWidget();
     static void SetGroupBoxFonts(const QList<QWidget *> &widgets);
     QList<QWidget *> AllWidgets() const;
-    SBinding BindingOf(const QJsonObject &update);
+    SBinding BindingOf(QJsonObject &document, const QJsonObject &update);
     void Publish(ERelevance kind, const QString &currentText);
     void Package();
     void ShowErrorBox(const QString &text);
