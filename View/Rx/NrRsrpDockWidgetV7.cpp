@@ -1,5 +1,7 @@
 #include "View/Rx/NrRsrpDockWidgetV7.h"
 
+#include <utility>
+
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -83,8 +85,13 @@ void CNrRsrpDockWidgetV7::ShowControls()
     m_widgets.clear->setEnabled(IsFree() && !IsTestRunning());
 }
 
+// Who waits for the page to be idle must not find the rows of the run before.
 void CNrRsrpDockWidgetV7::OnTestDone(const SEachItemOperationResult &result)
 {
+    if (m_isClearing) {
+        m_started = result;
+        return;
+    }
     FinishStart(m_page.testDoneLog, result);
 }
 
@@ -154,7 +161,7 @@ void CNrRsrpDockWidgetV7::ClearReport()
         m_isClearedByUser = true;
         ShowControls();
     };
-    if (!BeginQuietRequest(turnOff))
+    if (!BeginRequest(turnOff))
         return;
     RequestClear(PackageDocument());
 }
@@ -174,13 +181,17 @@ void CNrRsrpDockWidgetV7::OnClearDone(const std::string &response)
     m_isClearing = false;
     if (AdoptReports(response))
         ShapeResults();
-    if (!m_isClearedByUser)
+    if (!m_isClearedByUser) {
+        if (const auto started = std::exchange(m_started, std::nullopt))
+            OnTestDone(*started);
         return;
-    EndQuietRequest([this] {
+    }
+    const auto turnOn = [this] {
         m_isClearedByUser = false;
         ShowControls();
-    });
-    StopIfAsked();
+    };
+    if (EndRequest(turnOn))
+        StopIfAsked();
 }
 
 // Makes the response the page's document and brings the result tables in line with it: rows that

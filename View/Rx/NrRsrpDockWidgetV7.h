@@ -9,7 +9,8 @@
 //   | running  | on                                           | on            | off   |
 //   | stopping | stopped, and stays so when the stop failed   | off           | off   |
 //
-// While counters are reset or reports are cleared, all buttons and inputs are off.
+// While counters are reset or reports are cleared, the page is busy, and all buttons and inputs are
+// off.
 //
 // Reports. A tick asks for one report; while an answer is on its way the tick is skipped, so a slow
 // target costs ticks, never rows. The answer is the page's document with the new rows in it. It
@@ -18,7 +19,8 @@
 // shown rows on the GUI thread. An answer that comes after Stop still counts. An answer without a
 // document changes nothing.
 //
-// Clear. Empties document and table and leaves the target alone; Start begins with it. A report
+// Clear. Empties document and table and leaves the target alone; Start begins with it, and has not ended
+// before the table is empty. A report
 // that was asked for before the clear is dropped when it comes: it would bring the rows back. No
 // report is asked for until the clear is done.
 //
@@ -30,6 +32,7 @@
 //   void CNrRsrpForceDockWidgetV7::on_m_start_clicked() { StartTest(); }
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include <QTimer>
@@ -126,6 +129,8 @@ private:
     bool m_isClearing = false;
     bool m_isResetting = false;
     bool m_isClearedByUser = false;  // the clear under way is that of the button, not of Start
+    std::optional<SEachItemOperationResult>
+        m_started;  // the answer of a start that waits for its clear
     int m_clearCount = 0;
     int m_clearCountAtFetch = 0;
 };
