@@ -29,6 +29,10 @@ const QCommandLineOption kHandle("handle",
                                  "Target handle for the plug-in, decimal or 0x and "
                                  "hexadecimal (default: 1).",
                                  "N", "1");
+const QCommandLineOption kLink("link",
+                               "Library that opens the link to the DUT and gives the handle: "
+                               "VondLink_Open, VondLink_Close.",
+                               "FILE");
 const QCommandLineOption kVerbose("verbose", "Log the tool's debug lines too.");
 const QCommandLineOption kScreenshot("screenshot",
                                      "Save a picture of the tool window as PNG: when "
@@ -62,7 +66,7 @@ std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
     QCommandLineParser parser;
     parser.setApplicationDescription(kDescription);
     parser.addOptions(
-        {kHelp, kPlugin, kProfile, kHandle, kVerbose, kScreenshot, kRecord, kReplay, kDemo});
+        {kHelp, kPlugin, kProfile, kHandle, kLink, kVerbose, kScreenshot, kRecord, kReplay, kDemo});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return Refuse(parser.errorText());
@@ -73,7 +77,8 @@ std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
     if (!parser.positionalArguments().isEmpty())
         return Refuse(
             QString("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
-    for (const QCommandLineOption &option : {kPlugin, kProfile, kScreenshot, kRecord, kReplay}) {
+    for (const QCommandLineOption &option :
+         {kPlugin, kProfile, kLink, kScreenshot, kRecord, kReplay}) {
         if (parser.isSet(option) && parser.value(option).isEmpty())
             return Refuse(
                 QString("Option '%1' has an empty value.").arg(option.names().constFirst()));
@@ -90,6 +95,7 @@ std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
                                                "/../plugins/libQuorlinRf.so");
     options.profile = parser.value(kProfile);
     options.handle = *handle;
+    options.linkFile = parser.value(kLink);
     options.isVerbose = parser.isSet(kVerbose);
     options.isDemo = parser.isSet(kDemo);
     options.screenshotFile = parser.value(kScreenshot);

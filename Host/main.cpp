@@ -9,6 +9,7 @@
 
 #include "Host/BenchHost.h"
 #include "Host/Demo.h"
+#include "Host/LinkLibrary.h"
 #include "Host/Options.h"
 #include "Host/PluginHandle.h"
 #include "Host/SimulatedDut.h"
@@ -124,10 +125,15 @@ int main(int argc, char **argv)
     // Qt gets no options: it knows a "-plugin" of its own. Its settings come from the environment.
     int programNameOnly = 1;
     const std::unique_ptr<QApplication> application = MakeApplication(programNameOnly, argv);
-    application->setProperty("vondTargetHandle", options.handle);
+    QString error;
+    CLinkLibrary link;
+    if (!options.linkFile.isEmpty() && !link.Open(options.linkFile, error)) {
+        Complain(error);
+        return eHostExitNoPlugin;
+    }
+    application->setProperty("vondTargetHandle", link.IsOpen() ? link.Handle() : options.handle);
 
     CPluginHandle plugin;
-    QString error;
     if (!plugin.Load(options.pluginFile, error)) {
         Complain(error);
         return eHostExitNoPlugin;
