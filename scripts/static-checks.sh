@@ -75,10 +75,10 @@ View/Rx View/pages|View/engine|View/editors|Model|Support|ViewController
 View/Tx View/pages|View/engine|View/editors|Model|Support|ViewController
 PluginInterface View|Support
 Host PluginInterface
+Runner Host|PluginInterface
 Trace Vond
 Tap Trace|Vond
 Simulator Trace|Vond
-Runner PluginInterface
 Cli Trace|Runner
 END
     while read -r folder allowed; do

@@ -6,13 +6,15 @@
 // unloads the tool, and closes the link. One bench a process; an application object made by
 // MakeBenchApplication comes before it and goes after it.
 //
+// A bench that has pressed nothing leaves the DUT alone at its end.
+//
 // Waits. Everything that waits runs the event loop meanwhile and has a bound. Interrupt() ends every
 // wait, the one under way included, until Resume(). Boxes and file dialogs that open are closed at once and
 // kept; a file dialog gets the file that AnswerFileDialog has named.
 //
 // Errors come back as values; nothing throws. GUI thread.
 //
-//   auto application = MakeBenchApplication({});
+//   const auto application = MakeBenchApplication(false);
 //   CBench bench;
 //   const SBenchError error = bench.Open({.profile = "handset"});
 //   if (error.kind != EBenchError::None)
@@ -26,9 +28,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <vector>
 
-#include <QApplication>
 #include <QObject>
 
 #include "Runner/bench/BenchTypes.h"
@@ -43,7 +43,6 @@ struct SBenchOptions
     QString profile = {};     // of the simulated DUT; empty: as the environment says
     uint32_t handle = 1;      // not used with a link
     QString linkFile = {};    // a library with VondLink_Open and VondLink_Close; empty: none
-    bool isVerbose = false;   // debug lines of the tool on stderr
     std::chrono::milliseconds wait = kBenchWait;  // for the pages
 };
 
@@ -69,9 +68,6 @@ enum class EBenchWait
     Gone,         // the tool's window or pages are gone
 };
 
-// The application object of a bench: Qt's offscreen platform, whatever the environment says.
-std::unique_ptr<QApplication> MakeBenchApplication(const SBenchOptions &options);
-
 class CBench : public QObject
 {
     Q_OBJECT
@@ -81,6 +77,8 @@ public:
     ~CBench() override;  // Close()
 
     SBenchError Open(const SBenchOptions &options);
+    // The pages anew, as after a reset by the host: what was typed is gone, and so are all page objects.
+    SBenchError Reload(std::chrono::milliseconds bound);
     // RF Off, hide, unload, link closed. What RF Off came to: true when the DUT has confirmed that no
     // test runs. Safe to call twice.
     bool Close();
@@ -91,8 +89,8 @@ public:
     // The page in front, or null.
     CBenchPage *FrontPage() const;
 
-    // Presses RF Off and waits for its end; it goes next on the link, whatever waits. refusal: null for
-    // who doesn't ask.
+    // Presses RF Off and waits for its end, interrupted or not; it goes next on the link, whatever waits,
+    // and may be asked for within a wait. why: what the tool says when it failed.
     bool RfOff(std::chrono::milliseconds bound, QString *why = nullptr);
     // Does a test run on the DUT, as the tool's pages and RF Off tell?
     bool MayTransmit() const;
@@ -105,7 +103,7 @@ public:
     QString ToolVersion() const;
 
     EBenchWait WaitIdle(std::chrono::milliseconds bound);
-    // The condition is looked at after every turn of the event loop.
+    // The condition is looked at after every turn of the event loop; the wait may stand within another.
     EBenchWait WaitUntil(const std::function<bool()> &condition, std::chrono::milliseconds bound);
     void Interrupt();
     void Resume();
@@ -116,12 +114,21 @@ public:
     // The boxes since the last call.
     QVector<SBenchBox> TakeBoxes();
 
+    // From a press on, RF Off belongs to the end.
+    void NotePress();
+
 signals:
     void Signal_Status(const QString &line);
     void Signal_Busy(bool isBusy);
     void Signal_Box(const SBenchBox &box);
 
 private:
+    void TellStatus(const QString &line);
+    SBenchError LoadTool(const SBenchOptions &options);
+    SBenchError ShowTool(std::chrono::milliseconds bound);
+    EBenchWait WaitAnyhow(const std::function<bool()> &condition, std::chrono::milliseconds bound,
+                          bool isInterruptible);
+
     struct SParts;
     std::unique_ptr<SParts> m_parts;
 };

@@ -31,6 +31,10 @@
 
 #include "Runner/bench/Bench.h"
 
+class CPageLayout;
+class QAbstractButton;
+struct SLayoutMember;
+
 enum class EPressEnd
 {
     Idle,         // pressed, and the tool is idle again
@@ -71,7 +75,12 @@ public:
     QString Title() const;
     QString ClassName() const;
 
+    // On top of the window, and worked on.
+    bool IsInFront() const;
+
     QVector<SBenchButton> Buttons() const;
+    // The button that Press would press; Refused when there is none, or several.
+    std::optional<SRefusal> FindButton(const QString &name, SBenchButton &button) const;
     QVector<SBenchMember> Members() const;
     QVector<SBenchTable> Tables() const;
     // Rows of the result table that is shown; 0 without one.
@@ -87,10 +96,17 @@ public:
     std::optional<SRefusal> Raise();
     // Nothing when the value was taken.
     std::optional<SRefusal> Set(const QString &name, const QString &value);
-    // By text or object name.
+    // By text or object name; the text may lack a unit that it has at its end.
     SPressEnd Press(const QString &button, std::chrono::milliseconds bound);
 
 private:
-    struct SParts;
-    std::unique_ptr<SParts> m_parts;
+    const CPageLayout &Layout() const;
+    QAbstractButton *ButtonOf(const QString &name, SRefusal &refusal) const;
+    const SLayoutMember *InputOf(const QString &name, int &column, SRefusal &refusal) const;
+    std::optional<SRefusal> RefuseOff(const SBenchMember &member, const QWidget *editor) const;
+    void ShowTab(const QWidget *widget);
+
+    CBench &m_bench;
+    const QPointer<QDockWidget> m_page;
+    mutable std::unique_ptr<CPageLayout> m_layout;  // read when it is first asked for
 };

@@ -15,9 +15,9 @@
 struct SBenchBox
 {
     QString title;
-    QString text;         // without the markup that sets its font
-    QString informative;  // empty: none
-    QString detail;       // empty: none
+    QString text;              // without the markup that sets its font
+    QString informative = {};  // empty: none
+    QString detail = {};       // empty: none
 };
 
 struct SBenchButton
@@ -77,8 +77,9 @@ struct SBenchTable
 // Why a value, a name or a press was not taken.
 struct SRefusal
 {
-    QString reason;   // a sentence
-    QString allowed;  // what would be taken: choices joined by ", ", or "300~10000"; may be empty
+    QString reason;  // a sentence
+    QString allowed =
+        {};  // what would be taken: choices joined by ", ", or "300~10000"; may be empty
 
     QString Text() const;  // both, in one line
 };

@@ -1,0 +1,6 @@
+#include "Runner/bench/BenchTypes.h"
+
+QString SRefusal::Text() const
+{
+    return allowed.isEmpty() ? reason : reason + QStringLiteral(" Allowed: ") + allowed + '.';
+}
