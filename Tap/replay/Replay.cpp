@@ -1,7 +1,6 @@
 #include "Tap/replay/Replay.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstring>
 #include <exception>
 #include <thread>
@@ -13,8 +12,6 @@
 #include "Trace/lines/TraceReader.h"
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 constexpr uint64_t kLongestWaitNs = 3'600'000'000'000;  // an hour: a trace may say anything
 
@@ -117,10 +114,15 @@ int32_t CReplay::Answer(const SAskedCall &call) const
                     std::min(call.answerSize, found->answer->size()));
     if (call.status != nullptr && found->function->status == EStatusPlace::Argument)
         *call.status = found->status;
+    WaitFor(*found, start);
+    return found->result;
+}
+
+void CReplay::WaitFor(const STraceCall &call, Clock::time_point start) const
+{
     if (m_plan.isRealTime)
         std::this_thread::sleep_until(
-            start + std::chrono::nanoseconds(std::min(found->durationNs, kLongestWaitNs)));
-    return found->result;
+            start + std::chrono::nanoseconds(std::min(call.durationNs, kLongestWaitNs)));
 }
 
 const char *CReplay::TextOf(int32_t result) const
@@ -133,6 +135,7 @@ const char *CReplay::TextOf(int32_t result) const
 
 const char *CReplay::AnswerText(const SAskedCall &call) const
 {
+    const Clock::time_point start = Clock::now();
     const char *known = nullptr;
     if (int32_t result = 0; call.function == EFunction::GetErrorString && call.request != nullptr &&
                             call.requestSize == sizeof(result)) {
@@ -143,8 +146,10 @@ const char *CReplay::AnswerText(const SAskedCall &call) const
     }
     if (!m_calls)
         return nullptr;
-    if (const STraceCall *found = Take(call))
+    if (const STraceCall *found = Take(call)) {
+        WaitFor(*found, start);
         return AnsweredText(*found);
+    }
     if (known == nullptr || m_plan.isStrict)
         Tell(Unanswered(*m_calls, call, m_plan.isStrict));
     return known;

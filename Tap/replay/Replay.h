@@ -16,6 +16,7 @@
 //                  .answer = &value, .answerSize = 2});   // 0, or the recorded failure
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -41,8 +42,11 @@ public:
     const char *TextOf(int32_t result) const;
 
 private:
+    using Clock = std::chrono::steady_clock;
+
     void Put(std::vector<STraceCall> calls);
     const STraceCall *Take(const SAskedCall &call) const;
+    void WaitFor(const STraceCall &call, Clock::time_point start) const;
 
     SReplayPlan m_plan;
     std::unique_ptr<const CReplayCalls> m_calls;  // null: the trace cannot be used

@@ -71,10 +71,8 @@ using Variables = QMap<QString, QString>;
 QProcessEnvironment TapEnvironment(const Variables &variables)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("LD_PRELOAD", BuiltFile("lib/libVondTap.so"));
-    // The sanitizer comes with the tap here, and not before it.
-    environment.insert("ASAN_OPTIONS",
-                       "verify_asan_link_order=0:" + qEnvironmentVariable("ASAN_OPTIONS"));
+    environment.insert("LD_PRELOAD",
+                       QStringLiteral(FIRST_PRELOAD " ") + BuiltFile("lib/libVondTap.so"));
     for (const QString &name : variables.keys())
         environment.insert(name, variables[name]);
     return environment;
