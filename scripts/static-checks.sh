@@ -63,7 +63,7 @@ check_arrows() {
 Model
 Support
 Vond
-Operations Support|Vond
+Operations Support|Trace|Vond
 Controller Model|Operations|Support|Vond
 ViewController Controller|Model|Support
 View Model|Support|ViewController

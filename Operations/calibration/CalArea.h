@@ -42,6 +42,8 @@ public:
     virtual bool IsValid(const SCalPlace &place) const = 0;
     virtual bool HasValid() const = 0;
     virtual bool IsEdited(const SCalPlace &place) const = 0;  // by a user, and not valid
+    // Of the record, which has to be there.
+    virtual std::vector<uint8_t> Bytes(const SCalPlace &place) const = 0;
 
     // Download. The blocks that a record takes in a round: its own, at most 4. Trailing blocks
     // without a frequency are left out where the record would not fit into a round with them.

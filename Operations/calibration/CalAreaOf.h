@@ -56,6 +56,12 @@ public:
     bool IsValid(const SCalPlace &place) const override { return m_store.IsValid(place); }
     bool HasValid() const override { return m_store.HasValid(); }
     bool IsEdited(const SCalPlace &place) const override { return m_store.IsEdited(place); }
+    std::vector<uint8_t> Bytes(const SCalPlace &place) const override
+    {
+        const auto *bytes =
+            reinterpret_cast<const uint8_t *>(m_store.Find(place.route, place.region));
+        return {bytes, bytes + sizeof(Record)};
+    }
 
     int BlocksToWrite(const SCalPlace &place) const override;
     void Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at, const SCalPlace &place,

@@ -20,6 +20,23 @@ bool ICalItemByL1Operation::HasData() const
                        [](const SPart &part) { return part.area->HasValid(); });
 }
 
+SCalImage ICalItemByL1Operation::Image() const
+{
+    SCalImage image;
+    const SMMRfRouteTableV7 *table = FindRouteTable();
+    if (!table)
+        return image;
+    for (const SPart &part : m_parts) {
+        const ECalRoute kind = part.area->Kind();
+        std::set<std::pair<uint16_t, int>> seen;  // a route stands in the table once a band
+        for (const SCalPlace &place : WalkRoutes(*table, kind)) {
+            if (part.area->IsValid(place) && seen.emplace(place.route, place.region).second)
+                image.records.push_back({kind, place, part.area->Bytes(place)});
+        }
+    }
+    return image;
+}
+
 bool ICalItemByL1Operation::IsInFile(CCalIniFile &file) const
 {
     const SMMRfRouteTableV7 *table = FindRouteTable();

@@ -34,6 +34,7 @@
 
 #include "Operations/GeneralOperation.h"
 #include "Operations/calibration/CalArea.h"
+#include "Operations/calibration/CalImage.h"
 #include "Operations/calibration/CalSections.h"
 #include "Operations/calibration/CalValueWatch.h"
 
@@ -56,6 +57,8 @@ public:
     void SetProgress(Progress progress) { m_progress = std::move(progress); }
     // Prescribed; see docs/decisions/0036-prescribed-surface.md
     bool HasData() const;  // some record is valid
+    // All valid records, as they are now; none without a route table.
+    SCalImage Image() const;
     // Of the last move.
     const SCalMoveRemarks &Remarks() const { return m_remarks; }
     // True when a file has a section of this item, for any RF chip. Leaves no text. Throws as load

@@ -3,7 +3,7 @@
 //
 // Gains, losses, offsets and power detector values are dB in 1/32 dB; frequencies are kHz, 0 in the
 // unused tail. blockCount is the number of 16-entry frequency groups in use, 0 to 4. The layout is
-// fixed, since a record is compared and kept as bytes.
+// fixed, since a record is compared and kept as bytes; its offsets are in CalRecordLayouts.h.
 //
 //   SMMType1PathlossByRouteV7 record = {};
 //   record.loss[subband][VondType1LossPair(EVondRxPath::Main, slot)].lpm = 48;   // 1.5 dB
@@ -33,23 +33,6 @@ struct SAptRouteBwRecord
     int16_t powerDetector[kVondAptPaModes][kVondCalMaxSubbands];  // 1/32 dB
 };
 VOND_SIZE(SAptRouteBwRecord, 1224);
-VOND_OFFSET(SAptRouteBwRecord, band, 0);
-VOND_OFFSET(SAptRouteBwRecord, route, 2);
-VOND_OFFSET(SAptRouteBwRecord, normalTempIndex, 4);
-VOND_OFFSET(SAptRouteBwRecord, paControlLevel, 5);
-VOND_OFFSET(SAptRouteBwRecord, paModeCount, 6);
-VOND_OFFSET(SAptRouteBwRecord, reserved7, 7);
-VOND_OFFSET(SAptRouteBwRecord, level, 8);
-VOND_OFFSET(SAptRouteBwRecord, paGainTempOffset, 88);
-VOND_OFFSET(SAptRouteBwRecord, powerDetectorTempOffset, 136);
-VOND_OFFSET(SAptRouteBwRecord, prfIndex, 184);
-VOND_OFFSET(SAptRouteBwRecord, reserved187, 187);
-VOND_OFFSET(SAptRouteBwRecord, couplerLoss, 188);
-VOND_OFFSET(SAptRouteBwRecord, reserved194, 194);
-VOND_OFFSET(SAptRouteBwRecord, blockCount, 196);
-VOND_OFFSET(SAptRouteBwRecord, freq, 200);
-VOND_OFFSET(SAptRouteBwRecord, paGain, 456);
-VOND_OFFSET(SAptRouteBwRecord, powerDetector, 840);
 
 // A type 1 RX route.
 struct SMMType1PathlossByRouteV7
@@ -62,12 +45,6 @@ struct SMMType1PathlossByRouteV7
     int16_t plOffset[kVondCalTemperatures];                      // 1/32 dB
 };
 VOND_SIZE(SMMType1PathlossByRouteV7, 4376);
-VOND_OFFSET(SMMType1PathlossByRouteV7, band, 0);
-VOND_OFFSET(SMMType1PathlossByRouteV7, route, 2);
-VOND_OFFSET(SMMType1PathlossByRouteV7, blockCount, 4);
-VOND_OFFSET(SMMType1PathlossByRouteV7, freq, 8);
-VOND_OFFSET(SMMType1PathlossByRouteV7, loss, 264);
-VOND_OFFSET(SMMType1PathlossByRouteV7, plOffset, 4360);
 
 // A type 2 RX route.
 struct SMMType2PathlossByRouteV7
@@ -81,9 +58,3 @@ struct SMMType2PathlossByRouteV7
     int16_t plOffset[kVondCalTemperatures];  // 1/32 dB
 };
 VOND_SIZE(SMMType2PathlossByRouteV7, 72984);
-VOND_OFFSET(SMMType2PathlossByRouteV7, band, 0);
-VOND_OFFSET(SMMType2PathlossByRouteV7, route, 2);
-VOND_OFFSET(SMMType2PathlossByRouteV7, blockCount, 4);
-VOND_OFFSET(SMMType2PathlossByRouteV7, freq, 8);
-VOND_OFFSET(SMMType2PathlossByRouteV7, loss, 264);
-VOND_OFFSET(SMMType2PathlossByRouteV7, plOffset, 72968);

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "Trace/dictionary/FieldPath.h"
 #include "Trace/dictionary/Number.h"
 #include "Trace/dictionary/Soundness.h"
 
@@ -84,7 +85,7 @@ private:
         for (uint32_t i = 0; i < count; ++i, offset += field.at.size) {
             if (offset >= m_bytes.size() && field.at.size > 0)
                 break;
-            AppendIndexes(field.at, count, i);
+            AppendIndexes(m_name, field.at, i);
             if (field.at.type == EFieldType::Record) {
                 m_name += '.';
                 Record(*field.at.record, offset, around);
@@ -94,17 +95,6 @@ private:
             m_name.resize(bare);
         }
         m_name.resize(length);
-    }
-
-    // An array of one element has an index, too.
-    void AppendIndexes(const SFieldPlace &place, uint32_t count, uint32_t element)
-    {
-        for (std::size_t i = 0; i < kMostDimensions && place.extents[i] > 0; ++i) {
-            count /= place.extents[i];
-            m_name += '[';
-            m_name += std::to_string(element / count % place.extents[i]);
-            m_name += ']';
-        }
     }
 
     void Element(const SField &field, std::size_t offset, const SAround &around)

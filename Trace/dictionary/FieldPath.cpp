@@ -6,6 +6,20 @@
 
 namespace {
 
+void AppendElements(const SLayout &layout, uint32_t base, std::vector<SFoundField> &elements)
+{
+    for (const SField &field : layout.fields) {
+        const uint32_t count = CountOf(field.at);
+        for (uint32_t i = 0; i < count; ++i) {
+            const uint32_t offset = base + field.at.offset + i * field.at.size;
+            if (field.at.type == EFieldType::Record)
+                AppendElements(*field.at.record, offset, elements);
+            else
+                elements.push_back({&field, offset, field.at.size});
+        }
+    }
+}
+
 // Does the path begin with the name, as a whole?
 bool BeginsWith(std::string_view path, std::string_view name)
 {
@@ -53,6 +67,17 @@ bool TakeIndexes(std::string_view &path, SFoundField &found)
 
 }  // namespace
 
+void AppendIndexes(std::string &name, const SFieldPlace &place, uint32_t element)
+{
+    uint32_t count = CountOf(place);
+    for (std::size_t i = 0; i < kMostDimensions && place.extents[i] > 0; ++i) {
+        count /= place.extents[i];
+        name += '[';
+        name += std::to_string(element / count % place.extents[i]);
+        name += ']';
+    }
+}
+
 std::optional<SFoundField> FindField(const SLayout &layout, std::string_view path)
 {
     for (const SField &field : layout.fields) {
@@ -74,6 +99,32 @@ std::optional<SFoundField> FindField(const SLayout &layout, std::string_view pat
         return inner;
     }
     return std::nullopt;
+}
+
+std::vector<SFoundField> ElementsOf(const SLayout &layout)
+{
+    std::vector<SFoundField> elements;
+    AppendElements(layout, 0, elements);
+    return elements;
+}
+
+std::string NameAt(const SLayout &layout, uint32_t offset)
+{
+    for (const SField &field : layout.fields) {
+        const SFieldPlace &place = field.at;
+        const uint32_t count = CountOf(place);
+        if (offset < place.offset || offset - place.offset >= count * place.size)
+            continue;
+        const uint32_t element = (offset - place.offset) / place.size;
+        const uint32_t rest = (offset - place.offset) % place.size;
+        std::string name(place.name);
+        AppendIndexes(name, place, element);
+        if (place.type != EFieldType::Record)
+            return rest == 0 ? name : std::string();
+        const std::string inner = NameAt(*place.record, rest);
+        return inner.empty() ? inner : name + '.' + inner;
+    }
+    return {};
 }
 
 std::optional<int64_t> NumberAt(const SLayout &layout, std::span<const uint8_t> bytes,

@@ -10,7 +10,9 @@
 
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "Trace/dictionary/Field.h"
 
@@ -22,6 +24,16 @@ struct SFoundField
 };
 
 std::optional<SFoundField> FindField(const SLayout &layout, std::string_view path);
+
+// Every element of a record without unions, in the order of the bytes: numbers, texts, and each piece of
+// reserved bytes as one.
+//
+//   ElementsOf(kLayoutOf<SAptBlock>)[3].offset   // 4, of paModeCount
+std::vector<SFoundField> ElementsOf(const SLayout &layout);
+// "[1][3]" of an element behind an array's name; an array of one element has an index, too.
+void AppendIndexes(std::string &name, const SFieldPlace &place, uint32_t element);
+// The dotted name of the element that begins at an offset; empty where none does.
+std::string NameAt(const SLayout &layout, uint32_t offset);
 
 // The raw number of a field of the bytes. Nothing where the path names no single number, and where the
 // bytes end before it.

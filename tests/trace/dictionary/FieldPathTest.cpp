@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Trace/dictionary/CalRecordLayouts.h"
 #include "Trace/dictionary/CapabilityLayouts.h"
 #include "Trace/dictionary/CommandLayouts.h"
 #include "Trace/dictionary/Decode.h"
@@ -44,6 +45,24 @@ TEST(FieldPathTest, PartOfAUnionIsFoundWhetherItHoldsOrNot)
     const SLayout &command = kLayoutOf<SNrPuschTxCmdV7>;
     EXPECT_EQ(FindField(command, "normalMode.carrier[1].band")->offset, 52u);
     EXPECT_EQ(FindField(command, "forcedMode.carrier.band")->offset, 4u);
+}
+
+TEST(FieldPathTest, ElementsAreThoseThatAreReadAndHaveTheirNames)
+{
+    const SLayout &layout = kLayoutOf<SMMGetCalDataCnfV7>;
+    const std::vector<SFoundField> elements = ElementsOf(layout);
+    std::size_t i = 0;
+    Decode(layout, std::vector<uint8_t>(layout.size), {}, [&](const SFieldValue &value) {
+        ASSERT_LT(i, elements.size());
+        ASSERT_EQ(elements[i].field, value.field) << value.name;
+        ASSERT_EQ(elements[i].offset, value.offset) << value.name;
+        ASSERT_EQ(elements[i].size, value.bytes.size()) << value.name;
+        if (i++ % 97 == 0) {
+            ASSERT_EQ(NameAt(layout, static_cast<uint32_t>(value.offset)), value.name);
+        }
+    });
+    EXPECT_EQ(i, elements.size());
+    EXPECT_EQ(NameAt(layout, elements.back().offset + elements.back().size), "");
 }
 
 TEST(FieldPathTest, NumbersAreReadByTheirName)

@@ -1,0 +1,203 @@
+#include "Operations/calibration/CalComparison.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <span>
+#include <tuple>
+#include <utility>
+
+#include "Trace/dictionary/FieldPath.h"
+#include "Trace/dictionary/Number.h"
+#include "Trace/dictionary/ValueText.h"
+
+namespace {
+
+constexpr std::string_view kDecibel = "dB";
+
+using RecordName = std::tuple<ECalRoute, uint16_t, int>;
+
+RecordName NameOf(const SCalImageRecord &record)
+{
+    return {record.kind, record.place.route, record.place.region};
+}
+
+// Of a kind's record, in the order of the bytes; each is compared as one.
+const std::vector<SFoundField> &PartsOf(ECalRoute kind)
+{
+    static const std::vector<SFoundField> s_parts[] = {
+        ElementsOf(CalRecordLayout(ECalRoute::Tx)),
+        ElementsOf(CalRecordLayout(ECalRoute::Type1)),
+        ElementsOf(CalRecordLayout(ECalRoute::Type2)),
+    };
+    return s_parts[static_cast<std::size_t>(kind)];
+}
+
+const SFoundField &PartAt(ECalRoute kind, uint32_t offset)
+{
+    const std::vector<SFoundField> &parts = PartsOf(kind);
+    return *std::lower_bound(
+        parts.begin(), parts.end(), offset,
+        [](const SFoundField &part, uint32_t place) { return part.offset < place; });
+}
+
+std::span<const uint8_t> BytesOf(const SCalImageRecord &record, const SFoundField &part)
+{
+    return std::span(record.bytes).subspan(part.offset, part.size);
+}
+
+std::string WordsOf(const SCalImageRecord &record, const SFoundField &part)
+{
+    SFieldValue value;
+    value.field = part.field;
+    value.bytes = BytesOf(record, part);
+    value.number = ReadNumber(part.field->at.type, value.bytes);
+    return ValueText(value);
+}
+
+// "loss[3][16].hpm" becomes "loss.hpm".
+std::string WithoutIndexes(const std::string &name)
+{
+    std::string bare;
+    bool isIndex = false;
+    for (const char character : name) {
+        isIndex = isIndex || character == '[';
+        if (!isIndex)
+            bare += character;
+        isIndex = isIndex && character != ']';
+    }
+    return bare;
+}
+
+bool IsNumber(const SField &field)
+{
+    return SizeOf(field.at.type) > 0;
+}
+
+}  // namespace
+
+CCalComparison::CCalComparison(SCalImage left, SCalImage right, double toleranceDb)
+    : m_left(std::move(left)), m_right(std::move(right))
+{
+    PairRecords();
+    for (uint32_t pair = 0; pair < m_pairs.size(); ++pair)
+        ComparePair(pair, toleranceDb);
+}
+
+void CCalComparison::PairRecords()
+{
+    std::map<RecordName, uint32_t> places;
+    for (uint32_t i = 0; i < m_left.records.size(); ++i) {
+        places.emplace(NameOf(m_left.records[i]), i);
+        m_pairs.push_back({.left = i});
+    }
+    for (uint32_t i = 0; i < m_right.records.size(); ++i) {
+        const auto found = places.find(NameOf(m_right.records[i]));
+        if (found != places.end())
+            m_pairs[found->second].right = i;
+        else
+            m_pairs.push_back({.right = i});
+    }
+}
+
+bool CCalComparison::IsLacking(const SPair &pair)
+{
+    return pair.left == kNoRecord || pair.right == kNoRecord;
+}
+
+const SCalImageRecord &CCalComparison::RecordOf(const SPair &pair) const
+{
+    return pair.left != kNoRecord ? m_left.records[pair.left] : m_right.records[pair.right];
+}
+
+void CCalComparison::ComparePair(uint32_t index, double toleranceDb)
+{
+    const SPair &pair = m_pairs[index];
+    if (IsLacking(pair)) {
+        m_differences.push_back({index, 0});
+        return;
+    }
+    const SCalImageRecord &left = m_left.records[pair.left];
+    const SCalImageRecord &right = m_right.records[pair.right];
+    if (left.bytes == right.bytes)
+        return;
+    for (const SFoundField &part : PartsOf(left.kind)) {
+        const auto one = BytesOf(left, part);
+        if (std::equal(one.begin(), one.end(), BytesOf(right, part).begin()))
+            continue;
+        const SPlace place = {index, part.offset};
+        const bool isDecibel = part.field->unit.name == kDecibel;
+        if (!isDecibel || std::abs(*DifferenceAt(place, *part.field)) > toleranceDb)
+            m_differences.push_back(place);
+    }
+}
+
+std::optional<double> CCalComparison::DifferenceAt(const SPlace &place, const SField &field) const
+{
+    const SPair &pair = m_pairs[place.pair];
+    if (IsLacking(pair) || !IsNumber(field))
+        return std::nullopt;
+    const SFoundField &part = PartAt(RecordOf(pair).kind, place.offset);
+    const int64_t left = ReadNumber(field.at.type, BytesOf(m_left.records[pair.left], part));
+    const int64_t right = ReadNumber(field.at.type, BytesOf(m_right.records[pair.right], part));
+    return static_cast<double>(right - left) / field.unit.perUnit;
+}
+
+SCalDifference CCalComparison::At(std::size_t index) const
+{
+    const SPlace &place = m_differences[index];
+    const SPair &pair = m_pairs[place.pair];
+    const SCalImageRecord &record = RecordOf(pair);
+    SCalDifference difference = {.kind = record.kind, .place = record.place};
+    if (IsLacking(pair)) {
+        difference.lack = pair.left == kNoRecord ? ECalLack::Left : ECalLack::Right;
+        return difference;
+    }
+    const SFoundField &part = PartAt(record.kind, place.offset);
+    difference.field = NameAt(CalRecordLayout(record.kind), place.offset);
+    difference.left = WordsOf(m_left.records[pair.left], part);
+    difference.right = WordsOf(m_right.records[pair.right], part);
+    difference.difference = DifferenceAt(place, *part.field);
+    difference.unit = part.field->unit.name;
+    return difference;
+}
+
+std::vector<SCalStatistic> CCalComparison::ByRoute() const
+{
+    std::vector<SCalStatistic> routes;
+    uint32_t last = kNoRecord;
+    for (const SPlace &place : m_differences) {
+        if (place.pair != last) {
+            const SCalImageRecord &record = RecordOf(m_pairs[place.pair]);
+            routes.push_back({.name = RouteName(record.kind) + std::string(" ") +
+                                      PlaceText(record.place, record.kind)});
+        }
+        last = place.pair;
+        ++routes.back().count;
+    }
+    return routes;
+}
+
+// A field is the row of the table, wherever it stands: all losses of all subbands are one.
+std::vector<SCalStatistic> CCalComparison::ByField() const
+{
+    std::vector<SCalStatistic> fields;
+    std::map<const SField *, std::size_t> places;
+    for (const SPlace &place : m_differences) {
+        const SPair &pair = m_pairs[place.pair];
+        if (IsLacking(pair))
+            continue;
+        const ECalRoute kind = RecordOf(pair).kind;
+        const SField &field = *PartAt(kind, place.offset).field;
+        const auto [found, isNew] = places.emplace(&field, fields.size());
+        if (isNew) {
+            const std::string name = NameAt(CalRecordLayout(kind), place.offset);
+            fields.push_back({.name = WithoutIndexes(name), .unit = field.unit.name});
+        }
+        SCalStatistic &statistic = fields[found->second];
+        ++statistic.count;
+        if (const auto difference = DifferenceAt(place, field))
+            statistic.largest = std::max(statistic.largest.value_or(0), std::abs(*difference));
+    }
+    return fields;
+}

@@ -1,0 +1,90 @@
+// Two images of a calibration item, side by side: where they differ, and by how much. Whoever compares
+// calibration data goes by this: what flash, memory and files hold, in any pairing.
+//
+// Numbers are compared one by one, exactly, or within a tolerance for those in dB. Reserved bytes are
+// compared as a whole. A record that one side lacks is one difference. Differences come in the order of
+// the left image, then what it lacks, and in the order of the bytes.
+//
+// A difference is kept as a place alone and worded when it is asked for, so that a million of them cost
+// little. Both images belong to the comparison. After it is made, any thread may read it.
+//
+//   const CCalComparison comparison(flash.Image(), file.Image());
+//   for (std::size_t i = 0; i < comparison.Count(); ++i)
+//       print(comparison.At(i).field, comparison.At(i).left, comparison.At(i).right);
+//   // paGain[0][3]  18.5 dB  18 dB
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Operations/calibration/CalImage.h"
+
+enum class ECalLack
+{
+    None,
+    Left,  // the left image lacks the record
+    Right
+};
+
+struct SCalDifference
+{
+    ECalRoute kind = ECalRoute::Tx;
+    SCalPlace place = {};
+    ECalLack lack = ECalLack::None;  // of the record; then the rest is empty
+    std::string field = {};          // "loss[3][16].hpm", indexes from 0
+    std::string left = {};           // in words, with the unit
+    std::string right = {};
+    std::optional<double> difference = {};  // right minus left, in the unit; of numbers
+    std::string_view unit = {};             // "dB", "kHz", or empty
+};
+
+// How often something differs.
+struct SCalStatistic
+{
+    std::string name = {};  // of a route as PlaceText has it, of a field without its indexes
+    std::size_t count = 0;
+    std::optional<double> largest = {};  // of the differences, without its sign; of a field
+    std::string_view unit = {};
+};
+
+class CCalComparison
+{
+public:
+    CCalComparison(SCalImage left, SCalImage right, double toleranceDb = 0);
+
+    std::size_t Count() const { return m_differences.size(); }
+    SCalDifference At(std::size_t index) const;
+    // In the order of the images, those without a difference left out.
+    std::vector<SCalStatistic> ByRoute() const;
+    std::vector<SCalStatistic> ByField() const;
+
+private:
+    static constexpr uint32_t kNoRecord = UINT32_MAX;
+
+    // A record on both sides, or on one.
+    struct SPair
+    {
+        uint32_t left = kNoRecord;  // in the image
+        uint32_t right = kNoRecord;
+    };
+    struct SPlace
+    {
+        uint32_t pair;
+        uint32_t offset;  // in the record; of a record that is lacking, 0
+    };
+
+    void PairRecords();
+    void ComparePair(uint32_t pair, double toleranceDb);
+    static bool IsLacking(const SPair &pair);
+    const SCalImageRecord &RecordOf(const SPair &pair) const;
+    std::optional<double> DifferenceAt(const SPlace &place, const SField &field) const;
+
+    SCalImage m_left;
+    SCalImage m_right;
+    std::vector<SPair> m_pairs;
+    std::vector<SPlace> m_differences;
+};
