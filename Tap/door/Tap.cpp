@@ -6,6 +6,7 @@
 #include <cstring>
 #include <filesystem>
 
+#include "Tap/door/CallerMemory.h"
 #include "Tap/door/Complaint.h"
 #include "Trace/lines/LoadedLibrary.h"
 #include "Vond/VondCore.h"
@@ -57,6 +58,13 @@ STraceHeader HeaderOfThePair()
             .appBuildId = app.buildId};
 }
 
+// Null where nothing can be read.
+STraceView ReadableView(const void *data, std::size_t size)
+{
+    const std::size_t readable = ReadableSize(data, size);
+    return {readable > 0 || size == 0 ? data : nullptr, readable};
+}
+
 uint32_t StatusOf(const SAskedCall &call)
 {
     const void *place = nullptr;
@@ -72,7 +80,7 @@ uint32_t StatusOf(const SAskedCall &call)
         break;
     }
     uint32_t status = 0;
-    if (place != nullptr)
+    if (ReadableSize(place, sizeof(status)) == sizeof(status))
         std::memcpy(&status, place, sizeof(status));
     return status;
 }
@@ -80,7 +88,7 @@ uint32_t StatusOf(const SAskedCall &call)
 STraceView AnswerOf(const SAskedCall &call, const SOutcome &outcome)
 {
     if (FunctionOf(call.function).kind != EFunctionKind::Library)
-        return {call.answer, call.answerSize};
+        return ReadableView(call.answer, call.answerSize);
     return {outcome.text, outcome.text != nullptr ? std::strlen(outcome.text) : 0};
 }
 
@@ -113,6 +121,23 @@ uint64_t CTap::Now()
     return static_cast<uint64_t>(std::chrono::duration_cast<std::chrono::nanoseconds>(
                                      std::chrono::steady_clock::now().time_since_epoch())
                                      .count());
+}
+
+SAskedCall CTap::Readable(SAskedCall call) const
+{
+    const int error = errno;
+    const STraceView request = ReadableView(call.request, call.requestSize);
+    call.request = request.data;
+    call.requestSize = request.size;
+    if (m_replay != nullptr) {
+        const STraceView answer = ReadableView(call.answer, call.answerSize);
+        call.answer = answer.data != nullptr ? call.answer : nullptr;
+        call.answerSize = answer.size;
+        if (ReadableSize(call.status, sizeof(*call.status)) < sizeof(*call.status))
+            call.status = nullptr;
+    }
+    errno = error;
+    return call;
 }
 
 CTraceWriter::Line CTap::Begin(const SAskedCall &call)

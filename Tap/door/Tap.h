@@ -55,8 +55,9 @@ public:
 
     // Next is called unless a trace answers. It may throw; then the call has no end in the trace.
     template <class Next>
-    SOutcome Run(const SAskedCall &call, const Next &next)
+    SOutcome Run(const SAskedCall &asked, const Next &next)
     {
+        const SAskedCall call = Readable(asked);
         CTraceWriter::Line line = Begin(call);
         const uint64_t startNs = Now();
         const SOutcome outcome = m_replay != nullptr ? Replayed(call) : next();
@@ -70,6 +71,8 @@ private:
     explicit CTap(ETapMode mode);
 
     static uint64_t Now();
+    // Without what can't be read of the request; for a replay, which writes them, of the answers, too.
+    SAskedCall Readable(SAskedCall call) const;
     CTraceWriter::Line Begin(const SAskedCall &call);
     void End(CTraceWriter::Line line, const SAskedCall &call, const SOutcome &outcome,
              uint64_t durationNs) noexcept;

@@ -53,7 +53,7 @@ TEST_F(RecordTest, EveryFunctionIsOnRecord)
 {
     const SRan ran = Record("TapHost", {"calls"});
     const STrace trace = Trace();
-    ASSERT_EQ(trace.calls.size(), 38u);
+    ASSERT_EQ(trace.calls.size(), 42u);
     for (std::size_t i = 0; i < static_cast<std::size_t>(EFunction::Count); ++i) {
         const SFunction &function = FunctionOf(static_cast<EFunction>(i));
         EXPECT_TRUE(std::any_of(trace.calls.begin(), trace.calls.end(), [&](const auto &call) {
@@ -133,6 +133,18 @@ TEST_F(RecordTest, NullPointersAndSizesOfZeroAreAsTheyWere)
     EXPECT_EQ(CallOf(trace, "VOND_MMRf_RssiV7_r", 1).answer, std::nullopt);
     EXPECT_EQ(CallOf(trace, "VondConn_GetMdSrv", 1).answer, std::nullopt);
     EXPECT_EQ(CallOf(trace, "VOND_NRf_TestStop_r").request, std::nullopt);
+}
+
+TEST_F(RecordTest, PointersToNowhereAreAsNullAndHurtNobody)
+{
+    Record("TapHost", {"calls"});
+    const STrace trace = Trace();
+    EXPECT_EQ(CallOf(trace, "VOND_MMRf_ContRxV7_r", 2).request, std::nullopt);
+    EXPECT_EQ(CallOf(trace, "VOND_NRf_GetDlFreqV7_r", 1).answer, std::nullopt);
+    EXPECT_EQ(CallOf(trace, "VOND_NRf_GetDlFreqV7_r", 1).status, 0u);
+    EXPECT_EQ(CallOf(trace, "VOND_NRf_PuschTxV7_r", 2).request, Filled(6, 0xee));
+    EXPECT_EQ(CallOf(trace, "VOND_NRf_PuschTxV7_r", 2).status, 0u);
+    EXPECT_EQ(CallOf(trace, "VOND_NRf_GetRxRouteValues_r", 1).answer, Filled(6, 0xee));
 }
 
 TEST_F(RecordTest, ResultsTextsAndStatusAreThePairs)

@@ -1,6 +1,7 @@
 #include <errno.h>
 #include <stdio.h>
 #include <string.h>
+#include <sys/mman.h>
 
 #include "tests/tap/door/fake/FakeVond.h"
 #include "tests/tap/door/host/TapHost.h"
@@ -79,6 +80,21 @@ static void CallCommands(void)
     printf("status %u\n", (unsigned)status);
 }
 
+/* Pointers to nowhere, and to the last bytes before nowhere; the pair looks at none of them. */
+static void CallWithOddPointers(void)
+{
+    unsigned char *const nowhere = (unsigned char *)16;
+    unsigned char *const pages =
+        mmap(NULL, 8192, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    mprotect(pages + 4096, 4096, PROT_NONE);
+    memset(pages, 0xee, 4096);
+    TELL(VOND_MMRf_ContRxV7_r, 1, 30, nowhere);
+    TELL(VOND_NRf_GetDlFreqV7_r, FAKE_SILENT | 1, 30, nowhere, nowhere);
+    TELL(VOND_NRf_PuschTxV7_r, FAKE_SILENT | 1, 30, pages + 4090, (uint32_t *)(void *)nowhere);
+    TELL(VOND_NRf_GetRxRouteValues_r, FAKE_SILENT | 1, 30, pages + 4090);
+    munmap(pages, 8192);
+}
+
 int RunCalls(void)
 {
     for (size_t i = 0; i < sizeof(s_request); ++i)
@@ -86,6 +102,7 @@ int RunCalls(void)
     memset(s_answer, 0xcc, sizeof(s_answer));
     CallQueries();
     CallCommands();
+    CallWithOddPointers();
     printf("extra %d %d\n", (int)VOND_Fake_Extra_r(1, 2.0), (int)VondConn_FakeExtra());
     return 0;
 }
