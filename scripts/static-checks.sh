@@ -79,7 +79,7 @@ Runner Host|PluginInterface
 Trace Vond
 Tap Trace|Vond
 Simulator Trace|Vond
-Cli Trace|Runner
+Cli Trace|Runner|Vond
 END
     while read -r folder allowed; do
         look_at_includes "$folder" "${folder%%/*}/" "($folder/${allowed:+|$allowed})" || good=false

@@ -1,8 +1,11 @@
 #include "Cli/trace/CallText.h"
 
 #include <cstdio>
+#include <iterator>
 
+#include "Trace/dictionary/FieldPath.h"
 #include "Trace/dictionary/ValueNames.h"
+#include "Vond/VondCalRecords.h"
 
 namespace {
 
@@ -47,9 +50,23 @@ std::string StatusText(uint32_t status)
     return number;
 }
 
+bool HasBadVerdict(const STraceCall &call)
+{
+    if (!call.answer || call.function->answer == nullptr)
+        return false;
+    for (const char *const name : {"status", "verdict.status"}) {
+        const auto found = FindField(*call.function->answer, name);
+        if (!found || found->field->values.data() != std::data(kVerdictNames))
+            continue;
+        const auto verdict = NumberAt(*call.function->answer, *call.answer, name);
+        return verdict && *verdict != kVondCalSuccess;
+    }
+    return false;
+}
+
 bool HasFailed(const STraceCall &call)
 {
-    return call.isEnded && (call.result != 0 || call.status != 0);
+    return call.isEnded && (call.result != 0 || call.status != 0 || HasBadVerdict(call));
 }
 
 std::string HeaderText(const std::string &path, const STraceHeader &header)

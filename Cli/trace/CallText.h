@@ -13,6 +13,8 @@ std::string DurationText(uint64_t ns);
 std::string ResultText(const STraceCall &call);
 // The target's own verdict: "cell not found (2)".
 std::string StatusText(uint32_t status);
+// A calibration transfer that came back well, but whose answer says failure.
+bool HasBadVerdict(const STraceCall &call);
 // Did it return a failure, or the target tell one? An open call has not.
 bool HasFailed(const STraceCall &call);
 // "run.jsonl: of 2026-11-22T12:30:00Z, by Quorlin RF 0.1, with libVondCore.so (5a1c) and ..."

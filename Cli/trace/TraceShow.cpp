@@ -118,6 +118,8 @@ void PrintCall(COutput &output, const STraceCall &call)
     head += call.result == 0 ? palette.Good(ResultText(call)) : palette.Failure(ResultText(call));
     if (call.status != 0)
         head += ", status " + palette.Failure(StatusText(call.status));
+    if (HasBadVerdict(call))
+        head += ", verdict " + palette.Failure("failure");
     output.Line(head + "  " + DurationText(call.durationNs));
     if (call.function->kind != EFunctionKind::Library) {
         std::string line = kRecordIndent + "handle " + std::to_string(call.handle);

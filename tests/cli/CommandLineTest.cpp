@@ -38,6 +38,16 @@ TEST(CommandLineTest, WrongOneIsTroubleInOneLine)
     }
 }
 
+TEST(CommandLineTest, WordThatIsNoCommandIsNamed)
+{
+    const CCliFolder folder;
+    EXPECT_EQ(folder.Run("bogus").err, "quorlin: unexpected: bogus; quorlin --help tells more\n");
+    EXPECT_EQ(folder.Run("trace bogus a").err,
+              "quorlin: unexpected: bogus; quorlin --help tells more\n");
+    EXPECT_EQ(folder.Run("trace diff a").err,
+              "quorlin: B is required; quorlin --help tells more\n");
+}
+
 TEST(CommandLineTest, FileThatCannotBeReadIsNamedWithTheReason)
 {
     const CCliFolder folder;

@@ -84,6 +84,25 @@ TEST(ShowTest, FilterKeepsTheHeadingOfWhatItShows)
               kHead + "== Continuous RX: Start\n\n" + kContRxText + kPuschText + "2 of 4 calls\n");
 }
 
+// Its result and its status word are those of a success.
+TEST(ShowTest, CalibrationTransferWithABadVerdictHasFailed)
+{
+    const std::string text = std::string(384, '0') + "\"";
+    const SCallText bad = {
+        .index = 0, .function = "VOND_MMRf_SetCalDataV7_r", .answer = "\"00" + text};
+    const SCallText good = {
+        .index = 1, .function = "VOND_MMRf_SetCalDataV7_r", .answer = "\"01" + text};
+    EXPECT_EQ(
+        RunOn(TraceHeaderLine() + CallLines(bad) + CallLines(good), "trace show t.jsonl --failed")
+            .out,
+        kHead + "#0 VOND_MMRf_SetCalDataV7_r  Success (0), verdict failure  1.0 µs\n"
+                "    handle 1, timeout 10000 ms\n"
+                "    request: none, a null pointer\n"
+                "    answer, 193 bytes, all zero\n"
+                "\n"
+                "1 of 2 calls\n");
+}
+
 TEST(ShowTest, NothingToShowIsSaid)
 {
     const SCliRun run = RunOn(Story(), "trace show t.jsonl --function VOND_MMRf_RssiV7_r");

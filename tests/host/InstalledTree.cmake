@@ -17,4 +17,6 @@ file(STRINGS ${TREE}-moved/run.jsonl calls REGEX "^{\"index\"")
 if(NOT calls)
   message(FATAL_ERROR "The demonstration of the installed tree left no call in its trace.")
 endif()
+execute_process(COMMAND ${TREE}-moved/bin/quorlin trace summary ${TREE}-moved/run.jsonl
+                COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
 file(REMOVE_RECURSE ${TREE}-moved)
