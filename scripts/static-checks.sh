@@ -98,7 +98,7 @@ Runner/plan
 Runner/report
 Runner/bench
 Runner/run Runner/(plan|report|bench)/
-Tap/door Tap/replay/
+Tap/door Tap/(replay/|VondTap\.h)
 Simulator/basis
 Simulator/faults Simulator/basis/
 Simulator/profile Simulator/(basis|faults)/

@@ -7,7 +7,7 @@
 #include <link.h>
 
 #include "Tap/door/Complaint.h"
-#include "Tap/door/Unloading.h"
+#include "Tap/door/NextClose.h"
 #include "Trace/lines/LoadedLibrary.h"
 
 NextFunctionTable g_nextFunctions = {};
@@ -18,6 +18,7 @@ constexpr char kCoreLibrary[] = "libVondCore.so";
 constexpr char kAppLibrary[] = "libVondApp.so";
 
 std::atomic<uint32_t> s_forgotten = 0;  // how often
+std::array<std::atomic<bool>, static_cast<std::size_t>(EFunction::Count)> s_isMissed = {};
 
 const char *LibraryOf(const SFunction &function)
 {
@@ -31,7 +32,7 @@ void *FindIn(const char *library, const char *name)
         return nullptr;
     void *const found = dlsym(handle, name);
     // The pair stays loaded by whoever has loaded it, not by the tap.
-    CloseQuietly(handle);
+    CloseLibrary(handle);
     return found;
 }
 
@@ -51,7 +52,6 @@ void *Find(const SFunction &function)
 
 void *FindNextFunction(EFunction id)
 {
-    static std::atomic<bool> s_isMissed[static_cast<std::size_t>(EFunction::Count)] = {};
     const auto place = static_cast<std::size_t>(id);
     const SFunction &function = FunctionOf(id);
     const uint32_t forgotten = s_forgotten.load();

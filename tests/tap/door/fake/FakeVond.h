@@ -23,13 +23,14 @@
 
 int32_t VOND_QueryFunctionSupported_r(uint32_t h, uint32_t t, const char *function);
 const char *VOND_GetErrorString(int32_t result);
-int32_t VOND_ERf_GetRfCapability_r(uint32_t h, uint32_t t, const void *request, uint32_t requestSize,
-                                   void *result, uint32_t resultSize);
+int32_t VOND_ERf_GetRfCapability_r(uint32_t h, uint32_t t, const void *request,
+                                   uint32_t requestSize, void *result, uint32_t resultSize);
 int32_t VOND_MMRf_GetRfCapability_r(uint32_t h, uint32_t t, const void *request,
                                     uint32_t requestSize, void *result, uint32_t resultSize);
-int32_t VOND_NRf_GetRfCapability_r(uint32_t h, uint32_t t, const void *request, uint32_t requestSize,
-                                   void *result, uint32_t resultSize);
-int32_t VOND_MMRf_GetRouteConfigV7_r(uint32_t h, uint32_t t, const uint32_t *radioKind, void *result);
+int32_t VOND_NRf_GetRfCapability_r(uint32_t h, uint32_t t, const void *request,
+                                   uint32_t requestSize, void *result, uint32_t resultSize);
+int32_t VOND_MMRf_GetRouteConfigV7_r(uint32_t h, uint32_t t, const uint32_t *radioKind,
+                                     void *result);
 int32_t VOND_NRf_GetBandRxInfo_r(uint32_t h, uint32_t t, void *result);
 int32_t VOND_NRf_GetRxRouteValues_r(uint32_t h, uint32_t t, void *result);
 int32_t VOND_MMRf_GetRouteDetailV7_r(uint32_t h, uint32_t t, const void *request, void *result);
