@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
@@ -71,6 +72,7 @@ void CBoxCatcher::Answer(QFileDialog *dialog)
               .text = QStringLiteral("No file was named for this dialog.")});
     } else if (auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))) {
         dialog->setOption(QFileDialog::DontConfirmOverwrite);
+        dialog->setDirectory(QFileInfo(file).path());  // the one of last time may be gone
         name->setText(file);
         QMetaObject::invokeMethod(dialog, "accept");
     }

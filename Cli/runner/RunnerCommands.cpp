@@ -1,0 +1,45 @@
+#include "Cli/runner/RunnerCommands.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+// A target handle: decimal, or hexadecimal behind "0x". Empty when it is one.
+std::string CheckHandle(const std::string &text)
+{
+    bool isNumber = false;
+    const QString handle = QString::fromStdString(text);
+    const bool isHex = handle.startsWith("0x", Qt::CaseInsensitive);
+    (isHex ? handle.mid(2) : handle).toUInt(&isNumber, isHex ? 16 : 10);
+    return isNumber ? std::string() : "\"" + text + "\" is no handle: 1 or 0x1f, 32 bits at most";
+}
+
+}  // namespace
+
+void AddBenchOptions(CLI::App &command, SGivenBench &given)
+{
+    auto *profile = command.add_option("--profile", given.profile,
+                                       "the simulated DUT: a profile's name, or a file");
+    auto *handle = command.add_option("--handle", given.handle, "the target handle, 1 unless told")
+                       ->check(CheckHandle);
+    auto *link =
+        command.add_option("--link", given.link, "a library that opens the link to the DUT");
+    profile->excludes(handle)->excludes(link);
+    handle->excludes(link);
+    command.add_option("--plugin", given.plugin, "the plug-in, if not the one beside the program");
+    command.add_flag("--verbose", given.isVerbose, "debug lines of the tool on stderr");
+}
+
+SBenchOptions BenchOptionsOf(const SGivenBench &given)
+{
+    SBenchOptions options;
+    options.pluginFile = QString::fromStdString(given.plugin);
+    options.profile = QString::fromStdString(given.profile);
+    options.linkFile = QString::fromStdString(given.link);
+    const QString handle = QString::fromStdString(given.handle);
+    if (!handle.isEmpty())
+        options.handle = handle.startsWith("0x", Qt::CaseInsensitive)
+                             ? handle.mid(2).toUInt(nullptr, 16)
+                             : handle.toUInt();
+    return options;
+}

@@ -1,0 +1,27 @@
+// What the commands that open the tool share: which plug-in, which DUT.
+//
+//   SBenchOptions bench;
+//   AddBenchOptions(*command, *given);
+//   ... when the command runs:
+//   BenchOptionsOf(*given)
+#pragma once
+
+#include <CLI/App.hpp>
+#include <cstdint>
+#include <string>
+
+#include "Runner/bench/Bench.h"
+
+struct SGivenBench
+{
+    std::string plugin;
+    std::string profile;
+    std::string link;
+    std::string handle;
+    bool isVerbose = false;
+};
+
+// --profile, --handle, --link (one of them at most), --plugin, --verbose.
+void AddBenchOptions(CLI::App &command, SGivenBench &given);
+
+SBenchOptions BenchOptionsOf(const SGivenBench &given);
