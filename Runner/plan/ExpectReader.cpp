@@ -70,8 +70,24 @@ std::optional<SPlacedText> ReadText(const std::string &file, const SPlanEntry &e
     errors.Add(file, entry.value.place,
                Quoted(entry.key.text) + " is " +
                    (entry.value.kind == EPlanNode::Text ? "empty" : KindText(entry.value.kind)),
-               "a text");
+               entry.key.text == "box" ? "a text, or a list of texts" : "a text");
     return std::nullopt;
+}
+
+// One text, or a list of them.
+std::vector<SPlacedText> ReadBoxes(const std::string &file, const SPlanEntry &entry,
+                                   CPlanErrors &errors)
+{
+    std::vector<SPlacedText> boxes;
+    if (entry.value.kind != EPlanNode::List) {
+        if (const auto text = ReadText(file, entry, errors))
+            boxes.push_back(*text);
+        return boxes;
+    }
+    for (const SPlanNode &item : entry.value.items)
+        if (const auto text = ReadText(file, {entry.key, item}, errors))
+            boxes.push_back(*text);
+    return boxes;
 }
 
 }  // namespace
@@ -109,7 +125,7 @@ void ReadExpect(const std::string &file, const SPlanNode &node, SPlanStep &step,
         if (entry.key.text == "status")
             step.status = ReadText(file, entry, errors);
         else if (entry.key.text == "box")
-            step.box = ReadText(file, entry, errors);
+            step.boxes = ReadBoxes(file, entry, errors);
         else if (entry.value.kind == EPlanNode::Map)
             step.expect.push_back(ReadLimits(file, entry, errors));
         else if (const auto text = ReadText(file, entry, errors))

@@ -1,6 +1,6 @@
 // Reads what a step waits for and expects: its keys "wait" and "expect".
 //
-//   ReadExpect("plan.yaml", *node, step, errors);   // fills status, box and expect
+//   ReadExpect("plan.yaml", *node, step, errors);   // fills status, boxes and expect
 //   step.wait = ReadWait("plan.yaml", *node, errors);
 #pragma once
 

@@ -62,7 +62,7 @@ struct SPlanStep
     std::optional<SPlanWait> wait;
     std::vector<SPlacedText> then;
     std::optional<SPlacedText> status;  // expected status line
-    std::optional<SPlacedText> box;     // expected box
+    std::vector<SPlacedText> boxes;     // expected boxes, each by its title or one of its texts
     std::vector<SPlanExpect> expect;
     std::optional<SPlacedText> exportFile;
     std::chrono::milliseconds timeout{60000};  // of each press

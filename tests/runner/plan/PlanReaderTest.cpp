@@ -76,7 +76,7 @@ TEST(PlanReaderTest, aWholePlanIsReadWithPlaces)
     EXPECT_EQ(hour.expect[0].of, EOf::Mean);
     EXPECT_EQ(hour.expect[0].minus->text, "txPowerValue");
     EXPECT_EQ(hour.expect[1].value, "3");
-    EXPECT_EQ(hour.box->text, "Cont Rx start failed");
+    EXPECT_EQ(hour.boxes[0].text, "Cont Rx start failed");
     EXPECT_EQ(hour.exportFile->text, "loss.ini");
 }
 
