@@ -24,3 +24,4 @@ void RunCommand(int &exitCode, const std::function<int()> &command);
 
 void AddTraceCommand(CLI::App &app, int &exitCode);
 void AddDecodeCommand(CLI::App &app, int &exitCode);
+void AddRunCommand(CLI::App &app, int &exitCode);

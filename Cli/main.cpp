@@ -27,6 +27,7 @@ int main(int argc, char **argv)
     int exitCode = kExitGood;
     AddTraceCommand(app, exitCode);
     AddDecodeCommand(app, exitCode);
+    AddRunCommand(app, exitCode);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError &error) {
