@@ -24,8 +24,9 @@ const std::string kChanged = R"({
 
 void Record(const CCliFolder &folder, const std::string &profile, const std::string &trace)
 {
-    const SCliRun run = folder.Shell("VOND_SIM_PROFILE=" + profile + " VOND_SIM_JOURNAL=" + trace +
-                                     " $BIN/SessionHost");
+    const SCliRun run =
+        folder.Shell("VOND_SIM_PROFILE=" + profile + " VOND_TAP=record VOND_TAP_FILE=" + trace +
+                     " LD_PRELOAD='" FIRST_PRELOAD " " TAP_LIBRARY "' $BIN/SessionHost");
     ASSERT_EQ(run.exitCode, 0);
     ASSERT_EQ(run.err, "");
 }

@@ -1,5 +1,4 @@
-// A host without a window: reads what the DUT can do, measures at three frequencies, and stops. What
-// passes through the door is recorded by VOND_SIM_JOURNAL or by the tap.
+// A host without a window: reads what the DUT can do, measures at three frequencies, and stops.
 
 #include <memory>
 

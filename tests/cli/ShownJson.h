@@ -1,5 +1,4 @@
-// What the program says as JSON, as fields by name. Compiled with the optimiser, unlike the tests: the
-// largest records have seventy thousand fields.
+// What the program says as JSON, as fields by name.
 #pragma once
 
 #include <cstdint>
