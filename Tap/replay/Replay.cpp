@@ -109,7 +109,7 @@ int32_t CReplay::Answer(const SAskedCall &call) const
         Tell(Unanswered(*m_calls, call, m_plan.isStrict));
         return kNoCallLikeThis;
     }
-    if (call.answer != nullptr && found->answer)
+    if (call.answer != nullptr && found->answer && !found->answer->empty())
         std::memcpy(call.answer, found->answer->data(),
                     std::min(call.answerSize, found->answer->size()));
     if (call.status != nullptr && found->function->status == EStatusPlace::Argument)

@@ -14,6 +14,8 @@
 
 #include "Trace/lines/TraceReader.h"
 
+using namespace std::string_view_literals;
+
 namespace {
 
 class TraceWriterTest : public ::testing::Test
@@ -110,20 +112,18 @@ TEST_F(TraceWriterTest, NullPointersAndSizesOfZeroAreToldApart)
 
 TEST_F(TraceWriterTest, NotesMayBeAnyText)
 {
+    constexpr std::string_view kAny =
+        "quote \" back \\ line \n tab \t null \0 \x01 \x7f \xc3\xa4 \xf0\x9f\x93\xa1"sv;
     CTraceWriter writer({.path = m_path, .who = "Test"}, m_header);
     writer.Note("RSSI: Start");
     const CTraceWriter::Line line = writer.Begin(BeginOf(EFunction::NrTestStop));
-    writer.Note(std::string_view(
-        "quote \" back \\ line \n tab \t null \0 \x01 \x7f \xc3\xa4 \xf0\x9f\x93\xa1", 49));
+    writer.Note(kAny);
     writer.Note("cut \xe2\x82 long \xc0\x80 lone \xff surrogate \xed\xa0\x80");
     const STrace trace = ReadTrace(m_path, ECutLine::Refused);
     ASSERT_EQ(trace.notes.size(), 3u);
     EXPECT_EQ(trace.notes[0].text, "RSSI: Start");
     EXPECT_EQ(trace.notes[0].before, 0u);
-    EXPECT_EQ(
-        trace.notes[1].text,
-        std::string("quote \" back \\ line \n tab \t null \0 \x01 \x7f \xc3\xa4 \xf0\x9f\x93\xa1",
-                    49));
+    EXPECT_EQ(trace.notes[1].text, kAny);
     EXPECT_EQ(trace.notes[1].before, 1u);
     const std::string bad = "\xef\xbf\xbd";
     EXPECT_EQ(trace.notes[2].text, "cut " + bad + bad + " long " + bad + bad + " lone " + bad +
