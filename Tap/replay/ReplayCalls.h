@@ -14,7 +14,6 @@
 #include <array>
 #include <atomic>
 #include <cstddef>
-#include <memory>
 #include <optional>
 #include <string_view>
 #include <unordered_map>
