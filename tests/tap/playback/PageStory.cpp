@@ -52,6 +52,8 @@ public:
     {
         QThreadPool::globalInstance()->waitForDone();
         QCoreApplication::processEvents();
+        // A list box is as small as its items for a moment, by a timer of its own, before it is laid out.
+        QCoreApplication::sendPostedEvents();
         const QString file =
             QString("%1/%2 %3.png").arg(m_folder).arg(m_count++, 2, 10, QChar('0'));
         return window->grab().save(file.arg(name));
