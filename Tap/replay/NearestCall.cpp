@@ -1,7 +1,6 @@
 #include "Tap/replay/NearestCall.h"
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
 #include "Trace/dictionary/Decode.h"
@@ -44,7 +43,8 @@ std::size_t CountDifferent(const std::vector<SPlace> &places, const RequestView 
     const std::span<const uint8_t> b = BytesOf(other);
     const auto isDifferent = [&](const SPlace &place) {
         return place.offset + place.size > b.size() ||
-               std::memcmp(&a[place.offset], &b[place.offset], place.size) != 0;
+               !std::ranges::equal(a.subspan(place.offset, place.size),
+                                   b.subspan(place.offset, place.size));
     };
     const auto count = std::count_if(places.begin(), places.end(), isDifferent);
     return static_cast<std::size_t>(count) + (a.size() != b.size() ? 1 : 0);

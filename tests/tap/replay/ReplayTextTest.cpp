@@ -75,6 +75,17 @@ TEST(ReplayTextTest, RequestOfAnotherSizeOrNoneIsToldSo)
         "0, has a null pointer in place of 8 bytes\n");
 }
 
+TEST(ReplayTextTest, NameWithoutAnyCharacterIsARequestToo)
+{
+    const CReplay replay({}, {Recorded(EFunction::QueryFunctionSupported)});
+    ::testing::internal::CaptureStderr();
+    EXPECT_EQ(replay.Answer({.function = EFunction::QueryFunctionSupported, .request = ""}),
+              kNoCallLikeThis);
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(),
+              "Replay: VOND_QueryFunctionSupported_r: no call like this in the trace; the nearest, "
+              "call 0, has a null pointer in place of 0 bytes\n");
+}
+
 TEST(ReplayTextTest, TraceWithoutThatFunctionIsToldSo)
 {
     STraceCall open = Recorded(EFunction::ContRx);
