@@ -7,6 +7,7 @@
 #include "Cli/runner/RunnerCommands.h"
 #include "Runner/bench/BenchApplication.h"
 #include "Runner/run/PlanRun.h"
+#include "Runner/run/RecordedRun.h"
 
 namespace {
 
@@ -16,6 +17,7 @@ struct SRunCommand
     std::vector<std::string> plans;
     std::vector<std::string> defines;
     std::string out;
+    std::string record;
     SRunOptions options;
 };
 
@@ -44,6 +46,10 @@ int Run(SRunCommand &command)
     command.options.defines = DefinesOf(command.defines);
     command.options.out = QString::fromStdString(command.out);
     command.options.bench = BenchOptionsOf(command.bench);
+    if (!command.record.empty())
+        if (const QString error = RestartRecorded(QString::fromStdString(command.record));
+            !error.isEmpty())
+            throw std::runtime_error(error.toStdString());
     const std::unique_ptr<QApplication> application = MakeBenchApplication(command.bench.isVerbose);
     return RunPlans(command.options);
 }
@@ -67,6 +73,7 @@ void AddRunCommand(CLI::App &app, int &exitCode)
     command->add_flag("--check", given->options.isCheck, "find all errors, start nothing");
     command->add_flag("--stop-on-failure", given->options.endsAtFailure,
                       "end at the first expectation that does not hold");
+    command->add_option("--record", given->record, "records the calls to the DUT in this file");
     command->callback(
         [given, &exitCode] { RunCommand(exitCode, [given] { return Run(*given); }); });
 }

@@ -5,6 +5,7 @@
 
 #include <QFileInfo>
 
+#include "Host/Tap.h"
 #include "Runner/plan/PlanReader.h"
 #include "Runner/report/Reports.h"
 #include "Runner/run/CaseRun.h"
@@ -181,6 +182,7 @@ private:
     // Why nothing runs after it; empty: the next one.
     QString RunCase(const SRunCase &runCase, int index, bool hasInputs, CProgress &progress)
     {
+        NoteOfHost("Plan: " + CaseName(CaseBefore(runCase)));
         CCaseRun run(m_bench, m_limits, runCase, m_reports.Folder());
         const SCaseResult result = run.Run(hasInputs);
         progress.End(result);

@@ -130,6 +130,24 @@ TEST(PlanRunTest, aSettingsFileComesBeforeTheSweepAndTheSet)
     EXPECT_EQ(inputs["request.group1.txPowerValue"].toString(), "4.00");
 }
 
+TEST(PlanRunTest, theCallsOfARunCanBeRecorded)
+{
+    const CCliFolder folder;
+    folder.Write("plan.yaml", kTwoTones);
+    const SCliRun run = folder.Shell("VOND_SIM_JOURNAL=j.jsonl $QUORLIN run plan.yaml "
+                                     "--allow-transmit --out out --record t.jsonl");
+    EXPECT_EQ(run.exitCode, 0) << run.out << run.err;
+    QStringList traced, journal;
+    for (const SJournalEntry &entry : JournalEntries(folder.Path("t.jsonl")))
+        traced << QString::fromStdString(entry.function);
+    for (const SJournalEntry &entry : JournalEntries(folder.Path("j.jsonl")))
+        journal << QString::fromStdString(entry.function);
+    EXPECT_TRUE(traced.contains("VOND_MMRf_SingleToneTxV7_r"));
+    EXPECT_EQ(traced.count("VOND_MMRf_TestStopV7_r"), journal.count("VOND_MMRf_TestStopV7_r"));
+    EXPECT_TRUE(FileBytes(folder.Path("t.jsonl")).contains("Plan: first [txPowerValue=5]"));
+    EXPECT_EQ(folder.Run("run plan.yaml --allow-transmit --record nowhere/t.jsonl").exitCode, 2);
+}
+
 TEST(PlanRunTest, eachEndHasItsExitCode)
 {
     const CCliFolder folder;
