@@ -131,8 +131,6 @@ std::optional<SPlan> ReadPlanText(const std::string &file, const std::string &te
     std::optional<SPlanNode> tree = ReadYaml(file, text, errors);
     if (!tree)
         return std::nullopt;
-    if (tree->kind == EPlanNode::Empty)
-        tree->place = {.line = 1, .column = 1};
     ReadDefaults(file, *tree, defines, errors);
     defines.Apply(file, *tree, errors);
 

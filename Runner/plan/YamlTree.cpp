@@ -183,6 +183,8 @@ std::optional<SPlanNode> ReadYaml(const std::string &file, const std::string &te
         YAML::Parser parser(stream);
         parser.HandleNextDocument(builder);
         SPlanNode tree = builder.Take();
+        if (tree.place.line == 0)
+            tree.place = {.line = 1, .column = 1};  // of a file without a document
         CTreeBuilder second;
         if (parser && parser.HandleNextDocument(second))
             throw SRefused(second.Take().place, "a second document begins", "one document");

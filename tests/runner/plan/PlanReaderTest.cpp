@@ -180,3 +180,12 @@ TEST(SettingsFileTest, errorsNameTheirPlace)
                   "s.json:4:2: a settings file has no key \"more\" (allowed: page, version, "
                   "request, config, data)"}));
 }
+
+TEST(SettingsFileTest, anEmptyFileHasAPlaceToo)
+{
+    CPlanErrors errors;
+    EXPECT_FALSE(ReadSettingsText("s.json", "", errors));
+    EXPECT_EQ(errors.Texts(),
+              std::vector<std::string>{
+                  "s.json:1:1: a settings file is empty (allowed: a map of keys and values)"});
+}

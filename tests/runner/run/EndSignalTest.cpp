@@ -20,7 +20,7 @@ steps:
   - step: tone
     page: Single Tone TX
     sweep: {txPowerValue: {from: 0, to: 20, step: 1}}
-    press: [Start, m_btnFetchPd]
+    press: [Start, Fetch PD]
     then: [Stop]
   - step: receiver
     page: Continuous RX

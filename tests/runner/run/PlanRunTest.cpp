@@ -26,7 +26,7 @@ steps:
   - step: first
     page: Single Tone TX
     sweep: {txPowerValue: [0, 5]}
-    press: [Start, m_btnFetchPd]
+    press: [Start, Fetch PD]
     then: [Stop]
     expect: {pdValue: {minus: txPowerValue, min: -1, max: 1}}
   - step: second
