@@ -9,7 +9,9 @@ COutput::COutput() : m_palette(PaletteOf(stdout)) {}
 
 void COutput::Write(std::string_view text)
 {
-    if (m_error == 0 && std::fwrite(text.data(), 1, text.size(), stdout) != text.size())
+    // fwrite wants a place also for nothing.
+    if (m_error == 0 && !text.empty() &&
+        std::fwrite(text.data(), 1, text.size(), stdout) != text.size())
         m_error = errno;
 }
 
