@@ -24,6 +24,11 @@ QString QuorlinPluginInterface::GetPluginName()
     return QStringLiteral("Quorlin RF");
 }
 
+QString QuorlinPluginInterface::ChipName()
+{
+    return Form().RfChipName();
+}
+
 void QuorlinPluginInterface::ResetPlugin()
 {
     Form().ResetPages();

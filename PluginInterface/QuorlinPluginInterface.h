@@ -30,6 +30,9 @@ public:
     void HostNotifyAfter(uint32_t) override;
     void DisablePages() override;
     void EnablePages() override;
+    // Name of the DUT's NR chip, for a host that calls it by name; empty when it is not known. Blocks as
+    // the launch query does, unless that has been asked.
+    Q_INVOKABLE QString ChipName();
 
 signals:
     void Signal_PluginIsActivated(QString pluginName, bool isActivated);

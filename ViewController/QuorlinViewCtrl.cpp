@@ -16,6 +16,11 @@ SRfSupportStatus CQuorlinViewCtrl::GetSupportStatus()
     return GetCore().GetSupportStatus();
 }
 
+QString CQuorlinViewCtrl::GetRfChipName()
+{
+    return GetCore().GetRfChipName();
+}
+
 void CQuorlinViewCtrl::ResetTargetCache()
 {
     ++m_epoch;

@@ -56,6 +56,8 @@ public:
     // On the calling thread: the support check blocks on the link, the reset never does. What was
     // asked for before a reset is of the old target: no answer arrives after it.
     SRfSupportStatus GetSupportStatus();
+    // Blocks as the support check does, unless that has been made.
+    QString GetRfChipName();
     void ResetTargetCache();
 
     void GetInitPageList();

@@ -73,6 +73,12 @@ SRfSupportStatus CNrCore::GetSupportStatus()
     return m_supportStatus;
 }
 
+QString CNrCore::GetRfChipName()
+{
+    const CLockSentry lock(m_targetLock);
+    return QString::fromUtf8(m_target.GetRfChipNameNr());
+}
+
 SRfSupportStatus CNrCore::DecideSupportStatus()
 {
     // Only status 3 has an advice of its own; the others keep that of the answer before.

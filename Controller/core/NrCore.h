@@ -75,6 +75,8 @@ public:
     // 4 and does not go there any more.
     void ResetTargetCache() override;
     SRfSupportStatus GetSupportStatus() override;
+    // Name of the NR chip, from what was read for the support check; empty when it is not known.
+    QString GetRfChipName();
 
     QStringList GetAllSupportPage() override;
     std::string GetDataModel(QString pageName) override;

@@ -6,6 +6,7 @@
 
 #include "Operations/capability/CapabilityCache.h"
 #include "Support/Log.h"
+#include "Vond/VondCore.h"
 
 namespace {
 
@@ -89,6 +90,11 @@ uint32_t CTargetCapability::GetRfChipIdNr() const
 {
     Cache().ReadNrCapability();
     return Cache().nrCapability.record.rfChipId;
+}
+
+const char *CTargetCapability::GetRfChipNameNr() const
+{
+    return VOND_NRf_GetChipIdName(GetRfChipIdNr());
 }
 
 bool CTargetCapability::IsRatInfoValid() const

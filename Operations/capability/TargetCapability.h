@@ -22,6 +22,8 @@ public:
     // RF chip ids, 0 when the read failed. Names for them come from the closed library.
     uint32_t GetRfChipIdLte() const;
     uint32_t GetRfChipIdNr() const;
+    // The NR chip's name; null for an id that the closed library does not know.
+    const char *GetRfChipNameNr() const;
 
     // Multi-RAT world mode: is the information there, and which RATs (0x40 is NR). 0 when it is
     // not.

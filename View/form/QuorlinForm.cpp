@@ -192,6 +192,11 @@ bool CQuorlinForm::QueryPluginSupport(QString &reason)
     return isSupported;
 }
 
+QString CQuorlinForm::RfChipName()
+{
+    return m_viewCtrl.GetRfChipName();
+}
+
 bool CQuorlinForm::QueryPluginState()
 {
     return false;

@@ -37,6 +37,8 @@ public:
 
     void SetTargetHandle(uint32_t handle);
     bool QueryPluginSupport(QString &reason) override;
+    // Of the DUT; see CQuorlinViewCtrl.
+    QString RfChipName();
     bool QueryPluginState() override;
     void ResetPages() override;
     void setVisible(bool isVisible) override;
