@@ -1,5 +1,6 @@
 #include "Runner/bench/Bench.h"
 
+#include <algorithm>
 #include <vector>
 
 #include <QAbstractButton>
@@ -9,6 +10,7 @@
 #include <QEventLoop>
 #include <QPointer>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTimer>
 
 #include "Host/LinkLibrary.h"
@@ -26,12 +28,24 @@ constexpr char kRfOffButton[] = "m_rfOff";
 constexpr char kRfOffDone[] = "RF off.";
 constexpr char kRfOffFailed[] = "RF off failed: ";
 constexpr char kHandleProperty[] = "vondTargetHandle";
+constexpr char kChipName[] = "ChipName()";
 constexpr char kProfileVariable[] = "VOND_SIM_PROFILE";
 
 QString DefaultPlugin()
 {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() +
                            QStringLiteral("/../plugins/libQuorlinRf.so"));
+}
+
+QStringList TabTitles(const QMainWindow *window)
+{
+    QStringList titles;
+    for (const QTabBar *bar :
+         window->findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly)) {
+        for (int tab = 0; tab < bar->count(); ++tab)
+            titles.append(bar->tabText(tab).trimmed());
+    }
+    return titles;
 }
 
 }  // namespace
@@ -46,6 +60,7 @@ struct CBench::SParts
     std::vector<std::unique_ptr<CBenchPage>> pages;
     uint32_t handle = 0;
     QString toolVersion;
+    QString chipName;
     bool isInterrupted = false;
     bool hasPressed = false;
 };
@@ -131,7 +146,17 @@ SBenchError CBench::ShowTool(std::chrono::milliseconds bound)
     for (QDockWidget *page :
          m_parts->window->findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly))
         m_parts->pages.push_back(std::make_unique<CBenchPage>(*this, page));
+    const QStringList tabs = TabTitles(m_parts->window);
+    std::stable_sort(m_parts->pages.begin(), m_parts->pages.end(),
+                     [&tabs](const auto &a, const auto &b) {
+                         return tabs.indexOf(a->Title()) < tabs.indexOf(b->Title());
+                     });
     WaitIdle(bound);
+    QObject *root = m_parts->plugin->RootObject();
+    // A plug-in that has no such function tells nothing.
+    if (root->metaObject()->indexOfMethod(kChipName) >= 0)
+        QMetaObject::invokeMethod(root, "ChipName", Qt::DirectConnection,
+                                  Q_RETURN_ARG(QString, m_parts->chipName));
     return {};
 }
 
@@ -244,14 +269,9 @@ uint32_t CBench::Handle() const
     return m_parts->handle;
 }
 
-// By name, as a page's document: a plug-in that has no such function tells nothing.
 QString CBench::ChipName() const
 {
-    QString name;
-    if (m_parts->plugin)
-        QMetaObject::invokeMethod(m_parts->plugin->RootObject(), "ChipName", Qt::DirectConnection,
-                                  Q_RETURN_ARG(QString, name));
-    return name;
+    return m_parts->chipName;
 }
 
 QString CBench::ToolName() const
@@ -321,6 +341,11 @@ void CBench::AnswerFileDialog(const QString &file)
 QVector<SBenchBox> CBench::TakeBoxes()
 {
     return m_parts->boxes.Take();
+}
+
+bool CBench::HasPressed() const
+{
+    return m_parts->hasPressed;
 }
 
 void CBench::NotePress()

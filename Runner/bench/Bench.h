@@ -83,6 +83,7 @@ public:
     // test runs. Safe to call twice.
     bool Close();
 
+    // In the order of the tabs.
     QVector<CBenchPage *> Pages() const;
     // By title or class name. Null: error says which there are.
     CBenchPage *FindPage(const QString &name, SRefusal *error) const;
@@ -116,6 +117,7 @@ public:
 
     // From a press on, RF Off belongs to the end.
     void NotePress();
+    bool HasPressed() const;
 
 signals:
     void Signal_Status(const QString &line);

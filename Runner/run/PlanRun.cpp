@@ -6,10 +6,10 @@
 #include <QFileInfo>
 
 #include "Host/Tap.h"
+#include "Runner/bench/EndSignals.h"
 #include "Runner/plan/PlanReader.h"
 #include "Runner/report/Reports.h"
 #include "Runner/run/CaseRun.h"
-#include "Runner/run/EndSignals.h"
 #include "Runner/run/PlanCheck.h"
 #include "Runner/run/Progress.h"
 

@@ -28,6 +28,7 @@ void BenchTest::opensWithAllPagesAndCloses()
     QCOMPARE(session.bench.ToolName(), QString("Quorlin RF"));
     QCOMPARE(session.bench.ToolVersion(), QString("0.1"));
     QCOMPARE(session.bench.Handle(), 1u);
+    QVERIFY(!session.bench.ChipName().isEmpty());
     QVERIFY(!session.bench.IsBusy());
     QVERIFY(session.bench.Close());
     QVERIFY(session.bench.Pages().isEmpty());

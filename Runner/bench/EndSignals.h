@@ -11,6 +11,8 @@
 //       return 128 + signals.Number();
 #pragma once
 
+#include <memory>
+
 #include <QObject>
 #include <QSocketNotifier>
 

@@ -1,4 +1,4 @@
-#include "Runner/run/EndSignals.h"
+#include "Runner/bench/EndSignals.h"
 
 #include <array>
 #include <csignal>
