@@ -25,3 +25,5 @@ void RunCommand(int &exitCode, const std::function<int()> &command);
 void AddTraceCommand(CLI::App &app, int &exitCode);
 void AddDecodeCommand(CLI::App &app, int &exitCode);
 void AddRunCommand(CLI::App &app, int &exitCode);
+void AddDescribeCommand(CLI::App &app, int &exitCode);
+void AddServeCommand(CLI::App &app, int &exitCode);

@@ -28,6 +28,8 @@ int main(int argc, char **argv)
     AddTraceCommand(app, exitCode);
     AddDecodeCommand(app, exitCode);
     AddRunCommand(app, exitCode);
+    AddDescribeCommand(app, exitCode);
+    AddServeCommand(app, exitCode);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError &error) {

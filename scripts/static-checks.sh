@@ -97,6 +97,8 @@ Tap/replay
 Runner/plan
 Runner/report
 Runner/bench
+Runner/describe Runner/bench/
+Runner/serve Runner/(bench|describe)/
 Runner/run Runner/(plan|report|bench)/
 Tap/door Tap/(replay/|VondTap\.h)
 Simulator/basis
