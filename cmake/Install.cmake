@@ -11,6 +11,8 @@ include(GNUInstallDirs)
 
 install(TARGETS quorlin-host quorlin RUNTIME DESTINATION bin COMPONENT tool)
 install(TARGETS QuorlinRf LIBRARY DESTINATION plugins COMPONENT tool)
+install(DIRECTORY python/quorlin DESTINATION python COMPONENT tool FILES_MATCHING PATTERN "*.py" PATTERN "py.typed"
+        PATTERN "__pycache__" EXCLUDE)
 install(TARGETS VondTap LIBRARY DESTINATION lib COMPONENT tool)
 if(NOT VOND_ROOT)
   install(TARGETS VondCore VondApp LIBRARY DESTINATION lib COMPONENT tool)
