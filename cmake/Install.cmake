@@ -66,6 +66,8 @@ foreach(program quorlin-host quorlin)
   quorlin_package_compressed(${PROJECT_SOURCE_DIR}/packaging/${program}.1 ${program}.1
                              /usr/share/man/man1)
 endforeach()
+file(CREATE_LINK ../../quorlin-rf/python/quorlin ${PROJECT_BINARY_DIR}/packaging/python SYMBOLIC)
+quorlin_package_file(${PROJECT_BINARY_DIR}/packaging/python /usr/lib/python3/dist-packages RENAME quorlin)
 configure_file(packaging/changelog.in ${PROJECT_BINARY_DIR}/packaging/changelog @ONLY)
 quorlin_package_file(${PROJECT_SOURCE_DIR}/packaging/copyright /usr/share/doc/quorlin-rf)
 quorlin_package_file(${PROJECT_SOURCE_DIR}/packaging/quorlin-rf.desktop /usr/share/applications)

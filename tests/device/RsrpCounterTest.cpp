@@ -16,6 +16,8 @@ class RsrpCounterTest : public QObject
 private slots:
     void clearEmptiesTheTableAndLeavesTheTarget_data() { BothRsrpPages(); }
     void clearEmptiesTheTableAndLeavesTheTarget();
+    void clearSaysBusyUntilTheTableIsEmpty_data() { BothRsrpPages(); }
+    void clearSaysBusyUntilTheTableIsEmpty();
     void clearTakesTheRowsOfAFetchInFlight_data() { BothRsrpPages(); }
     void clearTakesTheRowsOfAFetchInFlight();
     void ticksAreSkippedWhileTheTableIsBeingCleared_data() { BothRsrpPages(); }
@@ -47,6 +49,22 @@ void RsrpCounterTest::clearEmptiesTheTableAndLeavesTheTarget()
     QVERIFY(session.Fetch());
     QCOMPARE(session.Rows(), 5);
     QCOMPARE(session.Cell(0, "Total BLK"), QString("200"));
+}
+
+void RsrpCounterTest::clearSaysBusyUntilTheTableIsEmpty()
+{
+    QFETCH(QString, mode);
+    CRsrpSession session(mode);
+    QVERIFY(session.Running());
+    QVERIFY(session.Fetch());
+    QVERIFY(session.Stop());
+    session.busy.clear();
+    session.Press("clearPushButton");
+    QCOMPARE(session.busy, (QVector<bool>{true}));
+    QCOMPARE(session.Enabled(), QString());
+    QVERIFY(WaitUntil([&] { return session.busy.size() == 2; }));
+    QCOMPARE(session.busy, (QVector<bool>{true, false}));
+    QCOMPARE(session.Rows(), 0);
 }
 
 // What was asked for before the clear goes with it, whichever answer comes first.
