@@ -284,11 +284,6 @@ QString CBench::ToolVersion() const
     return m_parts->toolVersion;
 }
 
-EBenchWait CBench::WaitIdle(std::chrono::milliseconds bound)
-{
-    return WaitUntil([this] { return !IsBusy(); }, bound);
-}
-
 EBenchWait CBench::WaitUntil(const std::function<bool()> &condition,
                              std::chrono::milliseconds bound)
 {

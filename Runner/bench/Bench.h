@@ -31,11 +31,9 @@
 
 #include <QObject>
 
-#include "Runner/bench/BenchTypes.h"
+#include "Runner/bench/BenchTool.h"
 
 class CBenchPage;
-
-constexpr std::chrono::milliseconds kBenchWait = std::chrono::seconds(60);
 
 struct SBenchOptions
 {
@@ -60,15 +58,7 @@ struct SBenchError
     QString text = {};  // a sentence
 };
 
-enum class EBenchWait
-{
-    Done,
-    Late,         // the bound has passed
-    Interrupted,  // by Interrupt()
-    Gone,         // the tool's window or pages are gone
-};
-
-class CBench : public QObject
+class CBench : public CBenchTool
 {
     Q_OBJECT
 
@@ -96,16 +86,15 @@ public:
     // Does a test run on the DUT, as the tool's pages and RF Off tell?
     bool MayTransmit() const;
 
-    bool IsBusy() const;
-    QString Status() const;  // the line in the status bar
+    bool IsBusy() const override;
+    QString Status() const override;
     uint32_t Handle() const;
     QString ChipName() const;  // of the DUT; empty where the plug-in does not tell
     QString ToolName() const;  // "Quorlin RF"
     QString ToolVersion() const;
 
-    EBenchWait WaitIdle(std::chrono::milliseconds bound);
-    // The condition is looked at after every turn of the event loop; the wait may stand within another.
-    EBenchWait WaitUntil(const std::function<bool()> &condition, std::chrono::milliseconds bound);
+    EBenchWait WaitUntil(const std::function<bool()> &condition,
+                         std::chrono::milliseconds bound) override;
     void Interrupt();
     void Resume();
     bool IsInterrupted() const;
@@ -115,14 +104,8 @@ public:
     // The boxes since the last call.
     QVector<SBenchBox> TakeBoxes();
 
-    // From a press on, RF Off belongs to the end.
-    void NotePress();
+    void NotePress() override;
     bool HasPressed() const;
-
-signals:
-    void Signal_Status(const QString &line);
-    void Signal_Busy(bool isBusy);
-    void Signal_Box(const SBenchBox &box);
 
 private:
     void TellStatus(const QString &line);

@@ -27,7 +27,7 @@ QString WithoutUnit(const QString &text)
 
 }  // namespace
 
-CBenchPage::CBenchPage(CBench &bench, QDockWidget *page) : m_bench(bench), m_page(page) {}
+CBenchPage::CBenchPage(CBenchTool &bench, QDockWidget *page) : m_bench(bench), m_page(page) {}
 
 CBenchPage::~CBenchPage() = default;
 

@@ -29,7 +29,7 @@
 #include <QDockWidget>
 #include <QPointer>
 
-#include "Runner/bench/Bench.h"
+#include "Runner/bench/BenchTool.h"
 
 class CPageLayout;
 class QAbstractButton;
@@ -69,7 +69,7 @@ struct SBenchOutput
 class CBenchPage
 {
 public:
-    CBenchPage(CBench &bench, QDockWidget *page);
+    CBenchPage(CBenchTool &bench, QDockWidget *page);
     ~CBenchPage();
 
     QString Title() const;
@@ -106,7 +106,7 @@ private:
     std::optional<SRefusal> RefuseOff(const SBenchMember &member, const QWidget *editor) const;
     void ShowTab(const QWidget *widget);
 
-    CBench &m_bench;
+    CBenchTool &m_bench;
     const QPointer<QDockWidget> m_page;
     mutable std::unique_ptr<CPageLayout> m_layout;  // read when it is first asked for
 };

@@ -9,10 +9,10 @@ namespace {
 // Collects what the tool says while a press is under way.
 struct SPressWatch : QObject
 {
-    explicit SPressWatch(CBench &bench)
+    explicit SPressWatch(CBenchTool &bench)
     {
-        connect(&bench, &CBench::Signal_Busy, this, [this](bool isBusy) { wasBusy |= isBusy; });
-        connect(&bench, &CBench::Signal_Box, this,
+        connect(&bench, &CBenchTool::Signal_Busy, this, [this](bool isBusy) { wasBusy |= isBusy; });
+        connect(&bench, &CBenchTool::Signal_Box, this,
                 [this](const SBenchBox &box) { boxes.append(box); });
     }
 
