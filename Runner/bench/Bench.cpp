@@ -152,6 +152,8 @@ SBenchError CBench::ShowTool(std::chrono::milliseconds bound)
                          return tabs.indexOf(a->Title()) < tabs.indexOf(b->Title());
                      });
     WaitIdle(bound);
+    // Nobody looks, and paint is most of what a press would cost beside the DUT.
+    m_parts->window->setUpdatesEnabled(false);
     QObject *root = m_parts->plugin->RootObject();
     // A plug-in that has no such function tells nothing.
     if (root->metaObject()->indexOfMethod(kChipName) >= 0)

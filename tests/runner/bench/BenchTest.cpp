@@ -17,6 +17,7 @@ private slots:
     void endWithoutAPressLeavesTheDutAlone();
     void endStopsARunningTest();
     void rfOffTellsOfItsFailure();
+    void pagesComeAnewAfterAReload();
 };
 
 void BenchTest::opensWithAllPagesAndCloses()
@@ -109,6 +110,19 @@ void BenchTest::rfOffTellsOfItsFailure()
     QVERIFY(!session.bench.RfOff(kLong, &why));
     QVERIFY2(why.startsWith("RF off failed: "), qPrintable(why));
     VondSim_SetProfile("handset");
+}
+
+void BenchTest::pagesComeAnewAfterAReload()
+{
+    CBenchSession session;
+    QVERIFY(!session.Page("RSSI")->Set("request.group2.dlFrequency[0]", "max"));
+    const QString typed = session.Page("RSSI")->DocumentText();
+    QCOMPARE(session.bench.Reload(kLong).text, QString());
+    QCOMPARE(session.bench.Pages().size(), 9);
+    CBenchPage *page = session.Page("RSSI");
+    QVERIFY(page->DocumentText() != typed);
+    QVERIFY(!page->Set("request.group2.dlFrequency[0]", "max"));
+    QCOMPARE(page->DocumentText(), typed);
 }
 
 QUORLIN_TEST_CLASS(BenchTest)
