@@ -13,18 +13,6 @@ using ShownBytes = std::span<const uint8_t>;
 
 constexpr std::size_t kWidestName = 44;  // a longer one moves its value alone
 
-std::string DigitsOf(ShownBytes bytes)
-{
-    static constexpr char kDigits[] = "0123456789abcdef";
-    std::string digits;
-    digits.reserve(2 * bytes.size());
-    for (const uint8_t byte : bytes) {
-        digits += kDigits[byte >> 4];
-        digits += kDigits[byte & 15];
-    }
-    return digits;
-}
-
 SShownField ShownFieldOf(const SFieldValue &value)
 {
     SShownField field = {.name = std::string(value.name),
@@ -79,7 +67,7 @@ void End(const SDecoded &decoded, ShownBytes bytes, SShownRecord &shown)
 {
     shown.size = bytes.size();
     shown.missing = decoded.missing;
-    shown.rest = DigitsOf(bytes.last(decoded.extra));
+    shown.rest = HexDigits(bytes.last(decoded.extra));
 }
 
 bool IsShown(const SShownField &field, EWhichFields which)

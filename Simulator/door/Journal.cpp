@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "Simulator/basis/Results.h"
-#include "Trace/lines/LoadedLibrary.h"
 
 namespace {
 
@@ -16,17 +15,6 @@ std::size_t BytesOf(const SJournalEntry &entry)
     return sizeof(entry) + entry.request.size() + entry.answer.size();
 }
 
-STraceHeader HeaderOfThePair()
-{
-    const SLoadedLibrary core = FindLoadedLibrary("libVondCore.so");
-    const SLoadedLibrary app = FindLoadedLibrary("libVondApp.so");
-    return {.tool = QUORLIN_VERSION,
-            .core = core.name,
-            .coreBuildId = core.buildId,
-            .app = app.name,
-            .appBuildId = app.buildId};
-}
-
 bool HasResult(const SFunction &function)
 {
     return function.kind != EFunctionKind::Library;
@@ -35,7 +23,8 @@ bool HasResult(const SFunction &function)
 }  // namespace
 
 CJournal::CJournal(const std::string &path)
-    : m_writer({.path = path, .who = "VondSim"}, path.empty() ? STraceHeader() : HeaderOfThePair())
+    : m_writer({.path = path, .who = "VondSim"},
+               path.empty() ? STraceHeader() : HeaderOfThePair(QUORLIN_VERSION))
 {
 }
 

@@ -8,7 +8,6 @@
 
 #include "Tap/door/CallerMemory.h"
 #include "Tap/door/Complaint.h"
-#include "Trace/lines/LoadedLibrary.h"
 #include "Vond/VondCore.h"
 
 std::atomic<ETapMode> g_tapMode = ETapMode::Unknown;
@@ -45,17 +44,6 @@ std::string ReplayOut()
         return out;
     Complain("VOND_TAP_OUT is the trace that is played back; nothing is written");
     return {};
-}
-
-STraceHeader HeaderOfThePair()
-{
-    const SLoadedLibrary core = FindLoadedLibrary("libVondCore.so");
-    const SLoadedLibrary app = FindLoadedLibrary("libVondApp.so");
-    return {.tool = QUORLIN_VERSION,
-            .core = core.name,
-            .coreBuildId = core.buildId,
-            .app = app.name,
-            .appBuildId = app.buildId};
 }
 
 // Null where nothing can be read.
@@ -112,7 +100,7 @@ CTap::CTap(ETapMode mode)
                                         : nullptr),
       m_writer(
           {.path = m_replay != nullptr ? ReplayOut() : Variable("VOND_TAP_FILE"), .who = "VondTap"},
-          HeaderOfThePair())
+          HeaderOfThePair(QUORLIN_VERSION))
 {
 }
 

@@ -18,17 +18,6 @@ std::string HexNumber(uint32_t number)
     return text;
 }
 
-std::string HexBytes(std::span<const uint8_t> bytes)
-{
-    std::string digits;
-    digits.reserve(2 * bytes.size());
-    for (const uint8_t byte : bytes) {
-        digits += kDigits[byte >> 4];
-        digits += kDigits[byte & 15];
-    }
-    return digits;
-}
-
 std::string Escaped(std::string_view text)
 {
     std::string escaped;
@@ -117,13 +106,24 @@ std::string NumberText(int64_t number, const SField &field)
 
 }  // namespace
 
+std::string HexDigits(std::span<const uint8_t> bytes)
+{
+    std::string digits;
+    digits.reserve(2 * bytes.size());
+    for (const uint8_t byte : bytes) {
+        digits += kDigits[byte >> 4];
+        digits += kDigits[byte & 15];
+    }
+    return digits;
+}
+
 std::string ValueText(const SFieldValue &value)
 {
     const SField &field = *value.field;
     if (field.at.type == EFieldType::Text)
         return Escaped(value.text);
     if (field.at.type == EFieldType::Bytes)
-        return HexBytes(value.bytes);
+        return HexDigits(value.bytes);
     const auto word = static_cast<uint32_t>(value.number);
     switch (field.form) {
     case EForm::Band:

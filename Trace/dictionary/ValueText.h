@@ -13,3 +13,5 @@
 #include "Trace/dictionary/Decode.h"
 
 std::string ValueText(const SFieldValue &value);
+// Two lower-case digits a byte.
+std::string HexDigits(std::span<const uint8_t> bytes);

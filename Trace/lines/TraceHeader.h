@@ -12,3 +12,6 @@ struct STraceHeader
     std::string app = {};          // of VondApp
     std::string appBuildId = {};
 };
+
+// Of the pair that the process has loaded, written by a tool of that version; the time is empty.
+STraceHeader HeaderOfThePair(std::string tool);
