@@ -1,5 +1,7 @@
 // The command line beside the bench host.
 #include <CLI/CLI.hpp>
+#include <cstdio>
+#include <exception>
 
 #include "Cli/Commands.h"
 #include "Trace/lines/PrintableText.h"
@@ -14,9 +16,7 @@ std::string WordsOf(const CLI::App &app, const CLI::Error &error)
     return PrintableText(isMissing && !rest.empty() ? "unexpected: " + rest.front() : error.what());
 }
 
-}  // namespace
-
-int main(int argc, char **argv)
+int RunCommandLine(int argc, char **argv)
 {
     CLI::App app("Works with the radio of a device under test, without a window.", "quorlin");
     app.set_version_flag("--version", "quorlin " QUORLIN_VERSION);
@@ -36,4 +36,16 @@ int main(int argc, char **argv)
         return app.exit(error) == 0 ? kExitGood : kExitTrouble;
     }
     return exitCode;
+}
+
+}  // namespace
+
+int main(int argc, char **argv)
+{
+    try {
+        return RunCommandLine(argc, argv);
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "quorlin: %s\n", error.what());
+        return kExitTrouble;
+    }
 }

@@ -127,7 +127,7 @@ look_at_includes() {
 check_circles() {
     local file
     for file in "${sources[@]}"; do
-        [[ $file =~ ^(tests|bench)/ ]] ||
+        [[ $file =~ ^(tests|bench|python)/ ]] ||
             sed -n "s|^#include \"\([A-Z][A-Za-z]*/[^\"]*\)\.h\"|${file%.*} \1|p" "$file"
     done | awk '$1 != $2' | tsort >/dev/null
 }
@@ -141,7 +141,7 @@ tidy_sources() {
     else
         project_git diff --name-only "$tidy_base" --
         project_git ls-files --others --exclude-standard
-    fi | sed -n 's/\.\(cpp\|h\)$/.cpp/p' | grep -v '^\(tests\|bench\)/' | sort -u |
+    fi | sed -n 's/\.\(cpp\|h\)$/.cpp/p' | grep -v '^\(tests\|bench\|python\)/' | sort -u |
         while read -r file; do
             ! grep -qF "\"file\": \"$PWD/$file\"" "$folder/compile_commands.json" ||
                 echo "$PWD/$file"

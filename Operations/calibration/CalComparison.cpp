@@ -25,12 +25,12 @@ RecordName NameOf(const SCalImageRecord &record)
 // Of a kind's record, in the order of the bytes; each is compared as one.
 const std::vector<SFoundField> &PartsOf(ECalRoute kind)
 {
-    static const std::vector<SFoundField> s_parts[] = {
+    static const std::vector<SFoundField> partsOfKinds[] = {
         ElementsOf(CalRecordLayout(ECalRoute::Tx)),
         ElementsOf(CalRecordLayout(ECalRoute::Type1)),
         ElementsOf(CalRecordLayout(ECalRoute::Type2)),
     };
-    return s_parts[static_cast<std::size_t>(kind)];
+    return partsOfKinds[static_cast<std::size_t>(kind)];
 }
 
 const SFoundField &PartAt(ECalRoute kind, uint32_t offset)

@@ -1,5 +1,7 @@
 #include "Runner/report/HtmlReport.h"
 
+#include <QJsonArray>
+
 #include "Runner/report/ReportTexts.h"
 
 namespace {

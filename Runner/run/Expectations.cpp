@@ -1,6 +1,7 @@
 #include "Runner/run/Expectations.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 #include <optional>
 

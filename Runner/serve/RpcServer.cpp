@@ -1,5 +1,6 @@
 #include "Runner/serve/RpcServer.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QJsonDocument>
 

@@ -122,7 +122,7 @@ std::string NameAt(const SLayout &layout, uint32_t offset)
         if (place.type != EFieldType::Record)
             return rest == 0 ? name : std::string();
         const std::string inner = NameAt(*place.record, rest);
-        return inner.empty() ? inner : name + '.' + inner;
+        return inner.empty() ? inner : name.append(".").append(inner);
     }
     return {};
 }

@@ -48,6 +48,7 @@ uint8_t DigitOf(char sign)
 class CLineObject::CHandler
 {
 public:
+    // NOLINTBEGIN(readability-identifier-naming): the names are the parser's.
     using number_integer_t = nlohmann::json::number_integer_t;
     using number_unsigned_t = nlohmann::json::number_unsigned_t;
     using number_float_t = nlohmann::json::number_float_t;
@@ -90,6 +91,7 @@ public:
     {
         FailLine("is no JSON at byte " + std::to_string(position));
     }
+    // NOLINTEND(readability-identifier-naming)
 
 private:
     bool Put(Value value)
