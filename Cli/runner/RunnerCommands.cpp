@@ -39,7 +39,7 @@ SBenchOptions BenchOptionsOf(const SGivenBench &given)
     const QString handle = QString::fromStdString(given.handle);
     if (!handle.isEmpty())
         options.handle = handle.startsWith("0x", Qt::CaseInsensitive)
-                             ? handle.mid(2).toUInt(nullptr, 16)
+                             ? handle.midRef(2).toUInt(nullptr, 16)
                              : handle.toUInt();
     return options;
 }

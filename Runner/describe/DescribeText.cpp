@@ -1,6 +1,5 @@
 #include "Runner/describe/DescribeText.h"
 
-#include <QRegularExpression>
 #include <QVector>
 
 #include "Runner/bench/Bench.h"
@@ -26,9 +25,9 @@ QString Columns(const QVector<QStringList> &rows, const QString &indent)
         QString line = indent;
         for (int c = 0; c < row.size(); ++c)
             line += row[c].leftJustified(widths[c] + kGap);
-        text += line.trimmed().isEmpty()
-                    ? QString('\n')
-                    : indent + line.mid(indent.size()).replace(QRegularExpression("\\s+$"), "\n");
+        while (line.endsWith(' '))
+            line.chop(1);
+        text += line + '\n';
     }
     return text;
 }
