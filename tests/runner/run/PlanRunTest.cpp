@@ -186,7 +186,9 @@ TEST(PlanRunTest, theCallsOfARunCanBeRecorded)
 {
     const CCliFolder folder;
     folder.Write("plan.yaml", kTwoTones);
-    const SCliRun run = folder.Shell("VOND_SIM_JOURNAL=j.jsonl $QUORLIN run plan.yaml "
+    // The runtime of a sanitizer wants to be in front of the tap.
+    const SCliRun run = folder.Shell("VOND_SIM_JOURNAL=j.jsonl LD_PRELOAD='" FIRST_PRELOAD
+                                     "' $QUORLIN run plan.yaml "
                                      "--allow-transmit --out out --record t.jsonl");
     EXPECT_EQ(run.exitCode, 0) << run.out << run.err;
     QStringList traced, journal;
