@@ -3,10 +3,9 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
-#include <QTextDocument>
-#include <QTextDocumentFragment>
 
 #include "Host/BenchHost.h"
+#include "Host/PlainText.h"
 #include "Host/PluginHandle.h"
 #include "Host/ToolWindow.h"
 
@@ -16,15 +15,10 @@ constexpr char kPage[] = "Continuous RX";
 constexpr char kStartButton[] = "m_start";
 constexpr int kTargetOperations = 2;  // a start and a stop
 
-QString PlainText(const QString &text)
-{
-    return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
-}
-
 }  // namespace
 
 const CDemo::SStage CDemo::kStages[] = {
-    {"the pages of the tool", "Init done.", "Init failed.", &CDemo::PressStart},
+    {"the pages of the tool", kPagesReady, kNoPages, &CDemo::PressStart},
     {"the start of continuous RX", "Cont Rx start...", "Cont Rx start failed...",
      &CDemo::PressStop},
     {"the stop of continuous RX", "Cont Rx stop.", "Cont Rx stop failed.", &CDemo::Conclude},

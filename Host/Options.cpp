@@ -52,6 +52,11 @@ int Refuse(const QString &text)
 
 }  // namespace
 
+QString DefaultPluginFile()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../plugins/libQuorlinRf.so");
+}
+
 std::optional<uint32_t> ReadHandle(const QString &text)
 {
     const bool isHex = text.startsWith("0x", Qt::CaseInsensitive);
@@ -89,10 +94,7 @@ std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
     if (!handle)
         return Refuse(QString("'%1' is no target handle.").arg(parser.value(kHandle)));
 
-    options.pluginFile = parser.isSet(kPlugin)
-                             ? parser.value(kPlugin)
-                             : QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                                               "/../plugins/libQuorlinRf.so");
+    options.pluginFile = parser.isSet(kPlugin) ? parser.value(kPlugin) : DefaultPluginFile();
     options.profile = parser.value(kProfile);
     options.handle = *handle;
     options.linkFile = parser.value(kLink);

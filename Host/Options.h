@@ -39,5 +39,8 @@ struct SHostOptions
 // Returns the exit code if the program is to end at once, nothing if it is to go on with options.
 std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options);
 
+// The plug-in beside the program's folder.
+QString DefaultPluginFile();
+
 // A target handle: decimal, or hexadecimal behind "0x". Nothing if it is no number of 32 bits.
 std::optional<uint32_t> ReadHandle(const QString &text);

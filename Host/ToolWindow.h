@@ -10,6 +10,8 @@
 #include <QObject>
 #include <QPointer>
 
+constexpr char kPagesReady[] = "Init done.";  // status line: all pages are there
+constexpr char kNoPages[] = "Init failed.";
 constexpr char kStopButton[] = "m_stop";  // of a page that tests
 
 // The tool's window among the windows of the application, or null: it exists from the moment when

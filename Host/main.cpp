@@ -19,7 +19,6 @@
 namespace {
 
 constexpr std::chrono::seconds kDemoDeadline(60);
-constexpr char kPagesReady[] = "Init done.";
 
 void Print(FILE *stream, const QString &line)
 {

@@ -2,16 +2,15 @@
 
 #include <CLI/CLI.hpp>
 
+#include "Host/Options.h"
+
 namespace {
 
-// A target handle: decimal, or hexadecimal behind "0x". Empty when it is one.
+// Empty when it is one.
 std::string CheckHandle(const std::string &text)
 {
-    bool isNumber = false;
-    const QString handle = QString::fromStdString(text);
-    const bool isHex = handle.startsWith("0x", Qt::CaseInsensitive);
-    (isHex ? handle.mid(2) : handle).toUInt(&isNumber, isHex ? 16 : 10);
-    return isNumber ? std::string() : "\"" + text + "\" is no handle: 1 or 0x1f, 32 bits at most";
+    const bool isHandle = ReadHandle(QString::fromStdString(text)).has_value();
+    return isHandle ? std::string() : "\"" + text + "\" is no handle: 1 or 0x1f, 32 bits at most";
 }
 
 }  // namespace
@@ -36,10 +35,6 @@ SBenchOptions BenchOptionsOf(const SGivenBench &given)
     options.pluginFile = QString::fromStdString(given.plugin);
     options.profile = QString::fromStdString(given.profile);
     options.linkFile = QString::fromStdString(given.link);
-    const QString handle = QString::fromStdString(given.handle);
-    if (!handle.isEmpty())
-        options.handle = handle.startsWith("0x", Qt::CaseInsensitive)
-                             ? handle.midRef(2).toUInt(nullptr, 16)
-                             : handle.toUInt();
+    options.handle = ReadHandle(QString::fromStdString(given.handle)).value_or(options.handle);
     return options;
 }

@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include "Host/LinkLibrary.h"
+#include "Host/Options.h"
 #include "Host/PluginHandle.h"
 #include "Host/SimulatedDut.h"
 #include "Host/ToolWindow.h"
@@ -22,20 +23,12 @@
 
 namespace {
 
-constexpr char kPagesReady[] = "Init done.";
-constexpr char kNoPages[] = "Init failed.";
 constexpr char kRfOffButton[] = "m_rfOff";
 constexpr char kRfOffDone[] = "RF off.";
 constexpr char kRfOffFailed[] = "RF off failed: ";
 constexpr char kHandleProperty[] = "vondTargetHandle";
 constexpr char kChipName[] = "ChipName()";
 constexpr char kProfileVariable[] = "VOND_SIM_PROFILE";
-
-QString DefaultPlugin()
-{
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                           QStringLiteral("/../plugins/libQuorlinRf.so"));
-}
 
 QStringList TabTitles(const QMainWindow *window)
 {
@@ -96,7 +89,7 @@ SBenchError CBench::LoadTool(const SBenchOptions &options)
     qApp->setProperty(kHandleProperty, m_parts->handle);
     m_parts->plugin = std::make_unique<CPluginHandle>();
     QString error;
-    const QString file = options.pluginFile.isEmpty() ? DefaultPlugin() : options.pluginFile;
+    const QString file = options.pluginFile.isEmpty() ? DefaultPluginFile() : options.pluginFile;
     if (!m_parts->plugin->Load(file, error)) {
         m_parts->plugin.reset();
         return {EBenchError::Wrong, error};

@@ -9,20 +9,8 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
-#include <QTextDocument>
 
-namespace {
-
-QString PlainText(const QString &text)
-{
-    if (!Qt::mightBeRichText(text))
-        return text.trimmed();
-    QTextDocument document;
-    document.setHtml(text);
-    return document.toPlainText().trimmed();
-}
-
-}  // namespace
+#include "Host/PlainText.h"
 
 CBoxCatcher::CBoxCatcher()
 {
@@ -55,8 +43,8 @@ void CBoxCatcher::Close(QMessageBox *box)
         return;
     const QPointer<QMessageBox> alive(box);
     Keep({.title = box->windowTitle().trimmed(),
-          .text = PlainText(box->text()),
-          .informative = PlainText(box->informativeText()),
+          .text = PlainText(box->text()).trimmed(),
+          .informative = PlainText(box->informativeText()).trimmed(),
           .detail = box->detailedText().trimmed()});
     if (alive)
         alive->done(QMessageBox::Close);
