@@ -150,9 +150,6 @@ protected:
     // Ends it: turnOn brings buttons and inputs back, the focus goes back, and the page says that it
     // is idle. False as above.
     bool EndRequest(const std::function<void()> &turnOn);
-    // As these, of what does not reach the target: the page does not say busy.
-    bool BeginQuietRequest(const std::function<void()> &turnOff);
-    void EndQuietRequest(const std::function<void()> &turnOn);
     // Between the two; over when turnOn is called.
     bool HasRequest() const { return m_requests > 0; }
     // The signal alone, of both.

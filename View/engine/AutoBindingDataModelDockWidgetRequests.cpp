@@ -46,7 +46,7 @@ QString CAutoBindingDataModelDockWidget::FirstEmptyChoice() const
 }
 
 // The check of what was typed may open a box, in which the page may be destroyed.
-bool CAutoBindingDataModelDockWidget::BeginQuietRequest(const std::function<void()> &turnOff)
+bool CAutoBindingDataModelDockWidget::BeginRequest(const std::function<void()> &turnOff)
 {
     const QPointer<CAutoBindingDataModelDockWidget> self(this);
     FinishEdit();
@@ -59,26 +59,16 @@ bool CAutoBindingDataModelDockWidget::BeginQuietRequest(const std::function<void
     ++m_requests;
     turnOff();
     m_progress.Await();
-    return true;
+    return BeginBusy();
 }
 
-void CAutoBindingDataModelDockWidget::EndQuietRequest(const std::function<void()> &turnOn)
+bool CAutoBindingDataModelDockWidget::EndRequest(const std::function<void()> &turnOn)
 {
     const bool isLast = m_requests > 0 && --m_requests == 0;
     turnOn();
     GiveFocusBack();
     if (isLast)
         m_progress.End();
-}
-
-bool CAutoBindingDataModelDockWidget::BeginRequest(const std::function<void()> &turnOff)
-{
-    return BeginQuietRequest(turnOff) && BeginBusy();
-}
-
-bool CAutoBindingDataModelDockWidget::EndRequest(const std::function<void()> &turnOn)
-{
-    EndQuietRequest(turnOn);
     return EndBusy();
 }
 
