@@ -60,13 +60,11 @@ private:
 
 std::vector<SCallDifference> HeaderDifferences(const STraceHeader &one, const STraceHeader &other)
 {
-    const SCallDifference rows[] = {
-        {"tool", one.tool, other.tool}, {"time", one.time, other.time},
-        {"core", one.core, other.core}, {"coreBuildId", one.coreBuildId, other.coreBuildId},
-        {"app", one.app, other.app},    {"appBuildId", one.appBuildId, other.appBuildId}};
     std::vector<SCallDifference> differences;
-    std::copy_if(std::begin(rows), std::end(rows), std::back_inserter(differences),
-                 [](const SCallDifference &row) { return row.one != row.other; });
+    for (const STraceHeaderKey &row : kTraceHeaderKeys) {
+        if (one.*row.value != other.*row.value)
+            differences.push_back({row.key, one.*row.value, other.*row.value});
+    }
     return differences;
 }
 

@@ -26,12 +26,10 @@ STraceHeader HeaderOf(const CLineObject &line)
     if (version != kTraceVersion)
         throw std::runtime_error("\"vondTrace\" is " + std::to_string(version) +
                                  "; this program reads version 1");
-    return {.tool = line.Text("tool"),
-            .time = line.Text("time"),
-            .core = line.Text("core"),
-            .coreBuildId = line.Text("coreBuildId"),
-            .app = line.Text("app"),
-            .appBuildId = line.Text("appBuildId")};
+    STraceHeader header;
+    for (const STraceHeaderKey &row : kTraceHeaderKeys)
+        header.*row.value = line.Text(row.key);
+    return header;
 }
 
 const SFunction *FunctionIn(const CLineObject &line)

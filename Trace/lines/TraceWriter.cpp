@@ -47,15 +47,14 @@ CTraceWriter::CTraceWriter(const STraceTarget &target, const STraceHeader &heade
         WriteHeader(header);
 }
 
-void CTraceWriter::WriteHeader(const STraceHeader &header)
+void CTraceWriter::WriteHeader(STraceHeader header)
 {
+    if (header.time.empty())
+        header.time = Iso8601Now();
     CLineBuffer line;
-    line.Append("{\"vondTrace\":1,\"tool\":").AppendJson(header.tool);
-    line.Append(",\"time\":").AppendJson(header.time.empty() ? Iso8601Now() : header.time);
-    line.Append(",\"core\":").AppendJson(header.core);
-    line.Append(",\"coreBuildId\":").AppendJson(header.coreBuildId);
-    line.Append(",\"app\":").AppendJson(header.app);
-    line.Append(",\"appBuildId\":").AppendJson(header.appBuildId);
+    line.Append("{\"vondTrace\":1");
+    for (const STraceHeaderKey &row : kTraceHeaderKeys)
+        line.Append(",\"").Append(row.key).Append("\":").AppendJson(header.*row.value);
     m_file.Append(line.Append("}\n").Text());
 }
 

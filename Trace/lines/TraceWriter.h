@@ -65,7 +65,7 @@ public:
     void Note(std::string_view text) noexcept;
 
 private:
-    void WriteHeader(const STraceHeader &header);
+    void WriteHeader(STraceHeader header);
 
     CTraceFile m_file;
     CLineBuffers m_buffers;
