@@ -7,7 +7,6 @@
 #include <tuple>
 #include <utility>
 
-#include "Trace/dictionary/FieldPath.h"
 #include "Trace/dictionary/Number.h"
 #include "Trace/dictionary/ValueText.h"
 
@@ -31,14 +30,6 @@ const std::vector<SFoundField> &PartsOf(ECalRoute kind)
         ElementsOf(CalRecordLayout(ECalRoute::Type2)),
     };
     return partsOfKinds[static_cast<std::size_t>(kind)];
-}
-
-const SFoundField &PartAt(ECalRoute kind, uint32_t offset)
-{
-    const std::vector<SFoundField> &parts = PartsOf(kind);
-    return *std::lower_bound(
-        parts.begin(), parts.end(), offset,
-        [](const SFoundField &part, uint32_t place) { return part.offset < place; });
 }
 
 std::span<const uint8_t> BytesOf(const SCalImageRecord &record, const SFoundField &part)
@@ -67,11 +58,6 @@ std::string WithoutIndexes(const std::string &name)
         isIndex = isIndex && character != ']';
     }
     return bare;
-}
-
-bool IsNumber(const SField &field)
-{
-    return SizeOf(field.at.type) > 0;
 }
 
 }  // namespace
@@ -121,26 +107,31 @@ void CCalComparison::ComparePair(uint32_t index, double toleranceDb)
     const SCalImageRecord &right = m_right.records[pair.right];
     if (left.bytes == right.bytes)
         return;
-    for (const SFoundField &part : PartsOf(left.kind)) {
+    const std::vector<SFoundField> &parts = PartsOf(left.kind);
+    for (uint32_t i = 0; i < parts.size(); ++i) {
+        const SFoundField &part = parts[i];
         const auto one = BytesOf(left, part);
         if (std::equal(one.begin(), one.end(), BytesOf(right, part).begin()))
             continue;
-        const SPlace place = {index, part.offset};
         const bool isDecibel = part.field->unit.name == kDecibel;
-        if (!isDecibel || std::abs(*DifferenceAt(place, *part.field)) > toleranceDb)
-            m_differences.push_back(place);
+        if (!isDecibel || std::abs(*DifferenceOf(pair, part)) > toleranceDb)
+            m_differences.push_back({index, i});
     }
 }
 
-std::optional<double> CCalComparison::DifferenceAt(const SPlace &place, const SField &field) const
+const SFoundField &CCalComparison::PartAt(const SPlace &place) const
 {
-    const SPair &pair = m_pairs[place.pair];
-    if (IsLacking(pair) || !IsNumber(field))
+    return PartsOf(RecordOf(m_pairs[place.pair]).kind)[place.part];
+}
+
+std::optional<double> CCalComparison::DifferenceOf(const SPair &pair, const SFoundField &part) const
+{
+    const EFieldType type = part.field->at.type;
+    if (IsLacking(pair) || SizeOf(type) == 0)
         return std::nullopt;
-    const SFoundField &part = PartAt(RecordOf(pair).kind, place.offset);
-    const int64_t left = ReadNumber(field.at.type, BytesOf(m_left.records[pair.left], part));
-    const int64_t right = ReadNumber(field.at.type, BytesOf(m_right.records[pair.right], part));
-    return static_cast<double>(right - left) / field.unit.perUnit;
+    const int64_t left = ReadNumber(type, BytesOf(m_left.records[pair.left], part));
+    const int64_t right = ReadNumber(type, BytesOf(m_right.records[pair.right], part));
+    return static_cast<double>(right - left) / part.field->unit.perUnit;
 }
 
 SCalDifference CCalComparison::At(std::size_t index) const
@@ -153,11 +144,11 @@ SCalDifference CCalComparison::At(std::size_t index) const
         difference.lack = pair.left == kNoRecord ? ECalLack::Left : ECalLack::Right;
         return difference;
     }
-    const SFoundField &part = PartAt(record.kind, place.offset);
-    difference.field = NameAt(CalRecordLayout(record.kind), place.offset);
+    const SFoundField &part = PartAt(place);
+    difference.field = NameAt(CalRecordLayout(record.kind), part.offset);
     difference.left = WordsOf(m_left.records[pair.left], part);
     difference.right = WordsOf(m_right.records[pair.right], part);
-    difference.difference = DifferenceAt(place, *part.field);
+    difference.difference = DifferenceOf(pair, part);
     difference.unit = part.field->unit.name;
     return difference;
 }
@@ -187,16 +178,16 @@ std::vector<SCalStatistic> CCalComparison::ByField() const
         const SPair &pair = m_pairs[place.pair];
         if (IsLacking(pair))
             continue;
-        const ECalRoute kind = RecordOf(pair).kind;
-        const SField &field = *PartAt(kind, place.offset).field;
-        const auto [found, isNew] = places.emplace(&field, fields.size());
+        const SFoundField &part = PartAt(place);
+        const auto [found, isNew] = places.emplace(part.field, fields.size());
         if (isNew) {
-            const std::string name = NameAt(CalRecordLayout(kind), place.offset);
-            fields.push_back({.name = WithoutIndexes(name), .unit = field.unit.name});
+            const SLayout &layout = CalRecordLayout(RecordOf(pair).kind);
+            fields.push_back({.name = WithoutIndexes(NameAt(layout, part.offset)),
+                              .unit = part.field->unit.name});
         }
         SCalStatistic &statistic = fields[found->second];
         ++statistic.count;
-        if (const auto difference = DifferenceAt(place, field))
+        if (const auto difference = DifferenceOf(pair, part))
             statistic.largest = std::max(statistic.largest.value_or(0), std::abs(*difference));
     }
     return fields;

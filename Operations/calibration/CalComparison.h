@@ -22,6 +22,7 @@
 #include <vector>
 
 #include "Operations/calibration/CalImage.h"
+#include "Trace/dictionary/FieldPath.h"
 
 enum class ECalLack
 {
@@ -74,14 +75,15 @@ private:
     struct SPlace
     {
         uint32_t pair;
-        uint32_t offset;  // in the record; of a record that is lacking, 0
+        uint32_t part;  // of the record, in the order of the bytes; of a record that is lacking, 0
     };
 
     void PairRecords();
     void ComparePair(uint32_t pair, double toleranceDb);
     static bool IsLacking(const SPair &pair);
     const SCalImageRecord &RecordOf(const SPair &pair) const;
-    std::optional<double> DifferenceAt(const SPlace &place, const SField &field) const;
+    const SFoundField &PartAt(const SPlace &place) const;
+    std::optional<double> DifferenceOf(const SPair &pair, const SFoundField &part) const;
 
     SCalImage m_left;
     SCalImage m_right;
