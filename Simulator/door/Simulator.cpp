@@ -86,6 +86,12 @@ bool Offers(const SProfile &profile, const SFunction &function)
            profile.functions.end();
 }
 
+void SDut::LosePower()
+{
+    profile.plugged = false;
+    radio = CRadio(profile.radio.seed);
+}
+
 CSimulator &CSimulator::Instance()
 {
     static CSimulator *const instance = new CSimulator;
@@ -157,7 +163,7 @@ SFaultPlan CSimulator::Enter(const SFunction &function)
 {
     m_gates.Pass(function.id);
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_faults.Plan(function);
+    return m_dut.faults.Plan(function);
 }
 
 CSimulator::SOutcome CSimulator::Carry(const SCall &call, const SFunction &function,
@@ -177,16 +183,8 @@ CSimulator::SOutcome CSimulator::Carry(const SCall &call, const SFunction &funct
     try {
         const std::lock_guard<std::mutex> lock(m_mutex);
         outcome.verdict = Admit(call, function);
-        m_dut.flashFaults = plan.flash;
-        m_dut.flashOutcome = {};
         if (outcome.verdict.Ok())
             outcome.verdict = body(m_dut);
-        m_faults.CountBlocks(m_dut.flashOutcome.blocks);
-        if (m_dut.flashOutcome.isCut) {
-            m_faults.EndCuts();
-            LosePower();
-            outcome.verdict = EResult::NotConnected;
-        }
     } catch (const std::exception &) {
         outcome.verdict = EResult::Internal;
     }
@@ -242,7 +240,7 @@ void CSimulator::Reset()
 {
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        m_faults.Clear();
+        m_dut.faults.Clear();
     }
     LoadFirstProfile();
     m_gates.ReleaseAll();
@@ -255,26 +253,20 @@ void CSimulator::SetPlugged(bool isPlugged)
     if (isPlugged)
         m_dut.profile.plugged = true;
     else
-        LosePower();
-}
-
-void CSimulator::LosePower()
-{
-    m_dut.profile.plugged = false;
-    m_dut.radio = CRadio(m_dut.profile.radio.seed);
+        m_dut.LosePower();
 }
 
 void CSimulator::AddFault(const std::string &json)
 {
     const SFault fault = ParseFault(nlohmann::json::parse(json), "fault");
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_faults.Add(fault);
+    m_dut.faults.Add(fault);
 }
 
 void CSimulator::ClearFaults()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_faults.Clear();
+    m_dut.faults.Clear();
 }
 
 const char *CSimulator::RunningTest()
@@ -292,7 +284,7 @@ void CSimulator::PutInPlace(SProfile profile, std::string text)
     m_dut.profile = std::move(profile);
     m_dut.radio = CRadio(m_dut.profile.radio.seed);
     m_dut.flash = CFlash(Environment("VOND_SIM_FLASH"));
-    m_faults.SetProfileFaults(faults);
+    m_dut.faults.SetProfileFaults(faults);
     m_profileText = std::move(text);
 }
 

@@ -27,9 +27,10 @@ struct SDut
     SProfile profile;
     CRadio radio;
     CFlash flash;
-    // Of the call that runs: what goes wrong, and what became of it.
-    SFlashFaults flashFaults;
-    SFlashOutcome flashOutcome;
+    CFaultSet faults;
+
+    // Without a plug it answers no call; the flash stays, the radio is off.
+    void LosePower();
 };
 
 // Bytes from the caller. Null with a size: the caller passed a null pointer in place of a record.
@@ -85,7 +86,6 @@ public:
     void SetProfileText(const std::string &text);
     const char *ProfileText();
     void Reset();
-    // A DUT without a plug answers no call; its flash stays, its radio is off.
     void SetPlugged(bool isPlugged);
     void AddFault(const std::string &json);
     void ClearFaults();
@@ -109,7 +109,6 @@ private:
     SOutcome Carry(const SCall &call, const SFunction &function, const SFaultPlan &plan,
                    const Body &body);
     SVerdict Admit(const SCall &call, const SFunction &function) const;
-    void LosePower();
     void PutInPlace(SProfile profile, std::string text);
     void LoadFirstProfile();
 
@@ -117,7 +116,6 @@ private:
     CJournal m_journal;
     std::mutex m_mutex;  // guards what follows
     SDut m_dut;
-    CFaultSet m_faults;
     std::string m_profileText;
 };
 

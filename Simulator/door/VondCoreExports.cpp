@@ -284,8 +284,13 @@ VOND_RESULT VOND_MMRf_SetCalDataV7_r(uint32_t h, uint32_t t, const SMMSetCalData
                                      SMMSetCalDataCnfV7 *result)
 {
     return Run({EFunction::SetCalData, h, t, RequestOf(request), AnswerOf(result)}, [&](SDut &dut) {
-        dut.flashOutcome = StoreCalData(dut.profile, dut.flash, *request, *result, dut.flashFaults);
-        return SVerdict();
+        const SFlashOutcome outcome =
+            StoreCalData(dut.profile, dut.flash, *request, *result, dut.faults.OfFlash());
+        dut.faults.CountBlocks(outcome.blocks, outcome.isCut);
+        if (!outcome.isCut)
+            return SVerdict();
+        dut.LosePower();
+        return SVerdict(EResult::NotConnected);
     });
 }
 

@@ -171,7 +171,7 @@ SFaultPlan CFaultSet::Plan(const SFunction &function)
         const SFault &fault = state.fault;
         if (fault.function != nullptr && fault.function->id != function.id)
             continue;
-        if (state.isOver || !Fires(state) || !CanShow(function, fault.kind))
+        if (!Fires(state) || !CanShow(function, fault.kind))
             continue;
         switch (fault.kind) {
         case EFaultKind::Fail:
@@ -193,28 +193,33 @@ SFaultPlan CFaultSet::Plan(const SFunction &function)
             plan.patches.push_back(fault.patch);
             break;
         case EFaultKind::PowerCut:
-            if (!plan.flash.cut || fault.cut.blocksBefore < plan.flash.cut->blocksBefore)
-                plan.flash.cut = fault.cut;
-            break;
         case EFaultKind::Stuck:
-            plan.flash.stuck.push_back(fault.stuck);
-            break;
+            break;  // see OfFlash
         }
     }
     return plan;
 }
 
-void CFaultSet::CountBlocks(uint32_t blocks)
+SFlashFaults CFaultSet::OfFlash() const
 {
-    for (SState &state : m_states)
-        state.fault.cut.blocksBefore -= std::min(blocks, state.fault.cut.blocksBefore);
+    SFlashFaults faults;
+    for (const SState &state : m_states) {
+        const SFault &fault = state.fault;
+        if (fault.kind == EFaultKind::Stuck)
+            faults.stuck.push_back(fault.stuck);
+        if (fault.kind == EFaultKind::PowerCut && !state.isOver &&
+            (!faults.cut || fault.cut.blocksBefore < faults.cut->blocksBefore))
+            faults.cut = fault.cut;
+    }
+    return faults;
 }
 
-void CFaultSet::EndCuts()
+void CFaultSet::CountBlocks(uint32_t blocks, bool isCut)
 {
     for (SState &state : m_states) {
-        if (state.fault.kind == EFaultKind::PowerCut && state.fault.cut.blocksBefore == 0)
-            state.isOver = true;
+        uint32_t &left = state.fault.cut.blocksBefore;
+        left -= std::min(blocks, left);
+        state.isOver = state.isOver || (isCut && left == 0);
     }
 }
 

@@ -62,7 +62,6 @@ struct SFaultPlan
     bool nullText = false;
     std::optional<uint32_t> noiseSeed;
     std::vector<SPatch> patches;  // in the order in which they were added
-    SFlashFaults flash;
 };
 
 // Throws std::runtime_error for an unknown key, kind or function, or a kind that the function
@@ -79,10 +78,10 @@ public:
 
     // Counts a call of the function and tells what the faults do to it.
     SFaultPlan Plan(const SFunction &function);
-    // So many blocks of a download were written as a whole.
-    void CountBlocks(uint32_t blocks);
-    // The power went: a cut is over.
-    void EndCuts();
+    // What they do to the next download.
+    SFlashFaults OfFlash() const;
+    // So many blocks of a download were written as a whole; a cut that came then is over.
+    void CountBlocks(uint32_t blocks, bool isCut);
 
 private:
     struct SState

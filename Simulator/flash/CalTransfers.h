@@ -25,4 +25,4 @@ void AnswerCalData(const SProfile &profile, CFlash &flash, const SMMGetCalDataRe
 // Where the power is cut the answer stays as it is, and the flash is left as the cut has left it.
 SFlashOutcome StoreCalData(const SProfile &profile, CFlash &flash,
                            const SMMSetCalDataReqV7 &request, SMMSetCalDataCnfV7 &answer,
-                           const SFlashFaults &faults = {});
+                           const SFlashFaults &faults);
