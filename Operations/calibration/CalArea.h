@@ -44,6 +44,11 @@ public:
     virtual bool IsEdited(const SCalPlace &place) const = 0;  // by a user, and not valid
     // Of the record, which has to be there.
     virtual std::vector<uint8_t> Bytes(const SCalPlace &place) const = 0;
+    // Replaces the record whole and makes it valid. False, and nothing is changed, when the bytes are
+    // not as many as the record has, or when it has more than 4 blocks.
+    virtual bool TakeBytes(const SCalPlace &place, const std::vector<uint8_t> &bytes) = 0;
+    // No record is valid from now on, or edited; they keep their bytes.
+    virtual void Forget() = 0;
 
     // Download. The blocks that a record takes in a round: its own, at most 4. Trailing blocks
     // without a frequency are left out where the record would not fit into a round with them.

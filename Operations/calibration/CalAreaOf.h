@@ -28,6 +28,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <memory>
 #include <vector>
 
@@ -62,6 +63,8 @@ public:
             reinterpret_cast<const uint8_t *>(m_store.Find(place.route, place.region));
         return {bytes, bytes + sizeof(Record)};
     }
+    bool TakeBytes(const SCalPlace &place, const std::vector<uint8_t> &bytes) override;
+    void Forget() override { m_store.Forget(); }
 
     int BlocksToWrite(const SCalPlace &place) const override;
     void Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at, const SCalPlace &place,
@@ -101,6 +104,19 @@ private:
     int m_order = kNoOrder;  // of the entry before
     std::array<bool, TKind::kEntryOrders.size()> m_isLogged{};
 };
+
+template <typename TKind>
+bool CCalAreaOf<TKind>::TakeBytes(const SCalPlace &place, const std::vector<uint8_t> &bytes)
+{
+    if (bytes.size() != sizeof(Record))
+        return false;
+    Record record;
+    std::memcpy(&record, bytes.data(), sizeof record);
+    if (record.blockCount > kVondCalMaxBlocks || !m_store.Put(place.route, place.region, record))
+        return false;
+    m_store.SetValid(place);
+    return true;
+}
 
 template <typename TKind>
 int CCalAreaOf<TKind>::BlocksToWrite(const SCalPlace &place) const

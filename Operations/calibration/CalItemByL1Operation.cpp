@@ -1,6 +1,7 @@
 #include "Operations/calibration/CalItemByL1Operation.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <utility>
 
@@ -35,6 +36,32 @@ SCalImage ICalItemByL1Operation::Image() const
         }
     }
     return image;
+}
+
+int ICalItemByL1Operation::TakeRecords(const SCalImage &image)
+{
+    const SMMRfRouteTableV7 *table = FindRouteTable();
+    int taken = 0;
+    for (const SPart &part : m_parts) {
+        std::map<std::pair<uint16_t, int>, SCalPlace> places;
+        for (const SCalPlace &place :
+             table ? WalkRoutes(*table, part.area->Kind()) : std::vector<SCalPlace>())
+            places.emplace(std::pair(place.route, place.region), place);
+        for (const SCalImageRecord &record : image.records) {
+            const auto found = places.find({record.place.route, record.place.region});
+            if (record.kind == part.area->Kind() && found != places.end() &&
+                part.area->TakeBytes(found->second, record.bytes))
+                ++taken;
+        }
+    }
+    return static_cast<int>(image.records.size()) - taken;
+}
+
+int ICalItemByL1Operation::TakeImage(const SCalImage &image)
+{
+    for (const SPart &part : m_parts)
+        part.area->Forget();
+    return TakeRecords(image);
 }
 
 bool ICalItemByL1Operation::IsInFile(CCalIniFile &file) const

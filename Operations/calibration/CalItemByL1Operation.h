@@ -59,6 +59,12 @@ public:
     bool HasData() const;  // some record is valid
     // All valid records, as they are now; none without a route table.
     SCalImage Image() const;
+    // Replaces these records whole and makes them valid; all others stay. Records that the item has no
+    // place for are left out: of another kind, of a route that the table lacks, of another size. The
+    // number of those left out.
+    int TakeRecords(const SCalImage &image);
+    // The same, and no other record is valid: memory is as it was when Image() gave this.
+    int TakeImage(const SCalImage &image);
     // Of the last move.
     const SCalMoveRemarks &Remarks() const { return m_remarks; }
     // True when a file has a section of this item, for any RF chip. Leaves no text. Throws as load

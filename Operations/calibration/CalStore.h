@@ -65,6 +65,12 @@ public:
         if (Has(region) && !m_slots[Key(route, region)].valid)
             m_slots[Key(route, region)].edited = true;
     }
+    // No record is valid or edited any more; they keep their bytes.
+    void Forget()
+    {
+        for (auto &slot : m_slots)
+            slot.second.valid = slot.second.edited = false;
+    }
     bool HasValid() const
     {
         return std::any_of(m_slots.begin(), m_slots.end(),
