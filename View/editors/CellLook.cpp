@@ -1,0 +1,65 @@
+#include "View/editors/CellLook.h"
+
+#include <QPalette>
+#include <QVariant>
+#include <QWidget>
+
+namespace {
+
+constexpr char kLooks[] = "quorlinCellLooks";
+constexpr int kGroundShare = 30;  // percent of amber in the ground of a changed cell
+
+int LooksOf(const QWidget *editor)
+{
+    return editor->property(kLooks).toInt();
+}
+
+bool Has(int looks, ECellLook look)
+{
+    return looks & static_cast<int>(look);
+}
+
+QColor Mixed(const QColor &one, const QColor &other, int percent)
+{
+    const auto mix = [percent](int a, int b) { return (a * percent + b * (100 - percent)) / 100; };
+    return {mix(one.red(), other.red()), mix(one.green(), other.green()),
+            mix(one.blue(), other.blue())};
+}
+
+// Of the colours that the editor would have without a look.
+QPalette PaletteOf(int looks, const QPalette &plain)
+{
+    QPalette palette;
+    if (Has(looks, ECellLook::Marked)) {
+        palette.setColor(QPalette::Base, plain.color(QPalette::Active, QPalette::Highlight));
+        palette.setColor(QPalette::Text, plain.color(QPalette::Active, QPalette::HighlightedText));
+    } else if (Has(looks, ECellLook::Changed)) {
+        const QColor amber(255, 176, 0);
+        palette.setColor(QPalette::Base,
+                         Mixed(amber, plain.color(QPalette::Active, QPalette::Base), kGroundShare));
+    }
+    return palette;
+}
+
+}  // namespace
+
+void SetCellLook(QWidget *editor, ECellLook look, bool isOn)
+{
+    const int before = LooksOf(editor);
+    const int bit = static_cast<int>(look);
+    const int looks = isOn ? before | bit : before & ~bit;
+    if (looks == before)
+        return;
+    editor->setProperty(kLooks, looks);
+    editor->setPalette({});
+    if (looks != 0)
+        editor->setPalette(PaletteOf(looks, editor->palette()));
+    QFont font = editor->font();
+    font.setBold(Has(looks, ECellLook::Changed));
+    editor->setFont(font);
+}
+
+bool HasCellLook(const QWidget *editor, ECellLook look)
+{
+    return Has(LooksOf(editor), look);
+}
