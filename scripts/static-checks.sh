@@ -79,7 +79,11 @@ Runner Host|PluginInterface
 Trace Vond
 Tap Trace|Vond
 Simulator Trace|Vond
-Cli Trace|Runner|Vond
+Controller/guard Controller/Interface|Model|Operations|Support
+Cli Trace|Runner|Host|Vond|Controller|Operations|Model|Support
+Cli/trace Cli|Trace|Vond
+Cli/runner Cli|Runner|Host
+Cli/cal Cli|Controller|Operations|Model|Support
 END
     while read -r folder allowed; do
         look_at_includes "$folder" "${folder%%/*}/" "($folder/${allowed:+|$allowed})" || good=false
