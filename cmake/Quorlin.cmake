@@ -219,10 +219,13 @@ function(quorlin_test_run name program label)
   if(QUORLIN_SANITIZE STREQUAL "thread")
     math(EXPR timeout "${timeout} * 5")
   endif()
+  # Settings, backups and locks of a run are its own: runs are parallel, and a person has his.
+  set(home ${CMAKE_BINARY_DIR}/homes/${name})
+  file(MAKE_DIRECTORY ${home}/config ${home}/data ${home}/runtime)
   add_test(NAME ${name} COMMAND ${program} ${ARGN}
     WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
   set_tests_properties(${name} PROPERTIES LABELS ${label} TIMEOUT ${timeout}
-    ENVIRONMENT "${QUORLIN_TEST_ENVIRONMENT}")
+    ENVIRONMENT "${QUORLIN_TEST_ENVIRONMENT};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_RUNTIME_DIR=${home}/runtime")
 endfunction()
 
 # A benchmark program, run by hand (bench/README.md); never a test, since its numbers depend on the

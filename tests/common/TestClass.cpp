@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QLoggingCategory>
+#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
@@ -82,8 +83,21 @@ bool AddTestProcess(const char *name, std::function<int(const QStringList &)> ru
     return true;
 }
 
+namespace {
+
+// A run begins without settings, backups and locks of an earlier one, by hand as in ctest.
+void UseOwnHome(const QTemporaryDir &home)
+{
+    for (const char *name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(name, home.path().toLocal8Bit());
+}
+
+}  // namespace
+
 int main(int argc, char *argv[])
 {
+    const QTemporaryDir home;
+    UseOwnHome(home);
     const CLogRules rules;
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     QApplication application(argc, argv);
