@@ -24,12 +24,17 @@ void SetDbStep(QDoubleSpinBox *box)
 
 double ToDbStep(const QDoubleSpinBox *box)
 {
+    return ToDbStep(box, box->value());
+}
+
+double ToDbStep(const QDoubleSpinBox *box, double value)
+{
     if (box->decimals() != kDbDecimals)
-        return box->value();
+        return value;
     const double least = std::max<double>(std::ceil(box->minimum() * kStepsPerDb), Wire::min());
     const double most = std::min<double>(std::floor(box->maximum() * kStepsPerDb), Wire::max());
     // Limits that have no step between them are no limits of such a value.
     if (least > most)
-        return box->value();
-    return std::clamp(std::round(box->value() * kStepsPerDb), least, most) / kStepsPerDb;
+        return value;
+    return std::clamp(std::round(value * kStepsPerDb), least, most) / kStepsPerDb;
 }

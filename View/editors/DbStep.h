@@ -17,3 +17,5 @@ void SetDbStep(QDoubleSpinBox *box);
 // The step nearest to the box's value, within the limits of the box and of the wire. The value
 // itself, if the box has not five decimals or no step lies within its limits.
 double ToDbStep(const QDoubleSpinBox *box);
+// The same of another value than the box's.
+double ToDbStep(const QDoubleSpinBox *box, double value);

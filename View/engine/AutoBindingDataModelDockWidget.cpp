@@ -190,6 +190,12 @@ QJsonObject CAutoBindingDataModelDockWidget::DocumentOf(const std::string &text)
     return ModelFromText(text);
 }
 
+void CAutoBindingDataModelDockWidget::ChangeCells(const QString &, const CellChanges &changes)
+{
+    FinishEdit();
+    SetCells(changes);
+}
+
 void CAutoBindingDataModelDockWidget::Slot_ValueChange(QString currentText)
 {
     Publish(ERelevance::Value, currentText);

@@ -65,6 +65,7 @@
 #include "Support/MessageBoxMan.h"
 #include "View/editors/EditSession.h"
 #include "View/editors/WheelGuard.h"
+#include "View/engine/CellChange.h"
 #include "View/engine/ModelInterface.h"
 #include "View/engine/Relevance.h"
 #include "View/engine/StatusProgress.h"
@@ -96,6 +97,10 @@ public:
     // The document as packaged now, as compact text; empty while the page has none. Ends the edit under
     // way and changes nothing else. For a host, which calls it by name.
     Q_INVOKABLE QString DocumentText();
+    // Makes a change of cells as the user's entries, one after the other. name: of the command that
+    // makes it, such as "Paste". Cells that are not there any more are left out. Ends the edit under
+    // way first.
+    virtual void ChangeCells(const QString &name, const CellChanges &changes);
 
 signals:
     // Text for the status bar. timeout: Prescribed; see docs/decisions/0036-prescribed-surface.md

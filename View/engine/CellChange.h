@@ -21,3 +21,7 @@ struct SCellChange
 };
 
 using CellChanges = std::vector<SCellChange>;
+
+// Sets the editors' texts as entered ones, one after the other (CellText.h). Makes late editors. A
+// cell that is not there is left out, also when its table goes meanwhile.
+void SetCells(const CellChanges &changes);

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "View/editors/ExactClass.h"
+#include "View/engine/RangeCheck.h"
 #include "View/engine/TableCells.h"
 #include "View/engine/TableGroup.h"
 
@@ -184,6 +185,7 @@ void CColumnCells::MakeRow(int row, SRow &from)
         if (!content.isChecked)
             continue;
         cell->setToolTip(content.ranges);
+        SetRangeChecked(cell);
         if (m_page)
             connect(cell, SIGNAL(editingFinished()), m_page, content.type->cellCheckSlot);
     }

@@ -5,42 +5,70 @@
 
 namespace {
 
-// A token without "~" allows the text of a QSpinBox as it stands, and the number of a
-// QDoubleSpinBox.
-bool IsSame(const QSpinBox *box, const QString &token)
+constexpr char kIsRangeChecked[] = "quorlinRangeChecked";
+
+template <typename Box>
+struct SToken
 {
-    return token == box->text();
+    using Number = SNumber<Box>;
+    using Value = typename Number::Value;
+
+    Value Fallback() const { return isRange ? Number::Middle(low, high) : low; }
+
+    bool isRange;
+    Value low;
+    Value high;
+};
+
+template <typename Box>
+SToken<Box> ReadToken(const QString &token)
+{
+    using Number = SNumber<Box>;
+    const int tilde = token.indexOf(QLatin1Char('~'));
+    const bool isRange = tilde >= 0;
+    const auto low = Number::FromText(isRange ? token.left(tilde) : token);
+    return {isRange, low, isRange ? Number::FromText(token.mid(tilde + 1)) : low};
 }
 
-bool IsSame(const QDoubleSpinBox *box, const QString &token)
+// A token without "~" allows the text of a QSpinBox as it stands, and the number of a
+// QDoubleSpinBox.
+bool IsSame(const QSpinBox *, const QString &token, const QString &text)
 {
-    return token.toDouble() == box->text().toDouble();
+    return token == text;
+}
+
+bool IsSame(const QDoubleSpinBox *, const QString &token, const QString &text)
+{
+    return token.toDouble() == text.toDouble();
+}
+
+QStringList TokensOf(const QWidget *box)
+{
+    return box->toolTip().split(QLatin1Char(','), Qt::KeepEmptyParts);
+}
+
+template <typename Box>
+bool Allows(const Box *box, const QStringList &tokens, const QString &text)
+{
+    const auto entered = SNumber<Box>::FromText(text);
+    for (const QString &token : tokens) {
+        const SToken<Box> range = ReadToken<Box>(token);
+        if (range.isRange ? range.low <= entered && entered <= range.high
+                          : IsSame(box, token, text))
+            return true;
+    }
+    return false;
 }
 
 template <typename Box>
 void Check(Box *box, const char *title)
 {
-    using Number = SNumber<Box>;
-    const QStringList tokens = box->toolTip().split(QLatin1Char(','), Qt::KeepEmptyParts);
+    const QStringList tokens = TokensOf(box);
     qCDebug(lcEngine) << title << tokens;
-    const auto entered = Number::FromText(box->text());
-    typename Number::Value fallback = 0;
-    bool hasFallback = false;
-    for (const QString &token : tokens) {
-        const int tilde = token.indexOf(QLatin1Char('~'));
-        const bool isRange = tilde >= 0;
-        const auto low = Number::FromText(isRange ? token.left(tilde) : token);
-        const auto high = isRange ? Number::FromText(token.mid(tilde + 1)) : low;
-        if (isRange ? low <= entered && entered <= high : IsSame(box, token)) {
-            qCDebug(lcEngine) << "find return";
-            return;
-        }
-        if (!hasFallback) {
-            fallback = isRange ? Number::Middle(low, high) : low;
-            hasFallback = true;
-        }
-    }
-    box->setValue(fallback);
+    if (Allows(box, tokens, box->text()))
+        qCDebug(lcEngine) << "find return";
+    else
+        box->setValue(ReadToken<Box>(tokens.first()).Fallback());
 }
 
 }  // namespace
@@ -53,4 +81,24 @@ void CheckRange(QSpinBox *box)
 void CheckRange(QDoubleSpinBox *box)
 {
     Check(box, "---> Slot_PointRangeCheck <--- ");
+}
+
+void SetRangeChecked(QWidget *editor)
+{
+    editor->setProperty(kIsRangeChecked, true);
+}
+
+bool IsRangeChecked(const QWidget *editor)
+{
+    return editor->property(kIsRangeChecked).toBool();
+}
+
+bool IsInRanges(const QSpinBox *box, const QString &text)
+{
+    return Allows(box, TokensOf(box), text);
+}
+
+bool IsInRanges(const QDoubleSpinBox *box, const QString &text)
+{
+    return Allows(box, TokensOf(box), text);
 }

@@ -9,8 +9,18 @@
 //   CheckRange(box);   // 7 becomes 1950000
 #pragma once
 
+#include <QString>
+
 class QDoubleSpinBox;
 class QSpinBox;
+class QWidget;
 
 void CheckRange(QSpinBox *box);
 void CheckRange(QDoubleSpinBox *box);
+
+// An editor whose tool tip is such a list from the document, and not its limits alone.
+void SetRangeChecked(QWidget *editor);
+bool IsRangeChecked(const QWidget *editor);
+// Does the list allow this text? It is one that the box would show.
+bool IsInRanges(const QSpinBox *box, const QString &text);
+bool IsInRanges(const QDoubleSpinBox *box, const QString &text);

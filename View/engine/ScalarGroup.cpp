@@ -7,6 +7,7 @@
 #include "View/engine/Binding.h"
 #include "View/engine/DataTypes.h"
 #include "View/engine/InitEntry.h"
+#include "View/engine/RangeCheck.h"
 
 namespace {
 
@@ -23,8 +24,10 @@ bool PublishesTo(const QJsonObject &member, const char *list)
 void FollowChanges(const SBinding &binding, QWidget *widget, const SDataType &type,
                    const QJsonObject &member, const QJsonObject &entry)
 {
-    if (type.checkSlot && HasJsonValue(entry, QStringLiteral("rangeCheck")))
+    if (type.checkSlot && HasJsonValue(entry, QStringLiteral("rangeCheck"))) {
+        SetRangeChecked(widget);
         QObject::connect(widget, SIGNAL(editingFinished()), &binding.page, type.checkSlot);
+    }
     if (type.valueSignal && PublishesTo(member, "publishValueList")) {
         qCDebug(lcEngine) << "---> [Init][type1] Has the publish value list: register value "
                              "publish and subscribe <---";
