@@ -30,6 +30,7 @@ void Store(ICalItemByL1Operation &item, const QJsonObject &document)
 constexpr std::array kCalItems = {
     SCalItemRow{.id = ECalItem::PathLoss,
                 .name = "RX PathLoss",
+                .key = "rx-path-loss",
                 .page = EPageId::RxPathLoss,
                 .showsGains = true,
                 .make = &Make<CMultiRatPathLossV7>,
@@ -37,6 +38,7 @@ constexpr std::array kCalItems = {
                 .store = &Store<CMultiRatPathLossV7, StorePathLossDocument>},
     SCalItemRow{.id = ECalItem::Apt,
                 .name = "APT Profile",
+                .key = "apt",
                 .page = EPageId::AptProfile,
                 .showsGains = false,
                 .make = &Make<CMultiRatAptProfileV7>,
@@ -84,6 +86,11 @@ QStringList CalItemNames()
 std::optional<ECalItem> CalItemByName(const QString &name)
 {
     return Find([&](const SCalItemRow &row) { return name == QLatin1String(row.name); });
+}
+
+std::optional<ECalItem> CalItemByKey(const QString &key)
+{
+    return Find([&](const SCalItemRow &row) { return key == QLatin1String(row.key); });
 }
 
 std::optional<ECalItem> CalItemOfPage(EPageId page)

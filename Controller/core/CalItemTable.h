@@ -37,6 +37,7 @@ struct SCalItemRow
 {
     ECalItem id;
     const char *name;
+    const char *key;  // on command lines and in names of files
     EPageId page;     // that shows the item's records
     bool showsGains;  // the page shows values by the gains that the DUT supports
     // An item without a valid record.
@@ -53,5 +54,6 @@ QString CalItemName(ECalItem item);
 // All names, by id.
 QStringList CalItemNames();
 std::optional<ECalItem> CalItemByName(const QString &name);
+std::optional<ECalItem> CalItemByKey(const QString &key);
 // The item whose records a page shows, if it is such a page.
 std::optional<ECalItem> CalItemOfPage(EPageId page);
