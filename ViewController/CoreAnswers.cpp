@@ -18,6 +18,7 @@ CCoreAnswers::CCoreAnswers()
     using Cal = IRfCoreCalDataOperation;
     PassOn(&CNrCore::Signal_TestDone, &CCoreAnswers::Signal_TestDone);
     PassOn(&CNrCore::Signal_TestsRun, &CCoreAnswers::Signal_TestsRun);
+    PassOn(&CNrCore::Signal_NewestTest, &CCoreAnswers::Signal_NewestTest);
     PassOn(&Cal::Signal_UploadFromFlashDone, &CCoreAnswers::Signal_UploadFromFlashDone);
     PassOn(&Cal::Signal_DownloadToFlashDone, &CCoreAnswers::Signal_DownloadToFlashDone);
     PassOn(&Cal::Signal_SaveToFileDone, &CCoreAnswers::Signal_SaveToFileDone);

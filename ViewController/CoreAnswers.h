@@ -25,6 +25,7 @@
 
 #include "Model/CalRemarks.h"
 #include "Model/OperationResult.h"
+#include "Model/RunningTest.h"
 
 class CNrCore;
 
@@ -44,6 +45,7 @@ public:
 signals:
     void Signal_TestDone(SEachItemOperationResult itemResult, std::string resultModel);
     void Signal_TestsRun(bool isAny);
+    void Signal_NewestTest(SRunningTestInfo newest);
     void Signal_UploadFromFlashDone(bool isAllSuccess,
                                     QVector<SEachItemOperationResult> itemResult);
     void Signal_DownloadToFlashDone(bool isAllSuccess,

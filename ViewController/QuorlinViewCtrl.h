@@ -40,6 +40,7 @@
 #include "Model/CalRemarks.h"
 #include "Model/HandedDocument.h"
 #include "Model/OperationResult.h"
+#include "Model/RunningTest.h"
 #include "Support/JobQueue.h"
 
 class CCoreAnswers;
@@ -162,7 +163,8 @@ public:
     // Has no answer; goes on when this object is gone.
     void StopRunningTests();
     bool HasRunningTests() const;
-    // Emits Signal_TestsRun at once for the present state, and from now on for each change.
+    // Emits Signal_TestsRun and Signal_NewestTest at once for the present state, and from now on for
+    // each change.
     void WatchTests();
 
     // Calibration data. Upload and load answer with the document of the selected record; download
@@ -265,6 +267,8 @@ signals:
     void Signal_RfOffDone(SEachItemOperationResult result);
     // isAny: a test runs, or may run after a start that failed at the target.
     void Signal_TestsRun(bool isAny);
+    // Of the tests that run, the one started last; an empty text when none does.
+    void Signal_NewestTest(SRunningTestInfo newest);
 
     void Signal_AptUploadFromFlashDone(SEachItemOperationResult result,
                                        std::string resultDataModel);

@@ -32,5 +32,8 @@ void CQuorlinViewCtrl::WatchTests()
 {
     connect(&CCoreAnswers::Get(), &CCoreAnswers::Signal_TestsRun, this,
             &CQuorlinViewCtrl::Signal_TestsRun, Qt::UniqueConnection);
+    connect(&CCoreAnswers::Get(), &CCoreAnswers::Signal_NewestTest, this,
+            &CQuorlinViewCtrl::Signal_NewestTest, Qt::UniqueConnection);
+    emit Signal_NewestTest(GetCore().NewestTest());
     emit Signal_TestsRun(GetCore().HasRunningTests());
 }

@@ -112,6 +112,7 @@ public:
     void StopRunningTests();
     // A test runs, or may run after a start that failed at the target.
     bool HasRunningTests() const { return m_runningTests.IsAny(); }
+    SRunningTestInfo NewestTest() const { return m_runningTests.Newest(); }
 
     // Reads beside a test: a document in, the document with what was read out, both as objects or
     // both as text. Pool threads only; each blocks on the link. On another generation the document
@@ -174,6 +175,8 @@ signals:
     void Signal_CalDocument(QString item, std::string document);
     // isAny: true when the first test starts, false when the last one has ended.
     void Signal_TestsRun(bool isAny);
+    // Of the tests that run, the one started last; an empty text when none does.
+    void Signal_NewestTest(SRunningTestInfo newest);
 
 protected:
     friend CNrCore &GetCore();
@@ -247,7 +250,9 @@ private:
     PortableCriticalSection m_viewLock;  // the innermost one
     std::array<SCalItem, kCalItemCount> m_calItems;
     CTargetCapability m_target;
-    CRunningTests m_runningTests{[this](bool isAny) { emit Signal_TestsRun(isAny); }};
+    CRunningTests m_runningTests{
+        [this](bool isAny) { emit Signal_TestsRun(isAny); },
+        [this](const SRunningTestInfo &newest) { emit Signal_NewestTest(newest); }};
     std::atomic<bool> m_areStopsDue{false};  // a job is to stop what runs
     std::atomic<bool> m_isDropDue{false};    // and then to drop the caches
     STestOperations m_operations;

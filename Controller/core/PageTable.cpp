@@ -13,6 +13,9 @@ using Builder = CNrCoreCmdBuilder;
 using Responses = CNrDataModelResponseBuilder;
 using Operations = STestOperations;
 
+constexpr STestSummary kTransmits = {
+    .frequency = "group1.ulFrequency", .power = "group1.txPowerValue", .transmits = true};
+
 constexpr std::array kPages = {
     SPageRow{.id = EPageId::Rssi,
              .name = "RSSI",
@@ -30,7 +33,8 @@ constexpr std::array kPages = {
              .driver = &Updater::UpdateContRxV7,
              .step = &RunCommand<&Builder::GetContRxCmdV7, &Operations::contRx,
                                  &CMultiRatContRxV7::RunContRx>,
-             .stop = EStop::MultiRat},
+             .stop = EStop::MultiRat,
+             .summary = {.frequency = "group1.dlFrequency"}},
     SPageRow{.id = EPageId::RouteCalculator, .name = "Route Calculator"},
     SPageRow{.id = EPageId::RxPathLoss,
              .name = "RX PathLoss",
@@ -47,6 +51,9 @@ constexpr std::array kPages = {
              .step =
                  &RunCommand<&Builder::GetRsrpForceCmdV7, &Operations::rsrp, &CNrRsrpV7::RunRsrp>,
              .stop = EStop::Nr,
+             .summary = {.frequency = "group1.dlFrequency",
+                         .power = "group3.txPowerValue",
+                         .transmitsBy = "group1.trxMode"},
              .showReport = &Responses::UpdateMixRxResultV7},
     SPageRow{.id = EPageId::RsrpNormal,
              .name = "RSRP Normal Mode",
@@ -57,6 +64,9 @@ constexpr std::array kPages = {
              .step =
                  &RunCommand<&Builder::GetRsrpNormalCmdV7, &Operations::rsrp, &CNrRsrpV7::RunRsrp>,
              .stop = EStop::Nr,
+             .summary = {.frequency = "group1.dlFrequency",
+                         .power = "group2.txPowerValue",
+                         .transmitsBy = "group1.trxMode"},
              .showReport = &Responses::UpdateMixRxNormalResultV7},
     SPageRow{.id = EPageId::SingleToneTx,
              .name = "Single Tone TX",
@@ -66,7 +76,8 @@ constexpr std::array kPages = {
              .driver = &Updater::UpdateSingleToneTxV7,
              .step = &RunCommand<&Builder::GetSingleToneTxCmdV7, &Operations::singleToneTx,
                                  &CMultiRatSingleToneTxV7::RunSingleTone>,
-             .stop = EStop::MultiRat},
+             .stop = EStop::MultiRat,
+             .summary = kTransmits},
     SPageRow{.id = EPageId::PuschTxForce,
              .name = "PUSCH TX Force Mode",
              .className = "CNrPuschTxForcedDockWidgetV7",
@@ -75,7 +86,8 @@ constexpr std::array kPages = {
              .driver = &Updater::UpdatePuschTxForceModeV7,
              .step = &RunCommand<&Builder::GetPuschTxForceCmdV7, &Operations::puschTx,
                                  &CNrPuschTxV7::RunPuschTx>,
-             .stop = EStop::Nr},
+             .stop = EStop::Nr,
+             .summary = kTransmits},
     SPageRow{.id = EPageId::PuschTxNormal,
              .name = "PUSCH TX Normal Mode",
              .className = "CNrPuschTxNormalDockWidgetV7",
@@ -84,7 +96,8 @@ constexpr std::array kPages = {
              .driver = &Updater::UpdatePuschTxNormalModeV7,
              .step = &RunCommand<&Builder::GetPuschTxNormalCmdV7, &Operations::puschTx,
                                  &CNrPuschTxV7::RunPuschTx>,
-             .stop = EStop::Nr},
+             .stop = EStop::Nr,
+             .summary = kTransmits},
     SPageRow{.id = EPageId::PrachTx, .name = "PRACH TX"},
     SPageRow{.id = EPageId::PucchTx, .name = "PUCCH TX"},
     SPageRow{.id = EPageId::SrsTx, .name = "SRS TX"},

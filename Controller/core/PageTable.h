@@ -15,6 +15,7 @@
 #include <QStringList>
 
 #include "Controller/core/PageId.h"
+#include "Controller/core/TestSummary.h"
 
 class CNrDataModelCapUpdater;
 class CNrDataModelResponseBuilder;
@@ -37,6 +38,7 @@ struct SPageRow
     int (*step)(STestOperations &operations, STestRun &run, QJsonObject &document) = nullptr;
     // Ends the test; a test without one measures and is over.
     std::optional<EStop> stop = std::nullopt;
+    STestSummary summary = {};  // of a running test
     // Shows a report that was fetched while the test runs.
     void (CNrDataModelResponseBuilder::*showReport)(QJsonObject &document,
                                                     const NRfTestResult_GetMixRxReportV7 &report,

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-CRunningTests::CRunningTests(std::function<void(bool)> onChange) : m_onChange(std::move(onChange))
+CRunningTests::CRunningTests(OnAny onAny, OnNewest onNewest)
+    : m_onAny(std::move(onAny)), m_onNewest(std::move(onNewest))
 {
 }
 
@@ -26,6 +27,7 @@ bool CRunningTests::IsCalledOff(uint64_t asked) const
 
 bool CRunningTests::Begin(const SRunningTest &test, uint64_t asked)
 {
+    bool isFirst = false;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         if (asked != m_callOffs)
@@ -36,10 +38,11 @@ bool CRunningTests::Begin(const SRunningTest &test, uint64_t asked)
                                      }),
                       m_tests.end());
         m_tests.push_back(test);
-        if (m_tests.size() > 1)
-            return true;
+        isFirst = m_tests.size() == 1;
     }
-    m_onChange(true);
+    if (isFirst)
+        m_onAny(true);
+    m_onNewest(test.info);
     return true;
 }
 
@@ -53,10 +56,16 @@ void CRunningTests::End(const STargetStop &stop)
         if (left == m_tests.end())
             return;
         m_tests.erase(left, m_tests.end());
-        if (!m_tests.empty())
-            return;
     }
-    m_onChange(false);
+    if (!IsAny())
+        m_onAny(false);
+    m_onNewest(Newest());
+}
+
+SRunningTestInfo CRunningTests::Newest() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_tests.empty() ? SRunningTestInfo() : m_tests.back().info;
 }
 
 bool CRunningTests::IsAny() const

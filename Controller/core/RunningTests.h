@@ -5,8 +5,8 @@
 // tests of its kind and handle. Calling off forbids all starts that are still on their way to go to
 // the target; the moment at which a start was asked for tells whether it is one of them.
 //
-// Any thread. onChange is called, on the thread that changed it, when the first test comes or the
-// last goes.
+// Any thread. onAny is called, on the thread that changed it, when the first test comes or the last
+// goes; onNewest each time that another test is the newest, with an empty text when the last is gone.
 //
 //   const uint64_t asked = tests.Moment();
 //   if (!tests.Begin({EPageId::ContRx, {EStop::MultiRat, handle}}, asked))
@@ -23,6 +23,7 @@
 #include <vector>
 
 #include "Controller/core/PageId.h"
+#include "Model/RunningTest.h"
 
 struct STargetStop
 {
@@ -39,12 +40,17 @@ struct SRunningTest
 {
     EPageId page;
     STargetStop stop;  // that ends it
+    SRunningTestInfo info = {};
 };
 
 class CRunningTests
 {
 public:
-    explicit CRunningTests(std::function<void(bool isAny)> onChange);
+    using OnAny = std::function<void(bool isAny)>;
+    using OnNewest = std::function<void(const SRunningTestInfo &newest)>;
+
+    explicit CRunningTests(
+        OnAny onAny, OnNewest onNewest = [](const SRunningTestInfo &) {});
 
     // The present moment, for a start that is asked for now.
     uint64_t Moment() const;
@@ -57,6 +63,7 @@ public:
     void End(const STargetStop &stop);
 
     bool IsAny() const;
+    SRunningTestInfo Newest() const;
     // Of the page's last test of that kind; without a page, of the last of any page.
     std::optional<uint32_t> HandleOf(EStop kind, std::optional<EPageId> page) const;
     // Each once, in the order of the starts.
@@ -64,7 +71,8 @@ public:
 
 private:
     mutable std::mutex m_mutex;
-    const std::function<void(bool)> m_onChange;
+    const OnAny m_onAny;
+    const OnNewest m_onNewest;
     std::vector<SRunningTest> m_tests;
     uint64_t m_callOffs = 0;
 };

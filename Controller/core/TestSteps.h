@@ -47,8 +47,9 @@ struct STestRun
     std::optional<EStop> stop;  // that ends it
     uint64_t asked;             // the moment of CRunningTests at which it was asked for
     CRunningTests &runningTests;
-    QString message = {};     // of the operation
-    std::string answer = {};  // the document with results, of the page that answers with one
+    SRunningTestInfo info = {};  // for the window, while the test runs
+    QString message = {};        // of the operation
+    std::string answer = {};     // the document with results, of the page that answers with one
 };
 
 template <auto Build>
@@ -66,7 +67,8 @@ int RunCommand(STestOperations &operations, STestRun &run, QJsonObject &document
 {
     const auto command = BuildCommand<Build>(operations, document);
     const CTargetHandleScope handle(TargetHandle());  // the host may set another one meanwhile
-    if (!run.runningTests.Begin({run.page, {run.stop.value(), TargetHandle()}}, run.asked))
+    if (!run.runningTests.Begin({run.page, {run.stop.value(), TargetHandle()}, run.info},
+                                run.asked))
         return eStatusTerminated;
     const uint32_t status = ((operations.*Operation).*Run)(&command);
     run.message = (operations.*Operation).GetErrorMessage();

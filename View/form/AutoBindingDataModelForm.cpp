@@ -365,13 +365,22 @@ void CAutoBindingDataModelForm::ShowContextMenu(const QPoint &pos)
 }
 
 // Of docked pages that share a tab bar, only the one on top is in sight.
+CAutoBindingDataModelDockWidget *CAutoBindingDataModelForm::PageOnTop() const
+{
+    CAutoBindingDataModelDockWidget *onTop = nullptr;
+    for (CAutoBindingDataModelDockWidget *page : Pages()) {
+        if (page->isFloating() && page->isActiveWindow())
+            return page;
+        if (!page->isFloating() && page->isEnabled() && !page->visibleRegion().isEmpty())
+            onTop = page;
+    }
+    return onTop;
+}
+
 void CAutoBindingDataModelForm::MarkPageOnTop()
 {
-    QString onTop;
-    for (const CAutoBindingDataModelDockWidget *page : Pages()) {
-        if (!page->isFloating() && page->isEnabled() && !page->visibleRegion().isEmpty())
-            onTop = page->windowTitle();
-    }
+    const CAutoBindingDataModelDockWidget *page = PageOnTop();
+    const QString onTop = page && !page->isFloating() ? page->windowTitle() : QString();
     for (QAction *action : m_pageMenu->actions()) {
         action->setCheckable(true);
         action->setChecked(action->text() == onTop);

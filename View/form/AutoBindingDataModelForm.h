@@ -75,6 +75,9 @@ protected:
     void InitPage(const QStringList &pageList);
     void RemovePages();
     QList<CAutoBindingDataModelDockWidget *> Pages() const;
+    // The page that the user works on: a floating one that is active, else the docked one in sight.
+    // Null when there is none.
+    CAutoBindingDataModelDockWidget *PageOnTop() const;
     // who: a page, or what else of the window works on the target. This window may be gone when it
     // returns.
     void SetBusy(const QObject *who, bool isBusy);

@@ -9,6 +9,9 @@
 #include "Support/TraceNote.h"
 #include "View/editors/FormFont.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
+#include "View/form/PageActions.h"
+#include "View/form/TestLamp.h"
+#include "View/form/ToolsButton.h"
 #include "ui_QuorlinForm.h"
 
 namespace {
@@ -32,7 +35,9 @@ CQuorlinForm::CQuorlinForm(PageTypeRegistrar registerPageTypes)
     delete takeCentralWidget();  // the window lives from dock widgets alone
     RegisterOperationResultTypes();
     registerPageTypes();
-    AddRfOff();
+    MakeRfOff();
+    FillStatusBar();
+    AddPageActions(this, [this] { return PageOnTop(); });
     connect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_Idle, this, [this] {
         if (--m_idleReports == 0)
             SetBusy(&m_viewCtrl, false);
@@ -47,7 +52,7 @@ CQuorlinForm::~CQuorlinForm()
         m_viewCtrl.StopRunningTests();
 }
 
-void CQuorlinForm::AddRfOff()
+void CQuorlinForm::MakeRfOff()
 {
     m_rfOff = new QPushButton(QStringLiteral("RF &Off"));
     m_rfOff->setObjectName(QStringLiteral("m_rfOff"));
@@ -56,8 +61,20 @@ void CQuorlinForm::AddRfOff()
     m_rfOff->setFont(FormFont(this));       // its style sheet keeps the form's away
     m_rfOff->setFixedHeight(m_rfOff->fontMetrics().height() + kButtonRim);
     Highlight(false);
-    statusBar()->addPermanentWidget(m_rfOff);
     connect(m_rfOff, &QPushButton::clicked, this, &CQuorlinForm::RfOff);
+}
+
+void CQuorlinForm::FillStatusBar()
+{
+    auto *const lamp = new CTestLamp(this);
+    auto *const tools = new CToolsButton([this] { return PageOnTop(); }, this);
+    tools->setFont(FormFont(this));
+    tools->setStyleSheet(QLatin1String(kButtonStyle));
+    tools->setFixedHeight(m_rfOff->height());
+    connect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_NewestTest, lamp, &CTestLamp::Show);
+    for (QWidget *part : {static_cast<QWidget *>(lamp), static_cast<QWidget *>(m_rfOff),
+                          static_cast<QWidget *>(tools)})
+        statusBar()->addPermanentWidget(part);
     NotePresses(statusBar(), windowTitle());
 }
 

@@ -3,7 +3,8 @@
 // Contract: CAutoBindingDataModelForm. The page classes are registered by whoever assembles the
 // plug-in and handed in as a function, so that this window knows none of them.
 //
-// RF Off, at the right end of the status bar, stops every test on the target, whichever page
+// At the right end of the status bar stand the running test, RF Off and Tools, the menu of all actions.
+// RF Off stops every test on the target, whichever page
 // started it and whatever is on its way. It is highlighted while a test runs or may run. Reset and
 // the window's own end stop what still runs without a word.
 //
@@ -55,7 +56,8 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    void AddRfOff();
+    void MakeRfOff();
+    void FillStatusBar();
     void FitScreen();
     void RfOff();
     void ShowRfOff(const SEachItemOperationResult &result);
