@@ -8,6 +8,7 @@
 #include <QWindow>
 
 #include "Support/Log.h"
+#include "Support/SessionLog.h"
 
 namespace {
 
@@ -17,13 +18,14 @@ struct SBoxKind
     QMessageBox::Icon icon;
     QMessageBox::StandardButton button;
     bool wrapped;  // the text is set in the tool's font
+    ESessionEvent event;
 };
 
 constexpr SBoxKind kBoxKinds[] = {
-    {1, QMessageBox::Information, QMessageBox::Ok, true},
-    {2, QMessageBox::Warning, QMessageBox::Close, true},
-    {3, QMessageBox::Warning, QMessageBox::Close, false},
-    {4, QMessageBox::Critical, QMessageBox::Close, true},
+    {1, QMessageBox::Information, QMessageBox::Ok, true, ESessionEvent::Information},
+    {2, QMessageBox::Warning, QMessageBox::Close, true, ESessionEvent::Warning},
+    {3, QMessageBox::Warning, QMessageBox::Close, false, ESessionEvent::Warning},
+    {4, QMessageBox::Critical, QMessageBox::Close, true, ESessionEvent::Critical},
 };
 constexpr const SBoxKind &kUnknownKind = kBoxKinds[2];
 
@@ -52,6 +54,7 @@ int CMessageBoxMan::Show(int type, const QString &title, const QString &text,
     if (m_isOpen)
         return ShowSecond(type, title, text, informative, detail, width);
 
+    Log(type, {title, text, informative, detail});
     Fill(type, title, text, informative, detail);
     SetLeastWidth(width);
     AttachToWindow();
@@ -64,6 +67,14 @@ int CMessageBoxMan::Show(int type, const QString &title, const QString &text,
     m_isOpen = false;
     emit Signal_InteractionResult(result);
     return result;
+}
+
+void CMessageBoxMan::Log(int type, QStringList texts) const
+{
+    texts.removeAll(QString());
+    texts.removeDuplicates();
+    CSessionLog::Get().Add(FindKind(type).event, m_owner ? m_owner->windowTitle() : QString(),
+                           texts.join(QLatin1Char('\n')));
 }
 
 // A dialog can't run twice at a time, and the text that the user is reading must stay.

@@ -70,7 +70,8 @@ View Model|Support|ViewController
 View/editors Support
 View/engine View/editors|Model|Support
 View/pages View/engine|View/editors|Model|Support|ViewController
-View/form View/engine|View/editors|Model|Support|ViewController
+View/log View/editors|Model|Support
+View/form View/log|View/engine|View/editors|Model|Support|ViewController
 View/Rx View/pages|View/engine|View/editors|Model|Support|ViewController
 View/Tx View/pages|View/engine|View/editors|Model|Support|ViewController
 PluginInterface View|Support

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QMetaType>
+#include <QScopedValueRollback>
 #include <QTabBar>
 
 #include "Support/Log.h"
@@ -265,7 +266,10 @@ CAutoBindingDataModelDockWidget *CAutoBindingDataModelForm::CreatePage(const QSt
 bool CAutoBindingDataModelForm::InitOnePage(CAutoBindingDataModelDockWidget *page)
 {
     connect(page, &CAutoBindingDataModelDockWidget::Signal_UpdateStatus, this,
-            [this](const QString &text) { RelayPageSignal([&] { Slot_UpdateStatusbar(text); }); });
+            [this, page](const QString &text) {
+                const QScopedValueRollback<QString> speaker(m_speaker, page->windowTitle());
+                RelayPageSignal([&] { Slot_UpdateStatusbar(text); });
+            });
     connect(page, &CAutoBindingDataModelDockWidget::Signal_InitDone, this,
             &CAutoBindingDataModelForm::Slot_InitDone);
     connect(page, &CAutoBindingDataModelDockWidget::Signal_PluginIsBusy, this,

@@ -88,6 +88,7 @@ protected:
     int m_currentInitPageCount = 0;
     QSet<const QObject *> m_busy;  // who is busy
     QPointer<QMenu> m_pageMenu;    // the "View" menu of pages
+    QString m_speaker;             // the page whose words go to the status bar; empty: the window
 
 private:
     CAutoBindingDataModelDockWidget *CreatePage(const QString &name, QStringList &failedPages);

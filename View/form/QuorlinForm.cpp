@@ -6,12 +6,15 @@
 #include "Model/OperationResult.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
+#include "Support/SessionLog.h"
 #include "Support/TraceNote.h"
 #include "View/editors/FormFont.h"
+#include "View/editors/NamedAction.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
 #include "View/form/PageActions.h"
 #include "View/form/TestLamp.h"
 #include "View/form/ToolsButton.h"
+#include "View/log/SessionLogWindow.h"
 #include "ui_QuorlinForm.h"
 
 namespace {
@@ -38,6 +41,7 @@ CQuorlinForm::CQuorlinForm(PageTypeRegistrar registerPageTypes)
     MakeRfOff();
     FillStatusBar();
     AddPageActions(this, [this] { return PageOnTop(); });
+    AddAction(this, "m_actionLog", "&Log...", {"Ctrl+L"}, [this] { ShowLog(); });
     connect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_Idle, this, [this] {
         if (--m_idleReports == 0)
             SetBusy(&m_viewCtrl, false);
@@ -76,6 +80,16 @@ void CQuorlinForm::FillStatusBar()
                           static_cast<QWidget *>(tools)})
         statusBar()->addPermanentWidget(part);
     NotePresses(statusBar(), windowTitle());
+}
+
+// Made when it is first asked for; it stays with what the user has typed into it.
+void CQuorlinForm::ShowLog()
+{
+    if (!m_log)
+        m_log = new CSessionLogWindow(this);
+    m_log->show();
+    m_log->raise();
+    m_log->activateWindow();
 }
 
 void CQuorlinForm::Highlight(bool isOn)
@@ -175,6 +189,8 @@ void CQuorlinForm::Slot_GetInitPageListDone(QStringList pageList)
 
 void CQuorlinForm::Slot_UpdateStatusbar(QString str)
 {
+    CSessionLog::Get().Add(ESessionEvent::Status, m_speaker.isEmpty() ? windowTitle() : m_speaker,
+                           str);
     statusBar()->showMessage(str, 0);
 }
 

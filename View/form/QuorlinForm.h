@@ -19,6 +19,7 @@
 #include "View/form/AutoBindingDataModelForm.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
+class CSessionLogWindow;
 class QPushButton;
 
 namespace Ui {
@@ -59,6 +60,7 @@ private:
     void MakeRfOff();
     void FillStatusBar();
     void FitScreen();
+    void ShowLog();
     void RfOff();
     void ShowRfOff(const SEachItemOperationResult &result);
     void Highlight(bool isOn);
@@ -67,7 +69,8 @@ private:
     CQuorlinViewCtrl m_viewCtrl;
     std::unique_ptr<Ui::CQuorlinForm> m_ui;
     QPushButton *m_rfOff = nullptr;
-    int m_rfOffs = 0;         // without an answer yet
-    int m_idleReports = 0;    // asked for and not there yet
-    bool m_wasShown = false;  // there may be a core, and tests
+    QPointer<CSessionLogWindow> m_log;  // null until it is asked for
+    int m_rfOffs = 0;                   // without an answer yet
+    int m_idleReports = 0;              // asked for and not there yet
+    bool m_wasShown = false;            // there may be a core, and tests
 };
