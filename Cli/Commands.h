@@ -12,11 +12,7 @@
 #include <CLI/App.hpp>
 #include <functional>
 
-// Exit codes of all commands that compare or check.
-constexpr int kExitGood = 0;       // the same, or good
-constexpr int kExitDifferent = 1;  // different
-constexpr int kExitTrouble =
-    2;  // a wrong command line, a file that cannot be read; one line on stderr
+#include "Cli/ExitCodes.h"
 
 // Runs a command, which returns its exit code. What it throws becomes one line on stderr and
 // kExitTrouble.
@@ -27,3 +23,4 @@ void AddDecodeCommand(CLI::App &app, int &exitCode);
 void AddRunCommand(CLI::App &app, int &exitCode);
 void AddDescribeCommand(CLI::App &app, int &exitCode);
 void AddServeCommand(CLI::App &app, int &exitCode);
+void AddCalCommand(CLI::App &app, int &exitCode);

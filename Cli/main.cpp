@@ -30,6 +30,7 @@ int RunCommandLine(int argc, char **argv)
     AddRunCommand(app, exitCode);
     AddDescribeCommand(app, exitCode);
     AddServeCommand(app, exitCode);
+    AddCalCommand(app, exitCode);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError &error) {

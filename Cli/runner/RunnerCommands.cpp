@@ -15,7 +15,7 @@ std::string CheckHandle(const std::string &text)
 
 }  // namespace
 
-void AddBenchOptions(CLI::App &command, SGivenBench &given)
+void AddDutOptions(CLI::App &command, SGivenDut &given)
 {
     auto *profile = command.add_option("--profile", given.profile,
                                        "the simulated DUT: a profile's name, or a file");
@@ -25,16 +25,27 @@ void AddBenchOptions(CLI::App &command, SGivenBench &given)
         command.add_option("--link", given.link, "a library that opens the link to the DUT");
     profile->excludes(handle)->excludes(link);
     handle->excludes(link);
+}
+
+void AddBenchOptions(CLI::App &command, SGivenBench &given)
+{
+    AddDutOptions(command, given);
     command.add_option("--plugin", given.plugin, "the plug-in, if not the one beside the program");
     command.add_flag("--verbose", given.isVerbose, "debug lines of the tool on stderr");
 }
 
-SBenchOptions BenchOptionsOf(const SGivenBench &given)
+SBenchOptions BenchOptionsOf(const SGivenDut &given)
 {
     SBenchOptions options;
-    options.pluginFile = QString::fromStdString(given.plugin);
     options.profile = QString::fromStdString(given.profile);
     options.linkFile = QString::fromStdString(given.link);
     options.handle = ReadHandle(QString::fromStdString(given.handle)).value_or(options.handle);
+    return options;
+}
+
+SBenchOptions BenchOptionsOf(const SGivenBench &given)
+{
+    SBenchOptions options = BenchOptionsOf(static_cast<const SGivenDut &>(given));
+    options.pluginFile = QString::fromStdString(given.plugin);
     return options;
 }

@@ -12,16 +12,25 @@
 
 #include "Runner/bench/Bench.h"
 
-struct SGivenBench
+// Which DUT.
+struct SGivenDut
 {
-    std::string plugin;
     std::string profile;
     std::string link;
     std::string handle;
+};
+
+struct SGivenBench : SGivenDut
+{
+    std::string plugin;
     bool isVerbose = false;
 };
 
-// --profile, --handle, --link (one of them at most), --plugin, --verbose.
+// --profile, --handle, --link (one of them at most).
+void AddDutOptions(CLI::App &command, SGivenDut &given);
+// The same, --plugin, --verbose.
 void AddBenchOptions(CLI::App &command, SGivenBench &given);
+
+SBenchOptions BenchOptionsOf(const SGivenDut &given);
 
 SBenchOptions BenchOptionsOf(const SGivenBench &given);

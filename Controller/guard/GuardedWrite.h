@@ -28,6 +28,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "Controller/guard/CalBackup.h"
 #include "Operations/calibration/CalBlockImage.h"
 #include "Operations/calibration/CalComparison.h"
 #include "Operations/calibration/CalItemByL1Operation.h"
@@ -94,6 +95,8 @@ public:
 
     // Takes the DUT's lock and reads flash.
     QString Begin();
+    // For a look alone: the same without the lock. Carry must not follow.
+    QString BeginLook();
     // What is to be in flash. A file is an INI file, loaded onto a copy of what flash holds, or a backup
     // (JSON). An image is what a page's memory holds. Records that neither has stay as they are.
     QString WantFile(const QString &file, const SGuardOptions &options);
@@ -117,13 +120,21 @@ public:
     // Sends, reads back, compares. Once, behind a good WantFile or WantImage.
     SGuardedOutcome Carry();
 
-    // Flash as Begin has read it.
+    // Flash as Begin has read it, and what it could not read, a sentence each.
     const SCalBlockImage &Flash() const { return m_flash; }
+    QStringList Unread() const;
+    // The same as a file of a name that the user has chosen: JSON replaces what is there, an INI file
+    // keeps its other sections.
+    QString SaveJson(const QString &file);
+    QString SaveIni(const QString &file);
 
 private:
-    QString Read(EGuardStep step, SCalBlockImage &flash, QStringList *leftOut);
     void Follow(EGuardStep step);
+    QString ReadFlash(EGuardStep step, SCalBlockImage &flash);
     QString Want(SCalBlockImage wanted, const SGuardOptions &options);
+    void MakeNotes();
+    QString MakeBackup(SCalBackup &backup);
+    SCalBlockImage WantedWithBystanders(const SCalBlockImage &after) const;
 
     SGuardedItem m_item;
     Progress m_progress;
@@ -131,7 +142,7 @@ private:
     SCalBlockImage m_flash;
     SCalBlockImage m_wanted;  // the records that are to be sent
     std::unique_ptr<CCalComparison> m_changes;
-    QStringList m_unread;  // records that Begin could not read, with the reason
+    QVector<SCalUnread> m_unread;  // by Begin
     QStringList m_notes;
     QString m_backupFile;
 };

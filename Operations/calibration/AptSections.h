@@ -17,6 +17,7 @@ public:
 
     ECalRoute Kind() const override { return ECalRoute::Tx; }
     const char *Name() const override { return ""; }
+    const char *RouteKey() const override { return "Route"; }
     std::vector<std::string> SectionsOf(ERadioKind kind, const SCalPlace &place) const override;
     bool IsValid(const SCalPlace &place) const override { return m_store.IsValid(place); }
     SCalFault Begin(const CTargetCapability &, ERadioKind, ECalAccess) override { return {}; }

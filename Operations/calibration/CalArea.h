@@ -9,6 +9,7 @@
 //           ... area.Put(request, at, place, area.BlocksToWrite(place));
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "Operations/calibration/CalRemarks.h"
@@ -56,6 +57,9 @@ public:
     // Writes a record's entry and blocks to a place that has room for them.
     virtual void Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at,
                      const SCalPlace &place, int blocks) const = 0;
+    // The same with whole blocks, as flash has them; none empties the record there.
+    virtual void PutBlocks(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at,
+                           const SCalPlace &place, const std::vector<uint8_t> &blocks) const = 0;
 
     // Upload. Forgets what was asked for; records stay as they are until they come in.
     virtual void BeginUpload() = 0;
@@ -68,4 +72,10 @@ public:
     // valid, with its last block; one that lacks a block stays as it was and is a remark. What was
     // not asked for is logged and left out.
     virtual void Take(const SMMGetCalDataCnfV7 &answer, std::vector<SCalLeftOut> &leftOut) = 0;
+    // From now on the blocks of each upload are kept as they come.
+    virtual void KeepBlocks() = 0;
+    // Tells that flash has no block of a record.
+    virtual void TakeNone(const SCalPlace &place) = 0;
+    // The blocks of the last upload, one after another; nothing where it has not read the record.
+    virtual std::optional<std::vector<uint8_t>> KeptBlocks(const SCalPlace &place) const = 0;
 };

@@ -29,7 +29,9 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <map>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "Operations/calibration/CalArea.h"
@@ -69,6 +71,8 @@ public:
     int BlocksToWrite(const SCalPlace &place) const override;
     void Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at, const SCalPlace &place,
              int blocks) const override;
+    void PutBlocks(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at,
+                   const SCalPlace &place, const std::vector<uint8_t> &blocks) const override;
     void BeginUpload() override;
     SFlashBlocks BlocksInFlash(const SMMCalBlkInfoCnfV7 &info,
                                const SCalPlace &place) const override
@@ -77,6 +81,20 @@ public:
     }
     void Ask(SMMGetCalDataReqV7 &request, int entry, const SCalPlace &place, int blocks) override;
     void Take(const SMMGetCalDataCnfV7 &answer, std::vector<SCalLeftOut> &leftOut) override;
+    void KeepBlocks() override { m_isKeeping = true; }
+    void TakeNone(const SCalPlace &place) override
+    {
+        if (m_isKeeping)
+            m_kept.insert_or_assign(NameOf(place), std::vector<uint8_t>());
+    }
+    std::optional<std::vector<uint8_t>> KeptBlocks(const SCalPlace &place) const override
+    {
+        const auto found = m_kept.find(NameOf(place));
+        return found == m_kept.end() ? std::nullopt : std::optional(found->second);
+    }
+
+    // The blocks of a record that go into a round.
+    static int BlocksOf(const Record &record);
 
 private:
     static constexpr bool kHasOrders = TKind::kEntryOrders.size() > 1;
@@ -89,7 +107,13 @@ private:
         int blocks = 0;
         int read = 0;                      // the index of its next block
         std::unique_ptr<Record> incoming;  // what has come of it
+        std::vector<uint8_t> kept;         // the same as blocks
     };
+
+    static std::pair<uint16_t, int> NameOf(const SCalPlace &place)
+    {
+        return {place.route, place.region};
+    }
 
     SAsked *FindAsked(const SCalEntry &entry);
     SAsked *AskedOf(const SCalEntry &entry);
@@ -103,6 +127,8 @@ private:
     std::vector<SAsked> m_asked;
     int m_order = kNoOrder;  // of the entry before
     std::array<bool, TKind::kEntryOrders.size()> m_isLogged{};
+    bool m_isKeeping = false;
+    std::map<std::pair<uint16_t, int>, std::vector<uint8_t>> m_kept;
 };
 
 template <typename TKind>
@@ -121,7 +147,12 @@ bool CCalAreaOf<TKind>::TakeBytes(const SCalPlace &place, const std::vector<uint
 template <typename TKind>
 int CCalAreaOf<TKind>::BlocksToWrite(const SCalPlace &place) const
 {
-    const Record &record = *m_store.Find(place.route, place.region);
+    return BlocksOf(*m_store.Find(place.route, place.region));
+}
+
+template <typename TKind>
+int CCalAreaOf<TKind>::BlocksOf(const Record &record)
+{
     int blocks = static_cast<int>(std::min<uint32_t>(record.blockCount, kVondCalMaxBlocks));
     if (blocks <= TKind::kBlocksOfRound)
         return blocks;
@@ -152,8 +183,20 @@ void CCalAreaOf<TKind>::Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlac
 }
 
 template <typename TKind>
+void CCalAreaOf<TKind>::PutBlocks(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at,
+                                  const SCalPlace &place, const std::vector<uint8_t> &blocks) const
+{
+    using Block = typename TKind::Block;
+    const int count = static_cast<int>(blocks.size() / sizeof(Block));
+    TKind::List(request, at.entry, {place.route, place.bwKhz, count});
+    std::copy(blocks.begin(), blocks.end(),
+              reinterpret_cast<uint8_t *>(TKind::Blocks(request) + at.block));
+}
+
+template <typename TKind>
 void CCalAreaOf<TKind>::BeginUpload()
 {
+    m_kept.clear();
     m_asked.clear();
     m_order = kNoOrder;
     m_isLogged = {};
@@ -164,7 +207,7 @@ void CCalAreaOf<TKind>::Ask(SMMGetCalDataReqV7 &request, int entry, const SCalPl
                             int blocks)
 {
     TKind::Ask(request, entry, {place.route, place.bwKhz, blocks});
-    m_asked.push_back({place, blocks, 0, nullptr});
+    m_asked.push_back({place, blocks, 0, nullptr, {}});
 }
 
 template <typename TKind>
@@ -280,10 +323,16 @@ void CCalAreaOf<TKind>::TakeBlock(SAsked &asked, const typename TKind::Block &bl
         asked.incoming->route = asked.place.route;
     }
     TKind::Join(block, asked.read, *asked.incoming);
+    if (m_isKeeping) {
+        const auto *bytes = reinterpret_cast<const uint8_t *>(&block);
+        asked.kept.insert(asked.kept.end(), bytes, bytes + sizeof block);
+    }
     asked.incoming->blockCount = static_cast<uint32_t>(++asked.read);
     if (asked.read == asked.blocks) {
         m_store.At(asked.place) = *asked.incoming;
         m_store.SetValid(asked.place);
+        if (m_isKeeping)
+            m_kept.insert_or_assign(NameOf(asked.place), std::move(asked.kept));
         qCDebug(lcCalibration) << "UploadFromFlashInternal reset currblkIdx ";
     }
 }

@@ -91,7 +91,7 @@ uint32_t ICalItemByL1Operation::MoveFile(FileMove move, const std::vector<CCalIn
     BeginMove();
     if (std::find(files.begin(), files.end(), nullptr) != files.end())
         return Fail({kCalNoFile, QString::fromLatin1(m_words.noFile)});
-    const std::string chip = ChipName();
+    const std::string chip = ChipName().toStdString();
     const SMMRfRouteTableV7 *table = RouteTable();
     if (!table)
         return kCalGeneralError;
@@ -110,7 +110,8 @@ uint32_t ICalItemByL1Operation::MoveFile(FileMove move, const std::vector<CCalIn
         m_kind,
         chip,
         [&](int routesDone) { TellProgress(kNoRound, routesDone, routesInAll); },
-        watch};
+        watch,
+        m_remarks};
     const SCalFault fault = move(parts, context);
     if (fault)
         return Fail(fault);
@@ -131,12 +132,12 @@ const SMMRfRouteTableV7 *ICalItemByL1Operation::RouteTable()
     return table;
 }
 
-// As a file can hold it: without blanks at its ends.
-std::string ICalItemByL1Operation::ChipName() const
+// Without blanks at its ends.
+QString ICalItemByL1Operation::ChipName() const
 {
     const char *name = m_kind == ERadioKind::Lte ? VOND_ERf_GetChipIdName(m_target.GetRfChipIdLte())
                                                  : VOND_NRf_GetChipIdName(m_target.GetRfChipIdNr());
-    return QString::fromUtf8(name).trimmed().toStdString();
+    return QString::fromUtf8(name).trimmed();
 }
 
 uint32_t ICalItemByL1Operation::Fail(const SCalFault &fault)

@@ -34,9 +34,18 @@
 
 #include "Operations/GeneralOperation.h"
 #include "Operations/calibration/CalArea.h"
+#include "Operations/calibration/CalBlockImage.h"
 #include "Operations/calibration/CalImage.h"
 #include "Operations/calibration/CalSections.h"
 #include "Operations/calibration/CalValueWatch.h"
+
+// What became of a record of a download of chosen ones.
+enum class ECalSent
+{
+    NotSent,   // flash is as it was
+    Accepted,  // the target has answered that it took the round
+    Unknown    // it was in a round that failed
+};
 
 class ICalItemByL1Operation : public IGeneralOperation
 {
@@ -65,6 +74,19 @@ public:
     int TakeRecords(const SCalImage &image);
     // The same, and no other record is valid: memory is as it was when Image() gave this.
     int TakeImage(const SCalImage &image);
+
+    // From now on an upload keeps what it reads block for block.
+    void KeepBlocks();
+    // Of the last upload, in the order of the route table, with the records of which flash has no
+    // block. What the upload left out is left out.
+    SCalBlockImage Blocks() const;
+    // Writes these records alone, whatever memory has: packed in rounds as by DownloadToFlash, in the
+    // order of the route table. A record that the item has no place for, or with more blocks than one
+    // transfer holds, is not sent. sent: what became of each, by its index. The first round that
+    // fails is the last one. 2: none was sent.
+    uint32_t DownloadBlocks(const SCalBlockImage &image, std::vector<ECalSent> &sent);
+    QString ChipName() const;  // as a file has it
+
     // Of the last move.
     const SCalMoveRemarks &Remarks() const { return m_remarks; }
     // True when a file has a section of this item, for any RF chip. Leaves no text. Throws as load
@@ -102,7 +124,6 @@ private:
 
     const SMMRfRouteTableV7 *FindRouteTable() const;
     const SMMRfRouteTableV7 *RouteTable();  // a missing one is told in the text
-    std::string ChipName() const;
     uint32_t Fail(const SCalFault &fault);
     void BeginMove();
     // Remarks on the records that a user has edited but that are not valid.

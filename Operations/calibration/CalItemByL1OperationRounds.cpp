@@ -128,7 +128,8 @@ uint32_t ICalItemByL1Operation::AskRecord(CCalRounds &rounds, int part, const SC
             return leaveOut(ECalLeftOut::NotListed, 0, 0);
         if (held.known == SFlashBlocks::eTotalAlone)
             return leaveOut(ECalLeftOut::TotalAlone, blocks, 0);
-        return kCalSuccess;  // there is nothing to read
+        area.TakeNone(place);
+        return kCalSuccess;
     }
     qCDebug(lcCalibration).noquote().nospace()
         << m_words.uploadRoute[part] << PlaceText(place, area.Kind()).c_str();

@@ -1,5 +1,5 @@
 // What a move of calibration data has to say beside its code: records that it left out, and values
-// of a file that are not as the file's author may think.
+// of a file that are not as the file's author may think, such as a route.
 //
 // The code of the move is the same with and without remarks; the words are the core's. Plain
 // values, any thread.
@@ -42,11 +42,33 @@ struct SCalOddValue
     bool isOnPage = true;
 };
 
+// A section that by its name is of one route, and by a value in it of another one. Its record is loaded
+// by the name.
+struct SCalOtherRoute
+{
+    ECalRoute kind = ECalRoute::Tx;
+    SCalPlace place = {};
+    std::string section = {};
+    std::string key = {};
+    std::string text = {};  // in the file
+};
+
+// A record that a load has taken from a file.
+struct SCalLoaded
+{
+    ECalRoute kind;
+    SCalPlace place;
+};
+
 struct SCalMoveRemarks
 {
     static constexpr int kOddValuesKept = 10;
 
     std::vector<SCalLeftOut> leftOut;  // in the order of the route tables
     int oddValueCount = 0;
+    int noNumberCount = 0;                // of these, that are no numbers
     std::vector<SCalOddValue> oddValues;  // the first ones
+    std::vector<SCalOtherRoute>
+        otherRoutes;                 // in the order of the route tables, then of the sections
+    std::vector<SCalLoaded> loaded;  // in the order of the route tables
 };

@@ -5,7 +5,9 @@
 #include <memory>
 #include <tuple>
 
+#include "Operations/calibration/CalCells.h"
 #include "Operations/calibration/CalKeys.h"
+#include "Operations/calibration/CalRemarks.h"
 #include "Support/CalIniFile.h"
 #include "Support/Log.h"
 #include "Support/WideText.h"
@@ -91,6 +93,27 @@ SCalFault Begin(const std::vector<SCalFilePart> &parts, const std::vector<SStop>
     return {};
 }
 
+// The section's name tells the route of its record. A value that says otherwise is told.
+void NoteOtherRoutes(const SStop &stop, SCalMoveRemarks &remarks)
+{
+    const CCalSections &kind = *stop.part->sections;
+    for (size_t i = 0; i < stop.sections.size(); ++i) {
+        const wchar_t *text = stop.inFile[i] ? stop.inFile[i]->Find(kind.RouteKey()) : nullptr;
+        if (!text)
+            continue;
+        std::string words = Utf8FromWide(text);
+        int64_t route = 0;
+        bool isNumber = true;
+        ParseCalValue(ECalValue::Number, words, route, &isNumber);
+        if (!isNumber || route != stop.place.route)
+            remarks.otherRoutes.push_back({.kind = kind.Kind(),
+                                           .place = stop.place,
+                                           .section = stop.sections[i],
+                                           .key = kind.RouteKey(),
+                                           .text = std::move(words)});
+    }
+}
+
 void LogStop(const char *verb, const SStop &stop)
 {
     qCDebug(lcCalibration).noquote().nospace()
@@ -129,6 +152,8 @@ SCalFault LoadCalSections(const std::vector<SCalFilePart> &parts, const SCalFile
         LogStop("Read ", stop);
         if (SCalFault fault = stop.part->sections->Read(stop.place, stop.inFile, context.watch))
             return fault;
+        context.remarks.loaded.push_back({stop.part->sections->Kind(), stop.place});
+        NoteOtherRoutes(stop, context.remarks);
         context.onDone(stop.routesDone);
     }
     return {};

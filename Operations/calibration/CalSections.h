@@ -31,6 +31,7 @@
 
 class CCalIniFile;
 class CCalValueWatch;
+struct SCalMoveRemarks;
 
 // The sections of a record as a file has them, in the order of their names; empty where it has
 // none.
@@ -48,7 +49,8 @@ public:
     virtual ~CCalSections() = default;
 
     virtual ECalRoute Kind() const = 0;
-    virtual const char *Name() const = 0;  // of the file in the log: "", "T1 ", "T2 "
+    virtual const char *Name() const = 0;      // of the file in the log: "", "T1 ", "T2 "
+    virtual const char *RouteKey() const = 0;  // whose value is the route number
 
     // The sections of a record, in the order of writing.
     virtual std::vector<std::string> SectionsOf(ERadioKind kind, const SCalPlace &place) const = 0;
@@ -80,6 +82,7 @@ struct SCalFileContext
     std::string chip;                            // name of the target's RF chip
     std::function<void(int routesDone)> onDone;  // told behind each record; never empty
     CCalValueWatch &watch;                       // of a load
+    SCalMoveRemarks &remarks;                    // of a load: what was loaded, and other routes
 };
 
 // True when a file has a section of a record, for any RF chip.

@@ -23,6 +23,7 @@ void CCalValueWatch::BeginRecord(ECalRoute kind, const SCalPlace &place, const v
     m_place = place;
     m_record = static_cast<const char *>(record);
     m_count = 0;
+    m_noNumberCount = 0;
     m_seen.clear();
 }
 
@@ -42,6 +43,7 @@ void CCalValueWatch::See(CCalCell cell, std::string_view text, ECalValue kind, i
     if (isNumber && IsShown(shown, value))
         return;
     ++m_count;
+    m_noNumberCount += isNumber ? 0 : 1;
     if (m_remarks.oddValues.size() + m_seen.size() >= SCalMoveRemarks::kOddValuesKept)
         return;
     m_seen.push_back({{*m_section, std::string(m_key), std::string(text), {}, {}, shown != nullptr},
@@ -82,6 +84,7 @@ bool CCalValueWatch::IsShown(const SCalShown *shown, int64_t value)
 void CCalValueWatch::EndRecord()
 {
     m_remarks.oddValueCount += m_count;
+    m_remarks.noNumberCount += m_noNumberCount;
     for (SSeen &seen : m_seen) {
         const int64_t value = seen.cell.Get();
         seen.value.memory = TextOf(seen.kind, value);
@@ -89,6 +92,7 @@ void CCalValueWatch::EndRecord()
         m_remarks.oddValues.push_back(std::move(seen.value));
     }
     m_count = 0;
+    m_noNumberCount = 0;
     m_seen.clear();
 }
 

@@ -79,5 +79,6 @@ private:
     const std::string *m_section = nullptr;
     std::string_view m_key;
     int m_count = 0;  // of the record
+    int m_noNumberCount = 0;
     std::vector<SSeen> m_seen;
 };

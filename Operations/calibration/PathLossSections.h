@@ -22,6 +22,7 @@ public:
 
     ECalRoute Kind() const override;
     const char *Name() const override;
+    const char *RouteKey() const override { return "Comp Route"; }
     std::vector<std::string> SectionsOf(ERadioKind kind, const SCalPlace &place) const override;
     bool IsValid(const SCalPlace &place) const override { return m_store.IsValid(place); }
     SCalFault Begin(const CTargetCapability &target, ERadioKind kind, ECalAccess access) override;
