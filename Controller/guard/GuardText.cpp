@@ -43,11 +43,13 @@ QString HowToGoOn(const SGuardedOutcome &outcome, const QString &backup)
 QString MoveText(uint32_t code, const QString &text)
 {
     const SStatusRow row = LookupStatus(static_cast<int>(code));
-    QStringList parts = {row.text.trimmed()};
     const QString own = text.trimmed().isEmpty() ? row.advice.trimmed() : text.trimmed();
-    if (!own.isEmpty())
-        parts.append(own);
-    return parts.join(QLatin1String(": "));
+    QString words = row.text.trimmed();
+    if (own.isEmpty())
+        return words;
+    while (words.endsWith(QLatin1Char('.')))
+        words.chop(1);
+    return words + QLatin1String(": ") + own;
 }
 
 QString OutcomeText(const SGuardedOutcome &outcome, const QStringList &differences,
