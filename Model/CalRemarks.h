@@ -2,8 +2,8 @@
 // to the page.
 //
 // A flow, good or bad, may have left records out, or found values in a file that are not as they
-// look. An empty list: nothing to tell. A value: copied
-// freely.
+// look, or sections that name another route than the one that they are loaded into. An empty list:
+// nothing to tell. A value: copied freely.
 //
 //   SCalRemarks remarks{eRemarkLeftOut, 1, {{"T2 route 101", "4 blocks in flash, ..."}}};
 #pragma once
@@ -29,6 +29,7 @@ struct SCalRemarks
     int kind = eRemarkLeftOut;  // ECalRemark
     int count = 0;              // of all remarks; rows may hold the first of them alone
     QVector<SCalRemark> rows{};
+    QVector<SCalRemark> otherRoutes{};  // sections of a file that name another route than theirs
 
-    bool IsEmpty() const { return rows.isEmpty(); }
+    bool IsEmpty() const { return rows.isEmpty() && otherRoutes.isEmpty(); }
 };

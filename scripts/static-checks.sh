@@ -80,11 +80,11 @@ Runner Host|PluginInterface
 Trace Vond
 Tap Trace|Vond
 Simulator Trace|Vond
-Controller/guard Controller/Interface|Model|Operations|Support
+Controller/guard Controller/Interface|Controller/calibration|Model|Operations|Support
 Cli Trace|Runner|Host|Vond|Controller|Operations|Model|Support
 Cli/trace Cli|Trace|Vond
 Cli/runner Cli|Runner|Host
-Cli/cal Cli|Controller|Operations|Model|Support
+Cli/cal Cli|Controller|Host|Operations|Model|Support
 END
     while read -r folder allowed; do
         look_at_includes "$folder" "${folder%%/*}/" "($folder/${allowed:+|$allowed})" || good=false
@@ -95,6 +95,7 @@ Controller/capability Controller/(Interface|fields)/
 Controller/commands Controller/(Interface|fields)/
 Controller/responses Controller/(Interface|fields)/
 Controller/calibration Controller/(Interface|fields)/
+Controller/guard Controller/(Interface|calibration)/
 Controller/core Controller/
 Trace/dictionary
 Trace/lines Trace/dictionary/

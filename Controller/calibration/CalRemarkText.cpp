@@ -1,16 +1,12 @@
 #include "Controller/calibration/CalRemarkText.h"
 
+#include "Operations/calibration/CalBlockImage.h"
+
 namespace {
 
-// "T2 route 101", "TX route 7 BW0": as the pages' selectors name them.
-QString RecordText(const SCalLeftOut &record)
+QString LeftOutName(const SCalLeftOut &record)
 {
-    QString text = QStringLiteral("%1 route %2")
-                       .arg(QLatin1String(RouteName(record.kind)))
-                       .arg(record.place.route);
-    if (HasRegions(record.kind))
-        text += QStringLiteral(" BW%1").arg(record.place.region);
-    return text;
+    return QString::fromStdString(CalRecordName(record.kind, record.place));
 }
 
 QString ReasonText(const SCalLeftOut &record)
@@ -43,7 +39,7 @@ SCalRemarks LeftOut(const SCalMoveRemarks &remarks)
     SCalRemarks told{isPassedOver ? eRemarkPassedOver : eRemarkLeftOut,
                      static_cast<int>(remarks.leftOut.size())};
     for (const SCalLeftOut &record : remarks.leftOut)
-        told.rows.append({RecordText(record), ReasonText(record)});
+        told.rows.append({LeftOutName(record), ReasonText(record)});
     return told;
 }
 
@@ -56,9 +52,15 @@ QString ValueText(const SCalOddValue &value)
         .arg(QString::fromStdString(value.text), QString::fromStdString(value.memory), page);
 }
 
-SCalRemarks OddValues(const SCalMoveRemarks &remarks)
+SCalRemarks FileRemarks(const SCalMoveRemarks &remarks)
 {
     SCalRemarks told{eRemarkOddValue, remarks.oddValueCount};
+    for (const SCalOtherRoute &other : remarks.otherRoutes)
+        told.otherRoutes.append(
+            {QStringLiteral("[%1]").arg(QString::fromStdString(other.section)),
+             QStringLiteral("loaded into %1, its %2 is %3")
+                 .arg(QString::fromStdString(CalRecordName(other.kind, other.place)),
+                      QString::fromStdString(other.key), QString::fromStdString(other.text))});
     for (const SCalOddValue &value : remarks.oddValues)
         told.rows.append({QStringLiteral("[%1] %2").arg(QString::fromStdString(value.section),
                                                         QString::fromStdString(value.key)),
@@ -74,5 +76,5 @@ SCalRemarks CalRemarksOf(const SCalMoveRemarks &remarks)
 {
     if (!remarks.leftOut.empty())
         return LeftOut(remarks);
-    return OddValues(remarks);
+    return FileRemarks(remarks);
 }

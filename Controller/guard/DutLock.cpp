@@ -8,10 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 namespace {
 
@@ -32,8 +30,8 @@ QString HolderOf(int file)
 void WriteHolder(int file)
 {
     const QByteArray line = QStringLiteral("%1 (process %2)\n")
-                                .arg(QFileInfo(QCoreApplication::applicationFilePath()).fileName())
-                                .arg(QCoreApplication::applicationPid())
+                                .arg(QString::fromLocal8Bit(program_invocation_short_name))
+                                .arg(::getpid())
                                 .toUtf8();
     // Only the words for the second writer hang on this.
     if (::ftruncate(file, 0) != 0 || ::pwrite(file, line.constData(), line.size(), 0) < 0)

@@ -42,19 +42,44 @@ QStringList Lines(const QVector<SCalRemark> &rows, bool isJoined)
     return lines;
 }
 
+SRemarkBox BoxOf(const QString &heading, const QVector<SCalRemark> &rows, bool isJoined)
+{
+    QStringList lines = {heading};
+    lines += Lines(rows.mid(0, kRowsOfText), isJoined);
+    SRemarkBox box;
+    if (rows.size() > kRowsOfText) {
+        lines.append(
+            QStringLiteral("... and %1 more, see the details.").arg(rows.size() - kRowsOfText));
+        box.detail = Lines(rows, isJoined).join(QLatin1Char('\n'));
+    }
+    box.text = lines.join(QLatin1Char('\n'));
+    return box;
+}
+
+QString OtherRoutesHeading(const QString &item, const SCalRemarks &remarks)
+{
+    return QStringLiteral("%1: %2 sections of the file name another route than the one that they "
+                          "were loaded into.")
+        .arg(item)
+        .arg(remarks.otherRoutes.size());
+}
+
 }  // namespace
 
 SRemarkBox RemarkBox(const QString &item, const SCalRemarks &remarks)
 {
-    const bool isJoined = remarks.kind != eRemarkOddValue;
-    QStringList lines = {Heading(item, remarks)};
-    lines += Lines(remarks.rows.mid(0, kRowsOfText), isJoined);
+    constexpr bool kOneALine = false;
     SRemarkBox box;
-    if (remarks.rows.size() > kRowsOfText) {
-        lines.append(QStringLiteral("... and %1 more, see the details.")
-                         .arg(remarks.rows.size() - kRowsOfText));
-        box.detail = Lines(remarks.rows, isJoined).join(QLatin1Char('\n'));
-    }
-    box.text = lines.join(QLatin1Char('\n'));
+    if (!remarks.otherRoutes.isEmpty())
+        box = BoxOf(OtherRoutesHeading(item, remarks), remarks.otherRoutes, kOneALine);
+    if (remarks.rows.isEmpty())
+        return box;
+    const SRemarkBox rows =
+        BoxOf(Heading(item, remarks), remarks.rows, remarks.kind != eRemarkOddValue);
+    const auto join = [](const QString &first, const QString &second, const char *gap) {
+        return first + (first.isEmpty() || second.isEmpty() ? "" : gap) + second;
+    };
+    box.text = join(box.text, rows.text, "\n\n");
+    box.detail = join(box.detail, rows.detail, "\n\n");
     return box;
 }

@@ -1,8 +1,8 @@
 // The box text of a calibration flow's remarks.
 //
-// Records with one reason stand together, in the order in which they came; values have a line each.
-// A long list of records goes into the box's details, and the text has its beginning. Pure
-// function.
+// Sections that name another route come first. Records with one reason stand together, in the order in
+// which they came; values have a line each. A long list goes into the box's details, and the text has
+// its beginning. Pure function.
 //
 //   const SRemarkBox box = RemarkBox("RX PathLoss", remarks);
 //   m_messageBox.Show(eBoxWarningAsIs, title, box.text, {}, box.detail, -1);

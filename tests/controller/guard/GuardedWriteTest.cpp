@@ -1,0 +1,221 @@
+// A guarded write from its begin to its outcome; flash is the witness.
+#include "Controller/guard/GuardedWrite.h"
+
+#include <algorithm>
+
+#include <unistd.h>
+
+#include "Operations/calibration/CalItemByL1Operation.h"
+#include "tests/controller/guard/GuardFixture.h"
+
+namespace {
+
+constexpr char kSet[] = "VOND_MMRf_SetCalDataV7_r";
+const QStringList kThree = {"TX route 1 BW0", "TX route 1 BW1", "TX route 2 BW0"};
+
+class CGuardedWriteTest : public CGuardTest
+{
+protected:
+    // A write of the edited file up to its sending.
+    std::unique_ptr<CGuardedWrite> Ready()
+    {
+        const QString file = EditedApt();
+        std::unique_ptr<CGuardedWrite> write = Begun(ECalItem::Apt);
+        EXPECT_EQ(write->WantFile(file, {}), QString());
+        EXPECT_EQ(write->SaveBackup(Path("backups")), QString());
+        VondSim_ClearJournal();
+        return write;
+    }
+};
+
+TEST_F(CGuardedWriteTest, OnlyRecordsThatDifferAreSentAndTheyAreVerified)
+{
+    const auto write = Ready();
+    EXPECT_EQ(write->ChangedRecords(), kThree);
+    EXPECT_EQ(write->Changes().Count(), 3u);
+    const SGuardedOutcome outcome = write->Carry();
+    EXPECT_EQ(outcome.end, EGuardedEnd::Verified);
+    EXPECT_EQ(outcome.written, kThree);
+    ASSERT_EQ(CountCalls(kSet), 1);
+    EXPECT_EQ(RequestNumber(JournalOf(kSet)[0], "txCount"), 3);
+    EXPECT_EQ(outcome.rest->Count(), 0u);
+}
+
+TEST_F(CGuardedWriteTest, AFileThatIsInFlashWritesNothing)
+{
+    const QString file = Edited(ECalItem::PathLoss, "Comp Route", "1", 1);
+    const auto write = Begun(ECalItem::PathLoss);
+    VondSim_ClearJournal();
+    EXPECT_EQ(write->WantFile(file, {}), QString());
+    EXPECT_TRUE(write->ChangedRecords().isEmpty());
+    EXPECT_EQ(write->Carry().end, EGuardedEnd::Same);
+    EXPECT_EQ(CountCalls(kSet), 0);
+}
+
+TEST_F(CGuardedWriteTest, ARestoreBringsEveryByteBack)
+{
+    for (const ECalItem item : {ECalItem::Apt, ECalItem::PathLoss}) {
+        const SCalBlockImage before = Flash(item);
+        SCalBlockImage other = before;  // with bytes that no INI file holds
+        for (SCalBlockRecord &record : other.records) {
+            for (std::size_t i = 4; i < record.blocks.size(); i += 97)
+                record.blocks[i] ^= uint8_t(i % CalBlockSize(record.kind) < 160 ? 0 : 0x15);
+        }
+        other.records[1].blocks.clear();
+        std::vector<ECalSent> sent;
+        ASSERT_EQ(FindCalItem(item).make()->DownloadBlocks(other, sent), 0u);
+        const SCalBlockImage odd = Flash(item);
+        ASSERT_FALSE(IsSame(odd, before));
+
+        auto keep = Begun(item);
+        ASSERT_EQ(keep->SaveBackup(Path("backups")), QString());
+        const QString backup = keep->BackupFile();
+        keep.reset();
+        ASSERT_EQ(FindCalItem(item).make()->DownloadBlocks(before, sent), 0u);
+        ASSERT_TRUE(IsSame(Flash(item), before));
+
+        auto restore = Begun(item);
+        ASSERT_EQ(restore->WantFile(backup, {.isRestore = true}), QString());
+        EXPECT_EQ(restore->Carry().end, EGuardedEnd::Verified);
+        EXPECT_TRUE(IsSame(Flash(item), odd));
+    }
+}
+
+TEST_F(CGuardedWriteTest, AStuckFieldIsNamed)
+{
+    const auto write = Ready();
+    VondSim_AddFault(R"({"kind": "stuck", "record": "apt", "route": 1, "bandwidth": 50000,
+                         "block": 1, "field": "couplerLoss[0]"})");
+    const SGuardedOutcome outcome = write->Carry();
+    EXPECT_EQ(outcome.end, EGuardedEnd::Different);
+    EXPECT_EQ(outcome.written, QStringList({kThree[0], kThree[2]}));
+    EXPECT_EQ(outcome.notWritten, QStringList({kThree[1]}));
+    ASSERT_EQ(outcome.rest->Count(), 1u);
+    EXPECT_EQ(outcome.rest->At(0).field, "couplerLoss[0]");
+    EXPECT_EQ(outcome.rest->At(0).left, "1.5 dB");
+    EXPECT_TRUE(outcome.text.contains("TX route 1 BW1 couplerLoss[0]: 1.5 dB wanted, "))
+        << outcome.text.toStdString();
+    EXPECT_TRUE(outcome.text.contains("quorlin cal restore '" + write->BackupFile() + "'"));
+}
+
+TEST_F(CGuardedWriteTest, ARefusedRoundHasWrittenNothing)
+{
+    const auto write = Ready();
+    const SCalBlockImage before = write->Flash();
+    Fault(kSet, 7);
+    const SGuardedOutcome outcome = write->Carry();
+    EXPECT_EQ(outcome.end, EGuardedEnd::NotWritten);
+    EXPECT_EQ(outcome.notWritten, kThree);
+    EXPECT_FALSE(outcome.trouble.isEmpty());
+    EXPECT_TRUE(IsSame(Flash(ECalItem::Apt), before));
+}
+
+TEST_F(CGuardedWriteTest, AnAnswerThatIsLostIsMadeUpForByTheReadBack)
+{
+    const auto write = Ready();
+    AnswerBytes(kSet, 0, "00");
+    const SGuardedOutcome outcome = write->Carry();
+    EXPECT_EQ(outcome.end, EGuardedEnd::Verified);
+    EXPECT_FALSE(outcome.trouble.isEmpty());
+}
+
+TEST_F(CGuardedWriteTest, WithoutAReadBackTheAnswersCount)
+{
+    const auto write = Ready();
+    Fault("VOND_MMRf_GetCalDataV7_r");
+    SGuardedOutcome outcome = write->Carry();
+    EXPECT_EQ(outcome.end, EGuardedEnd::Unknown);
+    EXPECT_EQ(outcome.written, kThree);
+    EXPECT_FALSE(outcome.isReadBack);
+    EXPECT_TRUE(outcome.text.contains("Accepted by the DUT: TX route 1 BW0"));
+}
+
+TEST_F(CGuardedWriteTest, WhatTheCutRoundHadIsUnknown)
+{
+    const auto write = Ready();
+    VondSim_AddFault(R"({"kind": "powerCut", "block": 2, "torn": true})");
+    const SGuardedOutcome outcome = write->Carry();
+    EXPECT_EQ(outcome.end, EGuardedEnd::Unknown);
+    EXPECT_EQ(outcome.unknown, kThree);
+    EXPECT_TRUE(outcome.written.isEmpty());
+}
+
+// The joined record of a torn one may look as wanted, while its first block is not.
+TEST_F(CGuardedWriteTest, AfterACutBothWaysLeadOut)
+{
+    const SCalBlockImage old = Flash(ECalItem::Apt);
+    for (const bool isRestore : {true, false}) {
+        auto write = Ready();
+        const QString backup = write->BackupFile();
+        VondSim_AddFault(R"({"kind": "powerCut", "block": 2, "torn": true})");
+        EXPECT_EQ(write->Carry().end, EGuardedEnd::Unknown);
+        write.reset();
+        VondSim_SetPlugged(1);
+        auto further = Begun(ECalItem::Apt);
+        ASSERT_EQ(
+            further->WantFile(isRestore ? backup : Path("edited.ini"), {.isRestore = isRestore}),
+            QString());
+        EXPECT_EQ(further->Carry().end, EGuardedEnd::Verified);
+        EXPECT_EQ(IsSame(Flash(ECalItem::Apt), old), isRestore);
+    }
+}
+
+TEST_F(CGuardedWriteTest, BlocksThatRepeatAValueDifferentlyAreMendedAndTold)
+{
+    SCalBlockImage flash = Flash(ECalItem::Apt);
+    const auto torn =
+        std::find_if(flash.records.begin(), flash.records.end(), [](const SCalBlockRecord &record) {
+            return record.blocks.size() > CalBlockSize(record.kind);
+        });
+    ASSERT_NE(torn, flash.records.end());
+    torn->blocks[2] ^= 1;  // the temperature index of the first block alone
+    std::vector<ECalSent> sent;
+    ASSERT_EQ(FindCalItem(ECalItem::Apt).make()->DownloadBlocks({{*torn}}, sent), 0u);
+
+    const QString file = Edited(ECalItem::Apt, "Route", "1", 1);
+    const auto write = Begun(ECalItem::Apt);
+    ASSERT_EQ(write->WantFile(file, {}), QString());
+    EXPECT_EQ(write->Changes().Count(), 0u);
+    ASSERT_EQ(write->ChangedRecords().size(), 1);
+    EXPECT_EQ(write->Notes().size(), 1);
+    EXPECT_EQ(write->Carry().end, EGuardedEnd::Verified);
+}
+
+TEST_F(CGuardedWriteTest, MemoryOfAPageIsWrittenLikeAFile)
+{
+    auto item = FindCalItem(ECalItem::Apt).make();
+    ASSERT_EQ(item->UploadFromFlash(), 0u);
+    SCalImage image = item->Image();
+    image.records[0].bytes[4] ^= 1;
+    const auto write = Begun(ECalItem::Apt);
+    ASSERT_EQ(write->WantImage(image, {}), QString());
+    EXPECT_EQ(write->ChangedRecords(), QStringList({kThree[0]}));
+    EXPECT_EQ(write->Carry().end, EGuardedEnd::Verified);
+}
+
+TEST_F(CGuardedWriteTest, TheSecondWriterIsToldWhoHoldsTheDut)
+{
+    auto first = Begun(ECalItem::Apt);
+    const QString why = Write(ECalItem::PathLoss)->Begin();
+    EXPECT_TRUE(why.contains(QString::number(getpid()))) << why.toStdString();
+    EXPECT_EQ(Write(ECalItem::PathLoss)->BeginLook(), QString());
+    first.reset();
+    EXPECT_EQ(Write(ECalItem::PathLoss)->Begin(), QString());
+}
+
+TEST_F(CGuardedWriteTest, ProgressTellsEachStep)
+{
+    QString steps;
+    const QString file = EditedApt();
+    auto write = Write(ECalItem::Apt, [&steps](EGuardStep step, int, int) {
+        const QString name = QString::number(static_cast<int>(step));
+        if (!steps.endsWith(name))
+            steps += name;
+    });
+    ASSERT_EQ(write->Begin(), QString());
+    ASSERT_EQ(write->WantFile(file, {}), QString());
+    EXPECT_EQ(write->Carry().end, EGuardedEnd::Verified);
+    EXPECT_EQ(steps, "012");
+}
+
+}  // namespace
