@@ -36,5 +36,6 @@ double ToDbStep(const QDoubleSpinBox *box, double value)
     // Limits that have no step between them are no limits of such a value.
     if (least > most)
         return value;
-    return std::clamp(std::round(value * kStepsPerDb), least, most) / kStepsPerDb;
+    // 0 without a sign, which would be shown.
+    return std::clamp(std::round(value * kStepsPerDb), least, most) / kStepsPerDb + 0.0;
 }

@@ -37,6 +37,10 @@ public:
     void Finish();
     // The editor whose text the user is changing; null when there is none.
     QWidget *Editor() const { return m_editor; }
+    // The user has typed in this editor, and the edit is under way.
+    bool IsTyping(const QWidget *editor) const { return m_editor == editor && m_isTyped; }
+    // An edit begins with a step that comes from elsewhere than a key or the mouse.
+    void BeginStep(QWidget *editor) { Begin(editor, false); }
     // True once after an edit of this editor has ended with a finished number.
     bool TakeEnded(const QObject *editor);
 

@@ -2,8 +2,10 @@
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 
 #include "View/editors/LateEditors.h"
 #include "View/editors/ScrollIntoView.h"
@@ -16,13 +18,23 @@ bool CanHaveFocus(const QWidget *cell)
     return cell && cell->isEnabled() && !cell->isHidden() && (cell->focusPolicy() & Qt::TabFocus);
 }
 
-// Where a key leaves the text; an editor without one has no inside.
-bool IsAtEnd(const QWidget *cell, bool isLeft)
+QLineEdit *TextOf(QWidget *cell)
 {
-    const auto *text = qobject_cast<const QLineEdit *>(cell);
-    if (!text)
-        text = cell->findChild<const QLineEdit *>();
-    if (!text || text->selectedText() == text->text())
+    auto *text = qobject_cast<QLineEdit *>(cell);
+    return text ? text : cell->findChild<QLineEdit *>();
+}
+
+bool IsAllSelected(QWidget *cell)
+{
+    const QLineEdit *text = TextOf(cell);
+    return !text || text->selectedText() == text->text();
+}
+
+// Where a key leaves the text; an editor without one has no inside.
+bool IsAtEnd(QWidget *cell, bool isLeft)
+{
+    const QLineEdit *text = TextOf(cell);
+    if (IsAllSelected(cell))
         return true;
     return !text->hasSelectedText() &&
            text->cursorPosition() == (isLeft ? 0 : text->text().length());
@@ -38,6 +50,48 @@ void Step(QWidget *cell, bool isUp)
         list->setCurrentIndex(qBound(0, list->currentIndex() + (isUp ? -1 : 1), list->count() - 1));
 }
 
+struct SStep
+{
+    int rows = 0;
+    int columns = 0;
+};
+
+// Of an arrow key; none of another one.
+SStep StepOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Up:
+        return {.rows = -1};
+    case Qt::Key_Down:
+        return {.rows = 1};
+    case Qt::Key_Left:
+        return {.columns = -1};
+    case Qt::Key_Right:
+        return {.columns = 1};
+    default:
+        return {};
+    }
+}
+
+Qt::KeyboardModifiers ModifiersOf(const QKeyEvent *event)
+{
+    return event->modifiers() & ~Qt::KeypadModifier;
+}
+
+bool Moves(int key)
+{
+    return StepOf(key).rows != 0 || StepOf(key).columns != 0 || key == Qt::Key_Return ||
+           key == Qt::Key_Enter;
+}
+
+bool Types(const QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Backspace)
+        return true;
+    return !(ModifiersOf(event) & ~Qt::ShiftModifier) && !event->text().isEmpty() &&
+           event->text().front().isPrint();
+}
+
 bool IsTabReason(Qt::FocusReason reason)
 {
     return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
@@ -46,11 +100,13 @@ bool IsTabReason(Qt::FocusReason reason)
 
 }  // namespace
 
-CTableKeys::CTableKeys(QTableWidget *table) : QObject(table), m_table(table)
+CTableKeys::CTableKeys(QTableWidget *table)
+    : QObject(table), m_table(table), m_mark(new CTableMark(table))
 {
     // Or Tab goes from cell to cell, through all of them.
     table->setTabKeyNavigation(false);
     table->installEventFilter(this);
+    table->viewport()->installEventFilter(this);
 }
 
 CTableKeys *CTableKeys::Of(const QWidget *table)
@@ -64,6 +120,15 @@ void CTableKeys::Take(QWidget *cell)
         return;
     m_wheel.Guard(cell);
     cell->installEventFilter(this);
+    // The mouse presses the text, not the box around it.
+    if (QLineEdit *text = cell->findChild<QLineEdit *>())
+        text->installEventFilter(this);
+}
+
+void CTableKeys::FinishEdit()
+{
+    if (m_edits)
+        m_edits->Finish();
 }
 
 QWidget *CTableKeys::Entry() const
@@ -85,53 +150,187 @@ bool CTableKeys::eventFilter(QObject *object, QEvent *event)
     auto *widget = qobject_cast<QWidget *>(object);
     if (!widget)
         return false;
-    if (event->type() == QEvent::KeyPress && widget != m_table)
-        return PressKey(widget, static_cast<QKeyEvent *>(event));
-    if (event->type() != QEvent::FocusIn)
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        return IsKeyed(widget) && OverrideShortcut(widget, static_cast<QKeyEvent *>(event));
+    case QEvent::KeyPress:
+        return IsKeyed(widget) && PressKey(widget, static_cast<QKeyEvent *>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        m_isMarking = PressMouse(widget, static_cast<QMouseEvent *>(event));
+        return m_isMarking;
+    case QEvent::MouseMove:
+        return m_isMarking && MoveMouse(widget, static_cast<QMouseEvent *>(event));
+    case QEvent::FocusIn:
+        if (IsKeyed(widget))
+            TakeFocus(widget, static_cast<QFocusEvent *>(event)->reason());
         return false;
-    if (widget != m_table) {
-        m_last = widget;
-        ScrollIntoView(widget, m_table);
-    } else if (IsTabReason(static_cast<QFocusEvent *>(event)->reason())) {
-        if (QWidget *cell = Entry())
+    default:
+        return false;
+    }
+}
+
+// A cell or the table: the text inside a cell gets its keys from the cell.
+bool CTableKeys::IsKeyed(const QWidget *widget) const
+{
+    return widget == m_table || widget->parentWidget() == m_table->viewport();
+}
+
+void CTableKeys::TakeFocus(QWidget *widget, Qt::FocusReason reason)
+{
+    if (widget == m_table) {
+        QWidget *cell = IsTabReason(reason) ? Entry() : nullptr;
+        if (cell)
             Focus(cell);
+        return;
+    }
+    // A click that marks leaves the mark where it began.
+    const bool isMarking = reason == Qt::MouseFocusReason &&
+                           (QGuiApplication::keyboardModifiers() & Qt::ShiftModifier);
+    // A menu that closes gives it back; its entry may be for another cell.
+    if (isMarking || reason == Qt::PopupFocusReason)
+        return;
+    m_last = widget;
+    m_mark->SetCurrent(At(widget));
+    ScrollIntoView(widget, m_table);
+}
+
+QModelIndex CTableKeys::Under(const QWidget *widget, const QMouseEvent *event) const
+{
+    const QWidget *viewport = m_table->viewport();
+    return m_table->indexAt(widget == viewport ? event->pos()
+                                               : widget->mapTo(viewport, event->pos()));
+}
+
+// A result that is no editor any more is marked by a plain click, too.
+bool CTableKeys::PressMouse(QWidget *widget, const QMouseEvent *event)
+{
+    const QModelIndex at = Under(widget, event);
+    const bool isLeft = event->button() == Qt::LeftButton;
+    const bool isExtended = isLeft && at.isValid() && (event->modifiers() & Qt::ShiftModifier);
+    const bool isResult = isLeft && widget == m_table->viewport() &&
+                          m_table->item(at.row(), at.column()) &&
+                          !m_table->cellWidget(at.row(), at.column());
+    if (isExtended)
+        FinishEdit();
+    else if (isLeft || !m_mark->Has(at))
+        m_mark->Clear();
+    m_mark->SetCurrent(isExtended && m_last ? At(m_last) : at);
+    if (!isExtended && !isResult)
+        return false;
+    m_mark->ExtendTo(at);
+    if (!isResult && CanHaveFocus(m_last))
+        m_last->setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
+bool CTableKeys::MoveMouse(QWidget *widget, const QMouseEvent *event)
+{
+    if (event->buttons() & Qt::LeftButton)
+        m_mark->ExtendTo(Under(widget, event));
+    return true;
+}
+
+bool CTableKeys::TakesKey(QWidget *widget, const QKeyEvent *event)
+{
+    if (widget != m_table)
+        m_mark->SetCurrent(At(widget));
+    return m_commands && m_commands->TakesKey(event);
+}
+
+// Or a shortcut of the window would have the key.
+bool CTableKeys::OverrideShortcut(QWidget *widget, QKeyEvent *event)
+{
+    if (!TakesKey(widget, event))
+        return false;
+    event->accept();
+    return true;
+}
+
+bool CTableKeys::PressKey(QWidget *widget, const QKeyEvent *event)
+{
+    if (TakesKey(widget, event)) {
+        m_commands->RunKey(event);
+        return true;
+    }
+    if (PressMark(widget, event))
+        return true;
+    const bool isPlain = ModifiersOf(event) == Qt::NoModifier;
+    const QModelIndex from = widget == m_table ? m_mark->Current() : At(widget);
+    if (Types(event) || (isPlain && Moves(event->key())))
+        m_mark->Clear();
+    if (!isPlain)
+        return false;
+    return widget == m_table ? PressTable(from, event->key())
+                             : PressCell(widget, from, event->key());
+}
+
+bool CTableKeys::PressMark(QWidget *widget, const QKeyEvent *event)
+{
+    const bool isCell = widget != m_table;
+    const Qt::KeyboardModifiers modifiers = ModifiersOf(event);
+    const SStep step = StepOf(event->key());
+    if (modifiers == Qt::ShiftModifier && (step.rows != 0 || step.columns != 0)) {
+        const bool isTyping = isCell && m_edits && m_edits->IsTyping(widget);
+        if (isTyping && step.columns != 0 && !IsAtEnd(widget, step.columns < 0))
+            return false;
+        FinishEdit();
+        m_mark->Extend(step.rows, step.columns);
+        return true;
+    }
+    if (modifiers == Qt::ControlModifier && event->key() == Qt::Key_A) {
+        if (isCell && m_mark->IsEmpty() && !IsAllSelected(widget))
+            return false;
+        FinishEdit();
+        m_mark->MarkAll();
+        return true;
+    }
+    if (modifiers == Qt::NoModifier && event->key() == Qt::Key_Escape && !m_mark->IsEmpty()) {
+        m_mark->Clear();
+        return true;
     }
     return false;
 }
 
-bool CTableKeys::PressKey(QWidget *cell, const QKeyEvent *event)
+bool CTableKeys::PressCell(QWidget *cell, const QModelIndex &at, int key)
 {
-    if (event->modifiers() & ~Qt::KeypadModifier)
-        return false;
-    switch (event->key()) {
+    switch (key) {
     case Qt::Key_Up:
-        Move(cell, -1, 0);
-        return true;
     case Qt::Key_Down:
-        Move(cell, 1, 0);
+        Move(at, StepOf(key).rows, 0);
         return true;
     case Qt::Key_Left:
-        return IsAtEnd(cell, true) && Move(cell, 0, -1);
     case Qt::Key_Right:
-        return IsAtEnd(cell, false) && Move(cell, 0, 1);
+        return IsAtEnd(cell, key == Qt::Key_Left) && Move(at, 0, StepOf(key).columns);
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return GoOn(cell);
+        return GoOn(at);
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
-        Step(cell, event->key() == Qt::Key_PageUp);
+        Step(cell, key == Qt::Key_PageUp);
         return true;
     default:
         return false;
     }
 }
 
-bool CTableKeys::Move(const QWidget *cell, int rows, int columns)
+// The table has the focus, as after a click on a header.
+bool CTableKeys::PressTable(const QModelIndex &at, int key)
 {
-    const QModelIndex at = m_table->indexAt(cell->geometry().center());
-    int row = at.row() + rows;
-    int column = at.column() + columns;
-    while (at.isValid() && row >= 0 && column >= 0 && row < m_table->rowCount() &&
+    const SStep step = StepOf(key);
+    return (step.rows != 0 || step.columns != 0) && Move(at, step.rows, step.columns);
+}
+
+QModelIndex CTableKeys::At(const QWidget *cell) const
+{
+    return m_table->indexAt(cell->geometry().center());
+}
+
+bool CTableKeys::Move(const QModelIndex &from, int rows, int columns)
+{
+    int row = from.row() + rows;
+    int column = from.column() + columns;
+    while (from.isValid() && row >= 0 && column >= 0 && row < m_table->rowCount() &&
            column < m_table->columnCount()) {
         if (QWidget *next = m_table->cellWidget(row, column); CanHaveFocus(next))
             return Focus(next);
@@ -141,12 +340,11 @@ bool CTableKeys::Move(const QWidget *cell, int rows, int columns)
     return false;
 }
 
-bool CTableKeys::GoOn(const QWidget *cell)
+bool CTableKeys::GoOn(const QModelIndex &from)
 {
-    if (Move(cell, 1, 0))
+    if (Move(from, 1, 0))
         return true;
-    const QModelIndex at = m_table->indexAt(cell->geometry().center());
-    for (int c = at.column() + 1; at.isValid() && c < m_table->columnCount(); ++c) {
+    for (int c = from.column() + 1; from.isValid() && c < m_table->columnCount(); ++c) {
         for (int r = 0; r < m_table->rowCount(); ++r) {
             if (QWidget *next = m_table->cellWidget(r, c); CanHaveFocus(next))
                 return Focus(next);

@@ -2,11 +2,13 @@
 
 #include <utility>
 
+#include <QContextMenuEvent>
 #include <QDoubleSpinBox>
-#include <QEvent>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QSpinBox>
+#include <QTextDocument>
 
 #include "Model/JsonPath.h"
 #include "Model/ModelCopy.h"
@@ -15,6 +17,7 @@
 #include "Support/Log.h"
 #include "View/editors/FormFont.h"
 #include "View/engine/Binding.h"
+#include "View/engine/ContextMenu.h"
 #include "View/engine/RangeCheck.h"
 #include "View/engine/TableSize.h"
 #include "View/engine/Walk.h"
@@ -42,6 +45,12 @@ void LogPackaged(const std::string &text)
     qCDebug(lcEngine) << "============ [Done] Package MemberValue ============ " << text.c_str();
 }
 
+// Qt makes an event of the menu key alone.
+bool IsMenuKey(const QKeyEvent *event)
+{
+    return event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier;
+}
+
 QString CheckText(int state)
 {
     return state == Qt::Checked ? QStringLiteral("true") : QStringLiteral("false");
@@ -65,6 +74,17 @@ bool CAutoBindingDataModelDockWidget::event(QEvent *event)
     case QEvent::NonClientAreaMouseButtonPress:
     case QEvent::NonClientAreaMouseButtonRelease:
         return false;
+    case QEvent::ContextMenu: {
+        const auto *menu = static_cast<QContextMenuEvent *>(event);
+        QWidget *under = childAt(menu->pos());
+        const bool isOpen = menu->reason() == QContextMenuEvent::Keyboard
+                                ? OpenContextMenuByKey()
+                                : OpenContextMenu(under ? under : this, menu->globalPos());
+        return isOpen || QDockWidget::event(event);
+    }
+    case QEvent::KeyPress:
+        return IsMenuKey(static_cast<QKeyEvent *>(event)) ? OpenContextMenuByKey()
+                                                          : QDockWidget::event(event);
     case QEvent::WindowActivate:
         KeepFocusFromWandering();
         return QDockWidget::event(event);
@@ -90,7 +110,10 @@ void CAutoBindingDataModelDockWidget::StartInit()
     m_modelInterface = GetModelInterface();
     m_rootWidget = GetRootWidget();
     m_index = CWidgetIndex(m_rootWidget);
-    m_wheel.GuardAll(AllWidgets());
+    const QList<QWidget *> widgets = AllWidgets();
+    m_wheel.GuardAll(widgets);
+    for (QWidget *widget : widgets)
+        LeaveMenuToPage(widget);
     RequestDataModel();
 }
 
@@ -194,6 +217,17 @@ void CAutoBindingDataModelDockWidget::ChangeCells(const QString &, const CellCha
 {
     FinishEdit();
     SetCells(changes);
+}
+
+void CAutoBindingDataModelDockWidget::ShowRefusal(const QString &command, const QString &reason)
+{
+    const QString text = command + QLatin1String(": ") + reason;
+    emit Signal_UpdateStatus(text);
+    const QString plain = Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+    QMetaObject::invokeMethod(
+        this,
+        [this, command, plain] { m_messageBox.Show(eBoxWarningAsIs, command, plain, {}, {}, -1); },
+        Qt::QueuedConnection);
 }
 
 void CAutoBindingDataModelDockWidget::Slot_ValueChange(QString currentText)

@@ -101,6 +101,9 @@ public:
     // makes it, such as "Paste". Cells that are not there any more are left out. Ends the edit under
     // way first.
     virtual void ChangeCells(const QString &name, const CellChanges &changes);
+    // Says why a command changed nothing: in the status line, and in a box that comes with the next
+    // turn of the event loop.
+    void ShowRefusal(const QString &command, const QString &reason);
 
 signals:
     // Text for the status bar. timeout: Prescribed; see docs/decisions/0036-prescribed-surface.md
@@ -190,6 +193,8 @@ private:
     void Publish(ERelevance kind, const QString &currentText);
     void Package();
     void ShowErrorBox(const QString &text);
+    bool OpenContextMenu(QWidget *widget, const QPoint &globalPos);
+    bool OpenContextMenuByKey();
 
     // AutoBindingDataModelDockWidgetRequests.cpp
     bool SayBusy(bool isBusy);

@@ -1,10 +1,13 @@
-// How a request of a page begins and ends, and where the focus is meanwhile.
+// How a request of a page begins and ends, where the focus is meanwhile, and the page's menus.
 #include "View/engine/AutoBindingDataModelDockWidget.h"
 
 #include <QComboBox>
+#include <QMenu>
 
 #include "Model/JsonPath.h"
 #include "View/editors/TabOrder.h"
+#include "View/editors/TableMark.h"
+#include "View/engine/ContextMenu.h"
 
 bool CAutoBindingDataModelDockWidget::HasAllChoices()
 {
@@ -119,4 +122,28 @@ bool CAutoBindingDataModelDockWidget::focusNextPrevChild(bool next)
     if (focus && !focus->isEnabled())
         return false;
     return MoveFocus(window(), next);
+}
+
+// Under the cell with the focus, which may be in a table that has it.
+bool CAutoBindingDataModelDockWidget::OpenContextMenuByKey()
+{
+    QWidget *focus = FocusWidget();
+    return focus && OpenContextMenu(focus, focus->mapToGlobal(focus->rect().center()));
+}
+
+// True also when the page is gone: the end of the edit under way may open a box.
+bool CAutoBindingDataModelDockWidget::OpenContextMenu(QWidget *widget, const QPoint &globalPos)
+{
+    const QPointer<CAutoBindingDataModelDockWidget> self(this);
+    const QPointer<QWidget> place(widget);
+    FinishEdit();
+    if (!self || !place)
+        return true;
+    const SMenuPlace at = MenuPlaceOf(this, place);
+    if (CTableMark *mark = at.table ? CTableMark::Of(at.table) : nullptr)
+        mark->SetCurrent(at.table->indexAt(at.table->viewport()->mapFromGlobal(globalPos)));
+    QMenu *menu = MakeContextMenu(at, m_edits);
+    if (menu)
+        menu->popup(globalPos);
+    return menu || at.editor;
 }

@@ -6,6 +6,7 @@
 #include "Model/JsonPath.h"
 #include "Model/MemberPath.h"
 #include "Support/Log.h"
+#include "View/editors/TableKeys.h"
 #include "View/engine/Binding.h"
 #include "View/engine/ColumnCells.h"
 #include "View/engine/DataTypes.h"
@@ -135,6 +136,7 @@ void InitColumnTable(const SBinding &binding, const QString &path, QWidget *widg
     table->setColumnCount(group.columns);
     table->setRowCount(group.rows.size());
     FillPlaces(table);
+    CTableKeys::Of(table)->SetEdits(&binding.edits);
     auto *cells = new CColumnCells(table, &binding.page, &binding.edits);
     for (int c = 0; c < group.columns; ++c)
         table->horizontalHeader()->resizeSection(c, kColumnWidth);

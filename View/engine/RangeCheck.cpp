@@ -71,6 +71,18 @@ void Check(Box *box, const char *title)
         box->setValue(ReadToken<Box>(tokens.first()).Fallback());
 }
 
+template <typename Box>
+std::vector<double> Limits(const Box *box)
+{
+    std::vector<double> limits;
+    for (const QString &token : TokensOf(box)) {
+        const SToken<Box> range = ReadToken<Box>(token);
+        limits.push_back(range.low);
+        limits.push_back(range.high);
+    }
+    return limits;
+}
+
 }  // namespace
 
 void CheckRange(QSpinBox *box)
@@ -101,4 +113,14 @@ bool IsInRanges(const QSpinBox *box, const QString &text)
 bool IsInRanges(const QDoubleSpinBox *box, const QString &text)
 {
     return Allows(box, TokensOf(box), text);
+}
+
+std::vector<double> LimitsOfRanges(const QSpinBox *box)
+{
+    return Limits(box);
+}
+
+std::vector<double> LimitsOfRanges(const QDoubleSpinBox *box)
+{
+    return Limits(box);
 }

@@ -9,6 +9,8 @@
 //   CheckRange(box);   // 7 becomes 1950000
 #pragma once
 
+#include <vector>
+
 #include <QString>
 
 class QDoubleSpinBox;
@@ -24,3 +26,6 @@ bool IsRangeChecked(const QWidget *editor);
 // Does the list allow this text? It is one that the box would show.
 bool IsInRanges(const QSpinBox *box, const QString &text);
 bool IsInRanges(const QDoubleSpinBox *box, const QString &text);
+// Both ends of each range of the list, and its numbers.
+std::vector<double> LimitsOfRanges(const QSpinBox *box);
+std::vector<double> LimitsOfRanges(const QDoubleSpinBox *box);

@@ -5,6 +5,8 @@
 #include <QTableWidget>
 
 #include "View/editors/TableKeys.h"
+#include "View/engine/ContextMenu.h"
+#include "View/engine/TableCommands.h"
 
 namespace {
 
@@ -28,8 +30,10 @@ public:
 void FillPlaces(QTableWidget *table)
 {
     table->setItemDelegate(new CCellDelegate(table));
-    if (!CTableKeys::Of(table))
-        new CTableKeys(table);
+    if (CTableKeys::Of(table))
+        CTableMark::Of(table)->Clear();
+    else
+        new CTableCommands(table, new CTableKeys(table));
 }
 
 // Qt's header looks for its size anew at each label.
@@ -48,6 +52,7 @@ void PlaceEditor(QTableWidget *table, int row, int column, QWidget *editor)
 {
     editor->resize(table->columnWidth(column), table->rowHeight(row));
     table->setCellWidget(row, column, editor);
+    LeaveMenuToPage(editor);
     if (CTableKeys *keys = CTableKeys::Of(table))
         keys->Take(editor);
 }

@@ -1,0 +1,191 @@
+#include "View/editors/TableMark.h"
+
+#include <algorithm>
+
+#include <QDockWidget>
+#include <QGuiApplication>
+#include <QHeaderView>
+
+#include "View/editors/CellLook.h"
+#include "View/editors/LateEditors.h"
+#include "View/editors/ScrollIntoView.h"
+
+namespace {
+
+// The next section that is seen, some steps on; the last one when there are fewer.
+int Stepped(const QHeaderView *header, int section, int steps)
+{
+    const int by = steps < 0 ? -1 : 1;
+    for (int next = section + by; steps != 0 && next >= 0 && next < header->count(); next += by) {
+        if (header->isSectionHidden(next))
+            continue;
+        section = next;
+        steps -= by;
+    }
+    return section;
+}
+
+std::vector<int> Seen(const QHeaderView *header, int first, int last)
+{
+    std::vector<int> sections;
+    for (int i = first; i <= last; ++i) {
+        if (!header->isSectionHidden(i))
+            sections.push_back(i);
+    }
+    return sections;
+}
+
+void Look(const QTableWidget *table, const QItemSelection &cells, bool isMarked)
+{
+    for (const QItemSelectionRange &range : cells) {
+        for (int r = range.top(); r <= range.bottom(); ++r) {
+            for (int c = range.left(); c <= range.right(); ++c) {
+                if (QWidget *cell = table->cellWidget(r, c))
+                    SetCellLook(cell, ECellLook::Marked, isMarked);
+            }
+        }
+    }
+}
+
+}  // namespace
+
+CTableMark::CTableMark(QTableWidget *table) : QObject(table), m_table(table)
+{
+    table->setSelectionMode(QAbstractItemView::NoSelection);
+    connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &CTableMark::Show);
+    ListenTo(table->verticalHeader(), &CTableMark::MarkRows);
+    ListenTo(table->horizontalHeader(), &CTableMark::MarkColumns);
+}
+
+// A click, with Shift up to there, and the mouse that goes on with its button down.
+void CTableMark::ListenTo(const QHeaderView *header, void (CTableMark::*mark)(int, int))
+{
+    connect(header, &QHeaderView::sectionPressed, this, [this, mark](int section) {
+        const bool isOn = QGuiApplication::keyboardModifiers() & Qt::ShiftModifier;
+        if (!isOn || m_firstSection < 0 || IsEmpty())
+            m_firstSection = section;
+        (this->*mark)(m_firstSection, section);
+    });
+    connect(header, &QHeaderView::sectionEntered, this,
+            [this, mark](int section) { (this->*mark)(m_firstSection, section); });
+}
+
+CTableMark *CTableMark::Of(const QWidget *table)
+{
+    return table->findChild<CTableMark *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+bool CTableMark::IsEmpty() const
+{
+    return !m_table->selectionModel()->hasSelection();
+}
+
+bool CTableMark::Has(const QModelIndex &at) const
+{
+    return m_table->selectionModel()->isSelected(at);
+}
+
+void CTableMark::SetCurrent(const QModelIndex &at)
+{
+    if (IsEmpty())
+        m_current = m_corner = at;
+}
+
+void CTableMark::Extend(int rows, int columns)
+{
+    if (!m_corner.isValid())
+        return;
+    ExtendTo(
+        m_table->model()->index(Stepped(m_table->verticalHeader(), m_corner.row(), rows),
+                                Stepped(m_table->horizontalHeader(), m_corner.column(), columns)));
+}
+
+void CTableMark::ExtendTo(const QModelIndex &corner)
+{
+    if (!corner.isValid())
+        return;
+    Set(m_current.isValid() ? QModelIndex(m_current) : corner, corner);
+    if (QWidget *cell = m_table->cellWidget(corner.row(), corner.column()))
+        ScrollIntoView(cell, m_table);
+}
+
+void CTableMark::Set(const QModelIndex &current, const QModelIndex &corner)
+{
+    if (!current.isValid() || !corner.isValid())
+        return;
+    EnsureEditors(m_table);
+    m_current = current;
+    m_corner = corner;
+    const auto [top, bottom] = std::minmax({current.row(), corner.row()});
+    const auto [left, right] = std::minmax({current.column(), corner.column()});
+    const QAbstractItemModel *model = m_table->model();
+    m_table->selectionModel()->select(
+        QItemSelection(model->index(top, left), model->index(bottom, right)),
+        QItemSelectionModel::ClearAndSelect);
+}
+
+void CTableMark::MarkAll()
+{
+    MarkRows(0, m_table->rowCount() - 1);
+}
+
+void CTableMark::MarkRows(int first, int last)
+{
+    const QAbstractItemModel *model = m_table->model();
+    Set(model->index(first, 0), model->index(last, m_table->columnCount() - 1));
+}
+
+void CTableMark::MarkColumns(int first, int last)
+{
+    const QAbstractItemModel *model = m_table->model();
+    Set(model->index(0, first), model->index(m_table->rowCount() - 1, last));
+}
+
+void CTableMark::Clear()
+{
+    m_table->clearSelection();
+}
+
+std::vector<int> CTableMark::Rows() const
+{
+    const QItemSelection cells = m_table->selectionModel()->selection();
+    if (!cells.isEmpty())
+        return Seen(m_table->verticalHeader(), cells.first().top(), cells.first().bottom());
+    if (m_current.isValid())
+        return {m_current.row()};
+    return {};
+}
+
+std::vector<int> CTableMark::Columns() const
+{
+    const QItemSelection cells = m_table->selectionModel()->selection();
+    if (!cells.isEmpty())
+        return Seen(m_table->horizontalHeader(), cells.first().left(), cells.first().right());
+    if (m_current.isValid())
+        return {m_current.column()};
+    return {};
+}
+
+void CTableMark::Show(const QItemSelection &added, const QItemSelection &gone)
+{
+    if (!IsEmpty())
+        ClearOthers();
+    Look(m_table, gone, false);
+    Look(m_table, added, true);
+    emit Changed();
+}
+
+void CTableMark::ClearOthers() const
+{
+    const QWidget *page = m_table;
+    while (page && !qobject_cast<const QDockWidget *>(page))
+        page = page->parentWidget();
+    if (!page)
+        return;
+    for (const QTableWidget *table : page->findChildren<QTableWidget *>()) {
+        CTableMark *other = Of(table);
+        if (other && other != this && !other->IsEmpty())
+            other->Clear();
+    }
+}
