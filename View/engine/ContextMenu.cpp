@@ -62,6 +62,15 @@ void AddPart(QMenu *menu, const QList<QAction *> &actions)
     menu->addActions(actions);
 }
 
+// A table for reading has no commands of cells.
+QList<QAction *> TablePart(const QTableWidget *table)
+{
+    if (!table)
+        return {};
+    CTableCommands *commands = CTableCommands::Of(table);
+    return (commands ? commands->Actions() : QList<QAction *>()) + table->actions();
+}
+
 // Of the text, whose own menu the rest is added to. An editor that is off has no entries of its own.
 QMenu *OwnMenu(const SMenuPlace &place, CEditSession &edits)
 {
@@ -101,16 +110,15 @@ void LeaveMenuToPage(QWidget *editor)
 QMenu *MakeContextMenu(const SMenuPlace &place, CEditSession &edits)
 {
     const bool hasOwn = HasOwnEntries(place.editor);
-    CTableCommands *commands = place.table ? CTableCommands::Of(place.table) : nullptr;
-    if (!hasOwn && !commands && (!place.editor || place.editor->actions().isEmpty()))
+    const QList<QAction *> ofTable = TablePart(place.table);
+    if (!hasOwn && ofTable.isEmpty() && (!place.editor || place.editor->actions().isEmpty()))
         return nullptr;
     QMenu *menu = OwnMenu(place, edits);
     menu->setObjectName(QStringLiteral("m_contextMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (place.editor)
         AddPart(menu, place.editor->actions());
-    if (commands)
-        AddPart(menu, commands->Actions() + place.table->actions());
+    AddPart(menu, ofTable);
     AddPart(menu, place.page->actions());
     return menu;
 }
