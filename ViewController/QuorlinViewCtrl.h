@@ -35,8 +35,10 @@
 #include <QStringList>
 
 #include "Controller/Interface/CoreInterface.h"
+#include "Controller/core/CalChange.h"
 #include "Controller/core/CalItemTable.h"
 #include "Controller/core/PageId.h"
+#include "Model/CalChanges.h"
 #include "Model/CalRemarks.h"
 #include "Model/HandedDocument.h"
 #include "Model/OperationResult.h"
@@ -210,6 +212,19 @@ public:
     // Empty: the DUT is of another generation.
     QJsonObject GetCalibrationData(ECalItem item, const QJsonObject &document);
     void SetCalibrationData(ECalItem item, const QJsonObject &document);
+    // The way back, as CNrCore::GetCalBase and the others have it; on the calling thread, from memory.
+    // Empty: the record never came in.
+    QJsonObject GetCalBase(ECalItem item, const QJsonObject &document);
+    SCalChangedCells CountCalChanges(ECalItem item, const QJsonObject &document, bool hasEdits);
+    CalChange RevertCalRecord(ECalItem item, const QJsonObject &document);
+    CalChange RevertCalItem(ECalItem item, const QJsonObject &document);
+    CalCopyTargets FindCopyTargets(ECalItem item, const QJsonObject &document);
+    CalChange CopyCalRecord(ECalItem item, const QJsonObject &document,
+                            const CalCopyTargets &targets);
+    void ApplyCalChange(ECalItem item, const QJsonObject &document, const CalChange &change,
+                        ECalWay way);
+    // In a slot of an upload's or load's answer, or behind it.
+    CalChange TakeFlowChange(ECalItem item);
     std::string GetAptCalibrationData(std::string document)
     {
         return GetCalibrationData(ECalItem::Apt, document);

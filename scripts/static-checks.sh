@@ -69,7 +69,8 @@ ViewController Controller|Model|Support
 View Model|Support|ViewController
 View/editors Support
 View/engine View/editors|Model|Support
-View/pages View/engine|View/editors|Model|Support|ViewController
+View/undo View/engine|View/editors|Model|Support|ViewController
+View/pages View/undo|View/engine|View/editors|Model|Support|ViewController
 View/log View/editors|Model|Support
 View/form View/log|View/engine|View/editors|Model|Support|ViewController
 View/Rx View/pages|View/engine|View/editors|Model|Support|ViewController

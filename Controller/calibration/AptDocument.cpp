@@ -16,18 +16,28 @@ struct STxPlace
     uint16_t bwIdx;  // bandwidth region
 };
 
-STxPlace ReadTxPlace(const QJsonObject &document, const char *logName)
+STxPlace TxPlaceOf(const QJsonObject &document)
 {
     constexpr int kPrefixLength = 2;  // "BW"
     const CPackagedGroup config(document, "calDataIf.config.group1");
-    const STxPlace place{.route = DecimalInt<uint16_t>(config.Text("txRoute")),
-                         .bwIdx =
-                             DecimalInt<uint16_t>(config.Text("aggBwRegion").mid(kPrefixLength))};
+    return {.route = DecimalInt<uint16_t>(config.Text("txRoute")),
+            .bwIdx = DecimalInt<uint16_t>(config.Text("aggBwRegion").mid(kPrefixLength))};
+}
+
+STxPlace ReadTxPlace(const QJsonObject &document, const char *logName)
+{
+    const STxPlace place = TxPlaceOf(document);
     qCDebug(lcCore) << logName << place.route << " bwIdx-" << place.bwIdx;
     return place;
 }
 
 }  // namespace
+
+SCalName SelectedAptRecord(const QJsonObject &document)
+{
+    const STxPlace place = TxPlaceOf(document);
+    return {.kind = ECalRoute::Tx, .route = place.route, .region = place.bwIdx};
+}
 
 std::optional<QJsonObject> ShowAptDocument(const CMultiRatAptProfileV7 &item,
                                            const QJsonObject &document, const SSupportedGains &)

@@ -21,13 +21,11 @@ struct SRxPlace
 // Both directions log the line of storing: users' log filters know it so.
 SRxPlace ReadRxPlace(const QJsonObject &document)
 {
+    const SCalName name = SelectedPathLossRecord(document);
     const CPackagedGroup config(document, "calDataIf.config.group1");
-    const QString type = config.Text("routeType");
-    const SRxPlace place{.route = DecimalInt<uint16_t>(config.Text("route")),
-                         .isType2 = type.contains(QLatin1Char('2'))};
-    qCDebug(lcCore) << "SetPathLossCalibrationData: routeType " << type << " rxRoute-"
-                    << place.route;
-    return place;
+    qCDebug(lcCore) << "SetPathLossCalibrationData: routeType " << config.Text("routeType")
+                    << " rxRoute-" << name.route;
+    return {.route = name.route, .isType2 = name.kind == ECalRoute::Type2};
 }
 
 template <typename Record, typename Build, typename Walk>
@@ -47,6 +45,14 @@ void Store(CMultiRatPathLossV7 &item, uint16_t route, const QJsonObject &documen
 }
 
 }  // namespace
+
+SCalName SelectedPathLossRecord(const QJsonObject &document)
+{
+    const CPackagedGroup config(document, "calDataIf.config.group1");
+    const bool isType2 = config.Text("routeType").contains(QLatin1Char('2'));
+    return {.kind = isType2 ? ECalRoute::Type2 : ECalRoute::Type1,
+            .route = DecimalInt<uint16_t>(config.Text("route"))};
+}
 
 std::optional<QJsonObject> ShowPathLossDocument(const CMultiRatPathLossV7 &item,
                                                 const QJsonObject &document,

@@ -12,8 +12,11 @@
 #include <QJsonObject>
 
 #include "Controller/calibration/LossConfig.h"
+#include "Operations/calibration/CalState.h"
 #include "Operations/calibration/MultiRatPathLossV7.h"
 
+// The name of that record; the route table may lack it.
+SCalName SelectedPathLossRecord(const QJsonObject &document);
 // The document with the record in it.
 std::optional<QJsonObject> ShowPathLossDocument(const CMultiRatPathLossV7 &item,
                                                 const QJsonObject &document,

@@ -34,6 +34,7 @@ constexpr std::array kCalItems = {
                 .page = EPageId::RxPathLoss,
                 .showsGains = true,
                 .make = &Make<CMultiRatPathLossV7>,
+                .select = &SelectedPathLossRecord,
                 .show = &Show<CMultiRatPathLossV7, ShowPathLossDocument>,
                 .store = &Store<CMultiRatPathLossV7, StorePathLossDocument>},
     SCalItemRow{.id = ECalItem::Apt,
@@ -42,6 +43,7 @@ constexpr std::array kCalItems = {
                 .page = EPageId::AptProfile,
                 .showsGains = false,
                 .make = &Make<CMultiRatAptProfileV7>,
+                .select = &SelectedAptRecord,
                 .show = &Show<CMultiRatAptProfileV7, ShowAptDocument>,
                 .store = &Store<CMultiRatAptProfileV7, StoreAptDocument>},
 };

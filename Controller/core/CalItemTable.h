@@ -16,6 +16,7 @@
 #include <QStringList>
 
 #include "Controller/core/PageId.h"
+#include "Operations/calibration/CalState.h"
 
 class ICalItemByL1Operation;
 struct SSupportedGains;
@@ -42,6 +43,8 @@ struct SCalItemRow
     bool showsGains;  // the page shows values by the gains that the DUT supports
     // An item without a valid record.
     std::unique_ptr<ICalItemByL1Operation> (*make)();
+    // Which record a packaged document selects.
+    SCalName (*select)(const QJsonObject &document);
     // show: the document with the record that it selects; none when there is no such record. store:
     // takes what the page shows into that record. The item is one that make has made.
     std::optional<QJsonObject> (*show)(const ICalItemByL1Operation &item,

@@ -36,10 +36,12 @@
 #include "Controller/calibration/LossConfig.h"
 #include "Controller/capability/NrDataModelCapUpdater.h"
 #include "Controller/core/AwaitedDocuments.h"
+#include "Controller/core/CalHistory.h"
 #include "Controller/core/CalItemTable.h"
 #include "Controller/core/PageTable.h"
 #include "Controller/core/RunningTests.h"
 #include "Controller/core/TestSteps.h"
+#include "Model/CalChanges.h"
 #include "Model/HandedDocument.h"
 #include "Model/OperationResult.h"
 #include "Operations/calibration/CalItemByL1Operation.h"
@@ -157,6 +159,26 @@ public:
         SetCalibrationData(ECalItem::PathLoss, document);
     }
 
+    // The way back of calibration data (CalHistory.h): what the last Read or Import brought, where
+    // memory with the page's edits differs from it, and changes of records. document: the packaged
+    // page; its edits are stored first by those that change something. All work on what is in memory,
+    // as GetCalibrationData does; any thread.
+    // The document with the selected record's base; none when it never came in.
+    std::optional<QJsonObject> GetCalBase(ECalItem item, const QJsonObject &document);
+    // hasEdits: the page may show edits that memory does not have yet.
+    SCalChangedCells CountCalChanges(ECalItem item, const QJsonObject &document, bool hasEdits);
+    CalChange RevertCalRecord(ECalItem item, const QJsonObject &document);
+    CalChange RevertCalItem(ECalItem item, const QJsonObject &document);
+    // Other records of the band and kind of the selected one.
+    CalCopyTargets FindCopyTargets(ECalItem item, const QJsonObject &document);
+    // Copies all of the selected record but band and route. A record that is not valid stays so.
+    CalChange CopyCalRecord(ECalItem item, const QJsonObject &document,
+                            const CalCopyTargets &targets);
+    void ApplyCalChange(ECalItem item, const QJsonObject &document, const SCalChange &change,
+                        ECalWay way);
+    // What the last Read or Import has replaced, the edits of its page among it; once.
+    CalChange TakeFlowChange(ECalItem item);
+
     // Returns when the job that runs has ended. Pool threads only.
     void WaitForTurn();
 
@@ -204,6 +226,8 @@ private:
         std::unique_ptr<ICalItemByL1Operation> operation;
         PortableCriticalSection lock;  // of the records; taken behind m_targetLock or without it
         SCalView view;                 // under m_viewLock
+        std::unique_ptr<CCalHistory> history;  // of the records
+        CalChange flowChange;
     };
 
     SRfSupportStatus DecideSupportStatus();
@@ -222,14 +246,15 @@ private:
     struct SCalShow
     {
         ECalItem item;
-        CHandedDocument document;
+        QJsonObject document;
     };
     void StartFlow(const SCalFlow &flow, const QStringList &items,
                    std::shared_ptr<CCalIniFile> file, std::optional<SCalShow> show = std::nullopt);
     void RunFlow(const SCalFlow &flow, const QStringList &items, std::shared_ptr<CCalIniFile> file,
                  std::optional<SCalShow> show);
     void TellDocument(std::optional<SCalShow> show);
-    void RunFlowItems(const SCalFlow &flow, const QStringList &items, CCalIniFile *file);
+    void RunFlowItems(const SCalFlow &flow, const QStringList &items, CCalIniFile *file,
+                      const std::optional<SCalShow> &show);
     // Replaces the items of an earlier connection by empty ones: the records of one DUT are not for
     // the next.
     void RenewCalItems();
@@ -244,7 +269,12 @@ private:
     std::optional<QJsonObject> ShowRecord(ECalItem item, const SCalView &view,
                                           const QJsonObject &document);
     // The status of the move; its text is in m_errorMessage then.
-    int RunCalItem(const SCalFlow &flow, ECalItem item, CCalIniFile *file);
+    int RunCalItem(const SCalFlow &flow, ECalItem item, CCalIniFile *file,
+                   const std::optional<SCalShow> &show);
+    // Calls use with the item, its history and the name of the record that the document selects,
+    // under the records' lock; answers with nothing when there is no such record.
+    template <typename Use>
+    auto UseHistory(ECalItem item, const QJsonObject &document, Use use);
 
     CTurns m_targetLock;
     PortableCriticalSection m_viewLock;  // the innermost one

@@ -43,6 +43,10 @@ void CNrCore::LookForCalItem(ECalItem item)
                 view.gains.byMode[mode] = *gains;
         }
     }
+    {
+        const CLockSentry lock(CalItem(item).lock);
+        CalItem(item).history->Learn();
+    }
     const CLockSentry lock(m_viewLock);
     CalItem(item).view = view;
 }
@@ -95,8 +99,7 @@ void CNrCore::TellDocument(std::optional<SCalShow> show)
     if (!show || m_areItemsStale.load())
         return;
     try {
-        const std::optional<QJsonObject> shown =
-            GetCalibrationData(show->item, show->document.Take());
+        const std::optional<QJsonObject> shown = GetCalibrationData(show->item, show->document);
         emit Signal_CalDocument(CalItemName(show->item),
                                 shown ? ModelToText(*shown) : std::string());
     } catch (...) {
@@ -115,4 +118,5 @@ void CNrCore::SetCalibrationData(ECalItem item, const QJsonObject &document)
         return;
     const CLockSentry lock(CalItem(item).lock);
     FindCalItem(item).store(*CalItem(item).operation, document);
+    CalItem(item).history->Recount(*CalItem(item).operation, FindCalItem(item).select(document));
 }

@@ -12,6 +12,36 @@
 #include "Support/Log.h"
 #include "Support/Threads.h"
 
+namespace {
+
+// What a flow that fills records replaces goes into the item's history, however the flow ends.
+class CFlowHistory
+{
+public:
+    CFlowHistory(CCalHistory *history, ICalItemByL1Operation &item,
+                 const std::function<void()> &storePage, CalChange &change)
+        : m_history(history), m_item(item), m_change(change)
+    {
+        m_change = nullptr;
+        if (m_history)
+            m_history->BeginFlow(m_item, storePage);
+    }
+    ~CFlowHistory()
+    {
+        if (m_history)
+            m_change = m_history->EndFlow(m_item);
+    }
+    CFlowHistory(const CFlowHistory &) = delete;
+    CFlowHistory &operator=(const CFlowHistory &) = delete;
+
+private:
+    CCalHistory *const m_history;  // null: the flow fills none
+    ICalItemByL1Operation &m_item;
+    CalChange &m_change;
+};
+
+}  // namespace
+
 // What differs between the flows.
 struct CNrCore::SCalFlow
 {
@@ -22,6 +52,7 @@ struct CNrCore::SCalFlow
     uint32_t (*move)(ICalItemByL1Operation &item, CCalIniFile *file);
     uint32_t thrownStatus;  // of a move that ended by an exception
     bool looksAtValues;     // those of a file, against what the item's page shows
+    bool fillsRecords;      // of the item's memory
     void (IRfCoreCalDataOperation::*done)(bool, QVector<SEachItemOperationResult>);
 
     static const SCalFlow kUpload, kDownload, kLoad, kSave;
@@ -35,6 +66,7 @@ const CNrCore::SCalFlow CNrCore::SCalFlow::kUpload = {
     .move = [](ICalItemByL1Operation &item, CCalIniFile *) { return item.UploadFromFlash(); },
     .thrownStatus = kCalGeneralError,
     .looksAtValues = false,
+    .fillsRecords = true,
     .done = &IRfCoreCalDataOperation::Signal_UploadFromFlashDone,
 };
 
@@ -46,6 +78,7 @@ const CNrCore::SCalFlow CNrCore::SCalFlow::kDownload = {
     .move = [](ICalItemByL1Operation &item, CCalIniFile *) { return item.DownloadToFlash(); },
     .thrownStatus = kCalGeneralError,
     .looksAtValues = false,
+    .fillsRecords = false,
     .done = &IRfCoreCalDataOperation::Signal_DownloadToFlashDone,
 };
 
@@ -57,6 +90,7 @@ const CNrCore::SCalFlow CNrCore::SCalFlow::kLoad = {
     .move = [](ICalItemByL1Operation &item, CCalIniFile *file) { return item.LoadFromFile(file); },
     .thrownStatus = kCalNoFile,
     .looksAtValues = true,
+    .fillsRecords = true,
     .done = &IRfCoreCalDataOperation::Signal_LoadFromFileDone,
 };
 
@@ -68,6 +102,7 @@ const CNrCore::SCalFlow CNrCore::SCalFlow::kSave = {
     .move = [](ICalItemByL1Operation &item, CCalIniFile *file) { return item.SaveToFile(file); },
     .thrownStatus = kCalNoFile,
     .looksAtValues = false,
+    .fillsRecords = false,
     .done = &IRfCoreCalDataOperation::Signal_SaveToFileDone,
 };
 
@@ -93,27 +128,26 @@ void CNrCore::SaveToFileStart(std::shared_ptr<CCalIniFile> file, QStringList ite
 
 void CNrCore::UploadFromFlashStart(ECalItem item, CHandedDocument document)
 {
-    StartFlow(SCalFlow::kUpload, {CalItemName(item)}, nullptr, SCalShow{item, std::move(document)});
+    StartFlow(SCalFlow::kUpload, {CalItemName(item)}, nullptr, SCalShow{item, document.Take()});
 }
 
 void CNrCore::DownloadToFlashStart(ECalItem item, CHandedDocument document)
 {
-    StartFlow(SCalFlow::kDownload, {CalItemName(item)}, nullptr,
-              SCalShow{item, std::move(document)});
+    StartFlow(SCalFlow::kDownload, {CalItemName(item)}, nullptr, SCalShow{item, document.Take()});
 }
 
 void CNrCore::LoadFromFileStart(std::shared_ptr<CCalIniFile> file, ECalItem item,
                                 CHandedDocument document)
 {
     StartFlow(SCalFlow::kLoad, {CalItemName(item)}, std::move(file),
-              SCalShow{item, std::move(document)});
+              SCalShow{item, document.Take()});
 }
 
 void CNrCore::SaveToFileStart(std::shared_ptr<CCalIniFile> file, ECalItem item,
                               CHandedDocument document)
 {
     StartFlow(SCalFlow::kSave, {CalItemName(item)}, std::move(file),
-              SCalShow{item, std::move(document)});
+              SCalShow{item, document.Take()});
 }
 
 void CNrCore::StartFlow(const SCalFlow &flow, const QStringList &items,
@@ -134,7 +168,7 @@ void CNrCore::RunFlow(const SCalFlow &flow, const QStringList &items,
     const CLockSentry lock(m_targetLock);
     ResetItemResults();
     try {
-        RunFlowItems(flow, items, file.get());
+        RunFlowItems(flow, items, file.get(), show);
     } catch (...) {
         qCCritical(lcCore) << flow.itemLog << "ended by an exception";
         m_isAllSuccess = false;
@@ -147,7 +181,8 @@ void CNrCore::RunFlow(const SCalFlow &flow, const QStringList &items,
     qCDebug(lcCore) << flow.endLog;
 }
 
-void CNrCore::RunFlowItems(const SCalFlow &flow, const QStringList &items, CCalIniFile *file)
+void CNrCore::RunFlowItems(const SCalFlow &flow, const QStringList &items, CCalIniFile *file,
+                           const std::optional<SCalShow> &show)
 {
     RenewCalItems();
     qCDebug(lcCore) << flow.countLog << items.size();
@@ -164,7 +199,7 @@ void CNrCore::RunFlowItems(const SCalFlow &flow, const QStringList &items, CCalI
         qCDebug(lcCore) << flow.itemLog << items[i];
         const std::optional<ECalItem> item = CalItemByName(items[i]);
         if (item)
-            status = RunCalItem(flow, *item, file);
+            status = RunCalItem(flow, *item, file, show);
         if (status != eStatusSuccess)
             m_isAllSuccess = false;
         if (item)
@@ -187,12 +222,14 @@ void CNrCore::RenewCalItems()
         return;
     std::deque<CLockSentry> locks;
     std::array<std::unique_ptr<ICalItemByL1Operation>, kCalItemCount> made;
+    std::array<std::unique_ptr<CCalHistory>, kCalItemCount> histories;
     try {
         for (SCalItem &item : m_calItems)
             locks.emplace_back(item.lock);
         for (size_t i = 0; i < kCalItemCount; ++i) {
             const SCalItemRow &row = FindCalItem(static_cast<ECalItem>(i));
             made[i] = row.make();
+            histories[i] = std::make_unique<CCalHistory>(row.make(), m_connection.load());
             made[i]->SetProgress(
                 [this, name = CalItemName(row.id)](int round, int routesDone, int routesInAll) {
                     emit Signal_CalProgress(name, round, routesDone, routesInAll);
@@ -203,8 +240,11 @@ void CNrCore::RenewCalItems()
         m_areItemsStale.store(true);  // the next job must not find the last DUT's records
         throw;
     }
-    for (size_t i = 0; i < kCalItemCount; ++i)
+    for (size_t i = 0; i < kCalItemCount; ++i) {
         m_calItems[i].operation = std::move(made[i]);
+        m_calItems[i].history = std::move(histories[i]);
+        m_calItems[i].flowChange = nullptr;
+    }
 }
 
 std::unique_ptr<ICalPageLimits> CNrCore::PageLimits(ECalItem item)
@@ -214,10 +254,17 @@ std::unique_ptr<ICalPageLimits> CNrCore::PageLimits(ECalItem item)
         ModelFromText(LoadDataModel(page, QString::fromLatin1(page.resource))));
 }
 
-int CNrCore::RunCalItem(const SCalFlow &flow, ECalItem item, CCalIniFile *file)
+int CNrCore::RunCalItem(const SCalFlow &flow, ECalItem item, CCalIniFile *file,
+                        const std::optional<SCalShow> &show)
 {
     const CLockSentry lock(CalItem(item).lock);
     ICalItemByL1Operation &operation = *CalItem(item).operation;
+    const auto storePage = [&] {
+        if (show && show->item == item)
+            FindCalItem(item).store(operation, show->document);
+    };
+    const CFlowHistory history(flow.fillsRecords ? CalItem(item).history.get() : nullptr, operation,
+                               storePage, CalItem(item).flowChange);
     try {
         const std::unique_ptr<ICalPageLimits> limits =
             flow.looksAtValues ? PageLimits(item) : nullptr;

@@ -15,6 +15,7 @@
 #include "Operations/calibration/CalRemarks.h"
 #include "Operations/calibration/CalRounds.h"
 #include "Operations/calibration/CalRoutes.h"
+#include "Operations/calibration/CalState.h"
 #include "Vond/VondCalRecords.h"
 
 // What the block information tells of a record in flash.
@@ -50,6 +51,11 @@ public:
     virtual bool TakeBytes(const SCalPlace &place, const std::vector<uint8_t> &bytes) = 0;
     // No record is valid from now on, or edited; they keep their bytes.
     virtual void Forget() = 0;
+    // Filled since ForgetArrivals.
+    virtual bool HasArrived(const SCalPlace &place) const = 0;
+    virtual void ForgetArrivals() = 0;
+    // Brings a record back to what it was; one of another size stays as it is.
+    virtual void Restore(const SCalPlace &place, const SCalState &state) = 0;
 
     // Download. The blocks that a record takes in a round: its own, at most 4. Trailing blocks
     // without a frequency are left out where the record would not fit into a round with them.

@@ -67,6 +67,9 @@ public:
     }
     bool TakeBytes(const SCalPlace &place, const std::vector<uint8_t> &bytes) override;
     void Forget() override { m_store.Forget(); }
+    bool HasArrived(const SCalPlace &place) const override { return m_store.HasArrived(place); }
+    void ForgetArrivals() override { m_store.ForgetArrivals(); }
+    void Restore(const SCalPlace &place, const SCalState &state) override;
 
     int BlocksToWrite(const SCalPlace &place) const override;
     void Put(SMMSetCalDataReqV7 &request, const CCalRounds::SPlace &at, const SCalPlace &place,
@@ -142,6 +145,16 @@ bool CCalAreaOf<TKind>::TakeBytes(const SCalPlace &place, const std::vector<uint
         return false;
     m_store.SetValid(place);
     return true;
+}
+
+template <typename TKind>
+void CCalAreaOf<TKind>::Restore(const SCalPlace &place, const SCalState &state)
+{
+    if (state.bytes.size() != sizeof(Record))
+        return;
+    Record record;
+    std::memcpy(&record, state.bytes.data(), sizeof record);
+    m_store.Restore(place, record, state.isValid, state.isEdited);
 }
 
 template <typename TKind>

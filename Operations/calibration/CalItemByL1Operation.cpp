@@ -151,6 +151,8 @@ void ICalItemByL1Operation::BeginMove()
 {
     m_errorMessage.clear();
     m_remarks = {};
+    for (const SPart &part : m_parts)
+        part.area->ForgetArrivals();
 }
 
 void ICalItemByL1Operation::NotePassedOver(const SMMRfRouteTableV7 &table)

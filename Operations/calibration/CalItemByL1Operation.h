@@ -27,6 +27,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -89,6 +90,18 @@ public:
 
     // Of the last move.
     const SCalMoveRemarks &Remarks() const { return m_remarks; }
+
+    // What memory holds of a record that Places names; none of a kind that the item lacks. This and
+    // Restore never ask for the route table, so they reach no target.
+    std::optional<SCalState> StateOf(const SCalName &name) const;
+    // Brings a record back to what it was, with its validity.
+    void Restore(const SCalState &state);
+    // All of them, each once; none without a route table.
+    std::vector<SCalState> States() const;
+    // The records that came in since the last upload or load began, whether it ended well or not.
+    SCalImage Arrived() const;
+    // The places of a kind, in the order of the route table; a route on several bands has several.
+    std::vector<SCalPlace> Places(ECalRoute kind) const;
     // True when a file has a section of this item, for any RF chip. Leaves no text. Throws as load
     // does; false without a route table.
     bool IsInFile(CCalIniFile &file) const;
@@ -123,6 +136,7 @@ private:
     using MoveRecord = std::function<uint32_t(CCalRounds &, int part, const SCalPlace &)>;
 
     const SMMRfRouteTableV7 *FindRouteTable() const;
+    CCalArea *AreaOf(ECalRoute kind) const;
     const SMMRfRouteTableV7 *RouteTable();  // a missing one is told in the text
     uint32_t Fail(const SCalFault &fault);
     void BeginMove();

@@ -53,6 +53,26 @@ public:
     {
         m_slots[Key(place)].valid = true;
         m_slots[Key(place)].edited = false;
+        m_slots[Key(place)].arrived = true;
+    }
+    // Filled since ForgetArrivals.
+    bool HasArrived(const SCalPlace &place) const
+    {
+        const auto slot = m_slots.find(Key(place));
+        return slot != m_slots.end() && slot->second.arrived;
+    }
+    void ForgetArrivals()
+    {
+        for (auto &slot : m_slots)
+            slot.second.arrived = false;
+    }
+    // Brings a record back, with its flags.
+    void Restore(const SCalPlace &place, const Record &record, bool isValid, bool isEdited)
+    {
+        SSlot &slot = m_slots[Key(place)];
+        slot.record = record;
+        slot.valid = isValid;
+        slot.edited = isEdited;
     }
     // Edited by a user, and never filled.
     bool IsEdited(const SCalPlace &place) const
@@ -82,7 +102,8 @@ private:
     {
         Record record = {};
         bool valid = false;
-        bool edited = false;  // without being valid
+        bool edited = false;   // without being valid
+        bool arrived = false;  // by the last move
     };
 
     bool Has(int region) const { return region >= 0 && region < m_recordsOfRoute; }

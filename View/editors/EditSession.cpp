@@ -84,6 +84,31 @@ bool IsStep(const QWidget *editor, const QEvent *event)
     }
 }
 
+// What the editor shows of a value that it had.
+QString TextOfValue(const QWidget *editor, const QVariant &value)
+{
+    if (const auto *box = qobject_cast<const QSpinBox *>(editor))
+        return QString::number(value.toInt(), box->displayIntegerBase());
+    if (const auto *box = qobject_cast<const QDoubleSpinBox *>(editor))
+        return box->textFromValue(value.toDouble());
+    return value.toString();
+}
+
+// A key of undo or redo that the editor's own text has no use for.
+bool IsForThePage(QWidget *editor, const QEvent *event)
+{
+    if (event->type() != QEvent::ShortcutOverride)
+        return false;
+    const auto *key = static_cast<const QKeyEvent *>(event);
+    const QLineEdit *text = qobject_cast<QLineEdit *>(editor);
+    if (!text)
+        text = editor->findChild<QLineEdit *>();
+    const bool isRedo = key->matches(QKeySequence::Redo) ||
+                        (key->key() == Qt::Key_Y && key->modifiers() == Qt::ControlModifier);
+    return (key->matches(QKeySequence::Undo) && !(text && text->isUndoAvailable())) ||
+           (isRedo && !(text && text->isRedoAvailable()));
+}
+
 bool IsEnter(const QEvent *event)
 {
     if (event->type() != QEvent::KeyPress)
@@ -117,7 +142,7 @@ void CEditSession::Begin(QWidget *editor, bool isTyped)
     Finish();
     m_editor = editor;
     m_value = ValueOf(editor);
-    m_text = TextOf(editor);
+    m_text = isTyped ? TextOfValue(editor, m_value) : TextOf(editor);
     m_isTyped = isTyped;
     m_ended.clear();
 }
@@ -131,7 +156,11 @@ bool CEditSession::End()
         return false;
     const bool isFinished = IsFinished(editor);
     m_ended = isFinished ? editor : nullptr;
+    const QPointer<QWidget> alive(editor);
+    const QString before = m_text;
     Show(editor, isFinished ? Taken(editor) : m_value);
+    if (alive)
+        emit Ended(editor, before);
     return true;
 }
 
@@ -156,6 +185,10 @@ bool CEditSession::eventFilter(QObject *object, QEvent *event)
     auto *editor = qobject_cast<QWidget *>(object);
     if (!editor)
         return false;
+    if (IsForThePage(editor, event)) {
+        Finish();
+        return true;
+    }
     if (IsStep(editor, event)) {
         Begin(editor, false);
     } else if (editor == m_editor) {

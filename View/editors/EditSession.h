@@ -10,7 +10,11 @@
 //     an unfinished or empty text gives way to the value at the beginning;
 //     a finished number goes to a step that the target can hold (DbStep.h), and then passes the
 //     page's range check, which asks TakeEnded() first.
-// Without an edit, leaving an editor changes nothing: a value from a document stays as it came.
+// Without an edit, leaving an editor changes nothing: a value from a document stays as it came. Ended
+// tells of an edit's end, in front of the editor's own editingFinished.
+//
+// Ctrl+Z and Ctrl+Y are the editor's as long as its text has something to undo or redo. If not, the
+// edit ends and the keys are those of the page's actions.
 //
 // Watches QSpinBox, QDoubleSpinBox and CUnsignedSpinBox. An editor still signals each value on the
 // way as the user types. GUI thread; an editor that is destroyed takes its edit along.
@@ -46,13 +50,17 @@ public:
 
     bool eventFilter(QObject *object, QEvent *event) override;
 
+signals:
+    // before: the text of the editor when the edit began. It may show the same again.
+    void Ended(QWidget *editor, const QString &before);
+
 private:
     void Begin(QWidget *editor, bool isTyped);
     bool End();
 
     QPointer<QWidget> m_editor;
     QVariant m_value;  // of the editor when the edit began
-    QString m_text;    // the same; known when the edit began with a step
+    QString m_text;    // the same
     bool m_isTyped = false;
     QPointer<QWidget> m_ended;
 };

@@ -203,9 +203,14 @@ QString CAutoBindingDataModelDockWidget::DocumentText()
     FinishEdit();
     if (!self || m_dataModel.isEmpty())
         return {};
+    return QString::fromStdString(ModelToText(PackagedCopy()));
+}
+
+QJsonObject CAutoBindingDataModelDockWidget::PackagedCopy()
+{
     QJsonObject document = m_dataModel;
     Walk(kPackageWalk, BindingOf(document, document));
-    return QString::fromStdString(ModelToText(document));
+    return document;
 }
 
 QJsonObject CAutoBindingDataModelDockWidget::DocumentOf(const std::string &text)

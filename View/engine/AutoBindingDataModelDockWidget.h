@@ -174,6 +174,10 @@ protected:
     QString AbsoluteModelPath(const QString &relativePath) const;
     // The bound widgets; empty until the page is first shown.
     const CWidgetIndex &Index() const { return m_index; }
+    const CEditSession &Edits() const { return m_edits; }
+    // The document as PackageDocument gives it; the edit under way goes on, and the page's own document
+    // stays as it is.
+    QJsonObject PackagedCopy();
 
     bool m_initStarted = false;
     bool m_boxesWait = false;   // in a slot on an editor's own change

@@ -64,6 +64,7 @@ void CCalibrationDockWidget::Slot_InitDone()
 {
     disconnect(this, &CCalibrationDockWidget::Signal_InitDone, this,
                &CCalibrationDockWidget::Slot_InitDone);
+    m_undo.Start(DataMembers());
 }
 
 void CCalibrationDockWidget::DisableTestControls()
@@ -82,6 +83,7 @@ void CCalibrationDockWidget::SetButtonsEnabled(bool isEnabled)
 {
     for (QAbstractButton *button : m_form.buttons)
         button->setEnabled(isEnabled);
+    m_undo.SetEnabled(isEnabled);
 }
 
 bool CCalibrationDockWidget::eventFilter(QObject *object, QEvent *event)
@@ -106,7 +108,6 @@ bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &sel
 {
     if (!m_modelReady || selected.isEmpty())
         return false;
-    m_undo.Forget();
     if (!BeginRequest([this] { SetButtonsEnabled(false); }))
         return false;
     qCDebug(lcForm) << log;
@@ -125,8 +126,10 @@ bool CCalibrationDockWidget::ChangeSelection(const char *log, const QString &sel
 // A DUT of another generation gives no document; the page then keeps what it has.
 void CCalibrationDockWidget::ShowDocument(const QJsonObject &document)
 {
-    if (!document.isEmpty())
-        UpdateWidget(document);
+    if (document.isEmpty())
+        return;
+    UpdateWidget(document);
+    m_undo.ShownAnew();
 }
 
 QJsonObject CCalibrationDockWidget::DocumentOf(const std::string &text)
@@ -148,9 +151,4 @@ void CCalibrationDockWidget::FitTable(QTableWidget *table)
                                  area->horizontalScrollBar()->sizeHint().height());
         parent->updateGeometry();  // a covered page tells no one of its new size
     }
-}
-
-void CCalibrationDockWidget::ResetTables(const QString &reset, const QList<QTableWidget *> &tables)
-{
-    m_undo.Zero(reset, tables);
 }

@@ -14,6 +14,9 @@
 // After a flow, good or bad, the page shows what the core's copy holds under the selection, valid or
 // not. That is the new snapshot: only what the user changes from then on is an edit.
 //
+// Edits, resets, and what a Read or Import replaced can be undone (View/undo/PageUndo.h). Cells that
+// differ from what was last read or imported are coloured, and counted in the status bar.
+//
 // Until the page has its document, and while a result is being shown, its selectors get no events.
 //
 // What one page has other than the next is its record and the named slots, which call the protected
@@ -49,7 +52,7 @@
 #include <QList>
 
 #include "View/engine/AutoBindingDataModelDockWidget.h"
-#include "View/pages/ResetUndo.h"
+#include "View/undo/PageUndo.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
 class CCalibrationDockWidget;
@@ -92,7 +95,7 @@ struct SCalibrationForm
     QList<QWidget *> selectors;
 };
 
-class CCalibrationDockWidget : public CAutoBindingDataModelDockWidget
+class CCalibrationDockWidget : public CAutoBindingDataModelDockWidget, private IEditedPage
 {
     Q_OBJECT
 
@@ -106,6 +109,8 @@ public:
     void EnableTestControls() override;
 
     bool eventFilter(QObject *object, QEvent *event) override;
+    // As one command of the page's undo.
+    void ChangeCells(const QString &name, const CellChanges &changes) override;
 
 public slots:
     // Nothing to stop. Prescribed; see docs/decisions/0036-prescribed-surface.md
@@ -140,8 +145,7 @@ protected:
     // Fixes the table's size to all of its headers and cells, and that of the scroll area that it
     // stands in, if any, to the table's height.
     static void FitTable(QTableWidget *table);
-    // For a reset button, by its name: sets all values of the tables to 0, which can be undone
-    // until the page shows other data, begins a flow or is left.
+    // For a reset button, by its name: sets all values of the tables to 0, as one command.
     void ResetTables(const QString &reset, const QList<QTableWidget *> &tables);
 
 private:
@@ -166,11 +170,25 @@ private:
     void ShowProgress(ECalibrationFlow kind, int round, int routesDone, int routesInAll);
     static const SFlowTexts &Texts(ECalibrationFlow flow);
 
+    // CalibrationDockWidgetUndo.cpp: what undo needs of the page.
+    QList<QWidget *> DataMembers() const;
+    QWidget *Widget() override { return this; }
+    ECalItem Item() const override { return m_page.item; }
+    CQuorlinViewCtrl &Ctrl() override { return *m_viewCtrl; }
+    void EndEdit() override { FinishEdit(); }
+    QStringList Selection() const override;
+    bool ShowSelection(const QStringList &selection) override;
+    bool IsReady() const override { return m_modelReady; }
+    QJsonObject Packaged() override { return PackageDocument(); }
+    QJsonObject PackagedCopy() override { return CAutoBindingDataModelDockWidget::PackagedCopy(); }
+    const QJsonObject &Document() const override { return m_dataModel; }
+    void ShowMemory() override;
+
     const SCalibrationPage m_page;
     QJsonObject m_lastDocument;  // as it stood when the user went to a selector
     bool m_hasSnapshot = false;  // it was taken in this event
     const std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
     SCalibrationForm m_form{};
-    CResetUndo m_undo{this, [this] { FinishEdit(); }};
+    CPageUndo m_undo{*this, this, Edits()};
     SCalRemarks m_remarks;  // of the flow that runs
 };

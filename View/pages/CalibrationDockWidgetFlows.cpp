@@ -18,7 +18,8 @@ struct CCalibrationDockWidget::SFlowTexts
     const char *log;
     const char *running;  // in front of how far it is, and over what it left out
     const char *done;
-    const char *failed;  // with a point behind it in the status bar
+    const char *failed;          // with a point behind it in the status bar
+    const char *undo = nullptr;  // name of the command; null: the flow fills no records
 };
 
 const CCalibrationDockWidget::SFlowTexts &CCalibrationDockWidget::Texts(ECalibrationFlow flow)
@@ -30,6 +31,7 @@ const CCalibrationDockWidget::SFlowTexts &CCalibrationDockWidget::Texts(ECalibra
             .running = "Read data from target",
             .done = "Read data from target successfully.",
             .failed = "Read data from target failed",
+            .undo = "Read",
         },
         {
             .flow = ECalibrationFlow::Download,
@@ -44,6 +46,7 @@ const CCalibrationDockWidget::SFlowTexts &CCalibrationDockWidget::Texts(ECalibra
             .running = "Import data from file",
             .done = "Import data from file successfully.",
             .failed = "Import data from file failed",
+            .undo = "Import",
         },
         {
             .flow = ECalibrationFlow::Save,
@@ -60,7 +63,7 @@ const CCalibrationDockWidget::SFlowTexts &CCalibrationDockWidget::Texts(ECalibra
 template <typename Flow>
 void CCalibrationDockWidget::StartFlow(ECalibrationFlow kind, const Flow &flow, const QString &path)
 {
-    m_undo.Forget();
+    m_undo.BeginFlow();
     const auto turnOff = [this] {
         SetButtonsEnabled(false);
         m_form.contents->setEnabled(false);
@@ -170,6 +173,8 @@ void CCalibrationDockWidget::FinishFlow(ECalibrationFlow flow,
     QMetaObject::invokeMethod(this, goOn, Qt::QueuedConnection);
     const QScopedValueRollback<bool> boxesWait(m_boxesWait, true);
     ShowDocument(m_viewCtrl->FlowDocument());
+    if (const char *name = Texts(flow).undo)
+        m_undo.EndFlow(QLatin1String(name));
 }
 
 void CCalibrationDockWidget::GoOnAfter(ECalibrationFlow flow,
