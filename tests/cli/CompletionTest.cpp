@@ -46,6 +46,13 @@ TEST(CompletionTest, FunctionsPartsAndReadingsAreOffered)
     EXPECT_EQ(Choices("decode VOND_MMRf_RssiV7_r answer @rec"), "@record.bin\n");
 }
 
+TEST(CompletionTest, CalibrationCommandsAndItemsAreOffered)
+{
+    EXPECT_EQ(Choices("cal \"\""), "read\ndiff\nwrite\nverify\nrestore\n");
+    EXPECT_EQ(Choices("cal read --item r"), "rx-path-loss\n");
+    EXPECT_TRUE(Offers("cal write --", "--allow-other-route"));
+}
+
 TEST(CompletionTest, FilesAreLeftToBash)
 {
     EXPECT_EQ(Choices("trace summary \"\""), "\n");
