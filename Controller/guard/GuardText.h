@@ -5,7 +5,7 @@
 
 #include <QString>
 
-#include "Controller/guard/GuardedWrite.h"
+#include "Controller/guard/GuardedOutcome.h"
 
 // Of a move of an item: the words of its code, and its own.
 QString MoveText(uint32_t code, const QString &text);
