@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <QShowEvent>
 #include <QSpacerItem>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QWindow>
 
 #include "Support/Log.h"
@@ -71,6 +73,10 @@ int CMessageBoxMan::Show(int type, const QString &title, const QString &text,
 
 void CMessageBoxMan::Log(int type, QStringList texts) const
 {
+    for (QString &text : texts) {
+        if (Qt::mightBeRichText(text))
+            text = QTextDocumentFragment::fromHtml(text).toPlainText();
+    }
     texts.removeAll(QString());
     texts.removeDuplicates();
     CSessionLog::Get().Add(FindKind(type).event, m_owner ? m_owner->windowTitle() : QString(),

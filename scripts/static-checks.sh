@@ -72,7 +72,8 @@ View/engine View/editors|Model|Support
 View/undo View/engine|View/editors|Model|Support|ViewController
 View/pages View/undo|View/engine|View/editors|Model|Support|ViewController
 View/log View/editors|Model|Support
-View/form View/log|View/engine|View/editors|Model|Support|ViewController
+View/settings View/engine|View/editors|Support
+View/form View/log|View/settings|View/engine|View/editors|Model|Support|ViewController
 View/Rx View/pages|View/engine|View/editors|Model|Support|ViewController
 View/Tx View/pages|View/engine|View/editors|Model|Support|ViewController
 PluginInterface View|Support

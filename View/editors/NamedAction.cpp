@@ -13,7 +13,8 @@ QAction *AddAction(QWidget *widget, const char *name, const char *text, const QS
     for (const QString &key : keys)
         sequences.append(QKeySequence::fromString(key));
     action->setShortcuts(sequences);
-    QObject::connect(action, &QAction::triggered, widget, act);
+    if (act)
+        QObject::connect(action, &QAction::triggered, widget, act);
     widget->addAction(action);
     return action;
 }

@@ -11,7 +11,7 @@
 class QAction;
 class QWidget;
 
-// keys: as QKeySequence::PortableText has them; the first one stands in the menu. The widget owns the
+// act: empty for an action that is wired elsewhere. keys: as QKeySequence::PortableText has them; the first one stands in the menu. The widget owns the
 // action, and act is not called after its end.
 QAction *AddAction(QWidget *widget, const char *name, const char *text, const QStringList &keys,
                    const std::function<void()> &act);

@@ -66,6 +66,7 @@
 #include "View/editors/EditSession.h"
 #include "View/editors/WheelGuard.h"
 #include "View/engine/CellChange.h"
+#include "View/engine/MemberSettings.h"
 #include "View/engine/ModelInterface.h"
 #include "View/engine/Relevance.h"
 #include "View/engine/StatusProgress.h"
@@ -97,6 +98,14 @@ public:
     // The document as packaged now, as compact text; empty while the page has none. Ends the edit under
     // way and changes nothing else. For a host, which calls it by name.
     Q_INVOKABLE QString DocumentText();
+    // Ends the edit under way, as leaving its editor does; the focus stays. First thing of a
+    // request, so that what is packaged is what the widgets show afterwards.
+    void FinishEdit();
+    // What the user has set, without results. An edit under way counts as far as it is typed.
+    SMemberSettings Settings() const;
+    // Enters settings into the editors that are on, so that what depends on them follows. What was not
+    // taken, in words, a line each. The page may be gone when it returns.
+    QStringList TakeSettings(const QJsonObject &groups);
     // Makes a change of cells as the user's entries, one after the other. name: of the command that
     // makes it, such as "Paste". Cells that are not there any more are left out. Ends the edit under
     // way first.
@@ -142,9 +151,6 @@ protected:
     void UpdateWidget(QJsonObject update);
     void AppendWidget(QJsonObject update);
 
-    // Ends the edit under way, as leaving its editor does; the focus stays. First thing of a
-    // request, so that what is packaged is what the widgets show afterwards.
-    void FinishEdit();
     // For a request that cannot do without what is chosen, before it begins. False when a combo box
     // of the document's request has no current item, is visible, and is not turned off by relevance;
     // the first of them was named in the status line and in a box then. The page may be gone.

@@ -15,6 +15,7 @@
 #include "View/form/TestLamp.h"
 #include "View/form/ToolsButton.h"
 #include "View/log/SessionLogWindow.h"
+#include "View/settings/PageSettings.h"
 #include "ui_QuorlinForm.h"
 
 namespace {
@@ -52,6 +53,7 @@ CQuorlinForm::CQuorlinForm(PageTypeRegistrar registerPageTypes)
 
 CQuorlinForm::~CQuorlinForm()
 {
+    m_lastSettings.Keep(Pages());
     if (m_wasShown)
         m_viewCtrl.StopRunningTests();
 }
@@ -175,6 +177,7 @@ void CQuorlinForm::StartInit()
 void CQuorlinForm::hideEvent(QHideEvent *event)
 {
     const QPointer<CQuorlinForm> self(this);
+    m_lastSettings.Keep(Pages());
     CAutoBindingDataModelForm::hideEvent(event);
     if (self)
         emit Signal_PluginIsActivated(false);
@@ -184,7 +187,13 @@ void CQuorlinForm::Slot_GetInitPageListDone(QStringList pageList)
 {
     disconnect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_GetInitPageListDone, this,
                &CQuorlinForm::Slot_GetInitPageListDone);
+    const QPointer<CQuorlinForm> self(this);
     InitPage(pageList);
+    if (!self)
+        return;
+    for (CAutoBindingDataModelDockWidget *page : Pages())
+        new CPageSettings(page);
+    m_lastSettings.Restore(Pages());
 }
 
 void CQuorlinForm::Slot_UpdateStatusbar(QString str)
@@ -199,6 +208,7 @@ void CQuorlinForm::ResetPages()
     const bool isBusy = !m_busy.isEmpty();
     const bool isStopping = m_viewCtrl.HasRunningTests();
     m_viewCtrl.ResetTargetCache();
+    m_lastSettings.Keep(Pages());
     RemovePages();
     m_isInitStarted = false;
     m_rfOffs = 0;

@@ -17,6 +17,7 @@
 #include <cstdint>
 
 #include "View/form/AutoBindingDataModelForm.h"
+#include "View/form/LastSettings.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
 class CSessionLogWindow;
@@ -69,6 +70,7 @@ private:
     CQuorlinViewCtrl m_viewCtrl;
     std::unique_ptr<Ui::CQuorlinForm> m_ui;
     QPushButton *m_rfOff = nullptr;
+    CLastSettings m_lastSettings{this};
     QPointer<CSessionLogWindow> m_log;  // null until it is asked for
     int m_rfOffs = 0;                   // without an answer yet
     int m_idleReports = 0;              // asked for and not there yet

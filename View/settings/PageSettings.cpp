@@ -1,0 +1,111 @@
+#include "View/settings/PageSettings.h"
+
+#include <QFile>
+#include <QPointer>
+#include <QSaveFile>
+
+#include "Support/FileDialogMan.h"
+#include "View/editors/NamedAction.h"
+#include "View/engine/AutoBindingDataModelDockWidget.h"
+#include "View/settings/SettingsFile.h"
+
+namespace {
+
+constexpr char kFilter[] = "*.json";
+
+QString TitleOf(const CAutoBindingDataModelDockWidget &page)
+{
+    return page.windowTitle().trimmed();
+}
+
+}  // namespace
+
+CPageSettings::CPageSettings(CAutoBindingDataModelDockWidget *page) : QObject(page), m_page(page)
+{
+    m_messageBox.SetOwner(page);
+    AddAction(page, "m_actionSaveSettings", "&Save settings...", {"Ctrl+S"}, [this] { Save(); });
+    AddAction(page, "m_actionLoadSettings", "L&oad settings...", {"Ctrl+O"}, [this] { Load(); });
+}
+
+CPageSettings *CPageSettings::Of(const CAutoBindingDataModelDockWidget *page)
+{
+    return page->findChild<CPageSettings *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+QByteArray CPageSettings::Text() const
+{
+    const SMemberSettings settings = m_page->Settings();
+    if (settings.groups.isEmpty())
+        return {};
+    return SettingsText({.version = settings.version,
+                         .page = TitleOf(*m_page),
+                         .section = settings.section,
+                         .groups = settings.groups});
+}
+
+QStringList CPageSettings::Take(const QByteArray &text)
+{
+    QString reason;
+    const std::optional<SSettingsFile> file = ReadSettings(text, reason);
+    if (!file)
+        return {reason};
+    const SMemberSettings own = m_page->Settings();
+    if (file->page != TitleOf(*m_page) || file->section != own.section)
+        return {QStringLiteral("These are settings of the page %1.").arg(file->page)};
+    if (file->version > own.version)
+        return {QStringLiteral("They are of version %1; this tool knows version %2.")
+                    .arg(file->version)
+                    .arg(own.version)};
+    return m_page->TakeSettings(file->groups);
+}
+
+void CPageSettings::Save()
+{
+    const QPointer<CPageSettings> self(this);
+    m_page->FinishEdit();
+    if (!self)
+        return;
+    const QByteArray text = Text();
+    const QString path =
+        CFileDialogMan().GetSaveFileName(QStringLiteral("Save settings"), QLatin1String(kFilter));
+    if (!self || path.isEmpty())
+        return;
+    QSaveFile file(path);
+    const bool isSaved =
+        file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
+    if (isSaved)
+        emit m_page->Signal_UpdateStatus(QStringLiteral("Settings saved to %1.").arg(path));
+    else
+        Tell(QStringLiteral("Save settings failed."),
+             path + QLatin1String(": ") + file.errorString());
+}
+
+void CPageSettings::Load()
+{
+    const QPointer<CPageSettings> self(this);
+    const QString path =
+        CFileDialogMan().GetOpenFileName(QStringLiteral("Load settings"), QLatin1String(kFilter));
+    if (!self || path.isEmpty())
+        return;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return Tell(QStringLiteral("Load settings failed."),
+                    path + QLatin1String(": ") + file.errorString());
+    constexpr qint64 kMostBytes = 2 * 1024 * 1024;  // more is refused, however much it is
+    const QStringList refused = Take(file.read(kMostBytes));
+    if (!self)
+        return;
+    if (refused.isEmpty())
+        emit m_page->Signal_UpdateStatus(QStringLiteral("Settings loaded from %1.").arg(path));
+    else
+        Tell(QStringLiteral("Not all settings were loaded."), refused.join(QLatin1Char('\n')));
+}
+
+// The page may be gone when it returns.
+void CPageSettings::Tell(const QString &status, const QString &box)
+{
+    const QPointer<CPageSettings> self(this);
+    emit m_page->Signal_UpdateStatus(status);
+    if (self)
+        m_messageBox.Show(eBoxWarningAsIs, status, box, {}, {}, -1);
+}
