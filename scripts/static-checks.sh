@@ -70,7 +70,7 @@ View Model|Support|ViewController
 View/editors Support
 View/engine View/editors|Model|Support
 View/undo View/engine|View/editors|Model|Support|ViewController
-View/pages View/undo|View/engine|View/editors|Model|Support|ViewController
+View/pages View/undo|View/settings|View/engine|View/editors|Model|Support|ViewController
 View/log View/editors|Model|Support
 View/settings View/engine|View/editors|Support
 View/form View/log|View/settings|View/engine|View/editors|Model|Support|ViewController

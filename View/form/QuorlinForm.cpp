@@ -16,6 +16,7 @@
 #include "View/form/ToolsButton.h"
 #include "View/log/SessionLogWindow.h"
 #include "View/settings/PageSettings.h"
+#include "View/settings/TxPowerLimit.h"
 #include "ui_QuorlinForm.h"
 
 namespace {
@@ -42,6 +43,8 @@ CQuorlinForm::CQuorlinForm(PageTypeRegistrar registerPageTypes)
     MakeRfOff();
     FillStatusBar();
     AddPageActions(this, [this] { return PageOnTop(); });
+    AddAction(this, "m_actionTxPowerLimit", "TX po&wer limit...", {"Ctrl+Shift+L"},
+              [this] { AskTxPowerLimit(this); });
     AddAction(this, "m_actionLog", "&Log...", {"Ctrl+L"}, [this] { ShowLog(); });
     connect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_Idle, this, [this] {
         if (--m_idleReports == 0)

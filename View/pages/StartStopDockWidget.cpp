@@ -6,6 +6,8 @@
 #include "Model/MemberPath.h"
 #include "Model/StatusTable.h"
 #include "Support/Log.h"
+#include "View/engine/MemberEditors.h"
+#include "View/settings/TxPowerLimit.h"
 
 namespace {
 
@@ -154,10 +156,37 @@ QJsonObject CStartStopDockWidget::DocumentOf(const std::string &text)
     return m_viewCtrl->DocumentOf(text);
 }
 
+// Editors that are off are of no matter: the test does not use them, or runs with them already.
+bool CStartStopDockWidget::IsWithinTxLimit()
+{
+    const std::optional<double> limit = TxPowerLimit();
+    if (!limit)
+        return true;
+    for (const SMemberEditor &editor :
+         EditorsOf(m_dataModel, AbsoluteModelPath(QStringLiteral("request")), Index())) {
+        const bool isPower = editor.key.endsWith(QLatin1String(".txPowerValue"));
+        if (!isPower || !editor.editor->isEnabled() || !editor.editor->isVisibleTo(this))
+            continue;
+        const double power = PackagedText(editor.editor).toDouble();
+        if (power <= *limit)
+            continue;
+        const QString text = QStringLiteral("TX power %1 dBm is above your limit of %2 dBm.")
+                                 .arg(power, 0, 'f', 2)
+                                 .arg(*limit, 0, 'f', 2);
+        const QPointer<CStartStopDockWidget> self(this);
+        emit Signal_UpdateStatus(text);
+        if (self)
+            m_messageBox.Show(eBoxWarningAsIs, text, text, {}, {}, -1);
+        return false;
+    }
+    return true;
+}
+
 void CStartStopDockWidget::StartTest()
 {
     qCDebug(lcForm) << "on_m_start_clicked";
-    if (!HasAllChoices() || !BeginRequest([this] { TakeStep(ETestStep::Starting); }))
+    if (!HasAllChoices() || !IsWithinTxLimit() ||
+        !BeginRequest([this] { TakeStep(ETestStep::Starting); }))
         return;
     const QJsonObject document = PackageDocument();
     PrepareStart(document);

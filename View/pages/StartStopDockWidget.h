@@ -146,6 +146,9 @@ private:
         Stop,
     };
 
+    // False when a TX power that Start would send is above the user's limit, which has been said then.
+    // The page may be gone.
+    bool IsWithinTxLimit();
     void ShowInputs(bool areOn);
     QVector<QWidget *> RequestEditors() const;
     QString Text(const char *outcome) const;
