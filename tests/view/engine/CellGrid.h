@@ -1,4 +1,4 @@
-// A page with one table of dB values, 3 rows by 5 columns, for tests that mark and change cells.
+// A page with one table of dB values, 3 rows by 5 columns unless told, for tests that mark and change cells.
 //
 // The value of a cell is 10 * row + column. The page is the active window.
 //
@@ -33,13 +33,14 @@ public:
                          [this](const QString &text) { m_status = text; });
     }
 
-    static CTestDocument Document(const QString &type, const QString &entry)
+    static CTestDocument Document(const QString &type, const QString &entry, int rows = kRows,
+                                  int columns = kColumns)
     {
         CTestDocument document;
-        document.ColumnTable("request.group2", kColumns);
-        for (int r = 0; r < kRows; ++r) {
+        document.ColumnTable("request.group2", columns);
+        for (int r = 0; r < rows; ++r) {
             QStringList values;
-            for (int c = 0; c < kColumns; ++c)
+            for (int c = 0; c < columns; ++c)
                 values.append(QString("'%1'").arg(10 * r + c));
             document.Member(QString("request.group2.row%1").arg(r),
                             QString("{'caption':'Row %1','defaultSupport':1,"

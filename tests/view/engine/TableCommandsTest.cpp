@@ -362,6 +362,38 @@ private slots:
         ClosedBox();
     }
 
+    // 64 rows of 24 columns take some tens of milliseconds.
+    void largePasteIsOneQuickChange()
+    {
+        constexpr int kRows = 64;
+        constexpr int kColumns = 24;
+        CCellGrid grid(
+            CCellGrid::Document("pointRange", "{'min':-300,'max':900}", kRows, kColumns));
+        CellRows rows;
+        for (int r = 0; r < kRows; ++r) {
+            rows.emplace_back();
+            for (int c = 0; c < kColumns; ++c)
+                rows.back().append(QString::number(-r - c / 32.0));
+        }
+        Put(TextOfCells(rows));
+        grid.Focus(0, 0);
+        QElapsedTimer timer;
+        timer.start();
+        grid.Press(Qt::Key_V, Qt::ControlModifier);
+        qInfo() << "paste" << timer.restart() << "ms";
+        QCOMPARE(grid.m_status, QString("Paste: %1 cells changed.").arg(kRows * kColumns - 1));
+        QCOMPARE(grid.Box(63, 23)->text(), QString("-63.71875"));
+        grid.Press(Qt::Key_Escape);
+        timer.start();
+        grid.Mark()->MarkAll();
+        qInfo() << "mark all" << timer.restart() << "ms";
+        grid.Press(Qt::Key_C, Qt::ControlModifier);
+        qInfo() << "copy" << timer.restart() << "ms";
+        grid.Press(Qt::Key_Escape);
+        qInfo() << "unmark" << timer.elapsed() << "ms";
+        QVERIFY(Taken().endsWith("\t-63.71875\n"));
+    }
+
     void undoKeysAreThePagesActionsWithAMark()
     {
         CCellGrid grid;
