@@ -153,6 +153,27 @@ SCalDifference CCalComparison::At(std::size_t index) const
     return difference;
 }
 
+SCalDifferenceSpot CCalComparison::SpotAt(std::size_t index) const
+{
+    const SPlace &place = m_differences[index];
+    const SPair &pair = m_pairs[place.pair];
+    if (IsLacking(pair))
+        return {.record = place.pair};
+    const SFoundField &part = PartAt(place);
+    SCalDifferenceSpot spot = {.record = place.pair, .field = part.field, .offset = part.offset};
+    const EFieldType type = part.field->at.type;
+    if (SizeOf(type) == 0)
+        return spot;
+    const double perUnit = part.field->unit.perUnit;
+    const auto inUnit = [&](const SCalImageRecord &record) {
+        return static_cast<double>(ReadNumber(type, BytesOf(record, part))) / perUnit;
+    };
+    spot.left = inUnit(m_left.records[pair.left]);
+    spot.right = inUnit(m_right.records[pair.right]);
+    spot.difference = *spot.right - *spot.left;
+    return spot;
+}
+
 std::vector<SCalStatistic> CCalComparison::ByRoute() const
 {
     std::vector<SCalStatistic> routes;
@@ -161,7 +182,8 @@ std::vector<SCalStatistic> CCalComparison::ByRoute() const
         if (place.pair != last) {
             const SCalImageRecord &record = RecordOf(m_pairs[place.pair]);
             routes.push_back({.name = RouteName(record.kind) + std::string(" ") +
-                                      PlaceText(record.place, record.kind)});
+                                      PlaceText(record.place, record.kind),
+                              .record = place.pair});
         }
         last = place.pair;
         ++routes.back().count;
@@ -183,6 +205,7 @@ std::vector<SCalStatistic> CCalComparison::ByField() const
         if (isNew) {
             const SLayout &layout = CalRecordLayout(RecordOf(pair).kind);
             fields.push_back({.name = WithoutIndexes(NameAt(layout, part.offset)),
+                              .field = part.field,
                               .unit = part.field->unit.name});
         }
         SCalStatistic &statistic = fields[found->second];
