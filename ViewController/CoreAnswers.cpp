@@ -26,6 +26,7 @@ CCoreAnswers::CCoreAnswers()
     PassOn(&CNrCore::Signal_CalDocument, &CCoreAnswers::Signal_CalDocument);
     PassOn(&Cal::Signal_CalProgress, &CCoreAnswers::Signal_CalProgress);
     PassOn(&Cal::Signal_CalRemarks, &CCoreAnswers::Signal_CalRemarks);
+    PassOn(&CNrCore::Signal_CalWork, &CCoreAnswers::Signal_CalWork);
 }
 
 // The connection is never taken down, so no pool thread can meet it half gone.

@@ -55,6 +55,7 @@ signals:
     void Signal_CalDocument(QString item, std::string document);
     void Signal_CalProgress(QString item, int round, int routesDone, int routesInAll);
     void Signal_CalRemarks(QString item, SCalRemarks remarks);
+    void Signal_CalWork(QString item, QString step, int routesDone, int routesInAll);
 
 private:
     CCoreAnswers();

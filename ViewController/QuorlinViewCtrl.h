@@ -39,7 +39,9 @@
 #include "Controller/core/CalItemTable.h"
 #include "Controller/core/PageId.h"
 #include "Model/CalChanges.h"
+#include "Model/CalDifferences.h"
 #include "Model/CalRemarks.h"
+#include "Model/GuardedPlan.h"
 #include "Model/HandedDocument.h"
 #include "Model/OperationResult.h"
 #include "Model/RunningTest.h"
@@ -79,6 +81,14 @@ public:
     void RequestTest(EPageId page, CHandedDocument document);
     // path: of the file, of a save or load.
     void RequestFlow(ECalItem item, ECalFlow flow, CHandedDocument document, QString path = {});
+    // Two images of an item side by side, answered by Signal_ComparisonDone; document is that of the
+    // page, whose edits go into memory first.
+    void RequestComparison(ECalItem item, CHandedDocument document, SComparedSide left,
+                           SComparedSide right);
+    // A guarded write of what the page holds: first the plan, answered by Signal_GuardedPlanDone, then,
+    // after the user's yes, the write of that plan, by Signal_GuardedWriteDone.
+    void RequestGuardedPlan(ECalItem item, CHandedDocument document);
+    void RequestGuardedWrite(ECalItem item, SGuardedPlan plan);
     // Reads beside a page's test, answered by the signals of the named ones below.
     void RequestDlFreq(EPageId page, CHandedDocument document);
     void RequestPdValue(EPageId page, CHandedDocument document);
@@ -302,6 +312,12 @@ signals:
     // Remarks on the calibration request. Comes before its answer, and only when there are remarks.
     void Signal_CalRemarks(SCalRemarks remarks);
 
+    void Signal_ComparisonDone(SCalCompared compared);
+    void Signal_GuardedPlanDone(SGuardedPlan plan);
+    void Signal_GuardedWriteDone(SGuardedReport report);
+    // How far a comparison or a guarded write is, with the step in words.
+    void Signal_CalWork(QString step, int routesDone, int routesInAll);
+
     void Signal_Idle();
 
 private:
@@ -323,6 +339,12 @@ private:
     void AwaitFlow(ECalItem item, ECalFlow flow);
     void PassFlowAnswer(ECalItem item, ECalFlow flow,
                         const QVector<SEachItemOperationResult> &itemResult);
+
+    // QuorlinViewCtrlCompare.cpp
+    void AwaitWork(ECalItem item);
+    template <typename Job, typename... Answers>
+    void RunWork(ECalItem item, const char *internalName,
+                 void (CQuorlinViewCtrl::*signal)(Answers...), Job job);
 
     template <typename... Answers>
     void EmitAnswer(void (CQuorlinViewCtrl::*signal)(Answers...), QJsonObject document,

@@ -42,9 +42,12 @@
 #include "Controller/core/RunningTests.h"
 #include "Controller/core/TestSteps.h"
 #include "Model/CalChanges.h"
+#include "Model/CalDifferences.h"
+#include "Model/GuardedPlan.h"
 #include "Model/HandedDocument.h"
 #include "Model/OperationResult.h"
 #include "Operations/calibration/CalItemByL1Operation.h"
+#include "Operations/calibration/CalResult.h"
 #include "Operations/capability/TargetCapability.h"
 #include "Operations/tests/TestStop.h"
 #include "Support/Lock.h"
@@ -179,6 +182,17 @@ public:
     // What the last Read or Import has replaced, the edits of its page among it; once.
     CalChange TakeFlowChange(ECalItem item);
 
+    // Two images of an item side by side. Neither flash nor memory changes. An INI file is loaded onto
+    // a copy of the other side: what it has no key for is no difference. Signal_CalWork tells how far
+    // it is. Pool threads only.
+    SCalCompared CompareCal(ECalItem item, const SComparedSide &left, const SComparedSide &right);
+
+    // A guarded write of what the item's memory holds. Plan reads flash and writes nothing; Carry saves
+    // a backup, sends what differs and reads it back. Behind a reset between the two nothing is sent.
+    // One Carry a plan. Pool threads only.
+    SGuardedPlan PlanGuardedWrite(ECalItem item);
+    SGuardedReport CarryGuardedWrite(const SGuardedPlan &plan);
+
     // Returns when the job that runs has ended. Pool threads only.
     void WaitForTurn();
 
@@ -195,6 +209,8 @@ signals:
     // A flow's document with the record that memory holds when it has ended, under the selection of
     // the document. Empty on another generation.
     void Signal_CalDocument(QString item, std::string document);
+    // How far a comparison or a guarded write is: the step in words, and rows of the route tables.
+    void Signal_CalWork(QString item, QString step, int routesDone, int routesInAll);
     // isAny: true when the first test starts, false when the last one has ended.
     void Signal_TestsRun(bool isAny);
     // Of the tests that run, the one started last; an empty text when none does.
@@ -262,6 +278,15 @@ private:
     void TellRemarks(ECalItem item);
     // Of the item's page; the capability reads are cached.
     std::unique_ptr<ICalPageLimits> PageLimits(ECalItem item);
+    // Under m_targetLock, for comparisons (NrCoreCalCompare.cpp).
+    std::unique_ptr<ICalItemByL1Operation> ScratchItem(ECalItem item, const QString &work);
+    SCalImage MemoryImage(ECalItem item);
+    SCalFault ReadFlash(ECalItem item, SCalImage &image);
+    SCalFault LoadBackup(ECalItem item, const QString &path, SCalImage &image);
+    SCalFault LoadIni(ECalItem item, const QString &path, const SCalImage &other, SCalImage &image);
+    // other: the image of the other side, if it is known by then.
+    SCalFault TakeSide(ECalItem item, const SComparedSide &side, const SCalImage &other,
+                       SCalImage &image);
     // Under m_targetLock.
     void LookForCalItem(ECalItem item);
     SCalView CalView(ECalItem item);
