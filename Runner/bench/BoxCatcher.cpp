@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
@@ -33,6 +34,9 @@ bool CBoxCatcher::eventFilter(QObject *watched, QEvent *event)
     } else if (auto *dialog = qobject_cast<QFileDialog *>(watched)) {
         QMetaObject::invokeMethod(
             dialog, [this, dialog] { Answer(dialog); }, Qt::QueuedConnection);
+    } else if (auto *question = qobject_cast<QDialog *>(watched); question && question->isModal()) {
+        QMetaObject::invokeMethod(
+            question, [this, question] { Cancel(question); }, Qt::QueuedConnection);
     }
     return false;
 }
@@ -65,6 +69,22 @@ void CBoxCatcher::Answer(QFileDialog *dialog)
         QMetaObject::invokeMethod(dialog, "accept");
     }
     if (alive && alive->isVisible())
+        alive->reject();
+}
+
+// Its labels are what it says.
+void CBoxCatcher::Cancel(QDialog *dialog)
+{
+    if (!dialog->isVisible())
+        return;
+    QStringList lines;
+    for (const QLabel *label : dialog->findChildren<QLabel *>()) {
+        if (label->isVisible() && !label->buddy())
+            lines.append(PlainText(label->text()).trimmed());
+    }
+    const QPointer<QDialog> alive(dialog);
+    Keep({.title = dialog->windowTitle().trimmed(), .text = lines.join(QLatin1Char('\n'))});
+    if (alive)
         alive->reject();
 }
 

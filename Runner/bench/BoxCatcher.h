@@ -1,5 +1,6 @@
-// Closes every message box and file dialog of the application as soon as it is shown, and keeps what it
-// said. GUI thread.
+// Closes every message box and modal dialog of the application as soon as it is shown, and keeps what it
+// said. A question is answered with no: what it asks for does not happen. Windows that a user may leave
+// open stay. GUI thread.
 //
 //   CBoxCatcher boxes;
 //   boxes.AnswerFileDialog("/tmp/loss.ini");
@@ -11,6 +12,7 @@
 
 #include "Runner/bench/BenchTypes.h"
 
+class QDialog;
 class QFileDialog;
 class QMessageBox;
 
@@ -33,6 +35,7 @@ signals:
 private:
     void Close(QMessageBox *box);
     void Answer(QFileDialog *dialog);
+    void Cancel(QDialog *dialog);
     void Keep(const SBenchBox &box);
 
     QString m_file;

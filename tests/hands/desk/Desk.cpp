@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QStatusBar>
 #include <QThreadPool>
 #include <QWheelEvent>
@@ -197,9 +198,14 @@ void CDesk::Key(QWidget *window, Qt::Key key, Qt::KeyboardModifiers modifiers)
 
 void CDesk::AnswerDialog()
 {
-    auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-    if (!dialog)
+    QWidget *const modal = QApplication::activeModalWidget();
+    auto *dialog = qobject_cast<QFileDialog *>(modal);
+    if (!dialog) {
+        auto *question = qobject_cast<QDialog *>(modal);
+        if (question && !qobject_cast<QMessageBox *>(modal))
+            question->reject();
         return;
+    }
     const QDockWidget *page = FrontPage();
     const QString file = m_folder + '/' + (page ? page->objectName() : "other") + ".ini";
     if (dialog->acceptMode() == QFileDialog::AcceptOpen && !QFile::exists(file)) {

@@ -2,7 +2,8 @@
 //
 // Keys, clicks and wheel turns go in at the windows, as those of a person do, so that focus,
 // shortcuts, popups and modal boxes take their part. A message box is closed as soon as it opens; a
-// file dialog gets the file of the page in front, or is cancelled when there is none to open.
+// file dialog gets the file of the page in front, or is cancelled when there is none to open. Any other
+// question is answered with no.
 //
 // Settle waits until the tool is idle, or until a call to the DUT stands at a gate that the user's
 // DUT has closed (Hold): then the tool is in the middle of a request, and the next thing that the
