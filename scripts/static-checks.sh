@@ -69,8 +69,9 @@ ViewController Controller|Model|Support
 View Model|Support|ViewController
 View/editors Support
 View/engine View/editors|Model|Support
+View/compare Model|Support|ViewController
 View/undo View/engine|View/editors|Model|Support|ViewController
-View/pages View/undo|View/settings|View/engine|View/editors|Model|Support|ViewController
+View/pages View/compare|View/undo|View/settings|View/engine|View/editors|Model|Support|ViewController
 View/log View/editors|Model|Support
 View/settings View/engine|View/editors|Support
 View/form View/log|View/settings|View/engine|View/editors|Model|Support|ViewController

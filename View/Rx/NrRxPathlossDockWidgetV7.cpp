@@ -65,7 +65,8 @@ CNrRxPathlossDockWidgetV7::CNrRxPathlossDockWidgetV7(QWidget *parent)
     m_ui->setupUi(this);
     SetForm({
         .contents = m_ui->dockWidgetContents,
-        .buttons = {m_ui->m_btnUpload, m_ui->m_btnDownload, m_ui->m_btnLoad, m_ui->m_btnSave},
+        .buttons = {m_ui->m_btnUpload, m_ui->m_btnDownload, m_ui->m_btnLoad, m_ui->m_btnSave,
+                    m_ui->m_btnCompare, m_ui->m_btnGuardedWrite},
         .selectors = {m_ui->calDataIf_config_group1_memberProperty_band,
                       m_ui->calDataIf_config_group1_memberProperty_routeType,
                       m_ui->calDataIf_config_group1_memberProperty_route,
@@ -74,6 +75,7 @@ CNrRxPathlossDockWidgetV7::CNrRxPathlossDockWidgetV7(QWidget *parent)
                       m_ui->calDataIf_config_group1_memberProperty_path,
                       m_ui->calDataIf_config_group1_memberProperty_type2GainModeIdx},
     });
+    AddCompare(m_ui->m_btnCompare, m_ui->m_btnGuardedWrite);
     m_ui->m_lblFreq->setText(QStringLiteral("0"));
     PlaceTabBar(m_ui->calDataIf_config_group1_memberProperty_type2GainModeIdx, m_ui->m_type1Tables,
                 m_ui->calDataIf_data_group2_memberProperty_lna0);

@@ -43,11 +43,13 @@ CNrAptProfileDockWidgetV7::CNrAptProfileDockWidgetV7(QWidget *parent)
     m_ui->setupUi(this);
     SetForm({
         .contents = m_ui->dockWidgetContents,
-        .buttons = {m_ui->m_btnUpload, m_ui->m_btnDownload, m_ui->m_btnLoad, m_ui->m_btnSave},
+        .buttons = {m_ui->m_btnUpload, m_ui->m_btnDownload, m_ui->m_btnLoad, m_ui->m_btnSave,
+                    m_ui->m_btnCompare, m_ui->m_btnGuardedWrite},
         .selectors = {m_ui->calDataIf_config_group1_memberProperty_band,
                       m_ui->calDataIf_config_group1_memberProperty_txRoute,
                       m_ui->calDataIf_config_group1_memberProperty_aggBwRegion},
     });
+    AddCompare(m_ui->m_btnCompare, m_ui->m_btnGuardedWrite);
     PlaceTabBar(m_ui->calDataIf_data_group12_memberProperty_ulFreq, m_ui->m_tables,
                 m_ui->calDataIf_data_group7_memberProperty_paHighPaGain);
 }

@@ -44,13 +44,14 @@
 //   }
 #pragma once
 
-#include <array>
+#include <functional>
 #include <memory>
 #include <string>
 
 #include <QJsonObject>
 #include <QList>
 
+#include "Model/CalDifferences.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
 #include "View/undo/PageUndo.h"
 #include "ViewController/QuorlinViewCtrl.h"
@@ -90,8 +91,8 @@ struct SCalibrationPage
 
 struct SCalibrationForm
 {
-    QWidget *contents;  // all widgets of the page
-    std::array<QAbstractButton *, 4> buttons;
+    QWidget *contents;                 // all widgets of the page
+    QList<QAbstractButton *> buttons;  // that are off while a flow runs
     QList<QWidget *> selectors;
 };
 
@@ -129,6 +130,8 @@ protected:
 
     // The form's parts, once it is built.
     void SetForm(const SCalibrationForm &form);
+    // The page compares and writes with guard by these buttons (CalCompare.h).
+    void AddCompare(QAbstractButton *compare, QAbstractButton *guardedWrite);
 
     // The answers, in their slots: shows what memory holds, then ends the flow.
     void FinishFlow(ECalibrationFlow flow, const SEachItemOperationResult &result);
@@ -164,6 +167,12 @@ private:
                      const SCalRemarks &remarks);
     void SetButtonsEnabled(bool isEnabled);
     void TakeSnapshot();
+    // CalibrationDockWidgetCompare.cpp. GoTo brings the page to the front and gives the value's editor the
+    // focus; notShown is called where the page does not show it.
+    void GoTo(const SCalCellPlace &place, const std::function<void()> &notShown);
+    bool ShowPlace(const SCalCellPlace &place);
+    bool Select(const SCalCellPlace &place);
+    QWidget *EditorOf(const SCalCellPlace &place) const;
     // The page may be gone when it returns, unless boxes wait.
     void ShowDocument(const QJsonObject &document);
     // round: the transfer under way, 0 for a file; routesInAll: 0 while that is not known yet.
@@ -190,5 +199,6 @@ private:
     const std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
     SCalibrationForm m_form{};
     CPageUndo m_undo{*this, this, Edits()};
-    SCalRemarks m_remarks;  // of the flow that runs
+    SCalRemarks m_remarks;       // of the flow that runs
+    QPointer<QObject> m_goesTo;  // while the page comes to the front for a value
 };
