@@ -74,7 +74,8 @@ View/undo View/engine|View/editors|Model|Support|ViewController
 View/pages View/compare|View/undo|View/settings|View/engine|View/editors|Model|Support|ViewController
 View/log View/editors|Model|Support
 View/settings View/engine|View/editors|Support
-View/form View/log|View/settings|View/engine|View/editors|Model|Support|ViewController
+View/entry View/engine|View/editors|Model|Support
+View/form View/entry|View/log|View/settings|View/engine|View/editors|Model|Support|ViewController
 View/Rx View/pages|View/engine|View/editors|Model|Support|ViewController
 View/Tx View/pages|View/engine|View/editors|Model|Support|ViewController
 PluginInterface View|Support

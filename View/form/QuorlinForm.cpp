@@ -11,6 +11,7 @@
 #include "View/editors/FormFont.h"
 #include "View/editors/NamedAction.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
+#include "View/entry/FrequencyEntry.h"
 #include "View/form/PageActions.h"
 #include "View/form/TestLamp.h"
 #include "View/form/ToolsButton.h"
@@ -194,8 +195,10 @@ void CQuorlinForm::Slot_GetInitPageListDone(QStringList pageList)
     InitPage(pageList);
     if (!self)
         return;
-    for (CAutoBindingDataModelDockWidget *page : Pages())
+    for (CAutoBindingDataModelDockWidget *page : Pages()) {
         new CPageSettings(page);
+        AddFrequencyEntry(page);
+    }
     m_lastSettings.Restore(Pages());
 }
 
