@@ -261,7 +261,8 @@ void CPageUndo::MarkDirty(const CellEdits &edits)
 void CPageUndo::Refresh()
 {
     const std::vector<SEditorPlace> dirty = std::exchange(m_dirty, {});
-    if (!m_hasStarted || !m_page.IsReady())
+    // A page that has left its window is of a DUT that is gone.
+    if (!m_hasStarted || !m_page.IsReady() || !m_widget->parentWidget())
         return;
     const QJsonObject document = m_page.PackagedCopy();
     const SCalChangedCells cells = m_page.Ctrl().CountCalChanges(m_page.Item(), document, true);
