@@ -52,6 +52,7 @@ private slots:
     void undoShowsTheTabOfItsCell();
     void undoGoesOnBehindAWrite();
     void actionsAreOffWhileAFlowRuns();
+    void readRightBehindAnEditDoesNotBlockTheWindow();
     void resetOfTheDutDropsThemAll();
     void pageMayGoWhileUndoShowsASelection_data();
     void pageMayGoWhileUndoShowsASelection();
@@ -293,6 +294,24 @@ void PageUndoTest::actionsAreOffWhileAFlowRuns()
     VondSim_Release(kReadCall);
     QVERIFY(session.WaitForStatus(kRead.done));
     QVERIFY(WaitUntil([&] { return session.CanUndo(); }));
+}
+
+// What has changed is counted behind the edit, when the flow has the records already.
+void PageUndoTest::readRightBehindAnEditDoesNotBlockTheWindow()
+{
+    CUndoSession session(kAptPage);
+    QVERIFY(session.IsRead());
+    VondSim_Hold(kReadCall);
+    session.Edit(kPaGain, kHighGain, 0, 3, "18.5");
+    session.Press(kRead.button);
+    QVERIFY(VondSim_WaitUntilHeld(kReadCall, 20000));
+    for (int i = 0; i < 20; ++i)
+        QCoreApplication::processEvents();
+    VondSim_Release(kReadCall);
+    QVERIFY(session.WaitForStatus(kRead.done));
+    QCOMPARE(session.UndoText(), QString("Undo Read"));
+    session.PressUndo();
+    QCOMPARE(session.ChangeCount(), QString("1 changed cell"));
 }
 
 void PageUndoTest::resetOfTheDutDropsThemAll()
