@@ -25,7 +25,7 @@ int RunVerb(const SCalRequest &request)
 
 }  // namespace
 
-extern "C" __attribute__((visibility("default"))) int QuorlinCal_Run(const SCalRequest &request)
+extern "C" __attribute__((visibility("default"))) int QuorlinCalRun(const SCalRequest &request)
 {
     try {
         return RunVerb(request);
