@@ -4,13 +4,13 @@
 #   scripts/package.sh                                         build/package/quorlin-rf_*.deb
 #
 # The tree is the build's own: bin/quorlin-host, bin/quorlin, plugins/libQuorlinRf.so with libQuorlinCal.so beside it
-# (for "quorlin cal"), the Vond pair in lib/ where the plug-in's relative RUNPATH finds it, the tap beside the pair, and the header that a host needs in
+# (for "quorlin cal") and libQuorlinPlots.so, the Vond pair in lib/ where the plug-in's relative RUNPATH finds it, the tap beside the pair, and the header that a host needs in
 # include/. With VOND_ROOT the pair stays where it is, and the plug-in's RUNPATH names that folder.
 include_guard(GLOBAL)
 include(GNUInstallDirs)
 
 install(TARGETS quorlin-host quorlin RUNTIME DESTINATION bin COMPONENT tool)
-install(TARGETS QuorlinRf QuorlinCal LIBRARY DESTINATION plugins COMPONENT tool)
+install(TARGETS QuorlinRf QuorlinCal QuorlinPlots LIBRARY DESTINATION plugins COMPONENT tool)
 install(DIRECTORY python/quorlin DESTINATION python COMPONENT tool FILES_MATCHING PATTERN "*.py" PATTERN "py.typed"
         PATTERN "__pycache__" EXCLUDE)
 install(TARGETS VondTap LIBRARY DESTINATION lib COMPONENT tool)

@@ -75,9 +75,11 @@ View/pages View/compare|View/undo|View/settings|View/engine|View/editors|Model|S
 View/log View/editors|Model|Support
 View/settings View/engine|View/editors|Support
 View/entry View/engine|View/editors|Model|Support
+View/plots View/engine|View/editors|Model|Support
 View/form View/entry|View/log|View/settings|View/engine|View/editors|Model|Support|ViewController
-View/Rx View/pages|View/engine|View/editors|Model|Support|ViewController
-View/Tx View/pages|View/engine|View/editors|Model|Support|ViewController
+View/Rx View/pages|View/plots|View/engine|View/editors|Model|Support|ViewController
+View/Tx View/pages|View/plots|View/engine|View/editors|Model|Support|ViewController
+Plots View/plots
 PluginInterface View|Support
 Host PluginInterface
 Runner Host|PluginInterface
@@ -123,6 +125,13 @@ Operations/tests Operations/(GeneralOperation\.h|(link|capability)/)
 Operations/calibration Operations/(GeneralOperation\.h|(link|capability)/)
 END
     if grep -rnE '"Vond/Vond(Core|App)\.h"' Controller ViewController View PluginInterface Host >&2; then
+        good=false
+    fi
+    if grep -rn '#include "View' Plots | grep -v 'View/plots/PlotInterface.h"' >&2; then
+        good=false
+    fi
+    # Qwt is for what draws alone: the tool works where it is not installed.
+    if grep -rnE '#include [<"]qwt' --include='*.h' --include='*.cpp' . | grep -v '^\./\(Plots\|build\)/' >&2; then
         good=false
     fi
     $good

@@ -1,5 +1,6 @@
 // quorlin cal diff
 #include <cmath>
+#include <cstdio>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -119,7 +120,7 @@ void SayJson(const SCalRequest &request, const SCalSides &sides, const CCalCompa
                                 {"byRoute", StatisticArray(fields.ByRoute())},
                                 {"byField", StatisticArray(fields.ByField())},
                                 {"bytesAlone", QJsonArray::fromStringList(bytes)}};
-    SayBytes(QJsonDocument(object).toJson());
+    std::fputs(QJsonDocument(object).toJson().constData(), stdout);
 }
 
 QString Quoted(QString text)

@@ -48,12 +48,11 @@ QString ReadIniFile(const QString &file, ICalItemByL1Operation &scratch,
         if (!loaded.Find(record.kind, record.place))
             loaded.records.push_back({record.kind, record.place, {}});
     }
-    for (SCalImageRecord &record : scratch.Image().records) {
-        if (!loaded.Find(record.kind, record.place))
-            continue;
-        const SCalBlockRecord *before = under.Find(record.kind, record.place);
-        CountFileBlocks(record, before);
-        data.image.records.push_back({record.kind, record.place, BlocksOver(record, before)});
+    for (const SCalImageRecord &record : scratch.Image().records) {
+        if (loaded.Find(record.kind, record.place))
+            data.image.records.push_back(
+                {record.kind, record.place,
+                 BlocksOver(record, under.Find(record.kind, record.place))});
     }
     return {};
 }

@@ -14,6 +14,8 @@
 #include "Support/Log.h"
 #include "View/engine/TableGroup.h"
 #include "View/engine/TableSize.h"
+#include "View/plots/PlotAction.h"
+#include "View/plots/RsrpPlot.h"
 
 namespace {
 
@@ -23,8 +25,9 @@ constexpr int kShortestPeriod = 300;  // ms, also when the document has no perio
 }  // namespace
 
 CNrRsrpDockWidgetV7::CNrRsrpDockWidgetV7(const SRsrpPage &page, QWidget *parent)
-    : CStartStopDockWidget(page.test, parent), m_page(page)
+    : CStartStopDockWidget(page.test, parent), m_page(page), m_plot(new CRsrpPlot(this))
 {
+    AddPlotAction(this, m_plot);
     m_reportTimer.setObjectName(QStringLiteral("reportTimer"));
     connect(&m_reportTimer, &QTimer::timeout, this, m_page.onTick);
 }
@@ -179,6 +182,7 @@ void CNrRsrpDockWidgetV7::OnClearDone(const std::string &response)
 {
     StopAwaiting(&CQuorlinViewCtrl::Signal_RsrpClearReportDone);
     m_isClearing = false;
+    m_plot->Clear();
     if (AdoptReports(response))
         ShapeResults();
     if (!m_isClearedByUser) {
@@ -202,6 +206,7 @@ bool CNrRsrpDockWidgetV7::AdoptReports(const std::string &response)
     const QJsonObject document = DocumentOf(response);
     if (document.isEmpty())
         return false;
+    m_plot->Add(document);
     m_dataModel = document;
     AppendWidget(m_dataModel);
     for (const QTableWidget *table : qAsConst(m_widgets.results))

@@ -41,6 +41,7 @@
 #include "View/pages/StartStopDockWidget.h"
 
 class CNrRsrpDockWidgetV7;
+class CRsrpPlot;
 class QComboBox;
 class QLabel;
 class QSpinBox;
@@ -123,6 +124,7 @@ private:
 
     const SRsrpPage &m_page;
     SRsrpWidgets m_widgets = {};
+    CRsrpPlot *const m_plot;
     QTimer m_reportTimer{this};
     QJsonObject m_reported;  // m_dataModel from Start on, for the next fetch
     bool m_isFetching = false;

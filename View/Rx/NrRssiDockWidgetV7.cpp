@@ -9,6 +9,8 @@
 #include "Support/Log.h"
 #include "View/editors/LateEditors.h"
 #include "View/engine/TableSize.h"
+#include "View/plots/PlotAction.h"
+#include "View/plots/RssiPlot.h"
 #include "ui_NrRssiDockWidgetV7.h"
 
 namespace {
@@ -50,10 +52,12 @@ const CNrRssiDockWidgetV7::STexts CNrRssiDockWidgetV7::kCalculatorTexts = {
 };
 
 CNrRssiDockWidgetV7::CNrRssiDockWidgetV7(QWidget *parent)
-    : CAutoBindingDataModelDockWidget(parent), m_ui(std::make_unique<Ui::CNrRssiDockWidgetV7>()),
+    : CAutoBindingDataModelDockWidget(parent), m_plot(new CRssiPlot(this)),
+      m_ui(std::make_unique<Ui::CNrRssiDockWidgetV7>()),
       m_viewCtrl(std::make_unique<CQuorlinViewCtrl>())
 {
     m_ui->setupUi(this);
+    AddPlotAction(this, m_plot);
     connect(this, &CAutoBindingDataModelDockWidget::Signal_InitDone, this,
             &CNrRssiDockWidgetV7::FixLayout);
     connect(this, &CAutoBindingDataModelDockWidget::Signal_InitDone, this,
@@ -189,6 +193,8 @@ void CNrRssiDockWidgetV7::EndAsking(CResultMark &mark, const STexts &texts,
     if (!self)
         return;
     const bool isSuccess = result.status == eStatusSuccess;
+    if (isSuccess && &mark == m_testMark.get())
+        m_plot->AddRun(response);
     if (isSuccess && !response.isEmpty())
         mark.Measured();
     else

@@ -25,6 +25,8 @@
 #include "View/pages/ResultMark.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
+class CRssiPlot;
+
 namespace Ui {
 class CNrRssiDockWidgetV7;
 }
@@ -77,6 +79,7 @@ private:
     void EndAsking(CResultMark &mark, const STexts &texts, const SEachItemOperationResult &result,
                    const std::string &responseStr);
 
+    CRssiPlot *const m_plot;
     std::unique_ptr<Ui::CNrRssiDockWidgetV7> m_ui;
     std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
     std::unique_ptr<CResultMark> m_testMark;

@@ -6,6 +6,8 @@
 #include "View/editors/TabOrder.h"
 #include "View/engine/ColumnCells.h"
 #include "View/pages/CalibrationTables.h"
+#include "View/plots/CalibrationPlot.h"
+#include "View/plots/PlotAction.h"
 #include "ui_NrRxPathlossDockWidgetV7.h"
 
 namespace {
@@ -52,6 +54,24 @@ constexpr char kType2Reset[] =
 // Gains of the partial-on table, by power mode.
 constexpr char kGainInfo[] = "calDataIf.config.group1.memberProperty.scGainInfo.trait.valuePair.";
 
+constexpr SCurveTable kCurveTables[] = {
+    {.table = "calDataIf_data_group2_memberProperty_lna0", .name = "Main "},
+    {.table = "calDataIf_data_group3_memberProperty_lna0",
+     .name = "Div ",
+     .line = EPlotLine::Dashed},
+};
+constexpr SCalibrationCurves kCurves = {
+    .title = "RX path loss - plot",
+    .key = "pathLoss",
+    .x = "DL frequency (MHz)",
+    .left = "Path loss (dB)",
+    .frequencies = "calDataIf_data_group4_memberProperty_freq",
+    .tables = kCurveTables,
+    .selector = "calDataIf_config_group1_memberProperty_routeType",
+    .selected = "Type1",
+    .otherwise = "The page shows the losses of a route of type 2 at one frequency: no curve.",
+};
+
 bool IsType2(const QString &routeType)
 {
     return routeType.contains(QLatin1Char('2'));
@@ -79,6 +99,7 @@ CNrRxPathlossDockWidgetV7::CNrRxPathlossDockWidgetV7(QWidget *parent)
     m_ui->m_lblFreq->setText(QStringLiteral("0"));
     PlaceTabBar(m_ui->calDataIf_config_group1_memberProperty_type2GainModeIdx, m_ui->m_type1Tables,
                 m_ui->calDataIf_data_group2_memberProperty_lna0);
+    AddPlotAction(this, new CCalibrationPlot(this, kCurves));
 }
 
 CNrRxPathlossDockWidgetV7::~CNrRxPathlossDockWidgetV7() = default;

@@ -2,6 +2,8 @@
 
 #include "View/editors/TabOrder.h"
 #include "View/pages/CalibrationTables.h"
+#include "View/plots/CalibrationPlot.h"
+#include "View/plots/PlotAction.h"
 #include "ui_NrAptProfileDockWidgetV7.h"
 
 namespace {
@@ -35,6 +37,18 @@ constexpr SCalibrationPage kPage = {
         },
 };
 
+constexpr SCurveTable kCurveTables[] = {
+    {.table = "calDataIf_data_group7_memberProperty_paHighPaGain"},
+};
+constexpr SCalibrationCurves kCurves = {
+    .title = "APT gains - plot",
+    .key = "apt",
+    .x = "UL frequency (MHz)",
+    .left = "PA gain (dB)",
+    .frequencies = "calDataIf_data_group12_memberProperty_ulFreq",
+    .tables = kCurveTables,
+};
+
 }  // namespace
 
 CNrAptProfileDockWidgetV7::CNrAptProfileDockWidgetV7(QWidget *parent)
@@ -52,6 +66,7 @@ CNrAptProfileDockWidgetV7::CNrAptProfileDockWidgetV7(QWidget *parent)
     AddCompare(m_ui->m_btnCompare, m_ui->m_btnGuardedWrite);
     PlaceTabBar(m_ui->calDataIf_data_group12_memberProperty_ulFreq, m_ui->m_tables,
                 m_ui->calDataIf_data_group7_memberProperty_paHighPaGain);
+    AddPlotAction(this, new CCalibrationPlot(this, kCurves));
 }
 
 CNrAptProfileDockWidgetV7::~CNrAptProfileDockWidgetV7() = default;

@@ -1,5 +1,7 @@
 #include "View/Tx/NrSingleToneTxDockWidgetV7.h"
 
+#include "View/plots/PdPlot.h"
+#include "View/plots/PlotAction.h"
 #include "ui_NrSingleToneTxDockWidgetV7.h"
 
 namespace {
@@ -31,12 +33,13 @@ constexpr STxReading kPdValue = {
 }  // namespace
 
 CNrSingleToneTxDockWidgetV7::CNrSingleToneTxDockWidgetV7(QWidget *parent)
-    : CNrTxDockWidget(kPage, kPdValue, parent),
+    : CNrTxDockWidget(kPage, kPdValue, parent), m_plot(new CPdPlot(this)),
       m_ui(std::make_unique<Ui::CNrSingleToneTxDockWidgetV7>())
 {
     m_ui->setupUi(this);
     SetTestButtons(m_ui->m_start, m_ui->m_stop);
     SetReadingButton(m_ui->m_btnFetchPd, m_ui->cmdIf_response_group1_memberProperty_pdValue);
+    AddPlotAction(this, m_plot);
 }
 
 CNrSingleToneTxDockWidgetV7::~CNrSingleToneTxDockWidgetV7() = default;
@@ -74,4 +77,11 @@ void CNrSingleToneTxDockWidgetV7::on_m_btnFetchPd_clicked()
 void CNrSingleToneTxDockWidgetV7::Slot_GetSingleToneTxPdValueDone(std::string resultModel)
 {
     FinishReading(resultModel);
+}
+
+// What the detector reads without a tone has no TX power.
+void CNrSingleToneTxDockWidgetV7::OnReading(const QJsonObject &response)
+{
+    if (IsTestRunning())
+        m_plot->AddReading(response);
 }

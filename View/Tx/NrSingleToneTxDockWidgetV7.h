@@ -10,6 +10,8 @@
 
 #include "View/Tx/NrTxDockWidget.h"
 
+class CPdPlot;
+
 namespace Ui {
 class CNrSingleToneTxDockWidgetV7;
 }
@@ -36,5 +38,8 @@ public slots:
     void Slot_GetSingleToneTxPdValueDone(std::string resultModel);
 
 private:
+    void OnReading(const QJsonObject &response) override;
+
+    CPdPlot *const m_plot;
     std::unique_ptr<Ui::CNrSingleToneTxDockWidgetV7> m_ui;
 };

@@ -99,6 +99,8 @@ void CNrTxDockWidget::FinishReading(const std::string &resultModel)
         return;
     const QPointer<CNrTxDockWidget> self(this);
     UpdateWidget(response);
-    if (self)
-        m_mark->Measured();
+    if (!self)
+        return;
+    m_mark->Measured();
+    OnReading(response);
 }

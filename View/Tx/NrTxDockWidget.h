@@ -45,6 +45,8 @@ protected:
 
     void StartReading();
     void FinishReading(const std::string &resultModel);
+    // The answer of a reading is shown.
+    virtual void OnReading(const QJsonObject & /*response*/) {}
     bool IsReading() const { return m_isReading; }
 
     void TakeStep(ETestStep step) override;

@@ -9,7 +9,8 @@ CToolsButton::CToolsButton(std::function<QWidget *()> page, QMainWindow *window)
     setObjectName(QStringLiteral("m_tools"));
     setText(QStringLiteral("&Tools"));
     setToolTip(QStringLiteral("What else this page and this window can do"));
-    setFocusPolicy(Qt::TabFocus);  // a click leaves the focus to the page
+    setFocusPolicy(Qt::TabFocus);      // a click leaves the focus to the page
+    m_menu->setToolTipsVisible(true);  // of actions that are off
     setMenu(m_menu);
     connect(m_menu, &QMenu::aboutToShow, this, &CToolsButton::Fill);
 }

@@ -1,0 +1,242 @@
+#include "View/plots/PlotWindow.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QMainWindow>
+#include <QSaveFile>
+
+#include "Support/FileDialogMan.h"
+#include "Support/MessageBoxMan.h"
+#include "Support/Settings.h"
+#include "View/editors/NamedAction.h"
+#include "View/plots/PlotFigureTable.h"
+#include "View/plots/PlotLibrary.h"
+#include "ui_PlotWindow.h"
+
+namespace {
+
+constexpr int kPointsMs = 40;
+constexpr int kFiguresMs = 120;
+constexpr double kZoomIn = 0.5;
+constexpr double kPanPart = 0.25;
+constexpr double kCursorPart = 0.01;  // of the view, by a key
+
+constexpr char kPictures[] =
+    "PNG picture (*.png)|*.png|SVG picture (*.svg)|*.svg|PDF document (*.pdf)|*.pdf";
+
+EPlotPicture FormatOf(const QString &file)
+{
+    if (file.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive))
+        return EPlotPicture::Svg;
+    return file.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive) ? EPlotPicture::Pdf
+                                                                     : EPlotPicture::Png;
+}
+
+// The window that the page is docked in, also while it floats.
+QMainWindow *ToolWindow(QWidget *page)
+{
+    for (QWidget *widget = page; widget; widget = widget->parentWidget()) {
+        if (auto *window = qobject_cast<QMainWindow *>(widget))
+            return window;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+CPlotWindow *CPlotWindow::Make(QWidget *page, CPlotSource *source)
+{
+    std::unique_ptr<CPlotWindow> window(new CPlotWindow(page, source));
+    return window->MakePlot() ? window.release() : nullptr;
+}
+
+CPlotWindow::CPlotWindow(QWidget *page, CPlotSource *source)
+    : QWidget(page, Qt::Window), m_ui(std::make_unique<Ui::CPlotWindow>()), m_source(source)
+{
+    m_ui->setupUi(this);
+    setWindowTitle(source->Title());
+    if (QMainWindow *tool = ToolWindow(page))
+        tool->installEventFilter(this);
+    setEnabled(true);
+}
+
+CPlotWindow::~CPlotWindow()
+{
+    if (isVisible())
+        KeepPlace();
+}
+
+bool CPlotWindow::MakePlot()
+{
+    m_plot = CPlotLibrary::Get().Make(m_ui->m_place);
+    if (!m_plot)
+        return false;
+    m_ui->m_place->layout()->addWidget(m_plot->Widget());
+    m_pointsTimer.setSingleShot(true);
+    m_figuresTimer.setSingleShot(true);
+    connect(&m_pointsTimer, &QTimer::timeout, this, &CPlotWindow::ShowPoints);
+    connect(&m_figuresTimer, &QTimer::timeout, this, &CPlotWindow::ShowFigures);
+    m_plot->SetEvents({
+        .onPoint =
+            [this](int curve, int point) {
+                if (m_source)
+                    m_source->GoTo(curve, point);
+            },
+        .onView =
+            [this] {
+                if (!m_figuresTimer.isActive())
+                    m_figuresTimer.start(kFiguresMs);
+            },
+        .onCursors = [this] { m_figuresTimer.start(0); },
+        .onHidden = [this] { m_figuresTimer.start(0); },
+    });
+    ConnectButtons();
+    AddKeys();
+    connect(m_source, &CPlotSource::Signal_Curves, this, &CPlotWindow::ShowCurves);
+    connect(m_source, &CPlotSource::Signal_Points, this, [this] {
+        if (isVisible() && !m_pointsTimer.isActive())
+            m_pointsTimer.start(kPointsMs);
+    });
+    m_source->Open();
+    ShowCurves();
+    restoreGeometry(CSettings::Get().Value(QLatin1String("plot/") + m_source->Key()).toByteArray());
+    return true;
+}
+
+void CPlotWindow::ConnectButtons()
+{
+    connect(m_ui->m_showAll, &QPushButton::clicked, this, [this] { m_plot->ShowAll(); });
+    connect(m_ui->m_zoomIn, &QPushButton::clicked, this, [this] { m_plot->Zoom(kZoomIn); });
+    connect(m_ui->m_zoomOut, &QPushButton::clicked, this, [this] { m_plot->Zoom(1 / kZoomIn); });
+    connect(m_ui->m_left, &QPushButton::clicked, this, [this] { m_plot->Pan(-kPanPart); });
+    connect(m_ui->m_right, &QPushButton::clicked, this, [this] { m_plot->Pan(kPanPart); });
+    connect(m_ui->m_cursors, &QPushButton::toggled, this,
+            [this](bool isOn) { m_plot->ShowCursors(isOn); });
+    connect(m_ui->m_clear, &QPushButton::clicked, this, [this] {
+        if (m_source)
+            m_source->Clear();
+    });
+    m_ui->m_clear->setVisible(m_source->HasClear());
+    connect(m_ui->m_copy, &QPushButton::clicked, this, &CPlotWindow::Copy);
+    connect(m_ui->m_save, &QPushButton::clicked, this, &CPlotWindow::Save);
+}
+
+void CPlotWindow::AddKeys()
+{
+    const auto add = [this](const char *name, const char *text, const char *key,
+                            const std::function<void()> &act) {
+        AddAction(this, name, text, {QLatin1String(key)}, act);
+    };
+    add("m_actionClose", "Close", "Esc", [this] { close(); });
+    add("m_actionCopy", "Copy picture", "Ctrl+C", [this] { Copy(); });
+    add("m_actionSave", "Save picture...", "Ctrl+S", [this] { Save(); });
+    add("m_actionAll", "Show all", "Ctrl+0", [this] { m_plot->ShowAll(); });
+    add("m_actionALeft", "Cursor A left", "Ctrl+Left", [this] { MoveCursor(0, -kCursorPart); });
+    add("m_actionARight", "Cursor A right", "Ctrl+Right", [this] { MoveCursor(0, kCursorPart); });
+    add("m_actionBLeft", "Cursor B left", "Ctrl+Shift+Left",
+        [this] { MoveCursor(1, -kCursorPart); });
+    add("m_actionBRight", "Cursor B right", "Ctrl+Shift+Right",
+        [this] { MoveCursor(1, kCursorPart); });
+}
+
+void CPlotWindow::MoveCursor(int cursor, double part)
+{
+    if (!m_ui->m_cursors->isChecked())
+        return;
+    const std::array<double, 2> view = m_plot->View();
+    m_plot->MoveCursor(cursor, m_plot->Cursors().at(static_cast<size_t>(cursor)) +
+                                   (view[1] - view[0]) * part);
+}
+
+void CPlotWindow::ShowCurves()
+{
+    if (!m_source)
+        return;
+    m_curves = m_source->Curves();
+    m_plot->SetShape(m_source->Shape());
+    m_plot->SetCurves(m_curves);
+    m_ui->m_remark->setText(m_source->Remark());
+    m_ui->m_remark->setVisible(!m_source->Remark().isEmpty());
+    ShowFigures();
+}
+
+void CPlotWindow::ShowPoints()
+{
+    m_plot->ShowData();
+}
+
+void CPlotWindow::ShowFigures()
+{
+    if (isVisible())
+        ShowPlotFigures(m_ui->m_figures, *m_plot, m_curves, m_ui->m_cursors->isChecked());
+}
+
+void CPlotWindow::Copy()
+{
+    QGuiApplication::clipboard()->setImage(QImage::fromData(m_plot->Picture(EPlotPicture::Png)));
+}
+
+// The page may be gone when the dialog is closed, and the window with it.
+void CPlotWindow::Save()
+{
+    const QPointer<CPlotWindow> self(this);
+    CFileDialogMan dialogs;
+    const QString path =
+        dialogs.GetSaveFileName(QStringLiteral("Save Picture"), QLatin1String(kPictures));
+    if (!self || path.isEmpty())
+        return;
+    const QByteArray picture = m_plot->Picture(FormatOf(path));
+    QSaveFile file(path);
+    if (!picture.isEmpty() && file.open(QIODevice::WriteOnly) &&
+        file.write(picture) == picture.size() && file.commit())
+        return;
+    CMessageBoxMan box;
+    box.SetOwner(this);
+    box.Show(eBoxCritical, QStringLiteral("Save picture failed"), path.toHtmlEscaped(),
+             picture.isEmpty() ? QStringLiteral("The picture could not be made.")
+                               : file.errorString(),
+             {}, -1);
+}
+
+// A page turns all that it owns off with itself.
+void CPlotWindow::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        setEnabled(true);
+}
+
+void CPlotWindow::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (m_plot) {
+        ShowPoints();
+        ShowFigures();
+    }
+}
+
+void CPlotWindow::hideEvent(QHideEvent *event)
+{
+    KeepPlace();
+    QWidget::hideEvent(event);
+}
+
+void CPlotWindow::KeepPlace()
+{
+    if (m_plot && m_source)
+        CSettings::Get().SetValue(QLatin1String("plot/") + m_source->Key(), saveGeometry());
+}
+
+bool CPlotWindow::eventFilter(QObject *object, QEvent *event)
+{
+    if (event->type() == QEvent::Hide && !event->spontaneous()) {
+        m_comesBack = isVisible();
+        hide();
+    } else if (event->type() == QEvent::Show && !event->spontaneous() && m_comesBack) {
+        m_comesBack = false;
+        show();
+    }
+    return QWidget::eventFilter(object, event);
+}
