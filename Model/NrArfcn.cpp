@@ -36,15 +36,6 @@ bool Has(const Bands &bands, const QString &band)
                        [&](const char *one) { return band == QLatin1String(one); });
 }
 
-double RasterOf(const QString &band, int scsKhz)
-{
-    if (Has(kFineRasterBands, band))
-        return kFineRasterKhz;
-    if (!Has(kScsRasterBands, band))
-        return kUsualRasterKhz;
-    return scsKhz >= kCoarseRasterKhz ? kCoarseRasterKhz : kFineRasterKhz;
-}
-
 struct SUnit
 {
     char letter;
@@ -80,12 +71,21 @@ std::optional<qint64> ArfcnOfKhz(double khz)
     return nearest;
 }
 
+double RasterStepKhz(const QString &band, int scsKhz)
+{
+    if (Has(kFineRasterBands, band))
+        return kFineRasterKhz;
+    if (!Has(kScsRasterBands, band))
+        return kUsualRasterKhz;
+    return scsKhz >= kCoarseRasterKhz ? kCoarseRasterKhz : kFineRasterKhz;
+}
+
 // The raster of a band counts from where its part of the global raster begins.
 std::optional<double> NearestRasterKhz(const QString &band, int scsKhz, double khz)
 {
     if (!ArfcnOfKhz(khz))
         return std::nullopt;
-    const double step = RasterOf(band, scsKhz);
+    const double step = RasterStepKhz(band, scsKhz);
     const double from = khz < kGlobalRaster[1].leastKhz ? 0 : kGlobalRaster[1].leastKhz;
     return from + step * std::round((khz - from) / step);
 }

@@ -20,6 +20,7 @@ std::optional<double> KhzOfArfcn(qint64 arfcn);
 // Of the nearest point of the global raster; none below 0 or above its last point.
 std::optional<qint64> ArfcnOfKhz(double khz);
 // scsKhz: of the carrier; 0: not known, the finest raster of the band.
+double RasterStepKhz(const QString &band, int scsKhz);
 std::optional<double> NearestRasterKhz(const QString &band, int scsKhz, double khz);
 
 // A frequency as a person writes it, in kHz: "3549990", "3549990k", "3549.99M", "3.54999G", or a number

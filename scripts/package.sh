@@ -24,8 +24,15 @@ demo_of() {
     QT_QPA_PLATFORM=offscreen "$@" --demo --profile handset
 }
 
+# Of an installed quorlin: flash into a file, which is the same.
+cal_of() {
+    quorlin_say "Calibration data: $*"
+    "$@" cal read --item apt --to "$folder/apt.json" --profile handset
+    "$@" cal diff "$folder/apt.json" dut --profile handset
+}
+
 quorlin_need_packages build package
-quorlin_build release QuorlinRf quorlin-host
+quorlin_build release QuorlinRf quorlin-host quorlin
 
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
@@ -34,6 +41,7 @@ quorlin_say "Installing a tree, and moving it"
 cmake --install build/release --prefix "$folder/first"
 mv "$folder/first" "$folder/moved"
 demo_of "$folder/moved/bin/quorlin-host"
+cal_of "$folder/moved/bin/quorlin"
 
 quorlin_say "Making the package"
 rm -rf build/package
@@ -47,11 +55,13 @@ echo "No errors."
 
 dpkg-deb --extract "$package" "$folder/unpacked"
 demo_of "$folder/unpacked/usr/bin/quorlin-host"
+cal_of "$folder/unpacked/usr/bin/quorlin"
 
 if $install; then
     quorlin_say "Installing the package"
     dpkg --install "$package"
     trap 'dpkg --remove quorlin-rf; rm -rf "$folder"' EXIT
     demo_of /usr/bin/quorlin-host
+    cal_of /usr/bin/quorlin
 fi
 quorlin_say "The package is $package"

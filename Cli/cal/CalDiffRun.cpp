@@ -1,6 +1,5 @@
 // quorlin cal diff
 #include <cmath>
-#include <cstdio>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -120,7 +119,7 @@ void SayJson(const SCalRequest &request, const SCalSides &sides, const CCalCompa
                                 {"byRoute", StatisticArray(fields.ByRoute())},
                                 {"byField", StatisticArray(fields.ByField())},
                                 {"bytesAlone", QJsonArray::fromStringList(bytes)}};
-    std::fputs(QJsonDocument(object).toJson().constData(), stdout);
+    SayBytes(QJsonDocument(object).toJson());
 }
 
 QString Quoted(QString text)

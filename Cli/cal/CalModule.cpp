@@ -1,4 +1,5 @@
 // The door of the module.
+#include <cstring>
 #include <exception>
 
 #include "Cli/ExitCodes.h"
@@ -23,12 +24,27 @@ int RunVerb(const SCalRequest &request)
     }
 }
 
+// What a writer has done counts more than whether somebody could read about it.
+bool IsWriter(ECalVerb verb)
+{
+    return verb == ECalVerb::Write || verb == ECalVerb::Restore;
+}
+
+bool IsOutputGood()
+{
+    if (const int error = OutputError())
+        Complain(QStringLiteral("standard output: %1")
+                     .arg(QString::fromLocal8Bit(std::strerror(error))));
+    return OutputError() == 0;
+}
+
 }  // namespace
 
-extern "C" __attribute__((visibility("default"))) int QuorlinCal_Run(const SCalRequest &request)
+extern "C" __attribute__((visibility("default"))) int QuorlinCalRun(const SCalRequest &request)
 {
     try {
-        return RunVerb(request);
+        const int exitCode = RunVerb(request);
+        return IsWriter(request.verb) || IsOutputGood() ? exitCode : kExitTrouble;
     } catch (const std::exception &failure) {
         Complain(QString::fromUtf8(failure.what()));
     }

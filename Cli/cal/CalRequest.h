@@ -41,4 +41,4 @@ struct SCalRequest
     uint32_t handle = 1;
 };
 
-constexpr char kRunCal[] = "QuorlinCal_Run";
+constexpr char kRunCal[] = "QuorlinCalRun";

@@ -1,5 +1,6 @@
 #include "Cli/cal/CalTerminal.h"
 
+#include <cerrno>
 #include <cstdio>
 
 #include <unistd.h>
@@ -9,6 +10,7 @@
 namespace {
 
 bool s_isProgressShown = false;
+int s_outputError = 0;
 
 QByteArray Printable(QString text)
 {
@@ -35,9 +37,22 @@ const char *StepName(EGuardStep step)
 
 void Say(const QString &text)
 {
+    SayBytes(Printable(text) + '\n');
+}
+
+void SayBytes(const QByteArray &bytes)
+{
     EndProgress();
-    std::fputs((Printable(text) + '\n').constData(), stdout);
-    std::fflush(stdout);
+    const bool isTaken = std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()),
+                                     stdout) == static_cast<std::size_t>(bytes.size()) &&
+                         std::fflush(stdout) == 0;
+    if (!isTaken && s_outputError == 0 && errno != EPIPE)
+        s_outputError = errno;
+}
+
+int OutputError()
+{
+    return s_outputError;
 }
 
 void Complain(const QString &text)

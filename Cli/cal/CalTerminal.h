@@ -15,6 +15,9 @@
 
 // Control characters of others are shown as "?".
 void Say(const QString &text);
+void SayBytes(const QByteArray &bytes);
+// errno of the first text that stdout has not taken; 0: none. Nobody reading on is no error.
+int OutputError();
 void Complain(const QString &text);  // "quorlin: text"
 bool CanAsk();                       // somebody sits at the terminal
 bool Ask(const QString &question);   // anything but y or yes is no

@@ -48,11 +48,12 @@ QString ReadIniFile(const QString &file, ICalItemByL1Operation &scratch,
         if (!loaded.Find(record.kind, record.place))
             loaded.records.push_back({record.kind, record.place, {}});
     }
-    for (const SCalImageRecord &record : scratch.Image().records) {
-        if (loaded.Find(record.kind, record.place))
-            data.image.records.push_back(
-                {record.kind, record.place,
-                 BlocksOver(record, under.Find(record.kind, record.place))});
+    for (SCalImageRecord &record : scratch.Image().records) {
+        if (!loaded.Find(record.kind, record.place))
+            continue;
+        const SCalBlockRecord *before = under.Find(record.kind, record.place);
+        CountFileBlocks(record, before);
+        data.image.records.push_back({record.kind, record.place, BlocksOver(record, before)});
     }
     return {};
 }

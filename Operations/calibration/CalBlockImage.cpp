@@ -18,6 +18,7 @@ struct SBlockKind
     const SLayout *layout;
     std::vector<uint8_t> (*join)(const SCalBlockRecord &record);
     std::vector<uint8_t> (*cut)(const SCalImageRecord &record, const SCalBlockRecord *before);
+    void (*count)(SCalImageRecord &record, std::size_t blocksBefore);
 };
 
 template <typename TKind>
@@ -61,11 +62,27 @@ std::vector<uint8_t> CutBlocks(const SCalImageRecord &image, const SCalBlockReco
 }
 
 template <typename TKind>
+void CountBlocks(SCalImageRecord &image, std::size_t blocksBefore)
+{
+    const auto record = std::make_unique<typename TKind::Record>();
+    if (image.bytes.size() != sizeof *record)
+        return;
+    std::memcpy(record.get(), image.bytes.data(), sizeof *record);
+    std::size_t used = kVondCalMaxSubbands;
+    while (used > 0 && record->freq[used - 1] == 0)
+        --used;
+    const std::size_t needed = (used + kVondCalBlockSubbands - 1) / kVondCalBlockSubbands;
+    record->blockCount = static_cast<uint32_t>(std::max<std::size_t>({1, needed, blocksBefore}));
+    std::memcpy(image.bytes.data(), record.get(), sizeof *record);
+}
+
+template <typename TKind>
 const SBlockKind kBlockKind = {.blockSize = sizeof(typename TKind::Block),
                                .blocksOfRound = TKind::kBlocksOfRound,
                                .layout = &kLayoutOf<typename TKind::Block>,
                                .join = &JoinBlocks<TKind>,
-                               .cut = &CutBlocks<TKind>};
+                               .cut = &CutBlocks<TKind>,
+                               .count = &CountBlocks<TKind>};
 
 const SBlockKind &BlockKind(ECalRoute kind)
 {
@@ -116,6 +133,12 @@ SCalImage JoinedImage(const SCalBlockImage &image)
                 {record.kind, record.place, BlockKind(record.kind).join(record)});
     }
     return joined;
+}
+
+void CountFileBlocks(SCalImageRecord &record, const SCalBlockRecord *before)
+{
+    const std::size_t blocksBefore = before ? before->blocks.size() / CalBlockSize(record.kind) : 0;
+    BlockKind(record.kind).count(record, std::min<std::size_t>(blocksBefore, kVondCalMaxBlocks));
 }
 
 std::vector<uint8_t> BlocksOver(const SCalImageRecord &record, const SCalBlockRecord *before)

@@ -38,6 +38,10 @@ int CalBlocksOfRound(ECalRoute kind);
 // The records as a read of flash gives them. What has no block, or more than a record holds, is left
 // out.
 SCalImage JoinedImage(const SCalBlockImage &image);
+// The block count of a record that a file has filled: as many as its frequencies need, at least one, and
+// no fewer than flash has. So it is the same whether flash holds the record as it was, or torn on the way
+// to what the file has. Other bytes stay.
+void CountFileBlocks(SCalImageRecord &record, const SCalBlockRecord *before);
 // The record as blocks. Bytes that it has no field for are those of the blocks that stood there before,
 // 0 where there was none. Empty when the bytes are not as many as the record has.
 std::vector<uint8_t> BlocksOver(const SCalImageRecord &record, const SCalBlockRecord *before);

@@ -28,6 +28,20 @@ QString PointText(double khz)
 
 }  // namespace
 
+double ChannelKhzAt(const SFrequencyPlace &place, double share)
+{
+    const double low = place.leastKhz + place.channelKhz / 2;
+    const double high = place.mostKhz - place.channelKhz / 2;
+    const double khz = low + share * std::max(high - low, 0.0);
+    const double step = RasterStepKhz(place.band, place.scsKhz);
+    double point = NearestRasterKhz(place.band, place.scsKhz, khz).value_or(khz);
+    if (point < low)
+        point += step;
+    else if (point > high)
+        point -= step;
+    return point >= low && point <= high ? point : khz;
+}
+
 CFrequencyDialog::CFrequencyDialog(const SFrequencyPlace &place, QWidget *parent)
     : QDialog(parent), m_place(place), m_ui(std::make_unique<Ui::CFrequencyDialog>()),
       m_khz(place.khz)
@@ -41,7 +55,7 @@ CFrequencyDialog::CFrequencyDialog(const SFrequencyPlace &place, QWidget *parent
     } channels[] = {{m_ui->m_low, 0.0}, {m_ui->m_middle, 0.5}, {m_ui->m_high, 1.0}};
     for (const auto &channel : channels)
         connect(channel.button, &QPushButton::clicked, this,
-                [this, share = channel.share] { Enter(ChannelAt(share)); });
+                [this, share = channel.share] { Enter(ChannelKhzAt(m_place, share)); });
     connect(m_ui->m_nearest, &QPushButton::clicked, this, [this] {
         if (const auto point = NearestRasterKhz(m_place.band, m_place.scsKhz, m_khz))
             Enter(*point);
@@ -51,17 +65,6 @@ CFrequencyDialog::CFrequencyDialog(const SFrequencyPlace &place, QWidget *parent
 }
 
 CFrequencyDialog::~CFrequencyDialog() = default;
-
-// On the raster, where a point of it lies within the limits.
-double CFrequencyDialog::ChannelAt(double share) const
-{
-    const double low = m_place.leastKhz + m_place.channelKhz / 2;
-    const double high = m_place.mostKhz - m_place.channelKhz / 2;
-    const double khz = low + share * std::max(high - low, 0.0);
-    const double point = NearestRasterKhz(m_place.band, m_place.scsKhz, khz).value_or(khz);
-    const bool isWithin = point >= m_place.leastKhz && point <= m_place.mostKhz;
-    return isWithin ? point : khz;
-}
 
 void CFrequencyDialog::Enter(double khz)
 {

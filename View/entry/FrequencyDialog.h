@@ -29,6 +29,10 @@ struct SFrequencyPlace
     int khz = 0;  // what it has
 };
 
+// The channel so far on the way from the lowest one, 0, to the highest one, 1: on the raster, and with its
+// whole bandwidth within the limits, where these have room for it. kHz.
+double ChannelKhzAt(const SFrequencyPlace &place, double share);
+
 class CFrequencyDialog : public QDialog
 {
     Q_OBJECT
@@ -43,7 +47,6 @@ public:
 private:
     void Look();
     void Enter(double khz);
-    double ChannelAt(double share) const;
 
     const SFrequencyPlace m_place;
     const std::unique_ptr<Ui::CFrequencyDialog> m_ui;

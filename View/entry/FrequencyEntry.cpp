@@ -10,7 +10,6 @@
 #include <QSpinBox>
 #include <QTableWidget>
 
-#include "Model/NrArfcn.h"
 #include "Model/NrBandwidth.h"
 #include "View/editors/LateEditors.h"
 #include "View/editors/NamedAction.h"
@@ -85,13 +84,9 @@ void Spread(Page *page, QTableWidget *table)
         const auto *box = qobject_cast<QSpinBox *>(table->cellWidget(0, column));
         if (!box || !box->isEnabled())
             continue;
-        const SFrequencyPlace place = PlaceOf(*page, *box);
-        const double low = place.leastKhz + place.channelKhz / 2;
-        const double high = place.mostKhz - place.channelKhz / 2;
-        const double khz = low + (high - low) * column / std::max(last, 1);
-        const double point = NearestRasterKhz(place.band, place.scsKhz, khz).value_or(khz);
-        const auto text =
-            QString::number(std::llround(qBound<double>(place.leastKhz, point, place.mostKhz)));
+        const double share = last > 0 ? static_cast<double>(column) / last : 0;
+        const double khz = ChannelKhzAt(PlaceOf(*page, *box), share);
+        const QString text = QString::number(std::llround(khz));
         if (TakenText(box, text))
             changes.push_back({.table = table, .row = 0, .column = column, .text = text});
     }

@@ -6,6 +6,7 @@
 
 #include "Model/MemberPath.h"
 #include "View/editors/ExactClass.h"
+#include "View/editors/NamedAction.h"
 #include "View/engine/CellText.h"
 #include "View/undo/CellsCommand.h"
 #include "View/undo/CopyRecordDialog.h"
@@ -34,14 +35,14 @@ CPageUndo::CPageUndo(IEditedPage &page, QDockWidget *widget, const CEditSession 
       m_resets(widget), m_changed(page), m_count(widget)
 {
     m_stack->setUndoLimit(kMostCommands);
-    m_actionUndo = AddAction("m_actionUndo", QStringLiteral("Undo"), "Ctrl+Z", &CPageUndo::Undo);
-    m_actionRedo = AddAction("m_actionRedo", QStringLiteral("Redo"), "Ctrl+Y", &CPageUndo::Redo);
-    m_actionRevertRecord = AddAction("m_actionRevertRecord", QStringLiteral("Revert record"),
-                                     "Ctrl+Alt+R", &CPageUndo::RevertRecord);
-    m_actionRevertAll = AddAction("m_actionRevertAll", QStringLiteral("Revert all"),
-                                  "Ctrl+Alt+Shift+R", &CPageUndo::RevertAll);
-    m_actionCopyRecord = AddAction("m_actionCopyRecord", QStringLiteral("Copy record to..."),
-                                   "Ctrl+Alt+C", &CPageUndo::CopyRecord);
+    m_actionUndo = AddAction("m_actionUndo", "Undo", "Ctrl+Z", &CPageUndo::Undo);
+    m_actionRedo = AddAction("m_actionRedo", "Redo", "Ctrl+Y", &CPageUndo::Redo);
+    m_actionRevertRecord =
+        AddAction("m_actionRevertRecord", "Revert record", "Ctrl+Alt+R", &CPageUndo::RevertRecord);
+    m_actionRevertAll =
+        AddAction("m_actionRevertAll", "Revert all", "Ctrl+Alt+Shift+R", &CPageUndo::RevertAll);
+    m_actionCopyRecord =
+        AddAction("m_actionCopyRecord", "Copy record to...", "Ctrl+Alt+C", &CPageUndo::CopyRecord);
     connect(m_stack.get(), &QUndoStack::indexChanged, this, [this] {
         m_resets.KeepThoseOn(*m_stack);
         RefreshActions();
@@ -60,16 +61,13 @@ CPageUndo::~CPageUndo()
     m_stack->disconnect(this);
 }
 
-QAction *CPageUndo::AddAction(const char *name, const QString &text, const char *keys,
+QAction *CPageUndo::AddAction(const char *name, const char *text, const char *keys,
                               void (CPageUndo::*slot)())
 {
-    auto *action = new QAction(text, m_widget);
-    action->setObjectName(QLatin1String(name));
-    action->setShortcut(QKeySequence(QLatin1String(keys)));
+    QAction *const action =
+        ::AddAction(m_widget, name, text, {QLatin1String(keys)}, [this, slot] { (this->*slot)(); });
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    action->setText(WithKeys(text, action));
-    connect(action, &QAction::triggered, this, slot);
-    m_widget->addAction(action);
+    action->setText(WithKeys(action->text(), action));
     return action;
 }
 
@@ -88,6 +86,8 @@ void CPageUndo::SetEnabled(bool isEnabled)
 {
     m_isOn = isEnabled;
     RefreshActions();
+    if (m_isOn && m_isRefreshDue)
+        m_refresh.start();
 }
 
 // False when the page is gone: the check of a number may open a box.
@@ -244,6 +244,7 @@ void CPageUndo::ShownAnew()
 {
     m_dirty.clear();
     m_refresh.stop();
+    m_isRefreshDue = false;
     const SCalChangedCells cells =
         m_page.Ctrl().CountCalChanges(m_page.Item(), m_page.Document(), false);
     m_changed.ShownAnew(cells.inRecord > 0);
@@ -258,10 +259,15 @@ void CPageUndo::MarkDirty(const CellEdits &edits)
     m_refresh.start();
 }
 
+// While a flow of the item runs, its records are not to be had.
 void CPageUndo::Refresh()
 {
+    m_isRefreshDue = !m_isOn;
+    if (m_isRefreshDue)
+        return;
     const std::vector<SEditorPlace> dirty = std::exchange(m_dirty, {});
-    if (!m_hasStarted || !m_page.IsReady())
+    // A page that has left its window is of a DUT that is gone.
+    if (!m_hasStarted || !m_page.IsReady() || !m_widget->parentWidget())
         return;
     const QJsonObject document = m_page.PackagedCopy();
     const SCalChangedCells cells = m_page.Ctrl().CountCalChanges(m_page.Item(), document, true);

@@ -58,7 +58,7 @@ public:
     void ShownAnew();
 
 private:
-    QAction *AddAction(const char *name, const QString &text, const char *keys,
+    QAction *AddAction(const char *name, const char *text, const char *keys,
                        void (CPageUndo::*slot)());
     bool EndEdit();
     void Undo();
@@ -91,6 +91,7 @@ private:
     SCalChangedCells m_cells;
     CalCopyTargets m_targets;
     bool m_isOn = true;
+    bool m_isRefreshDue = false;  // as soon as it is on again
     bool m_hasStarted = false;
     bool m_hasFlow = false;  // on the stack
     QAction *m_actionUndo = nullptr;

@@ -185,6 +185,13 @@ TEST_F(CalCommandTest, TheSecondWriterIsToldWhoHoldsTheDut)
     EXPECT_EQ(m_folder.Cal("write --item apt --from new.ini --yes --handle 2").exitCode, 0);
 }
 
+TEST_F(CalCommandTest, AnOutputThatTakesNothingIsTrouble)
+{
+    ASSERT_EQ(m_folder.Cal("read --item apt --to a.json").exitCode, 0);
+    EXPECT_EQ(m_folder.Shell("$QUORLIN cal diff a.json a.json >/dev/full").exitCode, 2);
+    EXPECT_EQ(m_folder.Shell("($QUORLIN cal diff a.json a.json; echo $? >&2) | true").err, "0\n");
+}
+
 TEST_F(CalCommandTest, OtherCommandsNeedNoPair)
 {
     EXPECT_EQ(m_folder.Shell("ldd $QUORLIN | grep -c libVond").out, "0\n");

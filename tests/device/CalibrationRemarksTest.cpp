@@ -28,6 +28,7 @@ private slots:
     void visitedPageWithoutEditsIsNotNamed();
     void importNamesValuesThatAreNoNumbersOrBeyondThePage();
     void importWithManyOddValuesNamesTheFirstTen();
+    void importNamesSectionsOfAnotherRoute();
     void importNamesFrequenciesBeyondThoseOfTheirRoute_data();
     void importNamesFrequenciesBeyondThoseOfTheirRoute();
     void ownExportGivesNoRemark_data();
@@ -182,6 +183,39 @@ void CalibrationRemarksTest::importWithManyOddValuesNamesTheFirstTen()
     QVERIFY2(lines[0].endsWith("The first 10:"), qPrintable(lines[0]));
     QCOMPARE(lines[1], QString("[NR n1 BW0 TPC] Pa mode map: \"3\" in the file, 3 in memory, "
                                "nothing on the page"));
+}
+
+void CalibrationRemarksTest::importNamesSectionsOfAnotherRoute()
+{
+    QTemporaryDir folder;
+    CCalibrationSession session(kPathLossPage);
+    QVERIFY(session.ShowAndWait());
+    QVERIFY(session.Run(kRead));
+    const QString path = folder.filePath("cal.ini");
+    QVERIFY(session.Run(kExport, path));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QByteArray text = file.readAll();
+    const int route = text.indexOf('=', text.indexOf("Comp Route")) + 2;
+    text.replace(route, text.indexOf("\r\n", route) - route, "12");
+    const int value = text.indexOf('=', text.indexOf("RX loss hpm G0,g0")) + 2;
+    text.replace(value, text.indexOf(',', value) - value, "99.0");
+    file.seek(0);
+    file.resize(0);
+    file.write(text);
+    file.close();
+    const QVector<SSeenBox> boxes = Run(session, kImport, path);
+    QCOMPARE(session.StatusBar(), QString(kImport.done));
+    QCOMPARE(boxes.size(), 1);
+    QCOMPARE(boxes[0].title, QString("Import data from file"));
+    const QStringList lines = boxes[0].text.split('\n');
+    QCOMPARE(lines.size(), 5);
+    QCOMPARE(lines[0],
+             QString("RX PathLoss: 1 sections of the file name another route than the one "
+                     "that they were loaded into."));
+    QCOMPARE(lines[1], QString("[NR n1 RX loss]: loaded into T1 route 1, its Comp Route is 12"));
+    QVERIFY2(lines[3].startsWith("RX PathLoss: 1 values"), qPrintable(lines[3]));
+    QCOMPARE(session.CellText(2, "lna0", 0, 0), QString("30.00000"));  // by the section's name
 }
 
 void CalibrationRemarksTest::importNamesFrequenciesBeyondThoseOfTheirRoute_data()

@@ -143,6 +143,21 @@ private slots:
         QCOMPARE(box->value(), (box->minimum() + box->maximum()) / 2);
     }
 
+    void theLowestChannelOfABandLiesWithinIt()
+    {
+        CPluginSession session("handset", 1, kForced.className);
+        QVERIFY(session.ShowAndWait());
+        session.Find<QComboBox>(kGroup1 + "band")->setCurrentText("n78");
+        session.Find<QComboBox>(kGroup1 + "txScs")->setCurrentText("30kHz");
+        auto *width = session.Find<QComboBox>(kGroup1 + "ulBandwidth");
+        width->setCurrentIndex(width->findText("51 RB"));
+        QCOMPARE(width->currentText(), QString("51 RB"));
+        auto *box = session.Find<QSpinBox>(kGroup1 + "ulFrequency");
+        Enter(ActionOf(box, "m_actionEnterFrequency"),
+              [](QDialog *dialog) { dialog->findChild<QPushButton *>("m_low")->click(); });
+        QCOMPARE(box->value(), 3310020);
+    }
+
     void theFiveChannelsAreSpreadOverTheBand()
     {
         CPluginSession session("handset", 1, "CNrRssiDockWidgetV7");

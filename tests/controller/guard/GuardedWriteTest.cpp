@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "Operations/calibration/CalItemByL1Operation.h"
+#include "Operations/calibration/CalRecords.h"
 #include "tests/controller/guard/GuardFixture.h"
 
 namespace {
@@ -158,6 +159,31 @@ TEST_F(CGuardedWriteTest, AfterACutBothWaysLeadOut)
         EXPECT_EQ(further->Carry().end, EGuardedEnd::Verified);
         EXPECT_EQ(IsSame(Flash(ECalItem::Apt), old), isRestore);
     }
+}
+
+// Exactly 32 frequencies, in the second block another one than before: two blocks, also from a record in
+// which the new frequencies stand already.
+TEST_F(CGuardedWriteTest, TheBlockCountOfAFileDoesNotHangOnWhatACutHasLeft)
+{
+    SCalBlockImage flash = Flash(ECalItem::Apt);
+    SCalImage image = JoinedImage(flash);
+    const auto at =
+        std::find_if(image.records.begin(), image.records.end(), [](const auto &record) {
+            return record.bytes[offsetof(SAptRouteBwRecord, blockCount)] == 2;
+        });
+    ASSERT_NE(at, image.records.end());
+    auto *record = reinterpret_cast<SAptRouteBwRecord *>(at->bytes.data());
+    for (int i = 0; i < kVondCalMaxSubbands; ++i)
+        record->freq[i] = i < 32 ? record->freq[0] : 0;
+    const SCalBlockRecord *before = flash.Find(at->kind, at->place);
+    for (const uint32_t known : {1u, 2u, 3u}) {
+        SCalBlockRecord torn = *before;
+        torn.blocks.resize(known * CalBlockSize(at->kind));
+        CountFileBlocks(*at, &torn);
+        EXPECT_EQ(record->blockCount, std::max(2u, known));
+    }
+    CountFileBlocks(*at, nullptr);
+    EXPECT_EQ(record->blockCount, 2u);
 }
 
 TEST_F(CGuardedWriteTest, BlocksThatRepeatAValueDifferentlyAreMendedAndTold)
