@@ -106,20 +106,26 @@ QJsonArray StatisticArray(const std::vector<SCalStatistic> &statistics)
     return array;
 }
 
+QByteArray JsonText(const QJsonObject &object)
+{
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+// A difference a line: there may be a million, which no object has to hold.
 void SayJson(const SCalRequest &request, const SCalSides &sides, const CCalComparison &fields,
              const QStringList &bytes)
 {
-    QJsonArray rows;
-    for (std::size_t i = 0; i < fields.Count(); ++i)
-        rows.append(RowObject(RowOf(fields.At(i))));
-    const QJsonObject object = {{"item", sides.item},
+    QByteArray head = JsonText({{"item", sides.item},
                                 {"left", Words(request.file)},
                                 {"right", Words(request.right)},
-                                {"differences", rows},
                                 {"byRoute", StatisticArray(fields.ByRoute())},
                                 {"byField", StatisticArray(fields.ByField())},
-                                {"bytesAlone", QJsonArray::fromStringList(bytes)}};
-    SayBytes(QJsonDocument(object).toJson());
+                                {"bytesAlone", QJsonArray::fromStringList(bytes)}});
+    head.chop(1);
+    SayBytes(head + ",\n\"differences\":[");
+    for (std::size_t i = 0; i < fields.Count(); ++i)
+        SayBytes((i == 0 ? "\n" : ",\n") + JsonText(RowObject(RowOf(fields.At(i)))));
+    SayBytes("]}\n");
 }
 
 QString Quoted(QString text)

@@ -21,6 +21,12 @@ QByteArray Printable(QString text)
     return text.toUtf8();
 }
 
+void NoteOutputError()
+{
+    if (s_outputError == 0 && errno != EPIPE)
+        s_outputError = errno;
+}
+
 const char *StepName(EGuardStep step)
 {
     switch (step) {
@@ -43,15 +49,15 @@ void Say(const QString &text)
 void SayBytes(const QByteArray &bytes)
 {
     EndProgress();
-    const bool isTaken = std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()),
-                                     stdout) == static_cast<std::size_t>(bytes.size()) &&
-                         std::fflush(stdout) == 0;
-    if (!isTaken && s_outputError == 0 && errno != EPIPE)
-        s_outputError = errno;
+    const auto size = static_cast<std::size_t>(bytes.size());
+    if (std::fwrite(bytes.constData(), 1, size, stdout) != size)
+        NoteOutputError();
 }
 
 int OutputError()
 {
+    if (std::fflush(stdout) != 0)
+        NoteOutputError();
     return s_outputError;
 }
 

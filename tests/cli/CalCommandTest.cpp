@@ -122,7 +122,7 @@ TEST_F(CalCommandTest, DifferencesAreNamedInEachForm)
     EXPECT_TRUE(Contains(csv.out, "apt,TX,1,1,20000,couplerLoss,0,1.25 dB,1.5 dB,0.25,dB,\n"))
         << csv.out;
     const SCliRun json = m_folder.Cal("diff dut new.ini --json");
-    EXPECT_TRUE(Contains(json.out, "\"path\": \"couplerLoss[0]\"")) << json.out;
+    EXPECT_TRUE(Contains(json.out, "\"path\":\"couplerLoss[0]\"")) << json.out;
     EXPECT_EQ(m_folder.Cal("diff dut new.ini --json --csv").exitCode, 2);
 }
 
