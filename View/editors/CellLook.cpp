@@ -1,5 +1,6 @@
 #include "View/editors/CellLook.h"
 
+#include <QLineEdit>
 #include <QPalette>
 #include <QVariant>
 #include <QWidget>
@@ -52,8 +53,11 @@ void SetCellLook(QWidget *editor, ECellLook look, bool isOn)
         return;
     editor->setProperty(kLooks, looks);
     editor->setPalette({});
-    if (looks != 0)
-        editor->setPalette(PaletteOf(looks, editor->palette()));
+    const QPalette palette = looks != 0 ? PaletteOf(looks, editor->palette()) : QPalette();
+    editor->setPalette(palette);
+    // Below a style sheet the text of a spin box does not follow its box.
+    if (auto *text = editor->findChild<QLineEdit *>())
+        text->setPalette(palette);
     QFont font = editor->font();
     font.setBold(Has(looks, ECellLook::Changed));
     editor->setFont(font);
