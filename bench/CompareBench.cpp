@@ -68,8 +68,13 @@ void Compare(benchmark::State &state)
     const SCalImage left = ReadImage<Item>();
     const SCalImage right = isSame ? left : OtherImage(left);
     int count = 0;
-    for (auto _ : state)
-        count = MakeCalDifferences(CCalComparison(left, right))->Count();
+    for (auto _ : state) {
+        state.PauseTiming();
+        SCalImage one = left;
+        SCalImage other = right;
+        state.ResumeTiming();
+        count = MakeCalDifferences(CCalComparison(std::move(one), std::move(other)))->Count();
+    }
     state.SetLabel(std::to_string(count) + " differences");
 }
 
@@ -96,7 +101,7 @@ public:
         static const CalDifferences differences = ManyDifferences(kManyDifferences);
         m_window.Show({.result = {}, .differences = differences});
         m_window.show();
-        m_table = m_window.findChild<QTableView *>();
+        m_table = m_window.findChild<QTableView *>(QStringLiteral("m_differences"));
         QCoreApplication::processEvents();
         m_window.repaint();
     }

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
+#include <cstring>
+#include <iterator>
 #include <map>
 #include <span>
 #include <tuple>
@@ -46,6 +49,63 @@ std::string WordsOf(const SCalImageRecord &record, const SFoundField &part)
     return ValueText(value);
 }
 
+// Most parts are numbers of two bytes, millions of them.
+bool IsSame(const uint8_t *one, const uint8_t *other, uint32_t size)
+{
+    constexpr uint32_t kWord = sizeof(uint16_t);
+    return size == kWord ? std::memcmp(one, other, kWord) == 0 : std::memcmp(one, other, size) == 0;
+}
+
+// What ByField counts of a field.
+struct SFieldSum
+{
+    const SField *field = nullptr;
+    const SLayout *layout = nullptr;
+    uint32_t offset = 0;  // of its first part that differs
+    std::size_t count = 0;
+    int64_t largest = 0;  // as the record has it
+};
+
+// Of each part of a kind's record, the place of its field among the kind's fields.
+struct SFieldsOfKind
+{
+    std::vector<const SField *> fields;
+    std::vector<uint16_t> ofPart;
+};
+
+const SFieldsOfKind &FieldsOf(ECalRoute kind)
+{
+    const auto make = [](ECalRoute of) {
+        SFieldsOfKind made;
+        std::map<const SField *, uint16_t> places;
+        for (const SFoundField &part : PartsOf(of)) {
+            const auto [place, isNew] =
+                places.emplace(part.field, static_cast<uint16_t>(made.fields.size()));
+            if (isNew)
+                made.fields.push_back(part.field);
+            made.ofPart.push_back(place->second);
+        }
+        return made;
+    };
+    static const SFieldsOfKind fieldsOfKinds[] = {make(ECalRoute::Tx), make(ECalRoute::Type1),
+                                                  make(ECalRoute::Type2)};
+    return fieldsOfKinds[static_cast<std::size_t>(kind)];
+}
+
+// Of numbers; 0 for what is none.
+int64_t SizeOfDifference(const SFoundField &part, const uint8_t *left, const uint8_t *right)
+{
+    const EFieldType type = part.field->at.type;
+    if (type == EFieldType::I16) {
+        int16_t one = 0;
+        int16_t other = 0;
+        std::memcpy(&one, left, sizeof one);
+        std::memcpy(&other, right, sizeof other);
+        return std::abs(int{other} - int{one});
+    }
+    return std::abs(ReadNumber(type, {right, part.size}) - ReadNumber(type, {left, part.size}));
+}
+
 // "loss[3][16].hpm" becomes "loss.hpm".
 std::string WithoutIndexes(const std::string &name)
 {
@@ -66,8 +126,11 @@ CCalComparison::CCalComparison(SCalImage left, SCalImage right, double tolerance
     : m_left(std::move(left)), m_right(std::move(right))
 {
     PairRecords();
-    for (uint32_t pair = 0; pair < m_pairs.size(); ++pair)
+    for (uint32_t pair = 0; pair < m_pairs.size(); ++pair) {
         ComparePair(pair, toleranceDb);
+        if (!m_runs.empty() && m_runs.back().first == m_parts.size())
+            m_runs.pop_back();
+    }
 }
 
 void CCalComparison::PairRecords()
@@ -99,8 +162,9 @@ const SCalImageRecord &CCalComparison::RecordOf(const SPair &pair) const
 void CCalComparison::ComparePair(uint32_t index, double toleranceDb)
 {
     const SPair &pair = m_pairs[index];
+    m_runs.push_back({.pair = index, .first = m_parts.size()});
     if (IsLacking(pair)) {
-        m_differences.push_back({index, 0});
+        m_parts.push_back(0);
         return;
     }
     const SCalImageRecord &left = m_left.records[pair.left];
@@ -108,15 +172,33 @@ void CCalComparison::ComparePair(uint32_t index, double toleranceDb)
     if (left.bytes == right.bytes)
         return;
     const std::vector<SFoundField> &parts = PartsOf(left.kind);
+    const uint8_t *const one = left.bytes.data();
+    const uint8_t *const other = right.bytes.data();
     for (uint32_t i = 0; i < parts.size(); ++i) {
         const SFoundField &part = parts[i];
-        const auto one = BytesOf(left, part);
-        if (std::equal(one.begin(), one.end(), BytesOf(right, part).begin()))
+        if (IsSame(one + part.offset, other + part.offset, part.size))
             continue;
+        if (toleranceDb <= 0) {
+            m_parts.push_back(static_cast<uint16_t>(i));
+            continue;
+        }
         const bool isDecibel = part.field->unit.name == kDecibel;
         if (!isDecibel || std::abs(*DifferenceOf(pair, part)) > toleranceDb)
-            m_differences.push_back({index, i});
+            m_parts.push_back(static_cast<uint16_t>(i));
     }
+}
+
+CCalComparison::SPlace CCalComparison::PlaceAt(std::size_t index) const
+{
+    const auto behind =
+        std::upper_bound(m_runs.begin(), m_runs.end(), index,
+                         [](std::size_t at, const SRun &run) { return at < run.first; });
+    return {.pair = std::prev(behind)->pair, .part = m_parts[index]};
+}
+
+std::size_t CCalComparison::EndOf(std::size_t run) const
+{
+    return run + 1 < m_runs.size() ? m_runs[run + 1].first : m_parts.size();
 }
 
 const SFoundField &CCalComparison::PartAt(const SPlace &place) const
@@ -136,7 +218,7 @@ std::optional<double> CCalComparison::DifferenceOf(const SPair &pair, const SFou
 
 SCalDifference CCalComparison::At(std::size_t index) const
 {
-    const SPlace &place = m_differences[index];
+    const SPlace place = PlaceAt(index);
     const SPair &pair = m_pairs[place.pair];
     const SCalImageRecord &record = RecordOf(pair);
     SCalDifference difference = {.kind = record.kind, .place = record.place};
@@ -155,7 +237,7 @@ SCalDifference CCalComparison::At(std::size_t index) const
 
 SCalDifferenceSpot CCalComparison::SpotAt(std::size_t index) const
 {
-    const SPlace &place = m_differences[index];
+    const SPlace place = PlaceAt(index);
     const SPair &pair = m_pairs[place.pair];
     if (IsLacking(pair))
         return {.record = place.pair};
@@ -170,23 +252,19 @@ SCalDifferenceSpot CCalComparison::SpotAt(std::size_t index) const
     };
     spot.left = inUnit(m_left.records[pair.left]);
     spot.right = inUnit(m_right.records[pair.right]);
-    spot.difference = *spot.right - *spot.left;
+    spot.difference = DifferenceOf(pair, part);
     return spot;
 }
 
 std::vector<SCalStatistic> CCalComparison::ByRoute() const
 {
     std::vector<SCalStatistic> routes;
-    uint32_t last = kNoRecord;
-    for (const SPlace &place : m_differences) {
-        if (place.pair != last) {
-            const SCalImageRecord &record = RecordOf(m_pairs[place.pair]);
-            routes.push_back({.name = RouteName(record.kind) + std::string(" ") +
-                                      PlaceText(record.place, record.kind),
-                              .record = place.pair});
-        }
-        last = place.pair;
-        ++routes.back().count;
+    for (std::size_t run = 0; run < m_runs.size(); ++run) {
+        const SCalImageRecord &record = RecordOf(m_pairs[m_runs[run].pair]);
+        routes.push_back({.name = RouteName(record.kind) + std::string(" ") +
+                                  PlaceText(record.place, record.kind),
+                          .record = m_runs[run].pair,
+                          .count = EndOf(run) - m_runs[run].first});
     }
     return routes;
 }
@@ -194,24 +272,44 @@ std::vector<SCalStatistic> CCalComparison::ByRoute() const
 // A field is the row of the table, wherever it stands: all losses of all subbands are one.
 std::vector<SCalStatistic> CCalComparison::ByField() const
 {
-    std::vector<SCalStatistic> fields;
+    std::vector<SFieldSum> sums;
     std::map<const SField *, std::size_t> places;
-    for (const SPlace &place : m_differences) {
-        const SPair &pair = m_pairs[place.pair];
+    constexpr std::size_t kNone = SIZE_MAX;
+    for (std::size_t run = 0; run < m_runs.size(); ++run) {
+        const SPair &pair = m_pairs[m_runs[run].pair];
         if (IsLacking(pair))
             continue;
-        const SFoundField &part = PartAt(place);
-        const auto [found, isNew] = places.emplace(part.field, fields.size());
-        if (isNew) {
-            const SLayout &layout = CalRecordLayout(RecordOf(pair).kind);
-            fields.push_back({.name = WithoutIndexes(NameAt(layout, part.offset)),
-                              .field = part.field,
-                              .unit = part.field->unit.name});
+        const SCalImageRecord &left = m_left.records[pair.left];
+        const uint8_t *const right = m_right.records[pair.right].bytes.data();
+        const std::vector<SFoundField> &parts = PartsOf(left.kind);
+        const SFieldsOfKind &fields = FieldsOf(left.kind);
+        std::vector<std::size_t> sumOfField(fields.fields.size(), kNone);
+        for (std::size_t i = m_runs[run].first; i < EndOf(run); ++i) {
+            const SFoundField &part = parts[m_parts[i]];
+            std::size_t &place = sumOfField[fields.ofPart[m_parts[i]]];
+            if (place == kNone) {
+                place = places.emplace(part.field, sums.size()).first->second;
+                if (place == sums.size())
+                    sums.push_back({.field = part.field,
+                                    .layout = &CalRecordLayout(left.kind),
+                                    .offset = part.offset});
+            }
+            SFieldSum &sum = sums[place];
+            ++sum.count;
+            sum.largest =
+                std::max(sum.largest, SizeOfDifference(part, left.bytes.data() + part.offset,
+                                                       right + part.offset));
         }
-        SCalStatistic &statistic = fields[found->second];
-        ++statistic.count;
-        if (const auto difference = DifferenceOf(pair, part))
-            statistic.largest = std::max(statistic.largest.value_or(0), std::abs(*difference));
     }
-    return fields;
+    std::vector<SCalStatistic> statistics;
+    for (const SFieldSum &sum : sums) {
+        SCalStatistic statistic = {.name = WithoutIndexes(NameAt(*sum.layout, sum.offset)),
+                                   .field = sum.field,
+                                   .count = sum.count,
+                                   .unit = sum.field->unit.name};
+        if (SizeOf(sum.field->at.type) != 0)
+            statistic.largest = static_cast<double>(sum.largest) / sum.field->unit.perUnit;
+        statistics.push_back(std::move(statistic));
+    }
+    return statistics;
 }

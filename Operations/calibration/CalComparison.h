@@ -70,7 +70,7 @@ class CCalComparison
 public:
     CCalComparison(SCalImage left, SCalImage right, double toleranceDb = 0);
 
-    std::size_t Count() const { return m_differences.size(); }
+    std::size_t Count() const { return m_parts.size(); }
     SCalDifference At(std::size_t index) const;
     // The same without words, many times as fast.
     SCalDifferenceSpot SpotAt(std::size_t index) const;
@@ -89,21 +89,31 @@ private:
         uint32_t left = kNoRecord;  // in the image
         uint32_t right = kNoRecord;
     };
+    // The differences of a pair stand together.
+    struct SRun
+    {
+        uint32_t pair = 0;
+        std::size_t first = 0;  // in m_parts
+    };
     struct SPlace
     {
         uint32_t pair;
-        uint32_t part;  // of the record, in the order of the bytes; of a record that is lacking, 0
+        uint16_t part;
     };
 
     void PairRecords();
     void ComparePair(uint32_t pair, double toleranceDb);
     static bool IsLacking(const SPair &pair);
     const SCalImageRecord &RecordOf(const SPair &pair) const;
+    SPlace PlaceAt(std::size_t index) const;
+    std::size_t EndOf(std::size_t run) const;  // in m_parts
     const SFoundField &PartAt(const SPlace &place) const;
     std::optional<double> DifferenceOf(const SPair &pair, const SFoundField &part) const;
 
     SCalImage m_left;
     SCalImage m_right;
     std::vector<SPair> m_pairs;
-    std::vector<SPlace> m_differences;
+    std::vector<SRun> m_runs;
+    // Of the record, in the order of the bytes; of a record that is lacking, one 0.
+    std::vector<uint16_t> m_parts;
 };

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QStatusBar>
 #include <QThreadPool>
@@ -198,6 +199,8 @@ void CDesk::Key(QWidget *window, Qt::Key key, Qt::KeyboardModifiers modifiers)
 
 void CDesk::AnswerDialog()
 {
+    if (auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget()))
+        menu->close();
     QWidget *const modal = QApplication::activeModalWidget();
     auto *dialog = qobject_cast<QFileDialog *>(modal);
     if (!dialog) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <map>
 #include <set>
 
 #include "tests/operations/calibration/CalFixture.h"
@@ -92,6 +93,31 @@ TEST_F(CalComparisonTest, DifferenceNamesPlaceFieldAndBothValues)
     EXPECT_EQ(gain.difference, 0.5);
     EXPECT_NE(gain.left, gain.right);
     EXPECT_TRUE(gain.left.ends_with(" dB")) << gain.left;
+}
+
+TEST_F(CalComparisonTest, SpotHasTheNumbersOfItsDifference)
+{
+    SCalImage other = m_flash;
+    other.records.erase(other.records.begin() + 1);
+    for (SCalImageRecord &record : other.records) {
+        for (std::size_t byte = 0; byte < record.bytes.size(); byte += 7)
+            record.bytes[byte] ^= 0x11;
+    }
+    const CCalComparison comparison(m_flash, other);
+    std::map<uint32_t, std::size_t> ofRecord;
+    for (std::size_t i = 0; i < comparison.Count(); ++i) {
+        const SCalDifference difference = comparison.At(i);
+        const SCalDifferenceSpot spot = comparison.SpotAt(i);
+        ++ofRecord[spot.record];
+        ASSERT_EQ(spot.field == nullptr, difference.lack != ECalLack::None);
+        ASSERT_EQ(spot.difference, difference.difference) << difference.field;
+        if (spot.difference) {
+            ASSERT_DOUBLE_EQ(*spot.right - *spot.left, *spot.difference);
+        }
+    }
+    ASSERT_EQ(comparison.ByRoute().size(), ofRecord.size());
+    for (const SCalStatistic &route : comparison.ByRoute())
+        EXPECT_EQ(route.count, ofRecord[route.record]) << route.name;
 }
 
 TEST_F(CalComparisonTest, EveryByteOfARecordCounts)
