@@ -95,6 +95,8 @@ public:
     void RequestReport(EPageId page, CHandedDocument document);
     void RequestClear(CHandedDocument document);
     void RequestGains(CHandedDocument document);
+    // The DUT's chip, answered by Signal_ChipNameDone; waits on the pool while the target is busy.
+    void RequestChipName();
 
     // In a slot of an answer: its document, whose text is given. Outside one it parses the text.
     // Empty: no document.
@@ -294,6 +296,7 @@ signals:
     void Signal_TestsRun(bool isAny);
     // Of the tests that run, the one started last; an empty text when none does.
     void Signal_NewestTest(SRunningTestInfo newest);
+    void Signal_ChipNameDone(QString chip);
 
     void Signal_AptUploadFromFlashDone(SEachItemOperationResult result,
                                        std::string resultDataModel);

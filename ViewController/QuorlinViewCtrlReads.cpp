@@ -42,3 +42,9 @@ void CQuorlinViewCtrl::RequestGains(CHandedDocument document)
                   return std::make_tuple(result, ModelToText(response));
               });
 }
+
+void CQuorlinViewCtrl::RequestChipName()
+{
+    RunOnPool("ChipNameInternal", &CQuorlinViewCtrl::Signal_ChipNameDone,
+              [](CNrCore &core) { return std::make_tuple(core.GetRfChipName()); });
+}

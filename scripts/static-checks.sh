@@ -72,13 +72,14 @@ View/engine View/editors|Model|Support
 View/compare Model|Support|ViewController
 View/undo View/engine|View/editors|Model|Support|ViewController
 View/pages View/compare|View/undo|View/settings|View/engine|View/editors|Model|Support|ViewController
+View/results View/engine|View/editors|Model|Support|ViewController
 View/log View/editors|Model|Support
 View/settings View/engine|View/editors|Support
 View/entry View/engine|View/editors|Model|Support
 View/plots View/engine|View/editors|Model|Support
 View/form View/entry|View/log|View/settings|View/engine|View/editors|Model|Support|ViewController
-View/Rx View/pages|View/plots|View/engine|View/editors|Model|Support|ViewController
-View/Tx View/pages|View/plots|View/engine|View/editors|Model|Support|ViewController
+View/Rx View/results|View/pages|View/plots|View/engine|View/editors|Model|Support|ViewController
+View/Tx View/results|View/pages|View/plots|View/engine|View/editors|Model|Support|ViewController
 Plots View/plots
 PluginInterface View|Support
 Host PluginInterface

@@ -22,6 +22,11 @@ namespace {
 constexpr char kReportPeriod[] = "cmdIf.request.group1.memberValue.reportPeriod";
 constexpr int kShortestPeriod = 300;  // ms, also when the document has no period
 
+constexpr SResultSource kReportTables[] = {
+    {.group = "group1", .headers = &RowTableHeaders, .rows = &RowTableRows},
+    {.group = "group2", .headers = &RowTableHeaders, .rows = &RowTableRows},
+};
+
 }  // namespace
 
 CNrRsrpDockWidgetV7::CNrRsrpDockWidgetV7(const SRsrpPage &page, QWidget *parent)
@@ -39,6 +44,7 @@ void CNrRsrpDockWidgetV7::UseWidgets(const SRsrpWidgets &widgets)
     m_widgets = widgets;
     SetTestButtons(widgets.start, widgets.stop);
     SetInputs(widgets.inputGroups);
+    KeepResults();
 
     const auto followCarrier = [this] {
         if (m_modelReady)
@@ -49,6 +55,15 @@ void CNrRsrpDockWidgetV7::UseWidgets(const SRsrpWidgets &widgets)
     connect(this, &CAutoBindingDataModelDockWidget::Signal_InitDone, this, followCarrier);
     connect(this, &CAutoBindingDataModelDockWidget::Signal_InitDone, this,
             &CNrRsrpDockWidgetV7::ShapeResults);
+}
+
+// A source a result table, in their order.
+void CNrRsrpDockWidgetV7::KeepResults()
+{
+    SResultExport what;
+    for (int i = 0; i < m_widgets.results.size(); ++i)
+        what.sources.push_back(kReportTables[i]);
+    m_results = new CResultExport(what, this, ViewCtrl());
 }
 
 // One answer of its kind is waited for at a time.
@@ -183,8 +198,10 @@ void CNrRsrpDockWidgetV7::OnClearDone(const std::string &response)
     StopAwaiting(&CQuorlinViewCtrl::Signal_RsrpClearReportDone);
     m_isClearing = false;
     m_plot->Clear();
-    if (AdoptReports(response))
+    if (AdoptReports(response)) {
+        m_results->Clear();
         ShapeResults();
+    }
     if (!m_isClearedByUser) {
         if (const auto started = std::exchange(m_started, std::nullopt))
             OnTestDone(*started);
@@ -209,6 +226,7 @@ bool CNrRsrpDockWidgetV7::AdoptReports(const std::string &response)
     m_plot->Add(document);
     m_dataModel = document;
     AppendWidget(m_dataModel);
+    m_results->Take(m_dataModel);
     for (const QTableWidget *table : qAsConst(m_widgets.results))
         DropRowCells(m_dataModel, PathFromObjectName(table->objectName()));
     m_reported = m_dataModel;

@@ -39,6 +39,7 @@
 #include <QVector>
 
 #include "View/pages/StartStopDockWidget.h"
+#include "View/results/ResultExport.h"
 
 class CNrRsrpDockWidgetV7;
 class CRsrpPlot;
@@ -117,6 +118,7 @@ private:
     void RequestClear(const QJsonObject &document);
     bool AdoptReports(const std::string &response);
     void ShapeResults();
+    void KeepResults();
     template <typename... Answers>
     void Await(SRsrpPage::Signal<Answers...> signal, SRsrpPage::Slot<Answers...> slot);
     template <typename... Answers>
@@ -125,6 +127,7 @@ private:
     const SRsrpPage &m_page;
     SRsrpWidgets m_widgets = {};
     CRsrpPlot *const m_plot;
+    CResultExport *m_results = nullptr;  // the reports since Clear
     QTimer m_reportTimer{this};
     QJsonObject m_reported;  // m_dataModel from Start on, for the next fetch
     bool m_isFetching = false;

@@ -19,6 +19,21 @@ const QLatin1String kWidestCell("-1024.00000");  // longer than any reading or f
 const QRegularExpression kGainNames("^cmdIf_response_group1_memberProperty_path[01].*Gain");
 constexpr int kCellMargin = 12;  // pixels of frame and indent around a cell's text
 
+SResultExport TestExport()
+{
+    return {.sources = {{.group = "group1", .headers = &RssiHeaders, .rows = &RssiRows}},
+            .columns = {"group1.band", "group1.rxRoute", "group1.calType", "group1.powerMode"}};
+}
+
+SResultExport CalculatorExport()
+{
+    return {.action = "m_actionExportGains",
+            .text = "Export &gain search...",
+            .keys = "Ctrl+Shift+E",
+            .sources = {{.group = "group1", .headers = &GainHeaders, .rows = &GainRows}},
+            .columns = {"group1.band", "group1.rxRoute", "group1.calType", "group1.powerMode"}};
+}
+
 // Columns as wide as the widest result: no later answer is cut off.
 void FitColumns(QTableWidget *table)
 {
@@ -54,7 +69,9 @@ const CNrRssiDockWidgetV7::STexts CNrRssiDockWidgetV7::kCalculatorTexts = {
 CNrRssiDockWidgetV7::CNrRssiDockWidgetV7(QWidget *parent)
     : CAutoBindingDataModelDockWidget(parent), m_plot(new CRssiPlot(this)),
       m_ui(std::make_unique<Ui::CNrRssiDockWidgetV7>()),
-      m_viewCtrl(std::make_unique<CQuorlinViewCtrl>())
+      m_viewCtrl(std::make_unique<CQuorlinViewCtrl>()),
+      m_testResults(new CResultExport(TestExport(), this, m_viewCtrl.get())),
+      m_calculatorResults(new CResultExport(CalculatorExport(), this, m_viewCtrl.get()))
 {
     m_ui->setupUi(this);
     AddPlotAction(this, m_plot);
@@ -164,7 +181,7 @@ void CNrRssiDockWidgetV7::Slot_RssiGainCalculatorDone(SEachItemOperationResult r
 {
     qCDebug(lcForm) << "Slot_RssiGainCalculatorDone";
     disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiGainCalculatorDone, this, nullptr);
-    EndAsking(*m_calculatorMark, kCalculatorTexts, result, responseStr);
+    EndAsking(*m_calculatorMark, *m_calculatorResults, kCalculatorTexts, result, responseStr);
 }
 
 void CNrRssiDockWidgetV7::Slot_RssiTestDone(SEachItemOperationResult result,
@@ -172,7 +189,7 @@ void CNrRssiDockWidgetV7::Slot_RssiTestDone(SEachItemOperationResult result,
 {
     qCDebug(lcForm) << "Slot_RssiTestDone";
     disconnect(m_viewCtrl.get(), &CQuorlinViewCtrl::Signal_RssiTestDone, this, nullptr);
-    EndAsking(*m_testMark, kTestTexts, result, responseStr);
+    EndAsking(*m_testMark, *m_testResults, kTestTexts, result, responseStr);
 }
 
 // False when nothing may be asked any more, see BeginRequest.
@@ -181,15 +198,17 @@ bool CNrRssiDockWidgetV7::BeginAsking()
     return HasAllChoices() && BeginRequest([this] { DisableTestControls(); });
 }
 
-void CNrRssiDockWidgetV7::EndAsking(CResultMark &mark, const STexts &texts,
+void CNrRssiDockWidgetV7::EndAsking(CResultMark &mark, CResultExport &results, const STexts &texts,
                                     const SEachItemOperationResult &result,
                                     const std::string &responseStr)
 {
     const QPointer<CNrRssiDockWidgetV7> self(this);
     // A test that did not run answers no document; adopting that would cost the page its own.
     const QJsonObject response = DocumentOf(responseStr);
-    if (!response.isEmpty())
+    if (!response.isEmpty()) {
+        results.Take(response);
         UpdateWidget(response);
+    }
     if (!self)
         return;
     const bool isSuccess = result.status == eStatusSuccess;

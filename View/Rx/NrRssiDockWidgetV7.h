@@ -23,6 +23,7 @@
 
 #include "View/engine/AutoBindingDataModelDockWidget.h"
 #include "View/pages/ResultMark.h"
+#include "View/results/ResultExport.h"
 #include "ViewController/QuorlinViewCtrl.h"
 
 class CRssiPlot;
@@ -75,13 +76,15 @@ private:
     void FixLayout();
     void MarkResults();
     bool BeginAsking();
-    // mark: of the results that the answer brings.
-    void EndAsking(CResultMark &mark, const STexts &texts, const SEachItemOperationResult &result,
-                   const std::string &responseStr);
+    // mark, results: of what the answer brings.
+    void EndAsking(CResultMark &mark, CResultExport &results, const STexts &texts,
+                   const SEachItemOperationResult &result, const std::string &responseStr);
 
     CRssiPlot *const m_plot;
     std::unique_ptr<Ui::CNrRssiDockWidgetV7> m_ui;
     std::unique_ptr<CQuorlinViewCtrl> m_viewCtrl;
+    CResultExport *const m_testResults;  // since the page began
+    CResultExport *const m_calculatorResults;
     std::unique_ptr<CResultMark> m_testMark;
     std::unique_ptr<CResultMark> m_calculatorMark;
 };

@@ -40,6 +40,9 @@ CNrSingleToneTxDockWidgetV7::CNrSingleToneTxDockWidgetV7(QWidget *parent)
     SetTestButtons(m_ui->m_start, m_ui->m_stop);
     SetReadingButton(m_ui->m_btnFetchPd, m_ui->cmdIf_response_group1_memberProperty_pdValue);
     AddPlotAction(this, m_plot);
+    KeepReadings({.sources = {{.group = "group1", .headers = &ScalarHeaders, .rows = &ScalarRows}},
+                  .columns = {"group1.band", "group1.txRoute", "group1.txPowerValue",
+                              "group1.ulFrequency"}});
 }
 
 CNrSingleToneTxDockWidgetV7::~CNrSingleToneTxDockWidgetV7() = default;

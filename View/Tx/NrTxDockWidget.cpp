@@ -30,6 +30,11 @@ void CNrTxDockWidget::SetReadingButton(QPushButton *button, QWidget *result)
             [this] { m_mark->Watch(); });
 }
 
+void CNrTxDockWidget::KeepReadings(const SResultExport &what)
+{
+    m_results = new CResultExport(what, this, ViewCtrl());
+}
+
 void CNrTxDockWidget::DisableTestControls()
 {
     CStartStopDockWidget::DisableTestControls();
@@ -97,6 +102,8 @@ void CNrTxDockWidget::FinishReading(const std::string &resultModel)
     }
     if (!isFirst && !IsModelGood(response))
         return;
+    if (m_results && isFirst)
+        m_results->Take(response);
     const QPointer<CNrTxDockWidget> self(this);
     UpdateWidget(response);
     if (!self)

@@ -13,6 +13,7 @@
 
 #include "View/pages/ResultMark.h"
 #include "View/pages/StartStopDockWidget.h"
+#include "View/results/ResultExport.h"
 
 struct STxReading
 {
@@ -43,6 +44,9 @@ protected:
     // The form's button, and where its value is shown: grey while it is not of the shown settings.
     void SetReadingButton(QPushButton *button, QWidget *result);
 
+    // Keeps the readings for an export, from now on.
+    void KeepReadings(const SResultExport &what);
+
     void StartReading();
     void FinishReading(const std::string &resultModel);
     // The answer of a reading is shown.
@@ -56,5 +60,6 @@ private:
     const STxReading m_reading;
     QPushButton *m_button = nullptr;
     std::unique_ptr<CResultMark> m_mark;
-    bool m_isReading = false;  // from the request to its first answer
+    CResultExport *m_results = nullptr;  // null: not kept
+    bool m_isReading = false;            // from the request to its first answer
 };

@@ -1,0 +1,6 @@
+#include "Support/ToolVersion.h"
+
+QString ToolVersion()
+{
+    return QStringLiteral(QUORLIN_VERSION);
+}

@@ -1,0 +1,15 @@
+// The header of a column of results: its caption with its unit, "BLER (%)" or "DL Freq. (kHz)".
+//
+// Captions of documents name few units, and in several forms, so the units stand here, by member. A
+// caption's own unit in brackets gives way. Pure functions.
+//
+//   ResultHeader("RSRP0", "RSRP0");         // "RSRP0 (dBm)"
+//   ResultHeader("dlFrequency", "DL Freq.(1kHz)");   // "DL Freq. (kHz)"
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+QString ResultHeader(const QString &member, const QString &caption);
+// Makes equal headers differ by a number behind them: a reader of the file finds columns by name.
+QStringList DistinctHeaders(const QStringList &headers);
