@@ -7,6 +7,8 @@ namespace {
 
 constexpr char kSettingsVersion[] = "1";
 constexpr const char *kSections[] = {"request", "config", "data"};
+// Where the settings come from; an export of results says so.
+constexpr const char *kOrigins[] = {"tool", "chip"};
 
 // Collects the settings of one section.
 class CSectionReader
@@ -68,6 +70,8 @@ std::optional<SSettingsFile> ReadSettingsText(const std::string &file, const std
     if (!version.text.empty() && version.text != kSettingsVersion)
         map.Complain(version.place, "the file's version is " + Quoted(version.text),
                      kSettingsVersion);
+    for (const char *origin : kOrigins)
+        map.Text(origin);
     CSectionReader reader(settings, errors);
     for (const char *section : kSections)
         if (const SPlanNode *node = map.Node(section))

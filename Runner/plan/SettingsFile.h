@@ -5,7 +5,8 @@
 //                "group2": {"dlFrequency": ["3500010", "3500010"]}}}
 //
 // A calibration page has "config" and "data" in place of "request". A list holds the cells of a row of a
-// column table. Values stand for the editors that are on: whoever applies the file leaves out the others,
+// column table. "tool" and "chip" may say what the file is of, as beside exported results; they change
+// nothing. Values stand for the editors that are on: whoever applies the file leaves out the others,
 // since a packaged page holds those too. The file is read as strictly as a plan.
 //
 //   const std::optional<SSettingsFile> file = ReadSettings("rssi.json", errors);

@@ -29,7 +29,7 @@ SResultExport CalculatorExport()
 {
     return {.action = "m_actionExportGains",
             .text = "Export &gain search...",
-            .keys = "Ctrl+Shift+E",
+            .keys = "Ctrl+Alt+E",
             .sources = {{.group = "group1", .headers = &GainHeaders, .rows = &GainRows}},
             .columns = {"group1.band", "group1.rxRoute", "group1.calType", "group1.powerMode"}};
 }

@@ -23,7 +23,7 @@ inline void PressExport(const CPluginSession &session, Qt::KeyboardModifiers mor
     QTest::keyClick(session.Window(), Qt::Key_E, Qt::ControlModifier | more);
 }
 
-// By Ctrl+E, and Shift where it is the second export of its page. False when it is not told done.
+// By Ctrl+E, and Alt where it is the second export of its page. False when it is not told done.
 inline bool Export(const CPluginSession &session, const QString &file,
                    Qt::KeyboardModifiers more = {})
 {
@@ -37,6 +37,8 @@ inline bool Export(const CPluginSession &session, const QString &file,
     });
     for (const SSeenBox &box : boxes.Seen())
         qWarning() << box.title << box.plain;
+    if (!isDone)
+        qWarning() << "no export:" << session.StatusBar() << QApplication::activeModalWidget();
     return isDone && boxes.Seen().isEmpty();
 }
 
