@@ -58,8 +58,11 @@ void SetCellLook(QWidget *editor, ECellLook look, bool isOn)
     // Below a style sheet the text of a spin box does not follow its box.
     if (auto *text = editor->findChild<QLineEdit *>())
         text->setPalette(palette);
+    // A font, even the same one, makes the editor lay itself out anew.
+    if (look != ECellLook::Changed)
+        return;
     QFont font = editor->font();
-    font.setBold(Has(looks, ECellLook::Changed));
+    font.setBold(isOn);
     editor->setFont(font);
 }
 

@@ -86,6 +86,7 @@ private slots:
     }
     void everyTableOfEditorsIsMarkedAndCopied();
     void pastedAndFilledCellsGoToTheFlash();
+    void undoKeyTakesAWholePasteBack();
     void refusedPasteIsNamedInTheStatusLineAndInABox();
     void commandPassesOverDisabledCells();
     void openMenuGoesWithAResetAndAnUnload();
@@ -149,6 +150,26 @@ void TableMarksTest::pastedAndFilledCellsGoToTheFlash()
     QCOMPARE(changes[0].after, int16_t(48));
     for (int i = 1; i < 4; ++i)
         QCOMPARE(changes[i].after, int16_t(-80));
+}
+
+void TableMarksTest::undoKeyTakesAWholePasteBack()
+{
+    CCalibrationSession session(kAptPage);
+    QVERIFY(session.ShowAndWait());
+    QVERIFY(session.Run(kRead));
+    QTableWidget *table = session.Table(7, "paHighPaGain");
+    const QStringList before = session.TableTexts(7, "paHighPaGain");
+    QWidget *first = table->cellWidget(0, 0);
+    first->setFocus();
+    QGuiApplication::clipboard()->setText("1.5\t-2.5\t3.5\n");
+    QTest::keyClick(first, Qt::Key_V, Qt::ControlModifier);
+    const QStringList pasted = session.TableTexts(7, "paHighPaGain");
+    QVERIFY(pasted != before);
+    QVERIFY(MarkedCells(table) > 0);
+    QTest::keyClick(first, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(session.TableTexts(7, "paHighPaGain"), before);
+    QTest::keyClick(first, Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(session.TableTexts(7, "paHighPaGain"), pasted);
 }
 
 void TableMarksTest::refusedPasteIsNamedInTheStatusLineAndInABox()

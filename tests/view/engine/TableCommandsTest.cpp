@@ -1,6 +1,9 @@
 // The commands of a table, by their keys, on the cells that are marked.
 #include "View/engine/TableCommands.h"
 
+#include <ctime>
+#include <utility>
+
 #include <QAction>
 #include <QClipboard>
 #include <QInputDialog>
@@ -23,6 +26,22 @@ QString Taken()
 {
     return QGuiApplication::clipboard()->text();
 }
+
+class CCpuTimer
+{
+public:
+    // Milliseconds since the last time.
+    double Restart()
+    {
+        const double before = std::exchange(m_since, Now());
+        return m_since - before;
+    }
+
+private:
+    static double Now() { return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
+
+    double m_since = Now();
+};
 
 // The text of the box that comes, which is closed; empty when none comes.
 QString ClosedBox()
@@ -362,7 +381,7 @@ private slots:
         ClosedBox();
     }
 
-    // 64 rows of 24 columns take some tens of milliseconds.
+    // The times are of the processor; a busy machine takes longer.
     void largePasteIsOneQuickChange()
     {
         constexpr int kRows = 64;
@@ -377,20 +396,19 @@ private slots:
         }
         Put(TextOfCells(rows));
         grid.Focus(0, 0);
-        QElapsedTimer timer;
-        timer.start();
+        CCpuTimer timer;
         grid.Press(Qt::Key_V, Qt::ControlModifier);
-        qInfo() << "paste" << timer.restart() << "ms";
+        qInfo() << "paste" << timer.Restart() << "ms";
         QCOMPARE(grid.m_status, QString("Paste: %1 cells changed.").arg(kRows * kColumns - 1));
         QCOMPARE(grid.Box(63, 23)->text(), QString("-63.71875"));
         grid.Press(Qt::Key_Escape);
-        timer.start();
+        timer.Restart();
         grid.Mark()->MarkAll();
-        qInfo() << "mark all" << timer.restart() << "ms";
+        qInfo() << "mark all" << timer.Restart() << "ms";
         grid.Press(Qt::Key_C, Qt::ControlModifier);
-        qInfo() << "copy" << timer.restart() << "ms";
+        qInfo() << "copy" << timer.Restart() << "ms";
         grid.Press(Qt::Key_Escape);
-        qInfo() << "unmark" << timer.elapsed() << "ms";
+        qInfo() << "unmark" << timer.Restart() << "ms";
         QVERIFY(Taken().endsWith("\t-63.71875\n"));
     }
 
