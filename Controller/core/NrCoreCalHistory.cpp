@@ -1,12 +1,11 @@
 // The way back of calibration data: requests of a page to its item's history.
 #include "Controller/core/NrCore.h"
 
-#include <cstring>
 #include <set>
 #include <utility>
 
 #include "Controller/fields/CommandFields.h"
-#include "Trace/dictionary/FieldPath.h"
+#include "Operations/calibration/CalCopy.h"
 
 namespace {
 
@@ -21,35 +20,6 @@ QString CopyTargetText(const SCalPlace &place, ECalRoute kind)
     if (HasRegions(kind))
         text += QStringLiteral(", BW%1").arg(place.region);
     return text;
-}
-
-// Bytes of a number in a record, by its name.
-void CopyField(ECalRoute kind, const char *field, const std::vector<uint8_t> &from,
-               std::vector<uint8_t> &to)
-{
-    const SFoundField found = *FindField(CalRecordLayout(kind), field);
-    std::memcpy(to.data() + found.offset, from.data() + found.offset, found.size);
-}
-
-void WriteField(ECalRoute kind, const char *field, uint16_t value, std::vector<uint8_t> &to)
-{
-    std::memcpy(to.data() + FindField(CalRecordLayout(kind), field)->offset, &value, sizeof value);
-}
-
-// The bytes of one record as those of another, whose band and route stay.
-SCalState Copied(const SCalState &from, SCalState to, uint16_t band)
-{
-    std::vector<uint8_t> bytes = from.bytes;
-    if (to.isValid) {
-        for (const char *field : {"band", "route"})
-            CopyField(to.name.kind, field, to.bytes, bytes);
-    } else {
-        WriteField(to.name.kind, "band", band, bytes);
-        WriteField(to.name.kind, "route", to.name.route, bytes);
-    }
-    to.bytes = std::move(bytes);
-    to.isEdited = !to.isValid;
-    return to;
 }
 
 }  // namespace
@@ -159,7 +129,8 @@ CalChange CNrCore::CopyCalRecord(ECalItem item, const QJsonObject &document,
             const SCalState from = *operation.StateOf(name);
             return history.Change(operation, names, [&] {
                 for (const SCalName &other : names)
-                    operation.Restore(Copied(from, *operation.StateOf(other), BandOf(document)));
+                    operation.Restore(
+                        CopiedRecord(from, *operation.StateOf(other), BandOf(document)));
             });
         });
 }
