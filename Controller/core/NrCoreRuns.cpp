@@ -42,7 +42,7 @@ int CNrCore::RunTestStep(const SPageRow &page, STestRun &run, QJsonObject docume
         return eStatusNotExecuted;
     if (m_runningTests.IsCalledOff(run.asked))
         return eStatusTerminated;
-    run.info = SummaryOf(page, document);
+    run.info = SummaryOf(page.name, page.summary, document);
     return m_target.GetNrGeneration() == 1 ? page.step(m_operations, run, document)
                                            : eStatusNotExecuted;
 }

@@ -2,7 +2,6 @@
 
 #include <QStringList>
 
-#include "Controller/core/PageTable.h"
 #include "Model/JsonPath.h"
 
 namespace {
@@ -33,13 +32,13 @@ QString NumberText(const QString &text, double scale, int decimals, const char *
 
 }  // namespace
 
-SRunningTestInfo SummaryOf(const SPageRow &page, const QJsonObject &document)
+SRunningTestInfo SummaryOf(const char *pageName, const STestSummary &summary,
+                           const QJsonObject &document)
 {
-    const STestSummary &summary = page.summary;
     SRunningTestInfo info;
     info.transmits =
         summary.transmits || TextOf(document, summary.transmitsBy).contains(QLatin1String("TX"));
-    QStringList parts = {QString::fromLatin1(page.name), TextOf(document, summary.band),
+    QStringList parts = {QString::fromLatin1(pageName), TextOf(document, summary.band),
                          NumberText(TextOf(document, summary.frequency), kKhzPerMhz, 3, " MHz")};
     if (info.transmits)
         parts.append(NumberText(TextOf(document, summary.power), 1, 2, " dBm"));

@@ -4,15 +4,13 @@
 // A page's row says which members these are. A member that the document lacks is left out. Pure
 // function, any thread.
 //
-//   SummaryText(FindPage(EPageId::SingleToneTx), document);
+//   SummaryOf(page.name, page.summary, document);
 //   // "Single Tone TX  n78  3549.990 MHz  23.00 dBm", transmits
 #pragma once
 
 #include <QJsonObject>
 
 #include "Model/RunningTest.h"
-
-struct SPageRow;
 
 // Members of the request, such as "group1.band"; null: the page has none.
 struct STestSummary
@@ -24,4 +22,5 @@ struct STestSummary
     const char *transmitsBy = nullptr;  // it does when this member's text has "TX" in it
 };
 
-SRunningTestInfo SummaryOf(const SPageRow &page, const QJsonObject &document);
+SRunningTestInfo SummaryOf(const char *pageName, const STestSummary &summary,
+                           const QJsonObject &document);

@@ -6,8 +6,8 @@
 //   item.Restore(*before);   // as if the file had not had it
 #pragma once
 
-#include <compare>
 #include <cstdint>
+#include <tuple>
 #include <vector>
 
 #include "Operations/calibration/CalRoutes.h"
@@ -18,7 +18,12 @@ struct SCalName
     uint16_t route = 0;
     int region = 0;  // 0 on RX
 
-    auto operator<=>(const SCalName &) const = default;
+    bool operator==(const SCalName &) const = default;
+    friend bool operator<(const SCalName &one, const SCalName &other)
+    {
+        return std::tie(one.kind, one.route, one.region) <
+               std::tie(other.kind, other.route, other.region);
+    }
 };
 
 struct SCalState

@@ -76,8 +76,7 @@ QStringList CAutoBindingDataModelDockWidget::TakeSettings(const QJsonObject &gro
     FinishEdit();
     QStringList refused;
     const auto isOn = [this](const SMemberEditor &editor) {
-        return editor.editor && editor.editor->isEnabled() &&
-               editor.editor->isVisibleTo(this);
+        return editor.editor && editor.editor->isEnabled() && editor.editor->isVisibleTo(this);
     };
     for (int turn = 0; self && turn < kMostTurns; ++turn) {
         const QVector<SMemberEditor> editors =

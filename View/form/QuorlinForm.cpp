@@ -47,6 +47,7 @@ CQuorlinForm::CQuorlinForm(PageTypeRegistrar registerPageTypes)
     AddAction(this, "m_actionTxPowerLimit", "TX po&wer limit...", {"Ctrl+Shift+L"},
               [this] { AskTxPowerLimit(this); });
     AddAction(this, "m_actionLog", "&Log...", {"Ctrl+L"}, [this] { ShowLog(); });
+    m_lastSettings = std::make_unique<CLastSettings>(this);
     connect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_Idle, this, [this] {
         if (--m_idleReports == 0)
             SetBusy(&m_viewCtrl, false);
@@ -57,7 +58,7 @@ CQuorlinForm::CQuorlinForm(PageTypeRegistrar registerPageTypes)
 
 CQuorlinForm::~CQuorlinForm()
 {
-    m_lastSettings.Keep(Pages());
+    m_lastSettings->Keep(Pages());
     if (m_wasShown)
         m_viewCtrl.StopRunningTests();
 }
@@ -181,7 +182,7 @@ void CQuorlinForm::StartInit()
 void CQuorlinForm::hideEvent(QHideEvent *event)
 {
     const QPointer<CQuorlinForm> self(this);
-    m_lastSettings.Keep(Pages());
+    m_lastSettings->Keep(Pages());
     CAutoBindingDataModelForm::hideEvent(event);
     if (self)
         emit Signal_PluginIsActivated(false);
@@ -199,7 +200,7 @@ void CQuorlinForm::Slot_GetInitPageListDone(QStringList pageList)
         new CPageSettings(page);
         AddFrequencyEntry(page);
     }
-    m_lastSettings.Restore(Pages());
+    m_lastSettings->Restore(Pages());
 }
 
 void CQuorlinForm::Slot_UpdateStatusbar(QString str)
@@ -214,7 +215,7 @@ void CQuorlinForm::ResetPages()
     const bool isBusy = !m_busy.isEmpty();
     const bool isStopping = m_viewCtrl.HasRunningTests();
     m_viewCtrl.ResetTargetCache();
-    m_lastSettings.Keep(Pages());
+    m_lastSettings->Keep(Pages());
     RemovePages();
     m_isInitStarted = false;
     m_rfOffs = 0;

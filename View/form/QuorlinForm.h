@@ -70,7 +70,7 @@ private:
     CQuorlinViewCtrl m_viewCtrl;
     std::unique_ptr<Ui::CQuorlinForm> m_ui;
     QPushButton *m_rfOff = nullptr;
-    CLastSettings m_lastSettings{this};
+    std::unique_ptr<CLastSettings> m_lastSettings;
     QPointer<CSessionLogWindow> m_log;  // null until it is asked for
     int m_rfOffs = 0;                   // without an answer yet
     int m_idleReports = 0;              // asked for and not there yet

@@ -23,7 +23,8 @@ private slots:
         CSessionLog log;
         log.Add(ESessionEvent::Warning, "RSSI", "Please choose\nthe file");
         QCOMPARE(log.rowCount(), 1);
-        const auto time = QDateTime::fromString(Cell(log, 0, CSessionLog::eTime), Qt::ISODateWithMs);
+        const auto time =
+            QDateTime::fromString(Cell(log, 0, CSessionLog::eTime), Qt::ISODateWithMs);
         QVERIFY(qAbs(time.secsTo(QDateTime::currentDateTime())) < 60);
         QCOMPARE(Cell(log, 0, CSessionLog::eWhere), QString("RSSI"));
         QCOMPARE(Cell(log, 0, CSessionLog::eKind), QString("warning"));
