@@ -226,11 +226,11 @@ constexpr SRatio kRatios[] = {
     {"CompareOther/Apt", "ReadBoth/Apt", 3},
     {"CompareSame/PathLoss", "ReadBoth/PathLoss", 3},
     {"CompareOther/PathLoss", "ReadBoth/PathLoss", 3},
-    {"ScrollByWheel/iterations:1/manual_time", nullptr, 16},
-    {"ScrollByKeys/iterations:1/manual_time", nullptr, 16},
-    {"ScrollByBar/iterations:1/manual_time", nullptr, 16},
-    {"Sort/iterations:1/manual_time", nullptr, 0},
-    {"Filter/iterations:1/manual_time", nullptr, 0},
+    {"ScrollByWheel", nullptr, 16},
+    {"ScrollByKeys", nullptr, 16},
+    {"ScrollByBar", nullptr, 16},
+    {"Sort", nullptr, 0},
+    {"Filter", nullptr, 0},
 };
 
 }  // namespace

@@ -174,18 +174,22 @@ void CCalComparison::ComparePair(uint32_t index, double toleranceDb)
     const std::vector<SFoundField> &parts = PartsOf(left.kind);
     const uint8_t *const one = left.bytes.data();
     const uint8_t *const other = right.bytes.data();
+    const std::size_t first = m_parts.size();
+    m_parts.resize(first + parts.size());  // room for all of them
+    uint16_t *next = m_parts.data() + first;
     for (uint32_t i = 0; i < parts.size(); ++i) {
         const SFoundField &part = parts[i];
         if (IsSame(one + part.offset, other + part.offset, part.size))
             continue;
         if (toleranceDb <= 0) {
-            m_parts.push_back(static_cast<uint16_t>(i));
+            *next++ = static_cast<uint16_t>(i);
             continue;
         }
         const bool isDecibel = part.field->unit.name == kDecibel;
         if (!isDecibel || std::abs(*DifferenceOf(pair, part)) > toleranceDb)
-            m_parts.push_back(static_cast<uint16_t>(i));
+            *next++ = static_cast<uint16_t>(i);
     }
+    m_parts.resize(static_cast<std::size_t>(next - m_parts.data()));
 }
 
 CCalComparison::SPlace CCalComparison::PlaceAt(std::size_t index) const
