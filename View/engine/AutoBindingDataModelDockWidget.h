@@ -65,16 +65,16 @@
 #include "Support/MessageBoxMan.h"
 #include "View/editors/EditSession.h"
 #include "View/editors/WheelGuard.h"
-#include "View/engine/CellChange.h"
 #include "View/engine/MemberSettings.h"
 #include "View/engine/ModelInterface.h"
 #include "View/engine/Relevance.h"
 #include "View/engine/StatusProgress.h"
+#include "View/engine/TablePage.h"
 #include "View/engine/WidgetIndex.h"
 
 struct SBinding;
 
-class CAutoBindingDataModelDockWidget : public QDockWidget
+class CAutoBindingDataModelDockWidget : public QDockWidget, public ITablePage
 {
     Q_OBJECT
 
@@ -109,10 +109,12 @@ public:
     // Makes a change of cells as the user's entries, one after the other. name: of the command that
     // makes it, such as "Paste". Cells that are not there any more are left out. Ends the edit under
     // way first.
-    virtual void ChangeCells(const QString &name, const CellChanges &changes);
+    void ChangeCells(const QString &name, const CellChanges &changes) override;
     // Says why a command changed nothing: in the status line, and in a box that comes with the next
     // turn of the event loop.
-    void ShowRefusal(const QString &command, const QString &reason);
+    void ShowRefusal(const QString &command, const QString &reason) override;
+    void ShowStatus(const QString &text) override { emit Signal_UpdateStatus(text); }
+    QWidget *Widget() override { return this; }
 
 signals:
     // Text for the status bar. timeout: Prescribed; see docs/decisions/0036-prescribed-surface.md

@@ -7,7 +7,7 @@
 #include <QKeyEvent>
 
 #include "View/editors/LateEditors.h"
-#include "View/engine/AutoBindingDataModelDockWidget.h"
+#include "View/engine/TablePage.h"
 
 namespace {
 
@@ -155,15 +155,6 @@ void CTableCommands::RunKey(const QKeyEvent *event)
     }
 }
 
-CAutoBindingDataModelDockWidget *CTableCommands::Page() const
-{
-    for (QWidget *parent = m_table; parent; parent = parent->parentWidget()) {
-        if (auto *page = qobject_cast<CAutoBindingDataModelDockWidget *>(parent))
-            return page;
-    }
-    return nullptr;
-}
-
 void CTableCommands::Run(const SCommand &command)
 {
     const QPointer<CTableCommands> self(this);
@@ -177,16 +168,16 @@ void CTableCommands::Run(const SCommand &command)
 
 void CTableCommands::TriggerOfPage(const char *action) const
 {
-    const CAutoBindingDataModelDockWidget *page = Page();
-    auto *found = page ? page->findChild<QAction *>(QLatin1String(action)) : nullptr;
+    ITablePage *page = TablePageOf(m_table);
+    auto *found = page ? page->Widget()->findChild<QAction *>(QLatin1String(action)) : nullptr;
     if (found)
         found->trigger();
 }
 
 void CTableCommands::Say(const QString &text) const
 {
-    if (CAutoBindingDataModelDockWidget *page = Page())
-        emit page->Signal_UpdateStatus(text);
+    if (ITablePage *page = TablePageOf(m_table))
+        page->ShowStatus(text);
 }
 
 // A mark of one cell is what a click shows, too.
@@ -268,7 +259,7 @@ void CTableCommands::MarkAll()
 
 bool CTableCommands::Change(const QString &name, const SCellPlan &plan)
 {
-    CAutoBindingDataModelDockWidget *page = Page();
+    ITablePage *page = TablePageOf(m_table);
     if (!page)
         return false;
     const SCheckedEntries checked = CheckEntries(m_table, plan.entries);

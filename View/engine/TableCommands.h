@@ -29,7 +29,6 @@
 #include "View/editors/TableKeys.h"
 #include "View/engine/MarkedCells.h"
 
-class CAutoBindingDataModelDockWidget;
 class QAction;
 
 class CTableCommands : public QObject, public ITableCommands
@@ -52,7 +51,6 @@ private:
     struct SCommand;
     static const SCommand kCommands[];
 
-    CAutoBindingDataModelDockWidget *Page() const;
     void Run(const SCommand &command);
     void TriggerOfPage(const char *action) const;
     void Say(const QString &text) const;
