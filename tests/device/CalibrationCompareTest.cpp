@@ -39,17 +39,6 @@ QComboBox *Filter(const CCompareSession &session, const char *name)
     return session.InWindow<QComboBox>(name);
 }
 
-int CountOf(const CCompareSession &session)
-{
-    return session.Differences()->model()->rowCount();
-}
-
-// A page with the DUT's data, its window open.
-bool IsReady(CCompareSession &session)
-{
-    return session.ShowAndWait() && session.Run(kRead) && session.OpenCompare() != nullptr;
-}
-
 // The same with every value of two tables zeroed: hundreds of differences.
 bool HasMany(CCompareSession &session)
 {
@@ -82,13 +71,6 @@ private slots:
     void valueOfAnotherSelectionIsGoneToWithEditsKept();
     void returnOnAStatisticShowsItsDifferences();
     void keysAloneOpenCompareAndGo();
-    void badFileIsToldAndThePageGoesOn_data();
-    void badFileIsToldAndThePageGoesOn();
-    void failedReadIsToldAndThePageGoesOn();
-    void windowHidesWithTheTool();
-    void resetEndsTheWindowWhileItCompares();
-    void unloadEndsTheWindowWhileItCompares();
-    void actionsOfThePagePressTheButtons();
 
 private:
     QString File(const char *name) const { return m_folder.filePath(name); }
@@ -338,114 +320,6 @@ void CalibrationCompareTest::keysAloneOpenCompareAndGo()
     QCOMPARE(session.Window()->focusWidget(), session.Cell(e.group, e.member, e.row, e.column));
     QTest::keyClick(session.CompareWindow(), Qt::Key_Escape);
     QVERIFY(!session.CompareWindow()->isVisible());
-}
-
-void CalibrationCompareTest::badFileIsToldAndThePageGoesOn_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("missing") << QByteArray() << "missing.ini";
-    QTest::newRow("no section") << QByteArray("[Other]\r\nKey = 1\r\n") << "other.ini";
-    QTest::newRow("no backup") << QByteArray("{\"a\": 1}") << "no.json";
-}
-
-void CalibrationCompareTest::badFileIsToldAndThePageGoesOn()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(QString, name);
-    const QString path = m_folder.filePath(name);
-    if (!content.isEmpty()) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
-    CCompareSession session(kAptPage);
-    QVERIFY(IsReady(session));
-    QVERIFY(session.Compare(eDutSide, eFileSide, {}, path));
-    QVERIFY2(session.Summary().startsWith("Compare failed. "), qPrintable(session.Summary()));
-    QVERIFY(session.Summary().size() > 20);
-    QCOMPARE(session.StatusBar(), QString("Compare failed."));
-    QCOMPARE(CountOf(session), 0);
-    QVERIFY(session.Compare(eDutSide, ePageSide));
-    QVERIFY(session.Summary().startsWith("Both sides are the same."));
-}
-
-void CalibrationCompareTest::failedReadIsToldAndThePageGoesOn()
-{
-    CCompareSession session(kPathLossPage);
-    QVERIFY(IsReady(session));
-    VondSim_AddFault(R"({"function": "VOND_MMRf_GetCalDataV7_r", "kind": "fail", "result": 4})");
-    QVERIFY(session.Compare(eDutSide, ePageSide));
-    QVERIFY2(session.Summary().startsWith("Compare failed. "), qPrintable(session.Summary()));
-    VondSim_ClearFaults();
-    QVERIFY(session.Compare(eDutSide, ePageSide));
-    QVERIFY(session.Summary().startsWith("Both sides are the same."));
-}
-
-void CalibrationCompareTest::windowHidesWithTheTool()
-{
-    CCompareSession session(kAptPage);
-    QVERIFY(IsReady(session));
-    QVERIFY(session.CompareWindow()->isVisible());
-    QVERIFY(session.ClickTab("RSSI"));
-    QVERIFY(session.CompareWindow()->isVisible());
-    session.Window()->hide();
-    QVERIFY(!session.CompareWindow()->isVisible());
-}
-
-void CalibrationCompareTest::resetEndsTheWindowWhileItCompares()
-{
-    CCompareSession session(kAptPage);
-    QVERIFY(IsReady(session));
-    const QPointer<QDialog> window = session.CompareWindow();
-    VondSim_Hold(kReadCall);
-    session.InWindow<QPushButton>("m_compare")->click();
-    QVERIFY(VondSim_WaitUntilHeld(kReadCall, 20000) != 0);
-    QVERIFY(!session.IsAnyButtonOn());
-    session->ResetPlugin();
-    VondSim_Release(kReadCall);
-    QVERIFY(WaitUntil([&] { return !window; }));
-    QThreadPool::globalInstance()->waitForDone();
-    QCoreApplication::processEvents();
-    QVERIFY(session.ShowAndWait());
-    QVERIFY(!session.CompareWindow());
-    QVERIFY(session.Run(kRead));
-}
-
-void CalibrationCompareTest::unloadEndsTheWindowWhileItCompares()
-{
-    QPointer<QDialog> window;
-    {
-        CCompareSession session(kPathLossPage);
-        QVERIFY(IsReady(session));
-        window = session.CompareWindow();
-        VondSim_Hold(kReadCall);
-        session.InWindow<QPushButton>("m_compare")->click();
-        QVERIFY(VondSim_WaitUntilHeld(kReadCall, 20000) != 0);
-        session.Unload();
-        QVERIFY(!window);
-        VondSim_Release(kReadCall);
-        QThreadPool::globalInstance()->waitForDone();
-        QCoreApplication::processEvents();
-    }
-}
-
-void CalibrationCompareTest::actionsOfThePagePressTheButtons()
-{
-    CCompareSession session(kAptPage);
-    QVERIFY(session.ShowAndWait() && session.Run(kRead));
-    QStringList names;
-    for (const QAction *action : session.Page()->actions()) {
-        if (action->objectName() == "m_actionCompare" ||
-            action->objectName() == "m_actionGuardedWrite") {
-            names.append(action->objectName());
-            QVERIFY(!action->shortcut().isEmpty());
-        }
-    }
-    QCOMPARE(names.size(), 2);
-    QApplication::setActiveWindow(session.Window());
-    session.Selector("band")->setFocus();
-    QTest::keyClick(session.Selector("band"), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-    QVERIFY(session.CompareWindow() && session.CompareWindow()->isVisible());
 }
 
 QUORLIN_TEST_CLASS(CalibrationCompareTest)

@@ -76,3 +76,14 @@ public:
         return rows;
     }
 };
+
+inline int CountOf(const CCompareSession &session)
+{
+    return session.Differences()->model()->rowCount();
+}
+
+// A page with the DUT's data, its window open.
+inline bool IsReady(CCompareSession &session)
+{
+    return session.ShowAndWait() && session.Run(kRead) && session.OpenCompare() != nullptr;
+}
