@@ -108,6 +108,11 @@ void ViewCtrlRequestTest::everySignalOfTheTableIsThere()
     QVERIFY(there.remove("Signal_RfOffDone"));    // the window's own
     QVERIFY(there.remove("Signal_FlowDone"));     // no item is without signals of its own
     QVERIFY(there.remove("Signal_TestsRun"));
+    QVERIFY(there.remove("Signal_NewestTest"));  // with it
+    // Of the tools beside the pages' requests, which have tests of their own.
+    for (const char *own : {"Signal_CalWork", "Signal_ComparisonDone", "Signal_GuardedPlanDone",
+                            "Signal_GuardedWriteDone", "Signal_ChipNameDone"})
+        QVERIFY2(there.remove(own), own);
     QCOMPARE(there, asked);
 }
 
