@@ -344,10 +344,12 @@ private slots:
         const CPlotHands plot(session);
         QVERIFY(HasReports(session, plot));
         const QPointer<QWidget> window(plot.Window());
-        AnswerFileDialog("/tmp/none.png", [&](QFileDialog *) { session->ResetPlugin(); });
+        const QTemporaryDir folder;
+        const QString picture = folder.filePath("none.png");
+        AnswerFileDialog(picture, [&](QFileDialog *) { session->ResetPlugin(); });
         plot.Press("m_save");
         QVERIFY(WaitUntil([&] { return window.isNull(); }));
-        QVERIFY(!QFile::exists("/tmp/none.png"));
+        QVERIFY(!QFile::exists(picture));
     }
 
     void itGoesAndComesWithTheTool()
