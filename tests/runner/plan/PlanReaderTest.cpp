@@ -173,12 +173,13 @@ TEST(SettingsFileTest, errorsNameTheirPlace)
                                   "{\"version\": 2,\n \"page\": \"RSSI\",\n"
                                   " \"request\": {\"group1\": [\"n78\"]},\n \"more\": 1}",
                                   errors));
-    EXPECT_EQ(errors.Texts(),
-              (std::vector<std::string>{
-                  "s.json:1:13: the file's version is \"2\" (allowed: 1)",
-                  "s.json:3:24: \"request.group1\" is a list (allowed: a map)",
-                  "s.json:4:2: a settings file has no key \"more\" (allowed: page, version, "
-                  "request, config, data)"}));
+    EXPECT_EQ(
+        errors.Texts(),
+        (std::vector<std::string>{
+            "s.json:1:13: the file's version is \"2\" (allowed: 1)",
+            "s.json:3:24: \"request.group1\" is a list (allowed: a map)",
+            "s.json:4:2: a settings file has no key \"more\" (allowed: page, version, tool, chip, "
+            "request, config, data)"}));
 }
 
 TEST(SettingsFileTest, anEmptyFileHasAPlaceToo)
