@@ -102,7 +102,7 @@ void CCalCompare::OpenWindow()
         connect(m_window, &CCompareWindow::Signal_Compare, this, &CCalCompare::Compare);
         connect(m_window, &CCompareWindow::Signal_GoTo, this, &CCalCompare::GoTo);
     }
-    m_window->Open();
+    m_window->ShowInFront();
 }
 
 void CCalCompare::Compare(const SComparedSide &left, const SComparedSide &right)

@@ -135,7 +135,7 @@ void CCompareWindow::ConnectCounts(QTableWidget *table, QComboBox *filter)
             &QShortcut::activated, this, show);
 }
 
-void CCompareWindow::Open()
+void CCompareWindow::ShowInFront()
 {
     show();
     raise();

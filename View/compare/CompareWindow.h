@@ -34,7 +34,7 @@ public:
     ~CCompareWindow() override;
 
     // Shows it in front of the others.
-    void Open();
+    void ShowInFront();
     // isOn: a comparison is under way.
     void SetBusy(bool isOn);
     void Show(const SCalCompared &compared);

@@ -40,9 +40,9 @@ QString ResultHeader(const QString &member, const QString &caption)
         row && row->caption && caption.isEmpty() ? QLatin1String(row->caption) : caption;
     if (!row)
         return own.isEmpty() ? member : own;
-    static const QRegularExpression s_brackets(QStringLiteral("\\s*\\([^()]*\\)\\s*$"));
+    static const QRegularExpression kBrackets(QStringLiteral("\\s*\\([^()]*\\)\\s*$"));
     QString words = own;
-    words.remove(s_brackets);
+    words.remove(kBrackets);
     return (words.isEmpty() ? member : words) +
            QStringLiteral(" (%1)").arg(QLatin1String(row->unit));
 }
