@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QStatusBar>
 #include <QThreadPool>
 #include <QtTest>
 
@@ -53,10 +54,17 @@ bool CRsrpSession::WaitForStatus(const QString &text) const
     return true;
 }
 
+// The answer to a fetch that came just before may have the last word.
 bool CRsrpSession::Stop()
 {
+    bool isSaid = false;
+    const auto listening =
+        connect(Window()->statusBar(), &QStatusBar::messageChanged, this,
+                [&isSaid](const QString &text) { isSaid = isSaid || text == "Rsrp stop."; });
     Press("m_stop");
-    return WaitForStatus("Rsrp stop.");
+    const bool isStopped = WaitUntil([&isSaid] { return isSaid; });
+    disconnect(listening);
+    return isStopped;
 }
 
 void CRsrpSession::Tick() const
