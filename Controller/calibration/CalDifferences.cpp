@@ -4,6 +4,8 @@
 #include <unordered_map>
 #include <utility>
 
+#include <QStringList>
+
 #include "Controller/calibration/CalCellPlaces.h"
 
 namespace {

@@ -38,6 +38,7 @@ std::vector<SCalState> StatesOf(const ICalItemByL1Operation &item,
                                 const std::vector<SCalName> &names)
 {
     std::vector<SCalState> states;
+    states.reserve(names.size());
     for (const SCalName &name : names)
         states.push_back(*item.StateOf(name));
     return states;

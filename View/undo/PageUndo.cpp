@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QDockWidget>
+#include <QTableWidget>
 
 #include "Model/MemberPath.h"
 #include "View/editors/ExactClass.h"
