@@ -12,15 +12,10 @@
 #include "Cli/cal/CalTerminal.h"
 #include "Operations/calibration/CalBlockDifferences.h"
 #include "Operations/calibration/CalComparison.h"
+#include "Operations/calibration/CalFieldName.h"
+#include "Support/CsvField.h"
 
 namespace {
-
-struct SDiffRow
-{
-    SCalDifference one;
-    QString indexes;    // "3,16" of "loss[3][16].hpm"
-    QString fieldName;  // "loss.hpm"
-};
 
 // "0.1dB", "0.1 dB", "0.1". Nothing where it is none of these.
 std::optional<double> ToleranceOf(const std::string &text)
@@ -43,20 +38,6 @@ QString UnitOf(std::string_view unit)
     return QString::fromUtf8(unit.data(), static_cast<int>(unit.size()));
 }
 
-SDiffRow RowOf(SCalDifference one)
-{
-    static const QRegularExpression kIndex(QStringLiteral("\\[(\\d+)\\]"));
-    SDiffRow row = {.one = std::move(one), .indexes = {}, .fieldName = {}};
-    QString field = Words(row.one.field);
-    QStringList indexes;
-    auto matches = kIndex.globalMatch(field);
-    while (matches.hasNext())
-        indexes.append(matches.next().captured(1));
-    row.indexes = indexes.join(QLatin1Char(','));
-    row.fieldName = field.remove(kIndex);
-    return row;
-}
-
 QString LackText(ECalLack lack)
 {
     return lack == ECalLack::Left    ? QStringLiteral("not on the left")
@@ -64,9 +45,8 @@ QString LackText(ECalLack lack)
                                      : QString();
 }
 
-QJsonObject RowObject(const SDiffRow &row)
+QJsonObject RowObject(const SCalDifference &one)
 {
-    const SCalDifference &one = row.one;
     QJsonObject object = {
         {"kind", RouteName(one.kind)}, {"band", one.place.band}, {"route", one.place.route}};
     if (HasRegions(one.kind)) {
@@ -78,10 +58,11 @@ QJsonObject RowObject(const SDiffRow &row)
         return object;
     }
     object.insert("path", Words(one.field));
-    object.insert("field", row.fieldName);
+    const SCalFieldName field = SplitCalField(one.field);
+    object.insert("field", Words(field.name));
     QJsonArray indexes;
-    for (const QString &index : row.indexes.split(QLatin1Char(','), Qt::SkipEmptyParts))
-        indexes.append(index.toInt());
+    for (const int index : field.indexes)
+        indexes.append(index);
     object.insert("indexes", indexes);
     object.insert("left", Words(one.left));
     object.insert("right", Words(one.right));
@@ -124,16 +105,8 @@ void SayJson(const SCalRequest &request, const SCalSides &sides, const CCalCompa
     head.chop(1);
     SayBytes(head + ",\n\"differences\":[");
     for (std::size_t i = 0; i < fields.Count(); ++i)
-        SayBytes((i == 0 ? "\n" : ",\n") + JsonText(RowObject(RowOf(fields.At(i)))));
+        SayBytes((i == 0 ? "\n" : ",\n") + JsonText(RowObject(fields.At(i))));
     SayBytes("]}\n");
-}
-
-QString Quoted(QString text)
-{
-    if (!text.contains(QRegularExpression(QStringLiteral("[\",\n]"))))
-        return text;
-    return QLatin1Char('"') + text.replace(QLatin1Char('"'), QLatin1String("\"\"")) +
-           QLatin1Char('"');
 }
 
 void SayCsv(const SCalSides &sides, const CCalComparison &fields)
@@ -141,8 +114,11 @@ void SayCsv(const SCalSides &sides, const CCalComparison &fields)
     Say(QStringLiteral("item,kind,band,route,bandwidth_khz,field,indexes,left,right,difference,"
                        "unit,lack"));
     for (std::size_t i = 0; i < fields.Count(); ++i) {
-        const SDiffRow row = RowOf(fields.At(i));
-        const SCalDifference &one = row.one;
+        const SCalDifference one = fields.At(i);
+        const SCalFieldName field = SplitCalField(one.field);
+        QStringList indexes;
+        for (const int index : field.indexes)
+            indexes.append(QString::number(index));
         const QString bandwidth =
             HasRegions(one.kind) ? QString::number(one.place.bwKhz) : QString();
         const QString difference =
@@ -152,15 +128,15 @@ void SayCsv(const SCalSides &sides, const CCalComparison &fields)
                              QString::number(one.place.band),
                              QString::number(one.place.route),
                              bandwidth,
-                             row.fieldName,
-                             row.indexes,
+                             Words(field.name),
+                             indexes.join(QLatin1Char(',')),
                              Words(one.left),
                              Words(one.right),
                              difference,
                              UnitOf(one.unit),
                              LackText(one.lack)};
         for (QString &cell : cells)
-            cell = Quoted(cell);
+            cell = QString::fromUtf8(CsvField(cell.toUtf8()));
         Say(cells.join(QLatin1Char(',')));
     }
 }
@@ -194,8 +170,7 @@ QStringList BytesAlone(const SCalSides &sides)
     QStringList lines;
     for (const SCalBlockRecord &left : sides.left.records) {
         const SCalBlockRecord *right = sides.right.Find(left.kind, left.place);
-        if (!right || right->blocks == left.blocks ||
-            CCalComparison(JoinedImage({{left}}), JoinedImage({{*right}})).Count() > 0)
+        if (!right || right->blocks == left.blocks || DiffersInFields(left, *right))
             continue;
         for (const std::string &line : CalBlockDifferences(left, right, {"left", "right"}))
             lines.append(Words(CalRecordName(left.kind, left.place) + ' ' + line));

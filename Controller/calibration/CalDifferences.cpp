@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include "Controller/calibration/CalCellPlaces.h"
+#include "Operations/calibration/CalFieldName.h"
 
 namespace {
 
@@ -45,24 +46,6 @@ QVector<SCalCount> CountsOf(const std::vector<SCalStatistic> &statistics)
         counts.append({QString::fromStdString(statistic.name), static_cast<int>(statistic.count),
                        statistic.largest ? InUnit(*statistic.largest, statistic.unit) : QString()});
     return counts;
-}
-
-// "loss[3][16].hpm" becomes "loss.hpm" and "3, 16".
-void SplitField(const QString &name, SCalDifferenceRow &row)
-{
-    QStringList indexes;
-    int at = 0;
-    while (at < name.size()) {
-        const int open = name.indexOf(QLatin1Char('['), at);
-        const int close = name.indexOf(QLatin1Char(']'), open);
-        if (open < 0 || close < 0)
-            break;
-        row.field += name.midRef(at, open - at);
-        indexes.append(name.mid(open + 1, close - open - 1));
-        at = close + 1;
-    }
-    row.field += name.midRef(at);
-    row.index = indexes.join(QLatin1String(", "));
 }
 
 class CDifferences : public ICalDifferences
@@ -128,7 +111,12 @@ SCalDifferenceRow CDifferences::Row(int index) const
         row.right = isLeft ? QStringLiteral("there") : QStringLiteral("lacking");
         return row;
     }
-    SplitField(QString::fromStdString(difference.field), row);
+    const SCalFieldName field = SplitCalField(difference.field);
+    QStringList indexes;
+    for (const int position : field.indexes)
+        indexes.append(QString::number(position));
+    row.field = QString::fromStdString(field.name);
+    row.index = indexes.join(QLatin1String(", "));
     row.left = QString::fromStdString(difference.left);
     row.right = QString::fromStdString(difference.right);
     if (difference.difference)

@@ -12,10 +12,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QTemporaryDir>
 
 #include "Support/CalIniFile.h"
+#include "Support/WholeFile.h"
 
 namespace {
 
@@ -53,12 +53,10 @@ QString CannotSave(const QString &folder, const QString &why)
 
 }  // namespace
 
-QString SaveWhole(const QString &file, const QByteArray &bytes)
+QString SaveBackup(const QString &file, const SCalBackup &backup)
 {
-    QSaveFile target(file);
-    if (target.open(QIODevice::WriteOnly) && target.write(bytes) == bytes.size() && target.commit())
-        return {};
-    return QStringLiteral("%1 cannot be written: %2.").arg(file, target.errorString());
+    const QString why = SaveWhole(file, CalBackupText(backup));
+    return why.isEmpty() ? QString() : QStringLiteral("%1 cannot be written: %2.").arg(file, why);
 }
 
 QString SaveBackupFiles(const QString &folder, const SCalBackup &backup,
@@ -78,7 +76,7 @@ QString SaveBackupFiles(const QString &folder, const SCalBackup &backup,
     } catch (const std::exception &failure) {
         return CannotSave(folder, QString::fromUtf8(failure.what()));
     }
-    if (const QString why = SaveWhole(newJson, CalBackupText(backup)); !why.isEmpty())
+    if (const QString why = SaveBackup(newJson, backup); !why.isEmpty())
         return CannotSave(folder, why);
 
     const QString stem =

@@ -19,5 +19,5 @@ class CCalIniFile;
 // JSON file, absolute. Empty, or why there is no backup.
 QString SaveBackupFiles(const QString &folder, const SCalBackup &backup,
                         const std::function<void(CCalIniFile &)> &ini, QString &file);
-// Replaces a file whole, or leaves it as it was. Empty, or why.
-QString SaveWhole(const QString &file, const QByteArray &bytes);
+// The JSON file alone, at this place: replaced whole, or left as it was. Empty, or why.
+QString SaveBackup(const QString &file, const SCalBackup &backup);

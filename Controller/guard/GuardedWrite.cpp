@@ -13,6 +13,7 @@
 #include "Controller/guard/DutLock.h"
 #include "Controller/guard/GuardChecks.h"
 #include "Controller/guard/GuardText.h"
+#include "Operations/calibration/CalBlockDifferences.h"
 #include "Operations/link/TargetLink.h"
 #include "Support/CalIniFile.h"
 
@@ -132,9 +133,7 @@ void CGuardedWrite::MakeNotes()
     QStringList quiet;
     for (const SCalBlockRecord &record : m_wanted.records) {
         const SCalBlockRecord *there = m_flash.Find(record.kind, record.place);
-        const bool isShown =
-            !there || CCalComparison(JoinedImage({{*there}}), JoinedImage({{record}})).Count() > 0;
-        if (!isShown)
+        if (there && !DiffersInFields(*there, record))
             quiet.append(RecordText(record));
     }
     if (!quiet.isEmpty())
@@ -192,7 +191,7 @@ QString CGuardedWrite::SaveJson(const QString &file)
 {
     SCalBackup backup;
     const QString why = MakeBackup(backup);
-    return why.isEmpty() ? SaveWhole(file, CalBackupText(backup)) : why;
+    return why.isEmpty() ? ::SaveBackup(file, backup) : why;
 }
 
 QString CGuardedWrite::SaveIni(const QString &file)

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "Operations/calibration/CalComparison.h"
 #include "Operations/calibration/CalValueWatch.h"
 #include "Trace/dictionary/FieldPath.h"
 #include "Trace/dictionary/Number.h"
@@ -62,6 +63,11 @@ std::vector<std::string> CalBlockDifferences(const SCalBlockRecord &record,
         }
     }
     return lines;
+}
+
+bool DiffersInFields(const SCalBlockRecord &one, const SCalBlockRecord &other)
+{
+    return CCalComparison(JoinedImage({{one}}), JoinedImage({{other}})).Count() > 0;
 }
 
 std::vector<std::string> CalValuesBeyond(const SCalImageRecord &wanted,

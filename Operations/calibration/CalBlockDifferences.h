@@ -25,6 +25,10 @@ std::vector<std::string> CalBlockDifferences(const SCalBlockRecord &record,
                                              const SCalBlockRecord *other,
                                              const SCalSideNames &names = {});
 
+// True when a field of the joined records differs. Blocks may differ without that: in bytes that no field
+// has, or where they repeat a value differently.
+bool DiffersInFields(const SCalBlockRecord &one, const SCalBlockRecord &other);
+
 // "TX route 7 BW0 paGain[0][3]: 99 dB is not within -40 dB to 40 dB", of the values of a record that are
 // not the same before. before: null where there was no such record.
 std::vector<std::string> CalValuesBeyond(const SCalImageRecord &wanted,

@@ -10,6 +10,7 @@
 #include <tuple>
 #include <utility>
 
+#include "Operations/calibration/CalFieldName.h"
 #include "Trace/dictionary/Number.h"
 #include "Trace/dictionary/ValueText.h"
 
@@ -104,20 +105,6 @@ int64_t SizeOfDifference(const SFoundField &part, const uint8_t *left, const uin
         return std::abs(int{other} - int{one});
     }
     return std::abs(ReadNumber(type, {right, part.size}) - ReadNumber(type, {left, part.size}));
-}
-
-// "loss[3][16].hpm" becomes "loss.hpm".
-std::string WithoutIndexes(const std::string &name)
-{
-    std::string bare;
-    bool isIndex = false;
-    for (const char character : name) {
-        isIndex = isIndex || character == '[';
-        if (!isIndex)
-            bare += character;
-        isIndex = isIndex && character != ']';
-    }
-    return bare;
 }
 
 }  // namespace
@@ -307,7 +294,7 @@ std::vector<SCalStatistic> CCalComparison::ByField() const
     }
     std::vector<SCalStatistic> statistics;
     for (const SFieldSum &sum : sums) {
-        SCalStatistic statistic = {.name = WithoutIndexes(NameAt(*sum.layout, sum.offset)),
+        SCalStatistic statistic = {.name = SplitCalField(NameAt(*sum.layout, sum.offset)).name,
                                    .field = sum.field,
                                    .count = sum.count,
                                    .unit = sum.field->unit.name};

@@ -4,27 +4,18 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPointer>
-#include <QSaveFile>
 #include <QScrollBar>
 
 #include "Support/FileDialogMan.h"
 #include "Support/SessionLog.h"
 #include "Support/Settings.h"
-#include "View/editors/RowText.h"
+#include "Support/WholeFile.h"
+#include "View/engine/RowText.h"
 #include "ui_SessionLogWindow.h"
 
 namespace {
 
 constexpr char kGeometryKey[] = "log/geometry";
-
-bool WriteFile(const QString &path, const QByteArray &bytes, QString &reason)
-{
-    QSaveFile file(path);
-    const bool isSaved =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-    reason = file.errorString();
-    return isSaved;
-}
 
 }  // namespace
 
@@ -97,8 +88,7 @@ void CSessionLogWindow::Save()
         CFileDialogMan().GetSaveFileName(QStringLiteral("Save log"), QStringLiteral("*.txt"));
     if (!self || path.isEmpty())
         return;
-    QString reason;
-    m_ui->m_outcome->setText(WriteFile(path, Text().toUtf8(), reason)
-                                 ? QStringLiteral("Saved to %1").arg(path)
-                                 : QStringLiteral("Not saved: %1").arg(reason));
+    const QString why = SaveWhole(path, Text().toUtf8());
+    m_ui->m_outcome->setText(why.isEmpty() ? QStringLiteral("Saved to %1").arg(path)
+                                           : QStringLiteral("Not saved: %1").arg(why));
 }

@@ -5,11 +5,11 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QMainWindow>
-#include <QSaveFile>
 
 #include "Support/FileDialogMan.h"
 #include "Support/MessageBoxMan.h"
 #include "Support/Settings.h"
+#include "Support/WholeFile.h"
 #include "View/editors/NamedAction.h"
 #include "View/plots/PlotFigureTable.h"
 #include "View/plots/PlotLibrary.h"
@@ -188,16 +188,14 @@ void CPlotWindow::Save()
     if (!self || path.isEmpty())
         return;
     const QByteArray picture = m_plot->Picture(FormatOf(path));
-    QSaveFile file(path);
-    if (!picture.isEmpty() && file.open(QIODevice::WriteOnly) &&
-        file.write(picture) == picture.size() && file.commit())
+    const QString why = picture.isEmpty() ? QStringLiteral("The picture could not be made.")
+                                          : SaveWhole(path, picture);
+    if (why.isEmpty())
         return;
     CMessageBoxMan box;
     box.SetOwner(this);
-    box.Show(eBoxCritical, QStringLiteral("Save picture failed"), path.toHtmlEscaped(),
-             picture.isEmpty() ? QStringLiteral("The picture could not be made.")
-                               : file.errorString(),
-             {}, -1);
+    box.Show(eBoxCritical, QStringLiteral("Save picture failed"), path.toHtmlEscaped(), why, {},
+             -1);
 }
 
 // A page turns all that it owns off with itself.

@@ -1,5 +1,7 @@
 #include "View/results/CsvWriter.h"
 
+#include "Support/CsvField.h"
+
 namespace {
 
 void AddCsvLine(QByteArray &out, const QVector<QByteArray> &cells)
@@ -15,18 +17,6 @@ void AddCsvLine(QByteArray &out, const QVector<QByteArray> &cells)
 }
 
 }  // namespace
-
-QByteArray CsvField(const QByteArray &text)
-{
-    bool isPlain = true;
-    for (const char byte : text)
-        isPlain = isPlain && byte != ',' && byte != '"' && byte != '\r' && byte != '\n';
-    if (isPlain)
-        return text;
-    QByteArray quoted = text;
-    quoted.replace('"', "\"\"");
-    return '"' + quoted + '"';
-}
 
 bool WriteCsv(QIODevice &out, const SResultTable &table, const GoesOn &goesOn)
 {

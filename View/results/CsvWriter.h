@@ -10,5 +10,3 @@
 #include "View/results/RowWriter.h"
 
 bool WriteCsv(QIODevice &out, const SResultTable &table, const GoesOn &goesOn);
-
-QByteArray CsvField(const QByteArray &text);

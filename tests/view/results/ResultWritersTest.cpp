@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "Support/CsvField.h"
 #include "View/results/CsvWriter.h"
 #include "View/results/JsonLinesWriter.h"
 #include "View/results/ResultHeader.h"
