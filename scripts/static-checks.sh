@@ -69,11 +69,11 @@ ViewController Controller|Model|Support
 View Model|Support|ViewController
 View/editors Support
 View/engine View/editors|Model|Support
-View/compare Model|Support|ViewController
+View/compare View/engine|View/editors|Model|Support|ViewController
 View/undo View/engine|View/editors|Model|Support|ViewController
 View/pages View/compare|View/undo|View/settings|View/engine|View/editors|Model|Support|ViewController
 View/results View/engine|View/editors|Model|Support|ViewController
-View/log View/editors|Model|Support
+View/log View/engine|View/editors|Model|Support
 View/settings View/engine|View/editors|Support
 View/entry View/engine|View/editors|Model|Support
 View/plots View/engine|View/editors|Model|Support

@@ -10,6 +10,7 @@
 #include "Support/MessageBoxMan.h"
 #include "View/compare/CompareWindow.h"
 #include "View/compare/GuardedWriteDialog.h"
+#include "View/editors/NamedAction.h"
 
 namespace {
 
@@ -56,19 +57,17 @@ void CCalCompare::AddActions(QAbstractButton *compare, QAbstractButton *guardedW
 {
     connect(compare, &QAbstractButton::clicked, this, &CCalCompare::OpenWindow);
     connect(guardedWrite, &QAbstractButton::clicked, this, &CCalCompare::PrepareWrite);
-    AddAction("m_actionCompare", QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C), compare);
-    AddAction("m_actionGuardedWrite", QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_W), guardedWrite);
-}
-
-// The action presses the button, so that it does nothing while the button is off.
-void CCalCompare::AddAction(const char *name, const QKeySequence &keys, QAbstractButton *button)
-{
-    auto *action = new QAction(button->text(), m_page.widget);
-    action->setObjectName(QLatin1String(name));
-    action->setShortcut(keys);
-    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    m_page.widget->addAction(action);
-    connect(action, &QAction::triggered, button, [button] { button->click(); });
+    // An action presses its button, so that it does nothing while the button is off.
+    const auto add = [this](const char *name, const char *keys, QAbstractButton *button) {
+        AddAction(m_page.widget, name, qPrintable(button->text()), {QLatin1String(keys)},
+                  [button = QPointer<QAbstractButton>(button)] {
+                      if (button)
+                          button->click();
+                  })
+            ->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    };
+    add("m_actionCompare", "Ctrl+Shift+C", compare);
+    add("m_actionGuardedWrite", "Ctrl+Shift+W", guardedWrite);
 }
 
 bool CCalCompare::Begin(const QString &work)

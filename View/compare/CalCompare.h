@@ -31,7 +31,6 @@ public:
     void AddActions(QAbstractButton *compare, QAbstractButton *guardedWrite);
 
 private:
-    void AddAction(const char *name, const QKeySequence &keys, QAbstractButton *button);
     void OpenWindow();
     void Compare(const SComparedSide &left, const SComparedSide &right);
     void ShowComparison(const SCalCompared &compared);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <numeric>
 
 #include <QAction>
 #include <QClipboard>
@@ -16,6 +15,7 @@
 #include "Model/StatusTable.h"
 #include "Support/FileDialogMan.h"
 #include "View/compare/CountTable.h"
+#include "View/engine/RowText.h"
 #include "ui_CompareWindow.h"
 
 namespace {
@@ -48,9 +48,9 @@ QString Summary(const SCalCompared &compared)
         return QLatin1String("Compare failed. ") + (why.isEmpty() ? row.text : why);
     }
     const ICalDifferences &differences = *compared.differences;
-    const QString sides = QStringLiteral(" Left has %1, right has %2.")
-                              .arg(Records(differences.RecordsLeft()))
-                              .arg(Records(differences.RecordsRight()));
+    const QString sides =
+        QStringLiteral(" Left has %1, right has %2.")
+            .arg(Records(differences.RecordsLeft()), Records(differences.RecordsRight()));
     if (differences.Count() == 0)
         return QLatin1String("Both sides are the same.") + sides;
     return QStringLiteral("%1 differences in %2.")
@@ -228,16 +228,8 @@ void CCompareWindow::Filter()
 
 void CCompareWindow::Copy()
 {
-    std::vector<int> rows;
-    for (const QModelIndex &index : m_ui->m_differences->selectionModel()->selectedRows())
-        rows.push_back(index.row());
-    std::sort(rows.begin(), rows.end());
-    if (rows.empty()) {
-        rows.resize(static_cast<std::size_t>(m_model.rowCount()));
-        std::iota(rows.begin(), rows.end(), 0);
-    }
-    if (!rows.empty())
-        QGuiApplication::clipboard()->setText(m_model.Text(rows));
+    if (m_model.rowCount() > 0)
+        QGuiApplication::clipboard()->setText(RowText(m_model, SelectedRows(*m_ui->m_differences)));
 }
 
 void CCompareWindow::GoTo()

@@ -136,25 +136,6 @@ const SCalDifferenceRow &CDifferenceModel::Row(int row) const
     return m_words;
 }
 
-QString CDifferenceModel::Text(const std::vector<int> &rows) const
-{
-    QString text;
-    const auto addLine = [&text](const QStringList &cells) {
-        text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
-    };
-    QStringList cells;
-    for (const SColumn &column : kColumns)
-        cells.append(QLatin1String(column.header));
-    addLine(cells);
-    for (const int row : rows) {
-        cells.clear();
-        for (const SColumn &column : kColumns)
-            cells.append(Row(row).*column.text);
-        addLine(cells);
-    }
-    return text;
-}
-
 int CDifferenceModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());

@@ -52,8 +52,6 @@ public:
     const ICalDifferences *Differences() const { return m_differences.get(); }
     // What the page shows there.
     SCalCellPlace Place(int row) const;
-    // Rows with their headers, tab-separated, a line each.
-    QString Text(const std::vector<int> &rows) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;

@@ -102,7 +102,7 @@ public:
     // request, so that what is packaged is what the widgets show afterwards.
     void FinishEdit();
     // What the user has set, without results. An edit under way counts as far as it is typed.
-    SMemberSettings Settings() const;
+    SMemberSettings Settings();
     // Enters settings into the editors that are on, so that what depends on them follows. What was not
     // taken, in words, a line each. The page may be gone when it returns.
     QStringList TakeSettings(const QJsonObject &groups);
@@ -114,6 +114,9 @@ public:
     // turn of the event loop.
     void ShowRefusal(const QString &command, const QString &reason) override;
     void ShowStatus(const QString &text) override { emit Signal_UpdateStatus(text); }
+    // In the page's box, and Warn in its status line first. The page may be gone when they return.
+    void ShowBox(int kind, const QString &title, const QString &text, const QString &detail = {});
+    void Warn(const QString &status, const QString &text);
     QWidget *Widget() override { return this; }
 
 signals:
@@ -211,6 +214,7 @@ private:
     // AutoBindingDataModelDockWidgetRequests.cpp
     bool SayBusy(bool isBusy);
     QString FirstEmptyChoice() const;
+    QString SettingsSection() const;  // "request" or "config"
     QWidget *FocusWidget() const;
     void GiveFocusBack();
     void KeepFocusFromWandering();

@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QMenu>
+#include <QTextDocument>
 
 #include "Model/JsonPath.h"
 #include "View/editors/TabOrder.h"
@@ -19,9 +20,23 @@ bool CAutoBindingDataModelDockWidget::HasAllChoices()
     if (caption.isEmpty())
         return true;
     const QString text = caption + QLatin1String(" is empty.");
-    emit Signal_UpdateStatus(text);
-    m_messageBox.Show(eBoxWarningAsIs, text, text, {}, {}, -1);
+    Warn(text, text);
     return false;
+}
+
+void CAutoBindingDataModelDockWidget::ShowBox(int kind, const QString &title, const QString &text,
+                                              const QString &detail)
+{
+    m_messageBox.Show(kind, title, text, {}, detail, -1);
+}
+
+void CAutoBindingDataModelDockWidget::Warn(const QString &status, const QString &text)
+{
+    const QPointer<CAutoBindingDataModelDockWidget> self(this);
+    emit Signal_UpdateStatus(status);
+    if (self)
+        ShowBox(eBoxWarningAsIs, status,
+                Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
 }
 
 // The caption of the first one, in the order of the document.

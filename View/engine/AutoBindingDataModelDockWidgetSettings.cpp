@@ -6,7 +6,9 @@
 #include <QJsonArray>
 
 #include "Model/JsonPath.h"
+#include "View/engine/Binding.h"
 #include "View/engine/MemberEditors.h"
+#include "View/engine/Walk.h"
 
 namespace {
 
@@ -29,18 +31,17 @@ QString NameOf(const SMemberEditor &editor)
     return editor.column < 0 ? name : QStringLiteral("%1, column %2").arg(name).arg(editor.column);
 }
 
-// Members of the settings that the page has no editor for.
-QStringList Unknown(const QJsonObject &groups, const QVector<SMemberEditor> &editors)
+// Members of the settings that the document lacks.
+QStringList Unknown(const QJsonObject &groups, const QJsonObject &section)
 {
     QStringList unknown;
     for (const QString &group : groups.keys()) {
+        const QJsonArray known =
+            section.value(group).toObject().value(QLatin1String("memberList")).toArray();
         for (const QString &member : groups[group].toObject().keys()) {
-            const QString key = group + QLatin1Char('.') + member;
-            const bool isKnown =
-                std::any_of(editors.begin(), editors.end(),
-                            [&](const SMemberEditor &editor) { return editor.key == key; });
-            if (!isKnown)
-                unknown.append(QStringLiteral("%1: this page has no such setting").arg(key));
+            if (!known.contains(member))
+                unknown.append(
+                    QStringLiteral("%1.%2: this page has no such setting").arg(group, member));
         }
     }
     return unknown;
@@ -48,25 +49,22 @@ QStringList Unknown(const QJsonObject &groups, const QVector<SMemberEditor> &edi
 
 }  // namespace
 
-SMemberSettings CAutoBindingDataModelDockWidget::Settings() const
+QString CAutoBindingDataModelDockWidget::SettingsSection() const
+{
+    return m_modelInterface == eInterfaceCmdIf ? QStringLiteral("request")
+                                               : QStringLiteral("config");
+}
+
+// What the walk writes goes into a copy, as of DocumentText.
+SMemberSettings CAutoBindingDataModelDockWidget::Settings()
 {
     if (m_dataModel.isEmpty())
         return {};
-    SMemberSettings settings;
-    settings.version = m_dataModel.value(QLatin1String("modelVersion")).toInt();
-    settings.section =
-        m_modelInterface == eInterfaceCmdIf ? QStringLiteral("request") : QStringLiteral("config");
-    for (const SMemberEditor &editor :
-         EditorsOf(m_dataModel, AbsoluteModelPath(settings.section), m_index)) {
-        const QStringList key = editor.key.split(QLatin1Char('.'));
-        QJsonObject group = settings.groups[key.first()].toObject();
-        const QString text = PackagedText(editor.editor);
-        QJsonArray cells = group[key.last()].toArray();
-        cells.append(text);
-        group[key.last()] = editor.column < 0 ? QJsonValue(text) : QJsonValue(cells);
-        settings.groups[key.first()] = group;
-    }
-    return settings;
+    QJsonObject document = m_dataModel;
+    Walk(kPackageWalk, BindingOf(document, document));
+    return {.version = document.value(QLatin1String("modelVersion")).toInt(),
+            .section = SettingsSection(),
+            .groups = PackagedValues(document, AbsoluteModelPath(SettingsSection()))};
 }
 
 // In turns: what one editor takes may hang on what another one holds, and change it.
@@ -74,16 +72,16 @@ QStringList CAutoBindingDataModelDockWidget::TakeSettings(const QJsonObject &gro
 {
     const QPointer<CAutoBindingDataModelDockWidget> self(this);
     FinishEdit();
+    const QString section = AbsoluteModelPath(SettingsSection());
     QStringList refused;
     const auto isOn = [this](const SMemberEditor &editor) {
         return editor.editor && editor.editor->isEnabled() && editor.editor->isVisibleTo(this);
     };
     for (int turn = 0; self && turn < kMostTurns; ++turn) {
-        const QVector<SMemberEditor> editors =
-            EditorsOf(m_dataModel, AbsoluteModelPath(Settings().section), m_index);
+        const QVector<SMemberEditor> editors = EditorsOf(m_dataModel, section, m_index);
         if (std::none_of(editors.begin(), editors.end(), isOn))
             return {QStringLiteral("The page's inputs are off now.")};
-        refused = Unknown(groups, editors);
+        refused = Unknown(groups, GetJsonValueConst(m_dataModel, section).toObject());
         bool hasChanged = false;
         for (const SMemberEditor &editor : editors) {
             const QString wanted = Wanted(groups, editor);

@@ -1,6 +1,6 @@
-// What the user has set on a page, as its document packages it.
+// What the user has set on a page, as its document packages it: the form of a settings file.
 //
-//   SMemberSettings{1, "request", {{"group1", {{"band", "n78"}}}}}
+//   PackagedValues(document, "cmdIf.request");   // {"group1": {"band": "n78", ...}, ...}
 #pragma once
 
 #include <QJsonObject>
@@ -10,5 +10,8 @@ struct SMemberSettings
 {
     int version = 0;          // of the page's document
     QString section = {};     // "request", on a calibration page "config"
-    QJsonObject groups = {};  // {"group1": {"band": "n78", ...}}; empty: there is no document
+    QJsonObject groups = {};  // as of PackagedValues; empty: there is no document
 };
+
+// The packaged values of a section, by group; groups without any are left out.
+QJsonObject PackagedValues(const QJsonObject &document, const QString &section);

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QPointer>
 
+#include "Support/MessageBoxMan.h"
 #include "Support/Settings.h"
 #include "View/editors/NamedAction.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
@@ -22,7 +23,6 @@ QString KeyOf(const CAutoBindingDataModelDockWidget &page)
 CLastSettings::CLastSettings(QWidget *window)
     : m_action(AddAction(window, "m_actionRestoreSettings", "&Restore settings at start", {}, {}))
 {
-    m_messageBox.SetOwner(window);
     m_action->setCheckable(true);
     m_action->setChecked(CSettings::Get().Value(kRestoreKey).toBool());
     QObject::connect(m_action, &QAction::toggled, window,
@@ -64,7 +64,10 @@ void CLastSettings::Restore(const QList<CAutoBindingDataModelDockWidget *> &page
         if (page)
             page->setEnabled(wasOn);
     }
-    if (!refused.isEmpty())
-        m_messageBox.Show(eBoxWarningAsIs, QStringLiteral("Not all settings were restored."),
-                          refused.join(QLatin1Char('\n')), {}, {}, -1);
+    if (refused.isEmpty())
+        return;
+    CMessageBoxMan box;
+    box.SetOwner(m_action->parentWidget());
+    box.Show(eBoxWarningAsIs, QStringLiteral("Not all settings were restored."),
+             refused.join(QLatin1Char('\n')), {}, {}, -1);
 }

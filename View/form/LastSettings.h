@@ -10,8 +10,6 @@
 
 #include <QList>
 
-#include "Support/MessageBoxMan.h"
-
 class CAutoBindingDataModelDockWidget;
 class QAction;
 class QWidget;
@@ -27,5 +25,4 @@ public:
 
 private:
     QAction *const m_action;
-    CMessageBoxMan m_messageBox;
 };

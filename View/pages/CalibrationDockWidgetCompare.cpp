@@ -45,10 +45,8 @@ void CCalibrationDockWidget::AddCompare(QAbstractButton *compare, QAbstractButto
         .document = [this] { return PackageDocument(); },
         .say = [this](const QString &text) { emit Signal_UpdateStatus(text); },
         .showProgress = [this](int done, int all) { Progress().Show(done, all); },
-        .showBox =
-            [this](int kind, const QString &title, const QString &text, const QString &detail) {
-                m_messageBox.Show(kind, title, text, {}, detail, -1);
-            },
+        .showBox = [this](int kind, const QString &title, const QString &text,
+                          const QString &detail) { ShowBox(kind, title, text, detail); },
         .goTo = [this](const SCalCellPlace &place,
                        const std::function<void()> &notShown) { GoTo(place, notShown); },
     });

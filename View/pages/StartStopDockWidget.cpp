@@ -173,10 +173,7 @@ bool CStartStopDockWidget::IsWithinTxLimit()
         const QString text = QStringLiteral("TX power %1 dBm is above your limit of %2 dBm.")
                                  .arg(power, 0, 'f', 2)
                                  .arg(*limit, 0, 'f', 2);
-        const QPointer<CStartStopDockWidget> self(this);
-        emit Signal_UpdateStatus(text);
-        if (self)
-            m_messageBox.Show(eBoxWarningAsIs, text, text, {}, {}, -1);
+        Warn(text, text);
         return false;
     }
     return true;

@@ -7,6 +7,7 @@
 #include "Support/ToolVersion.h"
 #include "View/editors/NamedAction.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
+#include "View/engine/MemberSettings.h"
 #include "View/results/ResultFile.h"
 #include "View/results/ResultHeader.h"
 #include "ViewController/QuorlinViewCtrl.h"
@@ -29,7 +30,6 @@ CResultExport::CResultExport(const SResultExport &what, CAutoBindingDataModelDoc
         m_kept.push_back({.source = source});
     for (const char *column : what.columns)
         m_columns.append(QLatin1String(column));
-    m_box.SetOwner(page);
     m_patience.setSingleShot(true);
     m_patience.setInterval(kPatienceMs);
     connect(&m_patience, &QTimer::timeout, this, &CResultExport::Write);
@@ -63,8 +63,9 @@ void CResultExport::Take(const QJsonObject &document)
             continue;
         if (kept.headers.isEmpty())
             kept.headers = kept.source.headers(document, group);
-        const SResultStamp stamp = {.timeMs = now,
-                                    .settings = SettingsNumber(RequestValues(document))};
+        const SResultStamp stamp = {
+            .timeMs = now,
+            .settings = SettingsNumber(PackagedValues(document, QStringLiteral("cmdIf.request")))};
         for (const QStringList &row : rows)
             kept.rows.Add(stamp, row);
     }
@@ -176,5 +177,5 @@ void CResultExport::Say(const QString &text) const
 void CResultExport::Complain(const QString &text)
 {
     Say(kFailedTitle + QStringLiteral(": ") + text);
-    m_box.Show(eBoxWarning, kFailedTitle, text.toHtmlEscaped(), {}, {}, -1);
+    m_page->ShowBox(eBoxWarning, kFailedTitle, text.toHtmlEscaped());
 }

@@ -83,5 +83,4 @@ private:
     bool m_isChipAwaited = false;
     QTimer m_patience;  // for the chip's name
     std::shared_ptr<std::atomic<bool>> m_isEnded;
-    CMessageBoxMan m_box;
 };

@@ -33,19 +33,6 @@ bool IsColumn(const QVector<QJsonObject> &settings, const QStringList &always,
 
 }  // namespace
 
-QJsonObject RequestValues(const QJsonObject &document)
-{
-    QJsonObject values;
-    const QJsonObject request = RequestOf(document);
-    for (const QString &group : request.keys()) {
-        const QJsonObject held =
-            request.value(group).toObject().value(QLatin1String("memberValue")).toObject();
-        if (!held.isEmpty())
-            values.insert(group, held);
-    }
-    return values;
-}
-
 QJsonObject SettingsObject(const SResultOrigin &origin, const QJsonObject &request)
 {
     return {

@@ -3,7 +3,7 @@
 // Settings have the form of a settings file (docs/automation.md), with two words of their own beside
 // it: the tool's version and the DUT's chip. Pure functions.
 //
-//   const QJsonObject request = RequestValues(document);   // {"group1": {"band": "n78", ...}}
+//   const QJsonObject request = PackagedValues(document, "cmdIf.request");
 //   SettingsObject({.page = "RSSI", .version = 1, .tool = "0.1", .chip = "..."}, request);
 #pragma once
 
@@ -20,8 +20,7 @@ struct SResultOrigin
     QString chip = {};  // empty: not known
 };
 
-// The packaged values of the document's request, by group.
-QJsonObject RequestValues(const QJsonObject &document);
+// request: as of PackagedValues.
 QJsonObject SettingsObject(const SResultOrigin &origin, const QJsonObject &request);
 
 // A member of the request, as its column's header names it.

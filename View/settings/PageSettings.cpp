@@ -2,9 +2,9 @@
 
 #include <QFile>
 #include <QPointer>
-#include <QSaveFile>
 
 #include "Support/FileDialogMan.h"
+#include "Support/WholeFile.h"
 #include "View/editors/NamedAction.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
 #include "View/settings/SettingsFile.h"
@@ -22,7 +22,6 @@ QString TitleOf(const CAutoBindingDataModelDockWidget &page)
 
 CPageSettings::CPageSettings(CAutoBindingDataModelDockWidget *page) : QObject(page), m_page(page)
 {
-    m_messageBox.SetOwner(page);
     AddAction(page, "m_actionSaveSettings", "&Save settings...", {"Ctrl+S"}, [this] { Save(); });
     AddAction(page, "m_actionLoadSettings", "L&oad settings...", {"Ctrl+O"}, [this] { Load(); });
 }
@@ -70,14 +69,11 @@ void CPageSettings::Save()
         CFileDialogMan().GetSaveFileName(QStringLiteral("Save settings"), QLatin1String(kFilter));
     if (!self || path.isEmpty())
         return;
-    QSaveFile file(path);
-    const bool isSaved =
-        file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
-    if (isSaved)
+    const QString why = SaveWhole(path, text);
+    if (why.isEmpty())
         emit m_page->Signal_UpdateStatus(QStringLiteral("Settings saved to %1.").arg(path));
     else
-        Tell(QStringLiteral("Save settings failed."),
-             path + QLatin1String(": ") + file.errorString());
+        m_page->Warn(QStringLiteral("Save settings failed."), path + QLatin1String(": ") + why);
 }
 
 void CPageSettings::Load()
@@ -89,8 +85,8 @@ void CPageSettings::Load()
         return;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return Tell(QStringLiteral("Load settings failed."),
-                    path + QLatin1String(": ") + file.errorString());
+        return m_page->Warn(QStringLiteral("Load settings failed."),
+                            path + QLatin1String(": ") + file.errorString());
     constexpr qint64 kMostBytes = 2 * 1024 * 1024;  // more is refused, however much it is
     const QStringList refused = Take(file.read(kMostBytes));
     if (!self)
@@ -98,14 +94,6 @@ void CPageSettings::Load()
     if (refused.isEmpty())
         emit m_page->Signal_UpdateStatus(QStringLiteral("Settings loaded from %1.").arg(path));
     else
-        Tell(QStringLiteral("Not all settings were loaded."), refused.join(QLatin1Char('\n')));
-}
-
-// The page may be gone when it returns.
-void CPageSettings::Tell(const QString &status, const QString &box)
-{
-    const QPointer<CPageSettings> self(this);
-    emit m_page->Signal_UpdateStatus(status);
-    if (self)
-        m_messageBox.Show(eBoxWarningAsIs, status, box, {}, {}, -1);
+        m_page->Warn(QStringLiteral("Not all settings were loaded."),
+                     refused.join(QLatin1Char('\n')));
 }

@@ -15,8 +15,6 @@
 #include <QObject>
 #include <QStringList>
 
-#include "Support/MessageBoxMan.h"
-
 class CAutoBindingDataModelDockWidget;
 
 class CPageSettings : public QObject
@@ -37,8 +35,6 @@ public:
 private:
     void Save();
     void Load();
-    void Tell(const QString &status, const QString &box);
 
     CAutoBindingDataModelDockWidget *const m_page;
-    CMessageBoxMan m_messageBox;
 };

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QJsonDocument>
 
+#include "View/engine/MemberSettings.h"
 #include "View/results/ResultSettings.h"
 #include "View/results/ResultSource.h"
 
@@ -60,5 +61,6 @@ TEST(ResultSettings, areThePackagedValuesOfTheRequest)
     const QJsonObject document = Parsed(R"({"cmdIf": {"request": {
         "group1": {"memberList": ["band"], "memberValue": {"band": "n78"}},
         "group2": {"memberList": []}}}})");
-    EXPECT_EQ(RequestValues(document), QJsonObject({{"group1", QJsonObject{{"band", "n78"}}}}));
+    EXPECT_EQ(PackagedValues(document, "cmdIf.request"),
+              QJsonObject({{"group1", QJsonObject{{"band", "n78"}}}}));
 }

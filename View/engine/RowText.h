@@ -1,5 +1,5 @@
-// Rows of a table's model as text for a spreadsheet: tab-separated, a line a row, the captions of the
-// columns first. Tabs and line ends inside a cell become blanks. GUI thread.
+// Rows of a table's model as text for a spreadsheet (ClipboardText.h), the captions of the columns first.
+// GUI thread.
 //
 //   QGuiApplication::clipboard()->setText(RowText(*view->model(), SelectedRows(*view)));
 #pragma once
