@@ -71,7 +71,8 @@ int CMessageBoxMan::Show(int type, const QString &title, const QString &text,
     return result;
 }
 
-void CMessageBoxMan::Log(int type, QStringList texts) const
+// Its whole text, plain, is also what a screen reader says of the box as it comes up.
+void CMessageBoxMan::Log(int type, QStringList texts)
 {
     for (QString &text : texts) {
         if (Qt::mightBeRichText(text))
@@ -79,8 +80,10 @@ void CMessageBoxMan::Log(int type, QStringList texts) const
     }
     texts.removeAll(QString());
     texts.removeDuplicates();
+    const QString plain = texts.join(QLatin1Char('\n'));
+    setAccessibleDescription(plain);
     CSessionLog::Get().Add(FindKind(type).event, m_owner ? m_owner->windowTitle() : QString(),
-                           texts.join(QLatin1Char('\n')));
+                           plain);
 }
 
 // A dialog can't run twice at a time, and the text that the user is reading must stay.

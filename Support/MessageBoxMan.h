@@ -8,7 +8,7 @@
 // opens centred over the active window, or over the window of the widget given to SetOwner when
 // the user is in another application just then.
 //
-// Each box stands in the session's log (SessionLog.h).
+// Each box stands in the session's log (SessionLog.h), and is announced to screen readers with its text.
 //
 // The object may be destroyed while the box is open, as happens when the pages are reset: Show then
 // returns 0 and emits nothing, and the caller must take care that its own object is still there. A
@@ -58,7 +58,7 @@ private:
                    const QString &detail, int width);
     void Fill(int type, const QString &title, const QString &text, const QString &informative,
               const QString &detail);
-    void Log(int type, QStringList texts) const;
+    void Log(int type, QStringList texts);
     void SetLeastWidth(int width);
     void AttachToWindow();
 

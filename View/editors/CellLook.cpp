@@ -5,6 +5,8 @@
 #include <QVariant>
 #include <QWidget>
 
+#include "View/access/Contrast.h"
+
 namespace {
 
 constexpr char kLooks[] = "quorlinCellLooks";
@@ -32,12 +34,19 @@ QPalette PaletteOf(int looks, const QPalette &plain)
 {
     QPalette palette;
     if (Has(looks, ECellLook::Marked)) {
-        palette.setColor(QPalette::Base, plain.color(QPalette::Active, QPalette::Highlight));
-        palette.setColor(QPalette::Text, plain.color(QPalette::Active, QPalette::HighlightedText));
+        const QColor &ground = plain.color(QPalette::Active, QPalette::Highlight);
+        palette.setColor(QPalette::Base, ground);
+        palette.setColor(
+            QPalette::Text,
+            Readable(plain.color(QPalette::Active, QPalette::HighlightedText), ground));
     } else if (Has(looks, ECellLook::Changed)) {
         const QColor amber(255, 176, 0);
-        palette.setColor(QPalette::Base,
-                         Mixed(amber, plain.color(QPalette::Active, QPalette::Base), kGroundShare));
+        const QColor ground =
+            Mixed(amber, plain.color(QPalette::Active, QPalette::Base), kGroundShare);
+        palette.setColor(QPalette::Base, ground);
+        for (const auto group : {QPalette::Active, QPalette::Inactive})
+            palette.setColor(group, QPalette::Text,
+                             Readable(plain.color(group, QPalette::Text), ground));
     }
     return palette;
 }

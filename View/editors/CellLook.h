@@ -2,8 +2,8 @@
 //
 // Whoever knows a state says it here; the looks of the states are put together in one place. A
 // changed cell has a ground of its own and bold digits, a marked one the colours of a selection, so no
-// state is told by colour alone. The colours are made of the editor's own palette and hold on a
-// light and a dark desktop. Without a state the editor is as it came. GUI thread.
+// state is told by colour alone: the headers of a marked cell are bold. The colours are made of the
+// editor's own palette, hold on a light and a dark desktop, and have the contrast of WCAG AA. Without a state the editor is as it came. GUI thread.
 //
 //   SetCellLook(editor, ECellLook::Changed, true);
 //   HasCellLook(editor, ECellLook::Marked);   // false

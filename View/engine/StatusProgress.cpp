@@ -36,6 +36,7 @@ void CStatusProgress::Show(int done, int all)
     if (auto *window = qobject_cast<QMainWindow *>(m_page->parentWidget()); window && !m_bar) {
         m_bar = new QProgressBar;
         m_bar->setTextVisible(false);
+        m_bar->setAccessibleName(QStringLiteral("Progress"));
         // No higher than the text beside it, or the page would move when it comes and goes.
         const QFontMetrics text = window->statusBar()->fontMetrics();
         m_bar->setFixedSize(kChars * text.averageCharWidth(), text.height());

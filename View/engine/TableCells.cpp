@@ -4,6 +4,7 @@
 #include <QStyledItemDelegate>
 #include <QTableWidget>
 
+#include "View/access/CellNames.h"
 #include "View/editors/TableKeys.h"
 #include "View/engine/ContextMenu.h"
 #include "View/engine/TableCommands.h"
@@ -34,6 +35,8 @@ void FillPlaces(QTableWidget *table)
         CTableMark::Of(table)->Clear();
     else
         new CTableCommands(table, new CTableKeys(table));
+    if (!CCellNames::Of(table))
+        new CCellNames(table);
 }
 
 // Qt's header looks for its size anew at each label.
@@ -55,4 +58,6 @@ void PlaceEditor(QTableWidget *table, int row, int column, QWidget *editor)
     LeaveMenuToPage(editor);
     if (CTableKeys *keys = CTableKeys::Of(table))
         keys->Take(editor);
+    if (CCellNames *names = CCellNames::Of(table))
+        names->Name(row, column, editor);
 }

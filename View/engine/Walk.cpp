@@ -7,6 +7,7 @@
 #include "Model/MemberPath.h"
 #include "Support/Log.h"
 #include "View/engine/Binding.h"
+#include "View/engine/MemberNames.h"
 #include "View/engine/WidgetIndex.h"
 
 namespace {
@@ -135,4 +136,5 @@ void InitMembers(const SBinding &binding, const QList<QWidget *> &widgets)
         else
             qCDebug(lcEngine) << " Skip " << name;
     }
+    NameMembers(binding, widgets);
 }

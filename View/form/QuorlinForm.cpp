@@ -8,6 +8,7 @@
 #include "Support/Log.h"
 #include "Support/SessionLog.h"
 #include "Support/TraceNote.h"
+#include "View/access/Announce.h"
 #include "View/editors/FormFont.h"
 #include "View/editors/NamedAction.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
@@ -208,6 +209,7 @@ void CQuorlinForm::Slot_UpdateStatusbar(QString str)
     CSessionLog::Get().Add(ESessionEvent::Status, m_speaker.isEmpty() ? windowTitle() : m_speaker,
                            str);
     statusBar()->showMessage(str, 0);
+    Announce(statusBar());
 }
 
 void CQuorlinForm::ResetPages()

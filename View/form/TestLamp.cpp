@@ -1,13 +1,15 @@
 #include "View/form/TestLamp.h"
 
+#include <utility>
+
+#include "View/access/Announce.h"
+#include "View/access/Contrast.h"
 #include "View/editors/FormFont.h"
 
 namespace {
 
 constexpr int kTickMs = 1000;
-constexpr int kLightGround = 128;  // lightness from which on a ground counts as light
-
-// By the WCAG a contrast of 4.5 and more, on the light and the dark grounds of desktops.
+// One of the two is read on any ground, light or dark, or is brought to where it is (Contrast.h).
 struct SLampColors
 {
     const char *onLight;
@@ -48,15 +50,24 @@ void CTestLamp::Show(const SRunningTestInfo &newest)
     if (!isAny) {
         m_clock.stop();
         clear();
+        m_told.clear();
         return;
     }
     const SLampColors &colors = newest.transmits ? kTransmits : kReceives;
-    const bool isLight = parentWidget()->palette().window().color().lightness() >= kLightGround;
+    const QColor ground = parentWidget()->palette().window().color();
+    const bool isLight = Contrast(Qt::black, ground) >= Contrast(Qt::white, ground);
     QPalette palette;
-    palette.setColor(QPalette::WindowText, QColor(isLight ? colors.onLight : colors.onDark));
+    palette.setColor(QPalette::WindowText,
+                     Readable(QColor(isLight ? colors.onLight : colors.onDark), ground));
     setPalette(palette);
-    setToolTip(QLatin1String(newest.transmits ? "The DUT transmits" : "The DUT receives"));
+    const QLatin1String what(newest.transmits ? "The DUT transmits" : "The DUT receives");
+    setToolTip(what);
     Tick();
+    const QString told = what + QLatin1String(": ") + newest.text;
+    if (std::exchange(m_told, told) != told) {
+        setAccessibleDescription(told);
+        Announce(this);
+    }
     m_clock.start();
 }
 

@@ -8,9 +8,14 @@
 #include <QTableWidget>
 
 #include "Model/MemberPath.h"
+#include "View/access/Contrast.h"
+#include "View/access/SpokenText.h"
 #include "View/editors/LateEditors.h"
 
 namespace {
+
+constexpr char kIsGrey[] = "quorlinIsGrey";
+const QLatin1String kNotOfShown("not of the settings that are shown");
 
 // The table's cells, or the widget itself.
 QList<QWidget *> Parts(QWidget *widget)
@@ -42,15 +47,28 @@ QVariant Value(const QWidget *widget)
     return {};
 }
 
+// Grey and slanted, so that the colour does not tell it alone. The palette is reset first: the grey is
+// of the colours that the widget has without it.
 void SetGrey(QWidget *widget, bool isGrey)
 {
+    if (widget->property(kIsGrey).toBool() == isGrey)
+        return;
+    widget->setProperty(kIsGrey, isGrey);
+    widget->setPalette({});
     QPalette palette;
     if (isGrey) {
-        const QColor grey = widget->palette().color(QPalette::Disabled, QPalette::Text);
+        const bool isLabel = qobject_cast<QLabel *>(widget);
+        const QPalette plain = widget->palette();
+        const QColor grey = FadedText(plain.color(isLabel ? QPalette::WindowText : QPalette::Text),
+                                      plain.color(isLabel ? QPalette::Window : QPalette::Base));
         palette.setColor(QPalette::Text, grey);
         palette.setColor(QPalette::WindowText, grey);
     }
     widget->setPalette(palette);
+    QFont font = widget->font();
+    font.setItalic(isGrey);
+    widget->setFont(font);
+    SetSpokenState(widget, isGrey ? QString(kNotOfShown) : QString());
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // Greys results that are not of the settings that the page shows.
 //
 // Results are grey until they are measured, and while a visible editor of the request shows another
-// value than was packaged for them. Style alone: texts and states stay. A label whose text has
+// value than was packaged for them: grey and slanted, and a screen reader says so. Texts stay. A label whose text has
 // changed since the measurement is grey. GUI thread; the widgets outlive this object.
 //
 //   m_mark = std::make_unique<CResultMark>(this, QList<QWidget *>{m_ui->pdValue});

@@ -1,7 +1,6 @@
 // The header of a column of results: its caption with its unit, "BLER (%)" or "DL Freq. (kHz)".
 //
-// Captions of documents name few units, and in several forms, so the units stand here, by member. A
-// caption's own unit in brackets gives way. Pure functions.
+// The unit is the member's (MemberUnit.h); a caption's own one in brackets gives way. Pure functions.
 //
 //   ResultHeader("RSRP0", "RSRP0");         // "RSRP0 (dBm)"
 //   ResultHeader("dlFrequency", "DL Freq.(1kHz)");   // "DL Freq. (kHz)"

@@ -5,6 +5,7 @@
 #include <QToolTip>
 
 #include "Model/MemberPath.h"
+#include "View/access/SpokenText.h"
 #include "View/editors/CellLook.h"
 #include "View/editors/LateEditors.h"
 #include "View/engine/CellText.h"
@@ -108,6 +109,7 @@ void CChangedCells::Colour(QWidget *editor, bool isChanged, const QString &was)
     if (!editor || (!isChanged && !m_was.contains(editor)))
         return;
     SetCellLook(editor, ECellLook::Changed, isChanged);
+    SetSpokenState(editor, isChanged ? QLatin1String("changed, was ") + was : QString());
     if (!isChanged) {
         m_was.remove(editor);
         editor->removeEventFilter(this);

@@ -1,5 +1,6 @@
 // Shows which editors of a page differ from what was last read or imported (CellLook.h), and what they
-// were: "was 0.93750" stands below the tool tip of such an editor. toolTip() itself stays as it is.
+// were: "was 0.93750" stands below the tool tip of such an editor, and a screen reader says so.
+// toolTip() itself stays as it is.
 //
 // Right behind a document is shown, the document's texts are compared with those of the base; an edit
 // since is compared as the editor shows it. Editors that nobody has made yet are coloured when they are
