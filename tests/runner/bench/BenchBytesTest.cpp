@@ -14,74 +14,9 @@
 #include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/runner/bench/BenchSession.h"
+#include "tests/runner/bench/PageDeeds.h"
 
 namespace {
-
-struct SDeed
-{
-    SBenchMember member;
-    int column = -1;
-    QString value;
-};
-
-struct SPageDeeds
-{
-    const char *page;
-    QStringList buttons;
-};
-
-const SPageDeeds kPages[] = {
-    {"CNrContRxDockWidgetV7", {"m_start", "m_stop"}},
-    {"CNrRssiDockWidgetV7", {"m_btnRssiSeqSrhCalculator", "m_start"}},
-    {"CNrRsrpForceDockWidgetV7", {"m_start", "resetPushButton", "m_stop", "clearPushButton"}},
-    {"CNrRsrpNormalDockWidgetV7", {"m_start", "resetPushButton", "m_stop", "clearPushButton"}},
-    {"CNrSingleToneTxDockWidgetV7", {"m_start", "m_stop"}},
-    {"CNrPuschTxForcedDockWidgetV7", {"m_start", "m_stop"}},
-    {"CNrPuschTxNormalDockWidgetV7", {"m_start", "m_stop"}},
-    {"CNrRxPathlossDockWidgetV7", {"m_btnUpload", "m_btnDownload"}},
-    {"CNrAptProfileDockWidgetV7", {"m_btnUpload", "m_btnDownload"}},
-};
-
-// Requests alone: reports of a running test come by the clock.
-QVector<QByteArray> Requests()
-{
-    QVector<QByteArray> requests;
-    for (const SJournalCall &call : Journal()) {
-        const QByteArray name = call.call.function;
-        if (!name.contains("Report") && !name.contains("GetChipIdName"))
-            requests.append(name + ' ' + call.request.toHex());
-    }
-    return requests;
-}
-
-QString Wish(const SBenchMember &member)
-{
-    if (member.type == "boolean")
-        return member.values.value(0) == "true" ? "false" : "true";
-    return member.type == "list" ? member.choices.value(member.choices.size() / 2) : QString("mid");
-}
-
-// Sets what can be set, in order, and tells it.
-QVector<SDeed> SetAll(CBenchPage *page)
-{
-    QVector<SDeed> deeds;
-    for (const SBenchMember &known : page->Members()) {
-        if (!known.IsInput())
-            continue;
-        SDeed deed;
-        const QString name = known.Name() + (known.isCells ? "[0]" : "");
-        if (page->FindInput(name, deed.member, deed.column) || !deed.member.isEnabled ||
-            !deed.member.isShown)
-            continue;
-        if (page->Set(name, Wish(deed.member)))
-            continue;
-        SBenchMember after;
-        page->FindInput(name, after, deed.column);
-        deed.value = after.values.value(qMax(deed.column, 0));
-        deeds.append(deed);
-    }
-    return deeds;
-}
 
 // By keys, as a person who uses no mouse.
 void Do(const CPluginSession &session, const SDeed &deed)
@@ -162,19 +97,14 @@ private slots:
 
 void BenchBytesTest::bytesAreThoseOfTheSameKeysAndClicks_data()
 {
-    QTest::addColumn<QString>("profile");
-    QTest::addColumn<int>("page");
-    for (int page = 0; page < int(std::size(kPages)); ++page) {
-        QTest::addRow("handset %s", kPages[page].page) << "handset" << page;
-        QTest::addRow("odd %s", kPages[page].page) << ODD_PROFILE << page;
-    }
+    AddPageDeeds();
 }
 
 void BenchBytesTest::bytesAreThoseOfTheSameKeysAndClicks()
 {
     QFETCH(QString, profile);
     QFETCH(int, page);
-    const SPageDeeds &deeds = kPages[page];
+    const SPageDeeds &deeds = PageDeeds()[page];
     QVector<SDeed> done;
     QVector<QByteArray> byBench;
     {
