@@ -63,7 +63,7 @@ CCampaign::SRound CCampaign::Draw(int round) const
         moments += {EMoment::Held, EMoment::Held};
     if (drawn.request->function && drawn.request->way == EWay::Button && !isExit)
         moments += EMoment::Box;
-    if (drawn.request->way == EWay::File)
+    if (drawn.request->hasDialog)
         moments += EMoment::Dialog;
     drawn.moment = moments[draw(moments.size())];
     drawn.turns = draw(30);

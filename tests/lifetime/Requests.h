@@ -9,11 +9,14 @@
 // What must be so before the request can be made.
 enum class EBefore
 {
-    Nothing,  // the page has its document
-    Running,  // its test runs
-    Read,     // it shows the DUT's calibration data
-    File,     // there is a file to import
-    Fresh,    // the tool has no pages: the request is made by showing it
+    Nothing,   // the page has its document
+    Running,   // its test runs
+    Results,   // its test has given some
+    Read,      // it shows the DUT's calibration data
+    Edited,    // it does, and a cell has been changed since
+    File,      // there is a file to import
+    Settings,  // there is a file of its settings
+    Fresh,     // the tool has no pages: the request is made by showing it
 };
 
 enum class EWay
@@ -21,6 +24,7 @@ enum class EWay
     Button,
     Timer,   // the slot of the report timer
     File,    // a button with a file dialog behind it
+    Action,  // of the page, one of its editors, or the window
     Launch,  // the show of the window; the moment comes while the page waits for its document
 };
 
@@ -30,8 +34,9 @@ struct SRequest
     const char *name;      // in the table
     const char *function;  // of the DUT, which the request calls; null: none that can be held
     EWay way;
-    const char *button;  // or slot
+    const char *button;  // or slot, or action
     EBefore before;
+    bool hasDialog = false;  // a file dialog, which gets a file, or a question, which is cancelled
 };
 
 const QVector<SRequest> &AllRequests();

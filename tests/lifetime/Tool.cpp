@@ -1,15 +1,22 @@
 #include "tests/lifetime/Tool.h"
 
+#include <QAbstractSpinBox>
+#include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QFile>
 #include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTableWidget>
 #include <QThreadPool>
+#include <QTimer>
 
 #include "Simulator/VondSim.h"
+#include "tests/common/Cells.h"
 #include "tests/common/WaitUntil.h"
-#include "tests/device/CalibrationSession.h"
 #include "tests/device/ContRxProfiles.h"
 
 namespace {
@@ -20,6 +27,17 @@ bool IsOn(const QWidget *page, const char *button)
 {
     const auto *found = page->findChild<QPushButton *>(button);
     return found && found->isEnabled();
+}
+
+// What the editor takes, and does not hold.
+QString Neighbour(const QAbstractSpinBox *box)
+{
+    if (const auto *whole = qobject_cast<const QSpinBox *>(box))
+        return QString::number(whole->value() + (whole->value() < whole->maximum() ? 1 : -1));
+    const auto *decimal = qobject_cast<const QDoubleSpinBox *>(box);
+    const double step = decimal->singleStep();
+    return QString::number(decimal->value() +
+                           (decimal->value() + step <= decimal->maximum() ? step : -step));
 }
 
 }  // namespace
@@ -58,25 +76,81 @@ QString CTool::Prepare(const SRequest &request)
     if (search && search->isEnabled() &&
         search->isChecked() != (qstrcmp(request.button, "m_btnCalculate") == 0))
         search->click();
-    if (failure.isEmpty() && request.before == EBefore::Running && !IsOn(page, "m_stop")) {
-        QTest::mouseClick(page->findChild<QPushButton *>("m_start"), Qt::LeftButton);
-        failure = Settle();
-        if (failure.isEmpty() && !IsOn(page, "m_stop"))
+    const bool needsRun = request.before == EBefore::Running || request.before == EBefore::Results;
+    if (failure.isEmpty() && needsRun && !IsOn(page, "m_stop")) {
+        failure = Press(page, "m_start");
+        const bool canStop = page->findChild<QPushButton *>("m_stop");
+        if (failure.isEmpty() && canStop && !IsOn(page, "m_stop"))
             failure = "the test does not start";
     }
-    const bool needsFile = request.before == EBefore::File && !QFile::exists(File(request));
-    if (failure.isEmpty() && (request.before == EBefore::Read || needsFile)) {
-        QTest::mouseClick(page->findChild<QPushButton *>("m_btnUpload"), Qt::LeftButton);
-        failure = Settle();
+    if (failure.isEmpty())
+        failure = PrepareData(request, page);
+    if (failure.isEmpty())
+        failure = PrepareFiles(request, page);
+    if (!failure.isEmpty() || request.way == EWay::Timer)
+        return failure;
+    // Changed cells are counted a moment later.
+    const QAction *action = Action(request);
+    const bool isOn =
+        action ? WaitUntil([action] { return action->isEnabled(); }) : IsOn(page, request.button);
+    return isOn ? QString() : QString("%1 is off").arg(request.button);
+}
+
+QString CTool::Press(const QDockWidget *page, const char *button)
+{
+    QTest::mouseClick(page->findChild<QPushButton *>(button), Qt::LeftButton);
+    return Settle();
+}
+
+// What the test has measured, or the DUT's calibration data.
+QString CTool::PrepareData(const SRequest &request, const QDockWidget *page)
+{
+    if (request.before == EBefore::Results && IsOn(page, "m_btnFetchPd"))
+        return Press(page, "m_btnFetchPd");
+    if (request.before == EBefore::Results &&
+        page->metaObject()->indexOfMethod("Slot_RsrpRxTimerTimeout()") >= 0) {
+        QMetaObject::invokeMethod(const_cast<QDockWidget *>(page), "Slot_RsrpRxTimerTimeout");
+        return Settle();
     }
-    if (failure.isEmpty() && needsFile) {
-        AnswerFileDialog(File(request));
-        QTest::mouseClick(page->findChild<QPushButton *>("m_btnSave"), Qt::LeftButton);
-        failure = Settle();
+    if (request.before != EBefore::Read && request.before != EBefore::Edited)
+        return {};
+    const QString failure = Press(page, "m_btnUpload");
+    if (!failure.isEmpty() || request.before == EBefore::Read)
+        return failure;
+    MakeAllEditors(page);
+    const QString cells = "_data_";
+    for (const QTableWidget *table : page->findChildren<QTableWidget *>()) {
+        QWidget *cell = table->objectName().contains(cells) ? table->cellWidget(0, 0) : nullptr;
+        auto *box = qobject_cast<QAbstractSpinBox *>(cell);
+        if (!box || !box->isEnabled() || !table->isVisible())
+            continue;
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, Neighbour(box));
+        QTest::keyClick(box, Qt::Key_Return);
+        return Settle();
     }
-    if (request.way != EWay::Timer && failure.isEmpty() && !IsOn(page, request.button))
-        failure = QString("%1 is off").arg(request.button);
-    return failure;
+    return "no cell can be changed";
+}
+
+// Files that the request opens are made by the tool itself.
+QString CTool::PrepareFiles(const SRequest &request, const QDockWidget *page)
+{
+    if (QFile::exists(File(request)))
+        return {};
+    if (request.before == EBefore::File) {
+        const QString failure = Press(page, "m_btnUpload");
+        if (!failure.isEmpty())
+            return failure;
+        AnswerDialog(File(request), {});
+        return Press(page, "m_btnSave");
+    }
+    if (request.before == EBefore::Settings) {
+        AnswerDialog(File(request), {});
+        page->findChild<QAction *>("m_actionSaveSettings")->trigger();
+        return Settle();
+    }
+    return {};
 }
 
 void CTool::Load()
@@ -119,20 +193,45 @@ void CTool::Make(const SRequest &request, const std::function<void()> &onDialog)
         return;
     }
     QDockWidget *page = Page(request.page);
+    // Nobody answers the question whether to write over a file.
+    const bool readsFile = request.before == EBefore::File || request.before == EBefore::Settings;
+    if (request.hasDialog && !readsFile)
+        QFile::remove(File(request));
+    if (request.hasDialog)
+        AnswerDialog(File(request), onDialog);
+    if (request.way == EWay::Action) {
+        Action(request)->trigger();
+        return;
+    }
     if (request.way == EWay::Timer) {
         QMetaObject::invokeMethod(page, request.button);
         return;
     }
-    if (request.way == EWay::File) {
-        // Nobody answers the question whether to write over a file.
-        if (request.before == EBefore::Read)
-            QFile::remove(File(request));
-        AnswerFileDialog(File(request), [onDialog](QFileDialog *) {
-            if (onDialog)
-                onDialog();
-        });
-    }
     QTest::mouseClick(page->findChild<QPushButton *>(request.button), Qt::LeftButton);
+}
+
+// A file dialog, or a question. An earlier request's, which never opened, is waited for no more.
+void CTool::AnswerDialog(const QString &file, const std::function<void()> &onDialog)
+{
+    m_dialogs = std::make_unique<QTimer>();
+    QObject::connect(m_dialogs.get(), &QTimer::timeout, [this, file, onDialog] {
+        const QPointer<QDialog> dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (!dialog || qobject_cast<QMessageBox *>(dialog))
+            return;
+        m_dialogs->stop();
+        if (onDialog)
+            onDialog();
+        if (!dialog)
+            return;
+        if (!qobject_cast<QFileDialog *>(dialog)) {
+            dialog->reject();
+            return;
+        }
+        qobject_cast<QFileDialog *>(dialog)->setOption(QFileDialog::DontConfirmOverwrite);
+        dialog->findChild<QLineEdit *>("fileNameEdit")->setText(file);
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    m_dialogs->start(0);
 }
 
 QString CTool::Settle()
@@ -185,5 +284,15 @@ bool CTool::IsUsable(const char *page) const
 
 QString CTool::File(const SRequest &request) const
 {
-    return m_folder + '/' + request.page + ".ini";
+    const bool isData = request.way == EWay::File;
+    const bool isResults = request.before == EBefore::Results;
+    return m_folder + '/' + request.page + (isData ? ".ini" : isResults ? ".jsonl" : ".json");
+}
+
+QAction *CTool::Action(const SRequest &request) const
+{
+    if (request.way != EWay::Action)
+        return nullptr;
+    auto *own = Page(request.page)->findChild<QAction *>(request.button);
+    return own ? own : m_session->Window()->findChild<QAction *>(request.button);
 }

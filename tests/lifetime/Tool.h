@@ -18,7 +18,9 @@
 #include "tests/common/PluginSession.h"
 #include "tests/lifetime/Requests.h"
 
+class QAction;
 class QDockWidget;
+class QTimer;
 
 class CTool
 {
@@ -33,7 +35,7 @@ public:
 
     // Loads the tool, shows it and starts a test, as far as the request needs it. Why not, if not.
     QString Prepare(const SRequest &request);
-    // Asks. onDialog is called with the file dialog of a request open, if it has one.
+    // Asks. onDialog is called with the dialog of a request open, if it has one.
     void Make(const SRequest &request, const std::function<void()> &onDialog = {});
     // Waits until nothing runs and the host has heard of it. Why not, if not.
     QString Settle();
@@ -59,9 +61,15 @@ private:
     void Load();
     QString Show();
     QString Raise(QDockWidget *page);
+    QString Press(const QDockWidget *page, const char *button);
+    QString PrepareFiles(const SRequest &request, const QDockWidget *page);
+    QString PrepareData(const SRequest &request, const QDockWidget *page);
     QString File(const SRequest &request) const;
+    QAction *Action(const SRequest &request) const;
+    void AnswerDialog(const QString &file, const std::function<void()> &onDialog);
 
     const QString m_folder;
     CBoxWatcher m_boxes;
+    std::unique_ptr<QTimer> m_dialogs;  // looks for the dialog of the request
     std::unique_ptr<CPluginSession> m_session;
 };
