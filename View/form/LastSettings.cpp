@@ -21,7 +21,8 @@ QString KeyOf(const CAutoBindingDataModelDockWidget &page)
 }  // namespace
 
 CLastSettings::CLastSettings(QWidget *window)
-    : m_action(AddAction(window, "m_actionRestoreSettings", "&Restore settings at start", {}, {}))
+    : m_action(AddAction(window, "m_actionRestoreSettings", "&Restore settings at start",
+                         {"Ctrl+Shift+S"}, {}))
 {
     m_action->setCheckable(true);
     m_action->setChecked(CSettings::Get().Value(kRestoreKey).toBool());
