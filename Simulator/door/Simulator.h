@@ -19,6 +19,7 @@
 #include "Simulator/faults/Faults.h"
 #include "Simulator/faults/Gates.h"
 #include "Simulator/flash/CalTransfers.h"
+#include "Simulator/flash/FlashCalibration.h"
 #include "Simulator/profile/Profile.h"
 #include "Simulator/radio/Radio.h"
 
@@ -29,6 +30,8 @@ struct SDut
     CFlash flash;
     CFaultSet faults;
 
+    // What the flash does to the radio.
+    CFlashCalibration Calibration() { return {profile, flash}; }
     // Without a plug it answers no call; the flash stays, the radio is off.
     void LosePower();
 };

@@ -210,8 +210,10 @@ VOND_RESULT VOND_MMRf_GainSearchV7_r(uint32_t h, uint32_t t, const SMMGainSearch
 VOND_RESULT VOND_MMRf_RssiV7_r(uint32_t h, uint32_t t, const SMMRssiCmdV7 *command,
                                SMMRssiCnfV7 *result)
 {
-    return Run({EFunction::Rssi, h, t, RequestOf(command), AnswerOf(result)},
-               [&](SDut &dut) { return dut.radio.Rssi(dut.profile, *command, *result); });
+    return Run({EFunction::Rssi, h, t, RequestOf(command), AnswerOf(result)}, [&](SDut &dut) {
+        CFlashCalibration calibration = dut.Calibration();
+        return dut.radio.Rssi(dut.profile, calibration, *command, *result);
+    });
 }
 
 VOND_RESULT VOND_MMRf_SingleToneTxV7_r(uint32_t h, uint32_t t, const SMMSingleToneCmdV7 *command)
@@ -228,15 +230,18 @@ VOND_RESULT VOND_MMRf_ContRxV7_r(uint32_t h, uint32_t t, const SMMContRxCmdV7 *c
 
 VOND_RESULT VOND_MMRf_GetPdValueV7_r(uint32_t h, uint32_t t, uint32_t kind, int16_t *value)
 {
-    return Run({EFunction::GetPdValue, h, t, RequestOf(&kind), AnswerOf(value)},
-               [&](SDut &dut) { return dut.radio.PdValue(dut.profile, kind, *value); });
+    return Run({EFunction::GetPdValue, h, t, RequestOf(&kind), AnswerOf(value)}, [&](SDut &dut) {
+        CFlashCalibration calibration = dut.Calibration();
+        return dut.radio.PdValue(dut.profile, calibration, kind, *value);
+    });
 }
 
 VOND_RESULT VOND_NRf_GetMixRxReportV7_r(uint32_t h, uint32_t t,
                                         NRfTestResult_GetMixRxReportV7 *report)
 {
     return Run({EFunction::GetMixRxReport, h, t, {}, AnswerOf(report)}, [&](SDut &dut) {
-        dut.radio.MixRxReport(*report);
+        CFlashCalibration calibration = dut.Calibration();
+        dut.radio.MixRxReport(dut.profile, calibration, *report);
         return SVerdict();
     });
 }

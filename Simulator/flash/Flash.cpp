@@ -13,7 +13,7 @@ SFlashImage &CFlash::Image(const SProfile &profile)
 {
     if (m_filled)
         return m_image;
-    m_image = CalibratedFlash(profile);
+    m_image = Factory(profile);
     m_filled = true;
     if (m_path.empty())
         return m_image;
@@ -30,6 +30,24 @@ SFlashImage &CFlash::Image(const SProfile &profile)
                      m_path.c_str(), error.what());
     }
     return m_image;
+}
+
+const SFlashImage &CFlash::Factory(const SProfile &profile)
+{
+    if (!m_factory)
+        m_factory = std::make_shared<SFlashImage>(CalibratedFlash(profile));
+    return *m_factory;
+}
+
+const SFlashImage &CFlash::Truth(const SProfile &profile)
+{
+    if (!m_truth && IsFullyCalibrated(profile)) {
+        Factory(profile);
+        m_truth = m_factory;
+    }
+    if (!m_truth)
+        m_truth = std::make_shared<SFlashImage>(TrueFlash(profile));
+    return *m_truth;
 }
 
 bool CFlash::Keep() const

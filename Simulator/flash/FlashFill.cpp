@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
+#include "Simulator/flash/GainSlots.h"
 #include "Simulator/radio/Noise.h"
 
 namespace {
@@ -101,13 +103,10 @@ std::vector<Block> Blocks(const std::vector<uint32_t> &frequencies, const Block 
     return blocks;
 }
 
-std::vector<SAptBlock> Record(const SProfile &profile, const SCalPlace &place,
-                              const std::vector<uint32_t> &frequencies, const SAptBlock *)
+// Gains that are so much off the usual ones; no subband.
+SAptBlock AptHead(double own)
 {
-    CNoise noise = NoiseOf<SAptBlock>(profile, place);
-    const double own = noise.Bell() - 0.25 * place.region;
     SAptBlock head = {};
-    head.band = place.band;
     head.normalTempIndex = kNormalTemperature;
     head.paControlLevel = kLevelsInUse;
     head.paModeCount = kVondAptPaModes;
@@ -119,13 +118,25 @@ std::vector<SAptBlock> Record(const SProfile &profile, const SCalPlace &place,
     }
     for (int mode = 0; mode < kVondAptPaModes; ++mode) {
         SAptPaPart &part = head.pa[mode];
-        head.couplerLoss[mode] = Steps(kCouplerLossDb[mode] + 0.2 * noise.Bell());
+        head.couplerLoss[mode] = Steps(kCouplerLossDb[mode]);
         part.prfIndex = static_cast<uint8_t>(mode);
         for (int t = 0; t < kVondCalTemperatures; ++t) {
             part.paGainTempOffset[t] = Steps((kNormalTemperature - t) * (0.35 + 0.05 * mode));
             part.powerDetectorTempOffset[t] = Steps((t - kNormalTemperature) * 0.125);
         }
     }
+    return head;
+}
+
+std::vector<SAptBlock> Record(const SProfile &profile, const SCalPlace &place,
+                              const std::vector<uint32_t> &frequencies, const SAptBlock *)
+{
+    CNoise noise = NoiseOf<SAptBlock>(profile, place);
+    const double own = noise.Bell() - 0.25 * place.region;
+    SAptBlock head = AptHead(own);
+    head.band = place.band;
+    for (int mode = 0; mode < kVondAptPaModes; ++mode)
+        head.couplerLoss[mode] = Steps(kCouplerLossDb[mode] + 0.2 * noise.Bell());
     return Blocks(frequencies, head, [&](SAptBlock &block, std::size_t i, double position) {
         for (int mode = 0; mode < kVondAptPaModes; ++mode) {
             block.pa[mode].paGain[i] = Steps(kPaGainDb[mode] + own - kPaGainTiltDb * position);
@@ -155,19 +166,6 @@ constexpr SPowerMode kPowerModes[kVondRxPowerModes] = {{&SMMLossPair::hpm, 0.0},
                                                        {&SMMLossPair::lpm, 0.3}};
 constexpr EVondRxPath kRxPaths[] = {EVondRxPath::Main, EVondRxPath::Div};
 
-// The gain modes that have a slot, in slot order.
-std::vector<std::pair<int, int>> Slots(const SMMRfRxGainInfoV7 &gain)
-{
-    std::vector<std::pair<int, int>> slots;
-    for (int bigG = 0; bigG < kVondGainRows; ++bigG) {
-        for (int smallG = 0; smallG < kVondGainColumns; ++smallG) {
-            if (gain.t1[bigG][smallG] == 1 && slots.size() < std::size_t(kVondLossGainSlots))
-                slots.emplace_back(bigG, smallG);
-        }
-    }
-    return slots;
-}
-
 double LossDb(CNoise &noise, const SPowerMode &mode, EVondRxPath path, int slot, int srxPath)
 {
     return 1.0 + mode.extraDb + 0.4 * static_cast<int>(path) + 0.2 * slot + 0.35 * srxPath +
@@ -178,7 +176,7 @@ double LossDb(CNoise &noise, const SPowerMode &mode, EVondRxPath path, int slot,
 void AddLosses(const SMMRfRxGainInfoV7 &gain, const SPowerMode &mode, CNoise &noise,
                std::vector<SLoss> &losses, const SMMType1PathlossBlockV7 *)
 {
-    const int slots = static_cast<int>(Slots(gain).size());
+    const int slots = static_cast<int>(GainSlots(gain).size());
     for (const EVondRxPath path : kRxPaths) {
         for (int slot = 0; slot < slots; ++slot)
             losses.push_back(
@@ -192,7 +190,7 @@ void AddLossesOf(int srx, EVondRxPath path, const SMMRfRxGainInfoV7 &gain, const
                  CNoise &noise, std::vector<SLoss> &losses)
 {
     int slot = 0;
-    for (const auto &[bigG, smallG] : Slots(gain)) {
+    for (const auto &[bigG, smallG] : GainSlots(gain)) {
         losses.push_back(
             {VondPartialOnPair(path, srx, slot), mode.half, LossDb(noise, mode, path, slot, srx)});
         for (int sub = 0; sub < kVondSubGains; ++sub) {
@@ -247,6 +245,16 @@ void FillTable(const SProfile &profile, FlashTable<Block> &table)
     }
 }
 
+// Without a rule that leaves records empty.
+SProfileSubbands FullRule(SProfileSubbands rule)
+{
+    if (rule.fallback == 0)
+        rule.fallback.reset();
+    for (auto row = rule.byBand.begin(); row != rule.byBand.end();)
+        row = row->second == 0 ? rule.byBand.erase(row) : std::next(row);
+    return rule;
+}
+
 }  // namespace
 
 SFlashImage CalibratedFlash(const SProfile &profile)
@@ -254,4 +262,36 @@ SFlashImage CalibratedFlash(const SProfile &profile)
     SFlashImage image;
     std::apply([&](auto &...table) { (FillTable(profile, table), ...); }, image.tables);
     return image;
+}
+
+bool IsFullyCalibrated(const SProfile &profile)
+{
+    const SProfileCalibration &calibration = profile.calibration;
+    for (const SProfileSubbands *rule :
+         {&calibration.tx, &calibration.rxType1, &calibration.rxType2}) {
+        if (rule->fallback == 0 || std::any_of(rule->byBand.begin(), rule->byBand.end(),
+                                               [](const auto &row) { return row.second == 0; }))
+            return false;
+    }
+    return true;
+}
+
+SFlashImage TrueFlash(const SProfile &profile)
+{
+    SProfile full = profile;
+    full.calibration.tx = FullRule(profile.calibration.tx);
+    full.calibration.rxType1 = FullRule(profile.calibration.rxType1);
+    full.calibration.rxType2 = FullRule(profile.calibration.rxType2);
+    return CalibratedFlash(full);
+}
+
+SAptBlock UncalibratedApt()
+{
+    SAptBlock block = AptHead(0.0);
+    block.freq[0] = 1;
+    for (int mode = 0; mode < kVondAptPaModes; ++mode) {
+        block.pa[mode].paGain[0] = Steps(kPaGainDb[mode]);
+        block.pa[mode].powerDetector[0] = Steps(kDetectorDb[mode]);
+    }
+    return block;
 }

@@ -83,6 +83,7 @@ struct SProfileRadio
     uint32_t seed = 1;
     double fluctuationDb = 0.2;  // a reading strays by no more
     double noiseFigureDb = 6.0;
+    double temperatureC = 25.0;
     double levelDbm = -65.0;
     std::map<uint16_t, double> bandLevelDbm;  // by band, where it differs
     double pathLossDb = 0.5;

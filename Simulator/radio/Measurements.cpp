@@ -37,13 +37,19 @@ int16_t DigitalGain(double rfGain, double cellPower)
 class CRssiMeter
 {
 public:
-    CRssiMeter(const SProfile &profile, const SMMRssiCmdV7 &command, CNoise &noise)
-        : m_profile(profile), m_command(command), m_noise(noise)
+    CRssiMeter(const SProfile &profile, const SMMRssiCmdV7 &command, ICalibration &calibration,
+               CNoise &noise)
+        : m_profile(profile), m_command(command), m_calibration(calibration), m_noise(noise)
     {
+        SRxRouteChoice choice;
+        ChooseRxRoute(profile, command.band, command.rxRoute, command.routeKind, choice);
+        m_isType2 = choice.type2;
     }
 
-    // Gains in 1/32 dB; antennas of path 0 are 0 and 1, of path 1 are 2 and 3.
-    int16_t Read(uint32_t kHz, int antenna, int16_t rfGain, int16_t digitalGain)
+    // Gains in 1/32 dB; antennas of path 0 are 0 and 1, of path 1 are 2 and 3. The other path's RF
+    // gain is there while both run.
+    int16_t Read(uint32_t kHz, int antenna, int16_t rfGain, int16_t digitalGain,
+                 std::optional<int16_t> otherRfGain = std::nullopt)
     {
         const SProfileRadio &radio = m_profile.radio;
         const SCarrierPlace place = {m_command.band, kHz, true, m_command.rxRoute, false};
@@ -51,7 +57,17 @@ public:
                             radio.fluctuationDb * m_noise.Bell();
         const double figure = radio.noiseFigureDb + (m_command.lowPower == 1 ? kLowPowerLoss : 0.0);
         const double input = PowerSum(cell, ThermalNoise(kRssiBandwidth, figure));
-        return Fixed(ReadingOf(input, rfGain / 32.0, digitalGain / 32.0), 32);
+        SRxPlace calibrated = {.route = m_command.rxRoute,
+                               .isType2 = m_isType2,
+                               .kHz = kHz,
+                               .antenna = antenna,
+                               .mode = Mode(rfGain),
+                               .isLowPower = m_command.lowPower == 1};
+        if (otherRfGain)
+            calibrated.otherMode = Mode(*otherRfGain).mode;
+        return Fixed(ReadingOf(input, rfGain / 32.0, digitalGain / 32.0) +
+                         m_calibration.RxError(calibrated),
+                     32);
     }
 
     SGainMode Mode(int16_t rfGain) const
@@ -62,7 +78,9 @@ public:
 private:
     const SProfile &m_profile;
     const SMMRssiCmdV7 &m_command;
+    ICalibration &m_calibration;
     CNoise &m_noise;
+    bool m_isType2 = false;
 };
 
 void MeasureOnePath(const SMMRssiCmdV7 &command, CRssiMeter &meter, SMMRssiCnfV7 &answer)
@@ -91,10 +109,14 @@ void MeasureBothPaths(const SMMRssiCmdV7 &command, CRssiMeter &meter, SMMRssiCnf
     for (int i = 0; i < command.numFreq; ++i) {
         const uint32_t kHz = command.dlFrequency[i];
         auto &row = rows.row[i];
-        row.path0Main = meter.Read(kHz, 0, gain.path0MainRfGain, gain.path0MainDigitalGain);
-        row.path0Div = meter.Read(kHz, 1, gain.path0DivRfGain, gain.path0DivDigitalGain);
-        row.path1Main = meter.Read(kHz, 2, gain.path1MainRfGain, gain.path1MainDigitalGain);
-        row.path1Div = meter.Read(kHz, 3, gain.path1DivRfGain, gain.path1DivDigitalGain);
+        row.path0Main = meter.Read(kHz, 0, gain.path0MainRfGain, gain.path0MainDigitalGain,
+                                   gain.path1MainRfGain);
+        row.path0Div =
+            meter.Read(kHz, 1, gain.path0DivRfGain, gain.path0DivDigitalGain, gain.path1DivRfGain);
+        row.path1Main = meter.Read(kHz, 2, gain.path1MainRfGain, gain.path1MainDigitalGain,
+                                   gain.path0MainRfGain);
+        row.path1Div =
+            meter.Read(kHz, 3, gain.path1DivRfGain, gain.path1DivDigitalGain, gain.path0DivRfGain);
     }
     // The eLNA is in front of both paths.
     rows.mainG = meter.Mode(gain.path0MainRfGain).elna;
@@ -105,16 +127,16 @@ void MeasureBothPaths(const SMMRssiCmdV7 &command, CRssiMeter &meter, SMMRssiCnf
     rows.path1Divg = meter.Mode(gain.path1DivRfGain).mode;
 }
 
-// The route that the DUT takes by itself: the first one that serves the band; 0 when none does.
-uint16_t RouteOfBand(const SProfile &profile, uint16_t band)
+// The route that the DUT takes by itself: the first one that serves the band; none when none does.
+SRxRouteChoice RouteOfBand(const SProfile &profile, uint16_t band)
 {
     for (const auto *routes : {&profile.rxType1Routes, &profile.rxType2Routes}) {
         for (const SProfileRxRoute &row : *routes) {
             if (row.band == band)
-                return row.route;
+                return {&row, routes == &profile.rxType2Routes};
         }
     }
-    return 0;
+    return {};
 }
 
 // The ratio of all antennas together: the sum of their ratios.
@@ -126,6 +148,19 @@ double CombinedRatio(const SRsrpRun &run, const SReception *receptions)
     return combined;
 }
 
+// What the antenna's readings say too much, at the gain that its signal asks for.
+double RxErrorOf(const SRsrpRun &run, int antenna, ICalibration &calibration)
+{
+    const double signal = run.cellPower - kDiversityLoss * antenna;
+    const double gain = GainInForce(PowerSum(signal, run.noise), run.lowPower);
+    return calibration.RxError({.route = run.route,
+                                .isType2 = run.isType2,
+                                .kHz = run.kHz,
+                                .antenna = antenna,
+                                .mode = NearestMode(gain, run.lowPower),
+                                .isLowPower = run.lowPower});
+}
+
 SReception ReceptionOf(const SRsrpRun &run, int antenna, double fluctuation)
 {
     const double signal = run.cellPower - kDiversityLoss * antenna + fluctuation;
@@ -134,10 +169,10 @@ SReception ReceptionOf(const SRsrpRun &run, int antenna, double fluctuation)
 
 }  // namespace
 
-int16_t MeasurePd(const SProfileRadio &radio, int16_t txPower, CNoise &noise)
+int16_t MeasurePd(const SProfileRadio &radio, const STxOutput &output, CNoise &noise)
 {
-    const double power = txPower / 256.0;
-    return Fixed(radio.pdSlope * power + radio.pdOffsetDb + radio.fluctuationDb * noise.Bell(),
+    return Fixed(radio.pdSlope * output.power + radio.pdOffsetDb + output.detectorError +
+                     radio.fluctuationDb * noise.Bell(),
                  256);
 }
 
@@ -179,11 +214,12 @@ SMMGainSearchCnfV7 SearchGain(const SMMGainSearchCmdV7 &command)
     return answer;
 }
 
-SMMRssiCnfV7 MeasureRssi(const SProfile &profile, const SMMRssiCmdV7 &command, CNoise &noise)
+SMMRssiCnfV7 MeasureRssi(const SProfile &profile, const SMMRssiCmdV7 &command,
+                         ICalibration &calibration, CNoise &noise)
 {
     SMMRssiCnfV7 answer = {};
     std::copy_n(command.dlFrequency, command.numFreq, answer.dlFrequency);
-    CRssiMeter meter(profile, command, noise);
+    CRssiMeter meter(profile, command, calibration, noise);
     if (command.singlePath == 1)
         MeasureOnePath(command, meter, answer);
     else
@@ -197,7 +233,9 @@ SRsrpRun RsrpRun(const SProfile &profile, const SNrRsrpCmdV7 &command)
     const SNrRsrpForcedCcV7 &forcedCarrier = command.forcedMode.carrier;
     const SNrRsrpCcV7 &normalCarrier = command.normalMode.carrier[0];
     const SNrRsrpCommonV7 &carrier = forced ? forcedCarrier.common : normalCarrier.common;
-    const uint16_t route = forced ? forcedCarrier.rxRoute : RouteOfBand(profile, carrier.band);
+    const SRxRouteChoice own = RouteOfBand(profile, carrier.band);
+    const uint16_t ownRoute = own.row != nullptr ? own.row->route : uint16_t(0);
+    const uint16_t route = forced ? forcedCarrier.rxRoute : ownRoute;
     const double elements = 12.0 * ResourceBlocks(carrier.rxScs, carrier.dlBandwidth);
     const double spacing = 15.0e3 * (1u << carrier.rxScs);  // Hz
     SRsrpRun run;
@@ -205,6 +243,9 @@ SRsrpRun RsrpRun(const SProfile &profile, const SNrRsrpCmdV7 &command)
     run.antennas = !forced && normalCarrier.mimo4x4 == 1 ? 4 : 2;
     run.cellPower =
         CellPower(profile, {carrier.band, carrier.dlFrequency, forced, route, true}, route, 0);
+    run.route = route;
+    run.isType2 = !forced && own.type2;  // forced mode takes type 1 alone
+    run.kHz = carrier.dlFrequency;
     run.lowPower = forced && forcedCarrier.lpmHpmConf == kForcedLpm;
     run.noise = ThermalNoise(elements * spacing,
                              profile.radio.noiseFigureDb + (run.lowPower ? kLowPowerLoss : 0.0));
@@ -224,24 +265,27 @@ EStatus CellStatus(const SRsrpRun &run)
     return ratio < kBroadcastRatio ? EStatus::MibDecodeError : EStatus::Success;
 }
 
-SMixRxReading MeasureMixRx(const SRsrpRun &run, CNoise &noise)
+SMixRxReading MeasureMixRx(const SRsrpRun &run, ICalibration &calibration, CNoise &noise)
 {
     SMixRxReading reading;
     NRfTestResult_GetMixRxReportV7 &report = reading.report;
     int16_t *const rssi[] = {report.RSSI0, report.RSSI1, report.RSSI2, report.RSSI3};
     int16_t *const rsrp[] = {report.RSRP0, report.RSRP1, report.RSRP2, report.RSRP3};
     report.reportCount = static_cast<uint8_t>(std::min<int>(run.measCnt, kVondMaxReports));
+    double error[4] = {};
+    for (int antenna = 0; antenna < run.antennas; ++antenna)
+        error[antenna] = RxErrorOf(run, antenna, calibration);
     for (int i = 0; i < report.reportCount; ++i) {
         SReception receptions[4];
         for (int antenna = 0; antenna < run.antennas; ++antenna) {
             SReception &reception = receptions[antenna];
             reception = ReceptionOf(run, antenna, run.fluctuation * noise.Bell());
-            rssi[antenna][i] = Fixed(reception.total, 128);
+            rssi[antenna][i] = Fixed(reception.total + error[antenna], 128);
             // RSRP is the power of one resource element. Noise that the estimate lets through is
             // its floor.
             const double element =
                 PowerSum(reception.signal, reception.signal - reception.ratio - kSssGain);
-            rsrp[antenna][i] = Fixed(element - run.elements, 128);
+            rsrp[antenna][i] = Fixed(element - run.elements + error[antenna], 128);
         }
         const double errorRate = BlockErrorRate(CombinedRatio(run, receptions));
         for (int block = 0; block < kBlocksAMeasurement; ++block)

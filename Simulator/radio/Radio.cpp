@@ -10,6 +10,63 @@ int64_t DuplexDistance(const SProfileBand &band)
     return int64_t(band.downlink.low) - int64_t(band.uplink.low);
 }
 
+// The TX route that the DUT takes by itself; 0 when none serves the band.
+uint16_t TxRouteOfBand(const SProfile &profile, uint16_t band)
+{
+    for (const SProfileTxRoute &row : profile.txRoutes) {
+        if (row.band == band)
+            return row.route;
+    }
+    return 0;
+}
+
+SRadioUse UseOf(const SMMContRxCmdV7 &command)
+{
+    return {.band = command.band, .route = command.rxRoute, .downlink = command.dlFrequency};
+}
+
+SRadioUse UseOf(const SMMSingleToneCmdV7 &command)
+{
+    return {.band = command.band,
+            .route = command.txRoute,
+            .isTransmitting = true,
+            .txPower = command.txPowerValue / 256.0,
+            .tx = {command.txRoute, command.band, command.ulFrequency, command.aggBwKhzRange}};
+}
+
+SRadioUse UseOf(const SProfile &profile, const SNrPuschTxCmdV7 &command)
+{
+    const bool isForced = command.forced == 1;
+    const SNrPuschCcV7 &carrier =
+        isForced ? command.forcedMode.carrier : command.normalMode.carrier[0];
+    const uint16_t route = isForced ? carrier.txRoute : TxRouteOfBand(profile, carrier.band);
+    return {.band = carrier.band,
+            .route = isForced ? carrier.txRoute : uint16_t(0),
+            .isTransmitting = true,
+            .txPower = carrier.txPowerValue / 256.0,
+            .tx = {route, carrier.band, carrier.ulFrequency, carrier.ulBandwidth}};
+}
+
+SRadioUse UseOf(const SProfile &profile, const SNrRsrpCmdV7 &command)
+{
+    const bool isForced = command.forced == 1;
+    const SNrRsrpForcedCcV7 &forced = command.forcedMode.carrier;
+    const SNrRsrpCommonV7 &carrier =
+        isForced ? forced.common : command.normalMode.carrier[0].common;
+    SRadioUse use = {.band = carrier.band,
+                     .route = isForced ? forced.rxRoute : uint16_t(0),
+                     .downlink = carrier.dlFrequency};
+    if (carrier.trxMode != 1)
+        return use;
+    const auto uplink = static_cast<uint32_t>(carrier.dlFrequency -
+                                              DuplexDistance(*FindBand(profile, carrier.band)));
+    use.isTransmitting = true;
+    use.txPower = carrier.txPowerValue / 256.0;
+    use.tx = {isForced ? forced.txRoute : TxRouteOfBand(profile, carrier.band), carrier.band,
+              uplink, carrier.dlBandwidth};
+    return use;
+}
+
 }  // namespace
 
 const char *TestName(ERunningTest test)
@@ -35,7 +92,7 @@ SVerdict CRadio::StartContRx(const SProfile &profile, const SMMContRxCmdV7 &comm
         return EResult::TestRunning;
     const SVerdict verdict = CheckContRx(profile, command);
     if (verdict.Ok())
-        m_running = ERunningTest::ContRx;
+        Start(ERunningTest::ContRx, UseOf(command));
     return verdict;
 }
 
@@ -44,10 +101,8 @@ SVerdict CRadio::StartSingleTone(const SProfile &profile, const SMMSingleToneCmd
     if (m_running != ERunningTest::None)
         return EResult::TestRunning;
     const SVerdict verdict = CheckSingleTone(profile, command);
-    if (verdict.Ok()) {
-        m_running = ERunningTest::SingleToneTx;
-        Transmit(command.txPowerValue);
-    }
+    if (verdict.Ok())
+        Start(ERunningTest::SingleToneTx, UseOf(command));
     return verdict;
 }
 
@@ -56,12 +111,8 @@ SVerdict CRadio::StartPuschTx(const SProfile &profile, const SNrPuschTxCmdV7 &co
     if (m_running != ERunningTest::None)
         return EResult::TestRunning;
     const SVerdict verdict = CheckPuschTx(profile, command);
-    if (verdict.Ok()) {
-        const SNrPuschCcV7 &carrier =
-            command.forced == 1 ? command.forcedMode.carrier : command.normalMode.carrier[0];
-        m_running = ERunningTest::PuschTx;
-        Transmit(carrier.txPowerValue);
-    }
+    if (verdict.Ok())
+        Start(ERunningTest::PuschTx, UseOf(profile, command));
     return verdict;
 }
 
@@ -72,15 +123,10 @@ SVerdict CRadio::StartRsrp(const SProfile &profile, const SNrRsrpCmdV7 &command)
     const SVerdict verdict = CheckRsrp(profile, command);
     if (!verdict.Ok())
         return verdict;
-    const SRsrpRun run = RsrpRun(profile, command);
-    if (const EStatus cell = CellStatus(run); cell != EStatus::Success)
+    if (const EStatus cell = CellStatus(RsrpRun(profile, command)); cell != EStatus::Success)
         return cell;
-    m_running = ERunningTest::Rsrp;
-    m_rsrp = run;
-    const SNrRsrpCommonV7 &carrier = command.forced == 1 ? command.forcedMode.carrier.common
-                                                         : command.normalMode.carrier[0].common;
-    if (carrier.trxMode == 1)
-        Transmit(carrier.txPowerValue);
+    Start(ERunningTest::Rsrp, UseOf(profile, command));
+    m_rsrp = command;
     return verdict;
 }
 
@@ -97,13 +143,14 @@ SVerdict CRadio::StopMultiMode(uint32_t kind)
     return {};
 }
 
-SVerdict CRadio::Rssi(const SProfile &profile, const SMMRssiCmdV7 &command, SMMRssiCnfV7 &answer)
+SVerdict CRadio::Rssi(const SProfile &profile, ICalibration &calibration,
+                      const SMMRssiCmdV7 &command, SMMRssiCnfV7 &answer)
 {
     if (m_running != ERunningTest::None)
         return EResult::TestRunning;
     const SVerdict verdict = CheckRssi(profile, command);
     if (verdict.Ok())
-        answer = MeasureRssi(profile, command, m_noise);
+        answer = MeasureRssi(profile, command, calibration, m_noise);
     return verdict;
 }
 
@@ -116,21 +163,23 @@ SVerdict CRadio::GainSearch(const SProfile &profile, const SMMGainSearchCmdV7 &c
     return verdict;
 }
 
-SVerdict CRadio::PdValue(const SProfile &profile, uint32_t kind, int16_t &value)
+SVerdict CRadio::PdValue(const SProfile &profile, ICalibration &calibration, uint32_t kind,
+                         int16_t &value)
 {
     if (kind != 1)
         return EResult::PdKind;
-    if (!m_transmits)
+    if (!m_use.isTransmitting)
         return EResult::NotTransmitting;
-    value = MeasurePd(profile.radio, m_txPower, m_noise);
+    value = MeasurePd(profile.radio, calibration.Output(m_use.tx, m_use.txPower), m_noise);
     return {};
 }
 
-void CRadio::MixRxReport(NRfTestResult_GetMixRxReportV7 &report)
+void CRadio::MixRxReport(const SProfile &profile, ICalibration &calibration,
+                         NRfTestResult_GetMixRxReportV7 &report)
 {
     report = {};
     if (m_running == ERunningTest::Rsrp) {
-        const SMixRxReading reading = MeasureMixRx(m_rsrp, m_noise);
+        const SMixRxReading reading = MeasureMixRx(RsrpRun(profile, m_rsrp), calibration, m_noise);
         report = reading.report;
         m_goodBlocks += reading.goodBlocks;
         m_badBlocks += reading.badBlocks;
@@ -164,10 +213,11 @@ SVerdict CRadio::DlFrequency(const SProfile &profile, const SNrDlFreqCmdV7 &comm
     return {};
 }
 
-void CRadio::Transmit(int16_t txPower)
+void CRadio::Start(ERunningTest test, const SRadioUse &use)
 {
-    m_transmits = true;
-    m_txPower = txPower;
+    m_running = test;
+    m_use = use;
+    m_use.start = std::chrono::steady_clock::now();
 }
 
 void CRadio::Stop(ERunningTest one, ERunningTest other)
@@ -175,5 +225,5 @@ void CRadio::Stop(ERunningTest one, ERunningTest other)
     if (m_running != one && m_running != other)
         return;
     m_running = ERunningTest::None;
-    m_transmits = false;
+    m_use = {};
 }

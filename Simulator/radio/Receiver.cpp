@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Simulator/radio/Limiter.h"
 #include "Vond/VondGainRecords.h"
 
 namespace {
@@ -12,7 +13,7 @@ constexpr double kAdcNoise = -80.0;       // dBm at the ADC: 72 dB below its ful
 constexpr double kEdgeLoss = 1.5;         // dB, of the filter at its edges
 constexpr double kBestRfGain = 45.0;      // dB; the gain's residual error grows away from it
 constexpr double kGainError = 0.02;       // dB a dB
-constexpr double kKnee = 3.0;             // sharpness of the limiter
+constexpr double kKnee = 3.0;  // sharpness of the limiter, straight to 5 dB below full scale
 
 // Blocks at the rate of 5 %: the reference channel's -1 dB and 2.5 dB of implementation margin, as
 // 3GPP TS 38.101-1 reckons reference sensitivity.
@@ -30,17 +31,10 @@ double DBm(double milliwatt)
     return 10.0 * std::log10(milliwatt);
 }
 
-// Rapp's limiter: straight up to about 5 dB below full scale, flat above it.
-double Limited(double power, double fullScale)
-{
-    return power -
-           10.0 / kKnee * std::log10(1.0 + std::pow(10.0, kKnee * (power - fullScale) / 10.0));
-}
-
 // At the ADC, with its own noise.
 double AtAdc(double power, double rfGain)
 {
-    return Limited(PowerSum(power + rfGain, kAdcNoise), kAdcFullScale);
+    return Limited(PowerSum(power + rfGain, kAdcNoise), kAdcFullScale, kKnee);
 }
 
 }  // namespace
@@ -92,17 +86,23 @@ uint8_t GainIndex(uint8_t elna, uint8_t mode)
 
 double ReadingOf(double power, double rfGain, double digitalGain)
 {
-    const double word = Limited(AtAdc(power, rfGain) + digitalGain, kAdcFullScale + kDigitalLift);
+    const double word =
+        Limited(AtAdc(power, rfGain) + digitalGain, kAdcFullScale + kDigitalLift, kKnee);
     return word - digitalGain - rfGain + kGainError * (rfGain - kBestRfGain);
+}
+
+double GainInForce(double input, bool lowPower)
+{
+    const double lowest = RfGainOf(kVondHighestElnaMode, kVondHighestGainMode, lowPower);
+    return std::clamp(kAdcTarget - input, lowest, RfGainOf(0, 0, lowPower));
 }
 
 SReception Receive(double signal, double noise, bool lowPower)
 {
     const double input = PowerSum(signal, noise);
-    const double lowest = RfGainOf(kVondHighestElnaMode, kVondHighestGainMode, lowPower);
-    const double gain = std::clamp(kAdcTarget - input, lowest, RfGainOf(0, 0, lowPower));
+    const double gain = GainInForce(input, lowPower);
     SReception reception;
-    reception.total = Limited(input + gain, kAdcFullScale) - gain;
+    reception.total = Limited(input + gain, kAdcFullScale, kKnee) - gain;
     const double compression = input - reception.total;
     reception.signal = signal - compression;
     // What the limiter cuts off counts as distortion.

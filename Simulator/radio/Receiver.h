@@ -53,6 +53,8 @@ struct SReception
     double ratio = 0.0;  // signal to noise and distortion
 };
 
+// The RF gain that the gain control sets for a power at the connector.
+double GainInForce(double input, bool lowPower);
 SReception Receive(double signal, double noise, bool lowPower);
 // Share of the transport blocks that are lost, 0 to 1, at the ratio of all antennas together.
 double BlockErrorRate(double ratio);
