@@ -120,6 +120,7 @@ Simulator/faults Simulator/basis/
 Simulator/profile Simulator/(basis|faults)/
 Simulator/radio Simulator/(basis|profile)/
 Simulator/flash Simulator/(basis|faults|profile|radio)/
+Simulator/scenario Simulator/(basis|faults|profile)/
 Simulator/door Simulator/
 Operations/link
 Operations/capability Operations/link/

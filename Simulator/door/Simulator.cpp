@@ -86,12 +86,6 @@ bool Offers(const SProfile &profile, const SFunction &function)
            profile.functions.end();
 }
 
-void SDut::LosePower()
-{
-    profile.plugged = false;
-    radio = CRadio(profile.radio.seed);
-}
-
 CSimulator &CSimulator::Instance()
 {
     static CSimulator *const instance = new CSimulator;
@@ -101,6 +95,7 @@ CSimulator &CSimulator::Instance()
 CSimulator::CSimulator() : m_journal(Environment("VOND_SIM_JOURNAL"))
 {
     LoadFirstProfile();
+    LoadFirstScenario();
 }
 
 int32_t CSimulator::Run(const SCall &call, const Body &body)
@@ -163,6 +158,7 @@ SFaultPlan CSimulator::Enter(const SFunction &function)
 {
     m_gates.Pass(function.id);
     const std::lock_guard<std::mutex> lock(m_mutex);
+    m_dut.OnCall(function);
     return m_dut.faults.Plan(function);
 }
 
@@ -243,49 +239,38 @@ void CSimulator::Reset()
         m_dut.faults.Clear();
     }
     LoadFirstProfile();
+    LoadFirstScenario();
     m_gates.ReleaseAll();
     m_journal.Clear();
 }
 
-void CSimulator::SetPlugged(bool isPlugged)
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    if (isPlugged)
-        m_dut.profile.plugged = true;
-    else
-        m_dut.LosePower();
-}
-
-void CSimulator::AddFault(const std::string &json)
-{
-    const SFault fault = ParseFault(nlohmann::json::parse(json), "fault");
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_dut.faults.Add(fault);
-}
-
-void CSimulator::ClearFaults()
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_dut.faults.Clear();
-}
-
-const char *CSimulator::RunningTest()
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return TestName(m_dut.radio.Running());
-}
-
 void CSimulator::PutInPlace(SProfile profile, std::string text)
 {
-    std::vector<SFault> faults;
-    for (const std::string &fault : profile.faults)
-        faults.push_back(ParseFault(nlohmann::json::parse(fault), "faults"));
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_dut.profile = std::move(profile);
-    m_dut.radio = CRadio(m_dut.profile.radio.seed);
-    m_dut.flash = CFlash(Environment("VOND_SIM_FLASH"));
-    m_dut.faults.SetProfileFaults(faults);
+    m_dut.PutProfile(std::move(profile), CFlash(Environment("VOND_SIM_FLASH")));
     m_profileText = std::move(text);
+}
+
+void CSimulator::SetScenario(const std::string &nameOrPath)
+{
+    if (nameOrPath.empty())
+        PutScenario(std::nullopt);
+    else
+        PutScenario(ParseScenario(ReadScenarioText(nameOrPath), nameOrPath));
+}
+
+void CSimulator::SetScenarioText(const std::string &text)
+{
+    if (text.empty())
+        PutScenario(std::nullopt);
+    else
+        PutScenario(ParseScenario(text, "scenario text"));
+}
+
+void CSimulator::PutScenario(std::optional<SScenario> scenario)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_dut.PutScenario(std::move(scenario));
 }
 
 void CSimulator::LoadFirstProfile()
@@ -295,5 +280,15 @@ void CSimulator::LoadFirstProfile()
         SetProfile(name.empty() ? "handset" : name);
     } catch (const std::exception &error) {
         std::fprintf(stderr, "VondSim: %s; the DUT is unplugged\n", error.what());
+    }
+}
+
+void CSimulator::LoadFirstScenario()
+{
+    PutScenario(std::nullopt);
+    try {
+        SetScenario(Environment("VOND_SIM_SCENARIO"));
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "VondSim: %s; there is no scenario\n", error.what());
     }
 }

@@ -1,5 +1,4 @@
-// The simulated DUT as a whole: the profile in force, its radio and flash, faults, gates and
-// journal, and the one way that every call takes through them: gate, fault, delay, body, journal.
+// The simulated DUT as a whole: the DUT, gates and journal, and the one way that every call takes through them: gate, scenario, fault, delay, body, journal.
 //
 // All functions may be called from any thread. The state has one lock; it is held while a body
 // runs, never while a call waits at a gate or for a delay. The object is made at the first call and
@@ -15,26 +14,10 @@
 #include <string>
 
 #include "Simulator/basis/Results.h"
+#include "Simulator/door/Dut.h"
 #include "Simulator/door/Journal.h"
-#include "Simulator/faults/Faults.h"
 #include "Simulator/faults/Gates.h"
 #include "Simulator/flash/CalTransfers.h"
-#include "Simulator/flash/FlashCalibration.h"
-#include "Simulator/profile/Profile.h"
-#include "Simulator/radio/Radio.h"
-
-struct SDut
-{
-    SProfile profile;
-    CRadio radio;
-    CFlash flash;
-    CFaultSet faults;
-
-    // What the flash does to the radio.
-    CFlashCalibration Calibration() { return {profile, flash}; }
-    // Without a plug it answers no call; the flash stays, the radio is off.
-    void LosePower();
-};
 
 // Bytes from the caller. Null with a size: the caller passed a null pointer in place of a record.
 struct SConstBytes
@@ -88,11 +71,18 @@ public:
     void SetProfile(const std::string &nameOrPath);
     void SetProfileText(const std::string &text);
     const char *ProfileText();
+    // Empty: none. Throws std::runtime_error for an unknown name or a broken scenario, and changes
+    // nothing then.
+    void SetScenario(const std::string &nameOrPath);
+    void SetScenarioText(const std::string &text);
     void Reset();
-    void SetPlugged(bool isPlugged);
-    void AddFault(const std::string &json);
-    void ClearFaults();
-    const char *RunningTest();
+    // A look at the DUT, or a change of it, while no call is carried out.
+    template <class Job>
+    auto WithDut(const Job &job)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return job(m_dut);
+    }
 
     CGates &Gates() { return m_gates; }
     CJournal &Journal() { return m_journal; }
@@ -113,7 +103,9 @@ private:
                    const Body &body);
     SVerdict Admit(const SCall &call, const SFunction &function) const;
     void PutInPlace(SProfile profile, std::string text);
+    void PutScenario(std::optional<SScenario> scenario);
     void LoadFirstProfile();
+    void LoadFirstScenario();
 
     CGates m_gates;
     CJournal m_journal;

@@ -3,26 +3,14 @@
 #include "Simulator/VondSim.h"
 
 #include <cstdio>
-#include <exception>
 #include <string>
 
+#include "Simulator/basis/JsonText.h"
+#include "Simulator/door/Errors.h"
 #include "Simulator/door/Simulator.h"
 #include "Simulator/profile/BuiltinProfiles.h"
 
 namespace {
-
-// Runs a job that may throw: 0, or -1 with one line on stderr.
-template <class Job>
-int32_t Guarded(const char *consequence, const Job &job)
-{
-    try {
-        job();
-        return 0;
-    } catch (const std::exception &error) {
-        std::fprintf(stderr, "VondSim: %s%s\n", error.what(), consequence);
-    }
-    return -1;
-}
 
 constexpr char kUnplugged[] = "; the DUT is unplugged";
 
@@ -72,17 +60,20 @@ void VondSim_Reset(void)
 
 void VondSim_SetPlugged(int32_t isPlugged)
 {
-    CSimulator::Instance().SetPlugged(isPlugged != 0);
+    CSimulator::Instance().WithDut([&](SDut &dut) { dut.SetPlugged(isPlugged != 0); });
 }
 
 int32_t VondSim_AddFault(const char *json)
 {
-    return Guarded("", [&] { CSimulator::Instance().AddFault(TextOf(json)); });
+    return Guarded("", [&] {
+        const SFault fault = ParseFault(ParseJsonText(TextOf(json)), "fault");
+        CSimulator::Instance().WithDut([&](SDut &dut) { dut.faults.Add(fault); });
+    });
 }
 
 void VondSim_ClearFaults(void)
 {
-    CSimulator::Instance().ClearFaults();
+    CSimulator::Instance().WithDut([](SDut &dut) { dut.faults.Clear(); });
 }
 
 void VondSim_Hold(const char *function)
@@ -106,7 +97,7 @@ int32_t VondSim_WaitUntilHeld(const char *function, uint32_t timeoutMs)
 
 const char *VondSim_RunningTest(void)
 {
-    return CSimulator::Instance().RunningTest();
+    return CSimulator::Instance().WithDut([](SDut &dut) { return TestName(dut.radio.Running()); });
 }
 
 uint32_t VondSim_CallCount(void)

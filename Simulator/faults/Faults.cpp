@@ -1,9 +1,8 @@
 #include "Simulator/faults/Faults.h"
 
-#include <algorithm>
-
 #include "Simulator/basis/JsonReader.h"
 #include "Simulator/basis/Results.h"
+#include "Simulator/faults/FaultKinds.h"
 #include "Vond/VondCapabilityRecords.h"
 
 namespace {
@@ -34,22 +33,6 @@ EFaultKind ReadKind(CJsonReader &reader)
     CJsonReader::Fail(reader.Place("kind"), "\"" + name + "\" is an unknown kind");
 }
 
-const SFunction *ReadFunction(CJsonReader &reader)
-{
-    const std::string name = reader.Text("function", 63);
-    if (name == "*")
-        return nullptr;
-    const SFunction *function = FindFunction(name);
-    if (function == nullptr)
-        CJsonReader::Fail(reader.Place("function"), "\"" + name + "\" is an unknown function");
-    return function;
-}
-
-bool IsOfTheFlash(EFaultKind kind)
-{
-    return kind == EFaultKind::PowerCut || kind == EFaultKind::Stuck;
-}
-
 int HexDigit(char digit)
 {
     static constexpr std::string_view kDigits = "0123456789abcdef";
@@ -73,28 +56,6 @@ std::vector<uint8_t> ReadHex(CJsonReader &reader, const char *key)
     return bytes;
 }
 
-// A function that returns a text can show a null text or a delay, and no other fault.
-bool CanShow(const SFunction &function, EFaultKind kind)
-{
-    const bool isText = function.kind == EFunctionKind::Library;
-    switch (kind) {
-    case EFaultKind::Fail:
-    case EFaultKind::Noise:
-    case EFaultKind::Bytes:
-        return !isText;
-    case EFaultKind::Status:
-        return function.HasStatus();
-    case EFaultKind::NullText:
-        return isText;
-    case EFaultKind::PowerCut:
-    case EFaultKind::Stuck:
-        return function.id == EFunction::SetCalData;
-    case EFaultKind::Delay:
-        break;
-    }
-    return true;
-}
-
 void ReadFlashFault(CJsonReader &reader, SFault &fault)
 {
     fault.function = &FunctionOf(EFunction::SetCalData);
@@ -111,12 +72,13 @@ SFault ParseFault(const nlohmann::json &json, const std::string &place)
 {
     SFault fault;
     CJsonReader reader(json, place);
+    fault.text = json.dump();
     fault.kind = ReadKind(reader);
     if (IsOfTheFlash(fault.kind)) {
         ReadFlashFault(reader, fault);
         return fault;
     }
-    fault.function = ReadFunction(reader);
+    fault.function = ReadFunctionName(reader.Text("function", 63), reader.Place("function"));
     if (fault.function != nullptr && !CanShow(*fault.function, fault.kind))
         CJsonReader::Fail(reader.Place("kind"),
                           "does not go with " + std::string(fault.function->name));
@@ -145,102 +107,11 @@ SFault ParseFault(const nlohmann::json &json, const std::string &place)
     return fault;
 }
 
-void CFaultSet::SetProfileFaults(const std::vector<SFault> &faults)
+const char *FaultKindName(EFaultKind kind)
 {
-    m_states.erase(std::remove_if(m_states.begin(), m_states.end(),
-                                  [](const SState &state) { return state.ofProfile; }),
-                   m_states.end());
-    for (const SFault &fault : faults)
-        m_states.push_back(NewState(fault, true));
-}
-
-void CFaultSet::Add(const SFault &fault)
-{
-    m_states.push_back(NewState(fault, false));
-}
-
-void CFaultSet::Clear()
-{
-    m_states.clear();
-}
-
-SFaultPlan CFaultSet::Plan(const SFunction &function)
-{
-    SFaultPlan plan;
-    for (SState &state : m_states) {
-        const SFault &fault = state.fault;
-        if (fault.function != nullptr && fault.function->id != function.id)
-            continue;
-        if (!Fires(state) || !CanShow(function, fault.kind))
-            continue;
-        switch (fault.kind) {
-        case EFaultKind::Fail:
-            plan.result = fault.result;
-            break;
-        case EFaultKind::Status:
-            plan.status = fault.status;
-            break;
-        case EFaultKind::Delay:
-            plan.delayMs += fault.delayMs;
-            break;
-        case EFaultKind::NullText:
-            plan.nullText = true;
-            break;
-        case EFaultKind::Noise:
-            plan.noiseSeed = fault.seed + state.fired;
-            break;
-        case EFaultKind::Bytes:
-            plan.patches.push_back(fault.patch);
-            break;
-        case EFaultKind::PowerCut:
-        case EFaultKind::Stuck:
-            break;  // see OfFlash
-        }
+    for (const SKindRow &row : kKinds) {
+        if (row.kind == kind)
+            return row.name;
     }
-    return plan;
-}
-
-SFlashFaults CFaultSet::OfFlash() const
-{
-    SFlashFaults faults;
-    for (const SState &state : m_states) {
-        const SFault &fault = state.fault;
-        if (fault.kind == EFaultKind::Stuck)
-            faults.stuck.push_back(fault.stuck);
-        if (fault.kind == EFaultKind::PowerCut && !state.isOver &&
-            (!faults.cut || fault.cut.blocksBefore < faults.cut->blocksBefore))
-            faults.cut = fault.cut;
-    }
-    return faults;
-}
-
-void CFaultSet::CountBlocks(uint32_t blocks, bool isCut)
-{
-    for (SState &state : m_states) {
-        uint32_t &left = state.fault.cut.blocksBefore;
-        left -= std::min(blocks, left);
-        state.isOver = state.isOver || (isCut && left == 0);
-    }
-}
-
-CFaultSet::SState CFaultSet::NewState(const SFault &fault, bool ofProfile)
-{
-    SState state;
-    state.fault = fault;
-    state.ofProfile = ofProfile;
-    state.draw.seed(fault.seed);
-    return state;
-}
-
-bool CFaultSet::Fires(SState &state)
-{
-    ++state.calls;
-    bool fires = true;
-    if (state.fault.nth != 0)
-        fires = state.calls == state.fault.nth;
-    else if (state.fault.probability)
-        fires = static_cast<double>(state.draw()) < *state.fault.probability * 4294967296.0;
-    if (fires)
-        ++state.fired;
-    return fires;
+    return "";
 }

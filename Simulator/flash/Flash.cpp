@@ -62,3 +62,13 @@ bool CFlash::Keep() const
     }
     return false;
 }
+
+bool CFlash::Restore(const SProfile &profile)
+{
+    SFlashImage old = Image(profile);
+    m_image = Factory(profile);
+    if (Keep())
+        return true;
+    m_image = std::move(old);
+    return false;
+}

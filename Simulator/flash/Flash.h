@@ -32,6 +32,8 @@ public:
     const std::string &Path() const { return m_path; }
     // Writes the image to the file, whole or not at all. False, and a line on stderr: it failed.
     bool Keep() const;
+    // Factory data again, in the file too. False: the file could not be written, nothing has changed.
+    bool Restore(const SProfile &profile);
 
 private:
     std::string m_path;

@@ -1,9 +1,8 @@
 #include "Simulator/profile/ProfileJson.h"
 
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
 
+#include "Simulator/basis/JsonText.h"
 #include "Simulator/profile/BuiltinProfiles.h"
 #include "Simulator/profile/ProfileCalibration.h"
 #include "Simulator/profile/ProfileRadio.h"
@@ -12,21 +11,6 @@
 using nlohmann::json;
 
 namespace {
-
-// A profile is far smaller than this; a larger file is a wrong path.
-constexpr std::streamoff kLargestFile = 8 * 1024 * 1024;
-
-// No profile nests deeper. With the limit a broken file cannot exhaust the stack.
-constexpr int kDeepest = 16;
-
-json ParseText(const std::string &text)
-{
-    return json::parse(text, [](int depth, json::parse_event_t, json &) {
-        if (depth > kDeepest)
-            throw std::runtime_error("nests too deep");
-        return true;
-    });
-}
 
 const char *BuiltinText(const std::string &name)
 {
@@ -55,7 +39,7 @@ json WithBase(json own, int depth)
     const char *text = BuiltinText(base);
     if (text == nullptr || depth == 0)
         CJsonReader::Fail("base", "\"" + base + "\" is none of " + BuiltinNames());
-    json merged = WithBase(ParseText(text), depth - 1);
+    json merged = WithBase(ParseJsonText(text), depth - 1);
     merged.merge_patch(own);
     return merged;
 }
@@ -152,34 +136,16 @@ std::string ReadProfileText(const std::string &nameOrPath)
 {
     if (const char *text = BuiltinText(nameOrPath))
         return text;
-    std::ifstream file(nameOrPath, std::ios::binary | std::ios::ate);
-    if (!file)
-        throw std::runtime_error(nameOrPath + ": no such file, and none of the built-in profiles " +
-                                 BuiltinNames());
-    const std::streamoff size = file.tellg();
-    if (size < 0 || size > kLargestFile)
-        throw std::runtime_error(nameOrPath + ": is not a profile file");
-    file.seekg(0);
-    std::ostringstream text;
-    if (size > 0)
-        text << file.rdbuf();
-    if (!file || !text)
-        throw std::runtime_error(nameOrPath + ": cannot be read");
-    return text.str();
+    return ReadTextFile(nameOrPath, "a profile file",
+                        "no such file, and none of the built-in profiles " + BuiltinNames());
 }
 
 SProfile ParseProfile(const std::string &text, const std::string &source)
 {
     try {
-        return ReadProfile(WithBase(ParseText(text), 4));
+        return ReadProfile(WithBase(ParseJsonText(text), 4));
     } catch (const std::exception &error) {
-        // A parser's message may quote line ends of the text; the report stays one line.
-        std::string reason = error.what();
-        for (char &character : reason) {
-            if (character == '\n' || character == '\r')
-                character = ' ';
-        }
-        throw std::runtime_error(source + ": " + reason);
+        throw std::runtime_error(source + ": " + OneLine(error.what()));
     }
 }
 
