@@ -8,7 +8,7 @@
 
 #include <optional>
 
-#include "Simulator/faults/Faults.h"
+#include "Simulator/faults/FaultSet.h"
 #include "Simulator/flash/FlashCalibration.h"
 #include "Simulator/profile/Profile.h"
 #include "Simulator/radio/Radio.h"

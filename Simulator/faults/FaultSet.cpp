@@ -1,11 +1,7 @@
-// The faults in force: what fires on which call.
-
-#include "Simulator/faults/Faults.h"
+#include "Simulator/faults/FaultSet.h"
 
 #include <algorithm>
 #include <utility>
-
-#include "Simulator/faults/FaultKinds.h"
 
 void CFaultSet::SetProfileFaults(const std::vector<SFault> &faults)
 {

@@ -151,7 +151,7 @@ struct SProfile
     SMMRfRxGainInfoV7 gain[kVondRxPowerModes] = {};
     SProfileRadio radio;
     SProfileCalibration calibration;
-    std::vector<std::string> faults;  // JSON objects, see Faults.h
+    std::vector<std::string> faults;  // JSON objects, see Fault.h
 };
 
 // The first row of the route, of the band when band is not 0; null when there is none.

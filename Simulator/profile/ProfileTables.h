@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Simulator/basis/JsonReader.h"
-#include "Simulator/faults/Faults.h"
+#include "Simulator/faults/Fault.h"
 #include "Simulator/profile/Profile.h"
 #include "Trace/dictionary/Functions.h"
 

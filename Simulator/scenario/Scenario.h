@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "Simulator/faults/Faults.h"
+#include "Simulator/faults/FaultSet.h"
 
 // Exactly one of fault, radio and plugged is there.
 struct SScenarioStep
