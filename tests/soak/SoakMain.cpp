@@ -2,6 +2,7 @@
 // fetch.
 //
 //   RsrpSoak --minutes 65 --seed 1     the soak, a line a minute; ends with 1 when memory grew
+//   RsrpSoak --minutes 65 --plot       with the page's plot open; ends with 1 also when it costs too much
 //   RsrpSoak --fetches 10              a short run of so many fetches; also without arguments
 //
 // Ends with 2 when the page does not do what it should, or opens a box.
@@ -42,7 +43,8 @@ int main(int argc, char **argv)
     const QCommandLineOption minutes("minutes", "Length of the soak.", "minutes");
     const QCommandLineOption fetches("fetches", "Length of a short run.", "fetches", "10");
     const QCommandLineOption seed("seed", "Decides which action comes when.", "seed", "1");
-    parser.addOptions({minutes, fetches, seed});
+    const QCommandLineOption plot("plot", "With the page's plot open.");
+    parser.addOptions({minutes, fetches, seed, plot});
     parser.addHelpOption();
     parser.process(application);
 
@@ -50,7 +52,7 @@ int main(int argc, char **argv)
     QObject::connect(&boxes, &QTimer::timeout, EndAtABox);
     boxes.start(5000);
     try {
-        CSoakRun run(parser.value(seed).toUInt());
+        CSoakRun run(parser.value(seed).toUInt(), parser.isSet(plot));
         if (parser.isSet(minutes))
             return run.Minutes(parser.value(minutes).toInt()) ? 0 : 1;
         run.Fetches(parser.value(fetches).toInt());

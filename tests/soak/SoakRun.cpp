@@ -13,6 +13,7 @@ namespace {
 constexpr int kHalfAMinute = 30000;  // ms
 constexpr int kFewestAnswers = 5;    // between two actions
 constexpr int kMostAnswers = 40;
+constexpr double kMostPlotCost = 1.3;  // times a fetch without it
 
 double Megabytes(std::size_t bytes)
 {
@@ -21,22 +22,23 @@ double Megabytes(std::size_t bytes)
 
 }  // namespace
 
-CSoakRun::CSoakRun(unsigned seed) : m_chance(seed) {}
+CSoakRun::CSoakRun(unsigned seed, bool hasPlot) : m_chance(seed), m_hasPlot(hasPlot) {}
 
 bool CSoakRun::Minutes(int minutes)
 {
-    std::printf("| Minute | Resident, MB | In use, MB | Actions | Fetches | Rows at the end | "
-                "Tick to rows, ms | worst | GUI thread works, ms a fetch | worst | "
-                "Longest event works, ms | passes |\n"
-                "|---|---|---|---|---|---|---|---|---|---|---|---|\n");
+    PrintHead();
     m_user.Begin();
+    if (m_hasPlot)
+        m_user.ShowPlot(true);
     for (int minute = 1; minute <= minutes; ++minute) {
         m_clock.TakeCost();
         CSoakApplication::Instance()->TakeLongest();
         const int answers = m_clock.Answers();
         ActForHalfAMinute();
-        RunForHalfAMinute();
-        m_cost = m_clock.TakeCost();
+        if (m_hasPlot)
+            RunWithAndWithoutPlot();
+        else
+            RunForHalfAMinute();
         m_longest = CSoakApplication::Instance()->TakeLongest();
         m_fetches = m_clock.Answers() - answers;
         m_memory.push_back(ClearAndMeasure());
@@ -44,22 +46,39 @@ bool CSoakRun::Minutes(int minutes)
     }
     if (m_clock.Skipped() > 0)
         std::printf("\n%d ticks were skipped, since an answer was late.\n", m_clock.Skipped());
-    return IsSteady();
+    const bool isSteady = IsSteady();
+    return IsPlotCheap() && isSteady;
+}
+
+void CSoakRun::PrintHead() const
+{
+    std::printf("| Minute | Resident, MB | In use, MB | Actions | Fetches | Rows at the end | "
+                "Tick to rows, ms | worst | GUI thread works, ms a fetch | worst | "
+                "Longest event works, ms | passes |%s\n"
+                "|---|---|---|---|---|---|---|---|---|---|---|---|%s\n",
+                m_hasPlot ? " Without the plot: works, ms a fetch | worst | Ratio |" : "",
+                m_hasPlot ? "---|---|---|" : "");
 }
 
 void CSoakRun::PrintMinute() const
 {
-    std::printf("| %zu | %.3f | %.3f | %d | %d | %d | %.1f | %.1f | %.1f | %.1f | %.1f | %.1f |\n",
+    std::printf("| %zu | %.3f | %.3f | %d | %d | %d | %.1f | %.1f | %.1f | %.1f | %.1f | %.1f |",
                 m_memory.size(), Megabytes(m_memory.back().resident),
                 Megabytes(m_memory.back().inUse), m_actions, m_fetches, m_rows,
                 m_cost.toRows.Mean(), m_cost.toRows.worst, m_cost.gui.Mean(), m_cost.gui.worst,
                 m_longest.worked, m_longest.passed);
+    if (m_hasPlot)
+        std::printf(" %.1f | %.1f | %.2f |", m_without.gui.Mean(), m_without.gui.worst,
+                    m_cost.gui.Mean() / m_without.gui.Mean());
+    std::printf("\n");
     std::fflush(stdout);
 }
 
 void CSoakRun::Fetches(int fetches)
 {
     m_user.Begin();
+    if (m_hasPlot)
+        m_user.ShowPlot(true);
     const int turns = CSoakUser::Actions() + 1;
     for (int turn = 0; turn < turns; ++turn) {
         m_user.WaitForAnswers(std::max(1, fetches / turns));
@@ -94,6 +113,32 @@ void CSoakRun::RunForHalfAMinute()
     m_user.Start();
     m_clock.Disturb();
     m_user.WaitForAnswers(kHalfAMinute / kSoakPeriod);
+    m_cost = m_clock.TakeCost();
+}
+
+void CSoakRun::RunWithAndWithoutPlot()
+{
+    m_clock.Disturb();
+    m_user.Stop();
+    m_user.Start();
+    const bool isWithFirst = m_memory.size() % 2 == 0;
+    for (const bool isWith : {isWithFirst, !isWithFirst}) {
+        m_user.ShowPlot(isWith);
+        (isWith ? m_cost : m_without) = RunUndisturbed(kHalfAMinute / kSoakPeriod / 2);
+        (isWith ? m_guiWith : m_guiWithout).Add((isWith ? m_cost : m_without).gui.Mean());
+    }
+    m_user.ShowPlot(true);
+}
+
+// The first answer ends what was under way.
+SFetchCost CSoakRun::RunUndisturbed(int fetches)
+{
+    m_clock.Disturb();
+    m_user.WaitForAnswers(1);
+    m_clock.Disturb();
+    m_clock.TakeCost();
+    m_user.WaitForAnswers(fetches - 1);
+    return m_clock.TakeCost();
 }
 
 SMemory CSoakRun::ClearAndMeasure()
@@ -123,4 +168,17 @@ bool CSoakRun::IsSteady() const
                     kMostGrowth, growth.Holds() ? "holds" : "FAILS");
     }
     return isSteady;
+}
+
+bool CSoakRun::IsPlotCheap() const
+{
+    if (!m_hasPlot)
+        return true;
+    const double ratio = m_guiWith.Mean() / m_guiWithout.Mean();
+    const bool holds = ratio <= kMostPlotCost;
+    std::printf("GUI thread a fetch: %.2f ms with the plot, %.2f ms without: %.2f times, at most "
+                "%.1f times: %s\n",
+                m_guiWith.Mean(), m_guiWithout.Mean(), ratio, kMostPlotCost,
+                holds ? "holds" : "FAILS");
+    return holds;
 }

@@ -6,9 +6,12 @@
 // of so many fetches; the first half has the actions. The simulated DUT's journal is emptied with
 // the table; it would grow with every call.
 //
+// With the plot, its window stands open all the time, but for one half of the undisturbed run: there the
+// fetches cost what they cost without it. Which half that is changes from minute to minute.
+//
 // Both functions throw std::runtime_error when the page does not do what it should. GUI thread.
 //
-//   CSoakRun run(1);
+//   CSoakRun run(1, false);
 //   const bool isSteady = run.Minutes(65);
 #pragma once
 
@@ -23,9 +26,10 @@ class CSoakRun
 {
 public:
     // The seed decides which action comes when.
-    explicit CSoakRun(unsigned seed);
+    CSoakRun(unsigned seed, bool hasPlot);
 
-    // Prints a line a minute. False when memory grew by more than 2 % after the fifth.
+    // Prints a line a minute. False when memory grew by more than 2 % after the fifth, or when fetches
+    // with the plot cost the GUI thread more than 1.3 times of those without.
     bool Minutes(int minutes);
     // A short run: every action once, with so many fetches in all, at least one each.
     void Fetches(int fetches);
@@ -33,18 +37,26 @@ public:
 private:
     void ActForHalfAMinute();
     void RunForHalfAMinute();
+    void RunWithAndWithoutPlot();
+    SFetchCost RunUndisturbed(int fetches);
+    void PrintHead() const;
     void PrintMinute() const;
     SMemory ClearAndMeasure();
     bool IsSteady() const;
+    bool IsPlotCheap() const;
 
     CSoakClock m_clock;
     CSoakUser m_user{m_clock};
     std::mt19937 m_chance;
+    const bool m_hasPlot;
     std::vector<SMemory> m_memory;  // after each minute
+    SSpread m_guiWith;              // undisturbed fetches of all minutes
+    SSpread m_guiWithout;
     // Of this minute.
     int m_rows = 0;  // on the table before Clear
     int m_actions = 0;
     int m_fetches = 0;
-    SFetchCost m_cost;
+    SFetchCost m_cost;     // with a plot: of the undisturbed fetches beside it
+    SFetchCost m_without;  // of those without it
     SStretch m_longest = {};
 };

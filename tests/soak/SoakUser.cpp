@@ -3,6 +3,7 @@
 #include <iterator>
 #include <stdexcept>
 
+#include <QAction>
 #include <QPushButton>
 #include <QSpinBox>
 
@@ -50,6 +51,21 @@ void CSoakUser::Begin()
     if (!m_clock.Watch(m_session.Page()))
         throw std::runtime_error("the page has no report timer");
     Start();
+}
+
+QWidget *CSoakUser::PlotWindow() const
+{
+    return m_session.Page()->findChild<QWidget *>("CPlotWindow", Qt::FindDirectChildrenOnly);
+}
+
+void CSoakUser::ShowPlot(bool isShown)
+{
+    if (!isShown)
+        PlotWindow()->close();
+    else if (auto *action = m_session.Page()->findChild<QAction *>("m_actionPlot"))
+        action->trigger();
+    const char *what = isShown ? "the plot" : "the end of the plot";
+    Await(what, [this, isShown] { return PlotWindow() && PlotWindow()->isVisible() == isShown; });
 }
 
 void CSoakUser::WaitForAnswers(int count)

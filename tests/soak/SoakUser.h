@@ -1,6 +1,8 @@
 // A person at the RSRP Normal Mode page: starts and stops the test, clears the table, resets the
 // counters, looks at another page and comes back.
 //
+// With a plot, the page's plot stands beside the tool from the first start on; it can be closed and opened.
+//
 // The test runs at the shortest period with the most rows a fetch, 4x4. Each action begins and ends
 // with a running test. Every function waits for what it does and throws std::runtime_error, with
 // what was expected, when that does not come. GUI thread.
@@ -35,6 +37,8 @@ public:
     // answers.
     void Clear();
     int Rows() const { return m_session.Rows(); }
+    // Opens the plot's window by the page's action, or closes it as a person does.
+    void ShowPlot(bool isShown);
 
     static int Actions();
     void Act(int action);
@@ -45,6 +49,7 @@ private:
 
     bool IsOn(const char *button) const;
     void Await(const char *what, const std::function<bool()> &condition);
+    QWidget *PlotWindow() const;
     void CheckRows();
     void AwaitIdle();
     void Restart();
