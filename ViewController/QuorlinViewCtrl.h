@@ -41,6 +41,7 @@
 #include "Model/CalChanges.h"
 #include "Model/CalDifferences.h"
 #include "Model/CalRemarks.h"
+#include "Model/CalSecondImage.h"
 #include "Model/GuardedPlan.h"
 #include "Model/HandedDocument.h"
 #include "Model/OperationResult.h"
@@ -85,6 +86,8 @@ public:
     // page, whose edits go into memory first.
     void RequestComparison(ECalItem item, CHandedDocument document, SComparedSide left,
                            SComparedSide right);
+    // One side alone, answered by Signal_SecondImageDone.
+    void RequestSecondImage(ECalItem item, CHandedDocument document, SComparedSide side);
     // A guarded write of what the page holds: first the plan, answered by Signal_GuardedPlanDone, then,
     // after the user's yes, the write of that plan, by Signal_GuardedWriteDone.
     void RequestGuardedPlan(ECalItem item, CHandedDocument document);
@@ -316,6 +319,7 @@ signals:
     void Signal_CalRemarks(SCalRemarks remarks);
 
     void Signal_ComparisonDone(SCalCompared compared);
+    void Signal_SecondImageDone(SCalSecondRead read);
     void Signal_GuardedPlanDone(SGuardedPlan plan);
     void Signal_GuardedWriteDone(SGuardedReport report);
     // How far a comparison or a guarded write is, with the step in words.

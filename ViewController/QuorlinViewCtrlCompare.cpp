@@ -14,6 +14,11 @@ inline SCalCompared AnswerOfNothing()
     return {.result = {QString(), eStatusNotExecuted, QLatin1String(kEndedEarly)}};
 }
 template <>
+inline SCalSecondRead AnswerOfNothing()
+{
+    return {.result = {QString(), eStatusNotExecuted, QLatin1String(kEndedEarly)}};
+}
+template <>
 inline SGuardedPlan AnswerOfNothing()
 {
     return {.refusal = QLatin1String(kEndedEarly)};
@@ -51,6 +56,16 @@ void CQuorlinViewCtrl::RequestComparison(ECalItem item, CHandedDocument document
              right = std::move(right)](CNrCore &core) mutable {
                 core.SetCalibrationData(item, document.Take());
                 return std::make_tuple(core.CompareCal(item, left, right));
+            });
+}
+
+void CQuorlinViewCtrl::RequestSecondImage(ECalItem item, CHandedDocument document,
+                                          SComparedSide side)
+{
+    RunWork(item, "SecondImageInternal", &CQuorlinViewCtrl::Signal_SecondImageDone,
+            [item, document = std::move(document), side = std::move(side)](CNrCore &core) mutable {
+                core.SetCalibrationData(item, document.Take());
+                return std::make_tuple(core.ReadSecondImage(item, side));
             });
 }
 

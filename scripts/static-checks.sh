@@ -72,12 +72,12 @@ View/editors View/access|Support
 View/engine View/editors|View/access|Model|Support
 View/compare View/engine|View/editors|View/access|Model|Support|ViewController
 View/undo View/engine|View/editors|View/access|Model|Support|ViewController
-View/pages View/compare|View/undo|View/settings|View/engine|View/editors|View/access|Model|Support|ViewController
+View/pages View/compare|View/plots|View/undo|View/settings|View/engine|View/editors|View/access|Model|Support|ViewController
 View/results View/engine|View/editors|View/access|Model|Support|ViewController
 View/log View/engine|View/editors|View/access|Model|Support
 View/settings View/engine|View/editors|View/access|Support
 View/entry View/engine|View/editors|View/access|Model|Support
-View/plots View/engine|View/editors|View/access|Model|Support
+View/plots View/compare|View/engine|View/editors|View/access|Model|Support|ViewController
 View/form View/entry|View/log|View/settings|View/engine|View/editors|View/access|Model|Support|ViewController
 View/Rx View/results|View/pages|View/plots|View/engine|View/editors|View/access|Model|Support|ViewController
 View/Tx View/results|View/pages|View/plots|View/engine|View/editors|View/access|Model|Support|ViewController

@@ -43,6 +43,7 @@
 #include "Controller/core/TestSteps.h"
 #include "Model/CalChanges.h"
 #include "Model/CalDifferences.h"
+#include "Model/CalSecondImage.h"
 #include "Model/GuardedPlan.h"
 #include "Model/HandedDocument.h"
 #include "Model/OperationResult.h"
@@ -186,6 +187,9 @@ public:
     // a copy of the other side: what it has no key for is no difference. Signal_CalWork tells how far
     // it is. Pool threads only.
     SCalCompared CompareCal(ECalItem item, const SComparedSide &left, const SComparedSide &right);
+    // One side alone, to be shown beside a page. An INI file is loaded onto a copy of memory. The same
+    // holds as of CompareCal.
+    SCalSecondRead ReadSecondImage(ECalItem item, const SComparedSide &side);
 
     // A guarded write of what the item's memory holds. Plan reads flash and writes nothing; Carry saves
     // a backup, sends what differs and reads it back. Behind a reset between the two nothing is sent.

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "Controller/calibration/CalDifferences.h"
+#include "Controller/core/CalSecondImage.h"
 #include "Controller/guard/CalBackup.h"
 #include "Model/StatusTable.h"
 #include "Operations/calibration/CalResult.h"
@@ -134,4 +135,27 @@ SCalCompared CNrCore::CompareCal(ECalItem item, const SComparedSide &left,
         fail(kCalNoFile, QString::fromUtf8(failure.what()));
     }
     return compared;
+}
+
+SCalSecondRead CNrCore::ReadSecondImage(ECalItem item, const SComparedSide &side)
+{
+    const CLockSentry lock(m_targetLock);
+    SCalSecondRead read{.result = {CalItemName(item), eStatusSuccess, {}}};
+    const auto fail = [&](uint32_t code, const QString &text) {
+        read.result.status = static_cast<int>(code);
+        read.result.message = text;
+    };
+    try {
+        RenewCalItems();
+        SCalImage image;
+        const SCalFault fault =
+            TakeSide(item, side, IsIni(side) ? MemoryImage(item) : SCalImage(), image);
+        if (fault)
+            fail(fault.code, fault.text);
+        else
+            read.image = std::make_shared<CCalSecondImage>(item, image, CalView(item).gains);
+    } catch (const std::exception &failure) {
+        fail(kCalNoFile, QString::fromUtf8(failure.what()));
+    }
+    return read;
 }

@@ -7,7 +7,6 @@
 #include "View/engine/ColumnCells.h"
 #include "View/pages/CalibrationTables.h"
 #include "View/plots/CalibrationPlot.h"
-#include "View/plots/PlotAction.h"
 #include "ui_NrRxPathlossDockWidgetV7.h"
 
 namespace {
@@ -65,8 +64,7 @@ constexpr SCalibrationCurves kCurves = {
     .key = "pathLoss",
     .x = "DL frequency (MHz)",
     .left = "Path loss (dB)",
-    .frequencies = "calDataIf_data_group4_memberProperty_freq",
-    .tables = kCurveTables,
+    .curves = {.frequencies = "calDataIf_data_group4_memberProperty_freq", .tables = kCurveTables},
     .selector = "calDataIf_config_group1_memberProperty_routeType",
     .selected = "Type1",
     .otherwise = "The page shows the losses of a route of type 2 at one frequency: no curve.",
@@ -99,7 +97,7 @@ CNrRxPathlossDockWidgetV7::CNrRxPathlossDockWidgetV7(QWidget *parent)
     m_ui->m_lblFreq->setText(QStringLiteral("0"));
     PlaceTabBar(m_ui->calDataIf_config_group1_memberProperty_type2GainModeIdx, m_ui->m_type1Tables,
                 m_ui->calDataIf_data_group2_memberProperty_lna0);
-    AddPlotAction(this, new CCalibrationPlot(this, kCurves));
+    AddPlot(kCurves);
 }
 
 CNrRxPathlossDockWidgetV7::~CNrRxPathlossDockWidgetV7() = default;

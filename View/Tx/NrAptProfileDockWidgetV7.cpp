@@ -3,7 +3,6 @@
 #include "View/editors/TabOrder.h"
 #include "View/pages/CalibrationTables.h"
 #include "View/plots/CalibrationPlot.h"
-#include "View/plots/PlotAction.h"
 #include "ui_NrAptProfileDockWidgetV7.h"
 
 namespace {
@@ -45,8 +44,8 @@ constexpr SCalibrationCurves kCurves = {
     .key = "apt",
     .x = "UL frequency (MHz)",
     .left = "PA gain (dB)",
-    .frequencies = "calDataIf_data_group12_memberProperty_ulFreq",
-    .tables = kCurveTables,
+    .curves = {.frequencies = "calDataIf_data_group12_memberProperty_ulFreq",
+               .tables = kCurveTables},
 };
 
 }  // namespace
@@ -66,7 +65,7 @@ CNrAptProfileDockWidgetV7::CNrAptProfileDockWidgetV7(QWidget *parent)
     AddCompare(m_ui->m_btnCompare, m_ui->m_btnGuardedWrite);
     PlaceTabBar(m_ui->calDataIf_data_group12_memberProperty_ulFreq, m_ui->m_tables,
                 m_ui->calDataIf_data_group7_memberProperty_paHighPaGain);
-    AddPlotAction(this, new CCalibrationPlot(this, kCurves));
+    AddPlot(kCurves);
 }
 
 CNrAptProfileDockWidgetV7::~CNrAptProfileDockWidgetV7() = default;

@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QDir>
 
-#include "Support/Log.h"
 #include "Support/MessageBoxMan.h"
 #include "View/compare/CompareWindow.h"
 #include "View/compare/GuardedWriteDialog.h"
@@ -36,7 +35,8 @@ QStringList Lines(const ICalDifferences &differences)
 
 }  // namespace
 
-CCalCompare::CCalCompare(SComparePage page) : QObject(page.widget), m_page(std::move(page))
+CCalCompare::CCalCompare(const SComparePage &page)
+    : QObject(page.widget), m_page(page), m_work(page)
 {
     connect(m_page.viewCtrl, &CQuorlinViewCtrl::Signal_ComparisonDone, this,
             &CCalCompare::ShowComparison);
@@ -70,30 +70,6 @@ void CCalCompare::AddActions(QAbstractButton *compare, QAbstractButton *guardedW
     add("m_actionGuardedWrite", "Ctrl+Shift+W", guardedWrite);
 }
 
-bool CCalCompare::Begin(const QString &work)
-{
-    if (!m_page.begin())
-        return false;
-    qCDebug(lcForm) << work;
-    connect(m_page.viewCtrl, &CQuorlinViewCtrl::Signal_CalWork, this,
-            [this, work](const QString &step, int routesDone, int routesInAll) {
-                m_page.showProgress(routesDone, routesInAll);
-                if (routesInAll > 0)
-                    m_page.say(QStringLiteral("%1: %2, %3 of %4 routes")
-                                   .arg(work, step)
-                                   .arg(routesDone)
-                                   .arg(routesInAll));
-            });
-    m_page.say(work + QLatin1String("..."));
-    return true;
-}
-
-bool CCalCompare::End()
-{
-    disconnect(m_page.viewCtrl, &CQuorlinViewCtrl::Signal_CalWork, this, nullptr);
-    return m_page.end();
-}
-
 void CCalCompare::OpenWindow()
 {
     if (!m_window) {
@@ -106,7 +82,7 @@ void CCalCompare::OpenWindow()
 
 void CCalCompare::Compare(const SComparedSide &left, const SComparedSide &right)
 {
-    if (!Begin(kCompare))
+    if (!m_work.Begin(kCompare))
         return;
     m_window->SetBusy(true);
     m_page.viewCtrl->RequestComparison(m_page.item, m_page.document(), left, right);
@@ -115,7 +91,7 @@ void CCalCompare::Compare(const SComparedSide &left, const SComparedSide &right)
 void CCalCompare::ShowComparison(const SCalCompared &compared)
 {
     const QPointer<CCalCompare> self(this);
-    if (!End() || !self)
+    if (!m_work.End() || !self)
         return;
     if (m_window) {
         m_window->SetBusy(false);
@@ -138,14 +114,14 @@ void CCalCompare::GoTo(const SCalCellPlace &place)
 
 void CCalCompare::PrepareWrite()
 {
-    if (Begin(kGuardedWrite))
+    if (m_work.Begin(kGuardedWrite))
         m_page.viewCtrl->RequestGuardedPlan(m_page.item, m_page.document());
 }
 
 void CCalCompare::AskForWrite(const SGuardedPlan &plan)
 {
     const QPointer<CCalCompare> self(this);
-    if (!End() || !self)
+    if (!m_work.End() || !self)
         return;
     if (!plan.refusal.isEmpty()) {
         const SComparePage page = m_page;
@@ -175,14 +151,14 @@ void CCalCompare::ShowQuestion(const SGuardedPlan &plan)
 
 void CCalCompare::CarryWrite(const SGuardedPlan &plan)
 {
-    if (Begin(kGuardedWrite))
+    if (m_work.Begin(kGuardedWrite))
         m_page.viewCtrl->RequestGuardedWrite(m_page.item, plan);
 }
 
 void CCalCompare::ShowReport(const SGuardedReport &report)
 {
     const QPointer<CCalCompare> self(this);
-    if (!End() || !self)
+    if (!m_work.End() || !self)
         return;
     const SComparePage page = m_page;
     const QString end = report.isVerified  ? QStringLiteral("Guarded write done and verified")

@@ -14,7 +14,7 @@
 #include <QPointer>
 
 #include "Model/GuardedPlan.h"
-#include "View/compare/ComparePage.h"
+#include "View/compare/PageWork.h"
 
 class CCompareWindow;
 class QAbstractButton;
@@ -24,7 +24,7 @@ class CCalCompare : public QObject
     Q_OBJECT
 
 public:
-    explicit CCalCompare(SComparePage page);
+    explicit CCalCompare(const SComparePage &page);
     ~CCalCompare() override;
 
     // The page's two buttons do it, and so do two actions of the page with a shortcut each.
@@ -42,11 +42,8 @@ private:
     void CarryWrite(const SGuardedPlan &plan);
     void ShowReport(const SGuardedReport &report);
 
-    // The page goes off and tells how far the work is. False: nothing may be asked for.
-    bool Begin(const QString &work);
-    bool End();
-
     const SComparePage m_page;
+    CPageWork m_work;
     QPointer<CCompareWindow> m_window;
     QPointer<QDialog> m_question;
 };

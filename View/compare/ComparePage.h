@@ -1,5 +1,5 @@
-// What Compare and Guarded Write ask of the calibration page that they belong to: plain functions, so
-// that neither knows the other's class. All live as long as the page. GUI thread.
+// What Compare, Guarded Write and the plot ask of the calibration page that they belong to: plain functions,
+// so that none knows the other's class. All live as long as the page. GUI thread.
 #pragma once
 
 #include <functional>
@@ -19,7 +19,9 @@ struct SComparePage
     // page has left its window by that, or is gone.
     std::function<bool()> begin = {};
     std::function<bool()> end = {};
-    std::function<QJsonObject()> document = {};         // as packaged
+    std::function<QJsonObject()> document = {};  // as packaged
+    // The same, while the edit under way goes on and the page's own document stays as it is.
+    std::function<QJsonObject()> shown = {};
     std::function<void(const QString &text)> say = {};  // in the status bar
     std::function<void(int done, int all)> showProgress = {};
     // Kind and texts as of CMessageBoxMan; the page may be gone behind it.

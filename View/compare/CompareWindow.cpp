@@ -12,9 +12,9 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 
-#include "Model/StatusTable.h"
 #include "Support/FileDialogMan.h"
 #include "View/compare/CountTable.h"
+#include "View/compare/PageWork.h"
 #include "View/engine/RowText.h"
 #include "ui_CompareWindow.h"
 
@@ -42,11 +42,8 @@ QString Records(int count)
 
 QString Summary(const SCalCompared &compared)
 {
-    if (!compared.differences) {
-        const SStatusRow row = LookupStatus(compared.result.status);
-        const QString why = compared.result.message.trimmed();
-        return QLatin1String("Compare failed. ") + (why.isEmpty() ? row.text : why);
-    }
+    if (!compared.differences)
+        return QLatin1String("Compare failed. ") + FailureText(compared.result);
     const ICalDifferences &differences = *compared.differences;
     const QString sides =
         QStringLiteral(" Left has %1, right has %2.")

@@ -58,6 +58,8 @@
 
 class CCalibrationDockWidget;
 class QAbstractButton;
+struct SCalibrationCurves;
+struct SComparePage;
 
 using ECalibrationFlow = CQuorlinViewCtrl::ECalFlow;
 
@@ -132,6 +134,8 @@ protected:
     void SetForm(const SCalibrationForm &form);
     // The page compares and writes with guard by these buttons (CalCompare.h).
     void AddCompare(QAbstractButton *compare, QAbstractButton *guardedWrite);
+    // The page plots these curves.
+    void AddPlot(const SCalibrationCurves &curves);
 
     // The answers, in their slots: shows what memory holds, then ends the flow.
     void FinishFlow(ECalibrationFlow flow, const SEachItemOperationResult &result);
@@ -169,6 +173,7 @@ private:
     void TakeSnapshot();
     // CalibrationDockWidgetCompare.cpp. GoTo brings the page to the front and gives the value's editor the
     // focus; notShown is called where the page does not show it.
+    SComparePage ComparePage();
     void GoTo(const SCalCellPlace &place, const std::function<void()> &notShown);
     bool ShowPlace(const SCalCellPlace &place);
     bool Select(const SCalCellPlace &place);

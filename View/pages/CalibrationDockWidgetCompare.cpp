@@ -1,4 +1,4 @@
-// Compare and Guarded Write of a calibration page: what they get of the page.
+// Compare, Guarded Write and the plot of a calibration page: what they get of the page.
 #include "View/pages/CalibrationDockWidget.h"
 
 #include <QAbstractButton>
@@ -11,6 +11,9 @@
 #include "View/editors/LateEditors.h"
 #include "View/editors/ScrollIntoView.h"
 #include "View/engine/TableGroup.h"
+#include "View/plots/CalibrationPlot.h"
+#include "View/plots/PlotAction.h"
+#include "View/plots/SecondImage.h"
 
 namespace {
 
@@ -27,13 +30,13 @@ void ShowTabOf(QWidget *widget)
 
 }  // namespace
 
-void CCalibrationDockWidget::AddCompare(QAbstractButton *compare, QAbstractButton *guardedWrite)
+SComparePage CCalibrationDockWidget::ComparePage()
 {
     const auto turn = [this](bool isOn) {
         SetButtonsEnabled(isOn);
         m_form.contents->setEnabled(isOn);
     };
-    auto *const commands = new CCalCompare({
+    return {
         .widget = this,
         .item = m_page.item,
         .viewCtrl = m_viewCtrl.get(),
@@ -43,14 +46,25 @@ void CCalibrationDockWidget::AddCompare(QAbstractButton *compare, QAbstractButto
             },
         .end = [this, turn] { return EndRequest([turn] { turn(true); }); },
         .document = [this] { return PackageDocument(); },
+        .shown = [this] { return PackagedCopy(); },
         .say = [this](const QString &text) { emit Signal_UpdateStatus(text); },
         .showProgress = [this](int done, int all) { Progress().Show(done, all); },
         .showBox = [this](int kind, const QString &title, const QString &text,
                           const QString &detail) { ShowBox(kind, title, text, detail); },
         .goTo = [this](const SCalCellPlace &place,
                        const std::function<void()> &notShown) { GoTo(place, notShown); },
-    });
+    };
+}
+
+void CCalibrationDockWidget::AddCompare(QAbstractButton *compare, QAbstractButton *guardedWrite)
+{
+    auto *const commands = new CCalCompare(ComparePage());
     commands->AddActions(compare, guardedWrite);
+}
+
+void CCalibrationDockWidget::AddPlot(const SCalibrationCurves &curves)
+{
+    AddPlotAction(this, new CCalibrationPlot(this, curves, new CSecondImage(ComparePage())));
 }
 
 bool CCalibrationDockWidget::Select(const SCalCellPlace &place)

@@ -1,20 +1,22 @@
 #include "View/plots/CalibrationPlot.h"
 
-#include <algorithm>
-
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTabWidget>
+#include <QTableWidget>
 
 #include "View/editors/LateEditors.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
-#include "View/engine/ColumnCells.h"
+#include "View/plots/SecondImage.h"
 
 namespace {
 
-constexpr int kPlotColors = 8;
+bool IsConfig(const QWidget *selector)
+{
+    return selector->objectName().startsWith(QLatin1String("calDataIf_config_"));
+}
 
 // Turns all tab widgets and stacks around the widget to it.
 void TurnTo(QWidget *widget)
@@ -30,31 +32,25 @@ void TurnTo(QWidget *widget)
     }
 }
 
-bool IsSame(const SPlotCurve &a, const SPlotCurve &b)
-{
-    const auto isSameValue = [](float one, float other) {
-        return one == other || (one != one && other != other);
-    };
-    return a.name == b.name && *a.x == *b.x &&
-           std::equal(a.y->begin(), a.y->end(), b.y->begin(), b.y->end(), isSameValue);
-}
-
-QString RowCaption(const QTableWidget &table, int row)
-{
-    const QTableWidgetItem *caption = table.verticalHeaderItem(row);
-    return caption ? caption->text() : QString::number(row);
-}
-
 }  // namespace
 
 CCalibrationPlot::CCalibrationPlot(CAutoBindingDataModelDockWidget *page,
-                                   const SCalibrationCurves &curves)
-    : CPlotSource(page), m_page(page), m_is(curves)
+                                   const SCalibrationCurves &curves, CSecondImage *second)
+    : CPlotSource(page), m_page(page), m_is(curves), m_second(second)
 {
     // What set a change off is done first, with all that follows from it.
     m_refresh.setSingleShot(true);
     m_refresh.setInterval(0);
     connect(&m_refresh, &QTimer::timeout, this, &CCalibrationPlot::Refresh);
+    connect(m_second, &CSecondImage::Signal_Changed, this, [this] {
+        Read();
+        emit Signal_Curves();
+    });
+}
+
+ISecondImage *CCalibrationPlot::Second()
+{
+    return m_second;
 }
 
 SPlotShape CCalibrationPlot::Shape() const
@@ -68,9 +64,30 @@ QString CCalibrationPlot::Remark() const
                        : QString::fromLatin1(m_is.otherwise);
 }
 
-QTableWidget *CCalibrationPlot::Table(const char *name) const
+QString CCalibrationPlot::Status() const
 {
-    return m_page->findChild<QTableWidget *>(QLatin1String(name));
+    if (!m_second->IsThere() || m_second->IsUnderWay() || m_hasSecond || !HasCurves())
+        return m_second->Words();
+    return QStringLiteral("%1 has no data of what the page has selected.").arg(m_second->Name());
+}
+
+std::vector<SPlotCurve> CCalibrationPlot::Curves() const
+{
+    std::vector<SPlotCurve> curves;
+    for (const SCalibrationCurve &each : m_curves)
+        curves.push_back(each.curve);
+    return curves;
+}
+
+// What its selectors show, each name with its text.
+QString CCalibrationPlot::Selection() const
+{
+    QStringList selection;
+    for (const QComboBox *selector : m_page->findChildren<QComboBox *>()) {
+        if (IsConfig(selector))
+            selection.append(selector->objectName() + QLatin1Char('=') + selector->currentText());
+    }
+    return selection.join(QLatin1Char('\n'));
 }
 
 bool CCalibrationPlot::HasCurves() const
@@ -89,17 +106,18 @@ void CCalibrationPlot::Open()
     connect(m_page, &CAutoBindingDataModelDockWidget::Signal_PluginIsBusy, &m_refresh, refresh);
     connect(m_page, &CAutoBindingDataModelDockWidget::Signal_InitDone, &m_refresh, refresh);
     for (QComboBox *selector : m_page->findChildren<QComboBox *>()) {
-        if (selector->objectName().startsWith(QLatin1String("calDataIf_config_")))
+        if (IsConfig(selector))
             connect(selector, &QComboBox::currentTextChanged, &m_refresh, refresh);
     }
-    Follow(Table(m_is.frequencies));
-    for (const SCurveTable &one : m_is.tables)
-        Follow(Table(one.table));
+    Follow(m_is.curves.frequencies);
+    for (const SCurveTable &one : m_is.curves.tables)
+        Follow(one.table);
     Read();
 }
 
-void CCalibrationPlot::Follow(QTableWidget *table)
+void CCalibrationPlot::Follow(const char *name)
 {
+    auto *const table = m_page->findChild<QTableWidget *>(QLatin1String(name));
     if (!table)
         return;
     WhenEditorsAreMade(table, this, [this, table] {
@@ -126,57 +144,46 @@ void CCalibrationPlot::Refresh()
 // False when nothing is other than before.
 bool CCalibrationPlot::Read()
 {
-    const std::vector<SPlotCurve> before = std::move(m_curves);
+    const std::vector<SCalibrationCurve> before = std::move(m_curves);
     m_curves.clear();
-    m_rows.clear();
-    m_columns.clear();
-    QTableWidget *const frequencies = Table(m_is.frequencies);
-    CColumnCells *const frequencyCells = CColumnCells::Of(frequencies);
-    if (!frequencyCells || !HasCurves())
-        return !before.empty();
-    std::vector<std::pair<double, int>> columns;
-    for (int c = 0; c < frequencies->columnCount(); ++c) {
-        if (const double kHz = frequencyCells->Text(0, c).toDouble(); kHz > 0)
-            columns.emplace_back(kHz / kKhzPerMhz, c);
+    m_hasSecond = false;
+    if (HasCurves()) {
+        m_curves = MakeCurves(m_page, m_is.curves, ShownTexts);
+        AddSecond();
     }
-    std::sort(columns.begin(), columns.end());
-    auto x = std::make_shared<Xs>();
-    for (const auto &[frequency, column] : columns) {
-        x->push_back(frequency);
-        m_columns.push_back(column);
+    return !AreSame(before, m_curves);
+}
+
+void CCalibrationPlot::AddSecond()
+{
+    const QJsonObject &document = m_second->Document(m_second->IsThere() ? Selection() : QString());
+    if (document.isEmpty())
+        return;
+    m_hasSecond = true;
+    const auto texts = [&document](const QTableWidget *table) {
+        return DocumentTexts(document, table);
+    };
+    for (SCalibrationCurve &second : MakeCurves(m_page, m_is.curves, texts)) {
+        second.curve.name += QStringLiteral(" (%1)").arg(m_second->Name());
+        second.curve.isThin = true;
+        second.curve.hasPoints = false;
+        m_curves.push_back(std::move(second));
     }
-    for (const SCurveTable &one : m_is.tables) {
-        QTableWidget *const table = Table(one.table);
-        CColumnCells *const cells = CColumnCells::Of(table);
-        for (int r = 0; cells && r < table->rowCount(); ++r) {
-            auto y = std::make_shared<Ys>();
-            for (const int c : m_columns) {
-                bool isNumber = false;
-                const float value = cells->Text(r, c).toFloat(&isNumber);
-                y->push_back(isNumber ? value : kNoValue);
-            }
-            m_curves.push_back({.name = QLatin1String(one.name) + RowCaption(*table, r),
-                                .color = r % kPlotColors,
-                                .line = one.line,
-                                .hasPoints = true,
-                                .x = x,
-                                .y = y});
-            m_rows.push_back({table, r});
-        }
-    }
-    return !std::equal(before.begin(), before.end(), m_curves.begin(), m_curves.end(), IsSame);
 }
 
 // Not while the tool is busy: its pages stay where they are then.
 void CCalibrationPlot::GoTo(int curve, int point)
 {
     const auto isIn = [](int at, size_t size) { return at >= 0 && static_cast<size_t>(at) < size; };
-    if (!isIn(curve, m_rows.size()) || !isIn(point, m_columns.size()) || !m_page->isVisible())
+    if (!isIn(curve, m_curves.size()) || !m_page->isVisible())
         return;
-    const SRow row = m_rows[static_cast<size_t>(curve)];
-    EnsureEditors(row.table);
-    TurnTo(row.table);
-    QWidget *const cell = row.table->cellWidget(row.row, m_columns[static_cast<size_t>(point)]);
+    const SCalibrationCurve &from = m_curves[static_cast<size_t>(curve)];
+    if (!isIn(point, from.columns->size()))
+        return;
+    EnsureEditors(from.table);
+    TurnTo(from.table);
+    QWidget *const cell =
+        from.table->cellWidget(from.row, (*from.columns)[static_cast<size_t>(point)]);
     if (!cell || !cell->isEnabled())
         return;
     cell->window()->raise();

@@ -31,6 +31,12 @@ void SetTexts(QTableWidget *table, int row, const QStringList &texts)
 
 }  // namespace
 
+int PlotCurveOf(const QTableWidget &table)
+{
+    const QTableWidgetItem *item = table.item(table.currentRow(), 0);
+    return item ? item->data(Qt::UserRole).toInt() : -1;
+}
+
 void ShowPlotFigures(QTableWidget *table, const IPlot &plot, const std::vector<SPlotCurve> &curves,
                      bool hasCursors)
 {
@@ -42,10 +48,11 @@ void ShowPlotFigures(QTableWidget *table, const IPlot &plot, const std::vector<S
     table->setHorizontalHeaderLabels(headers);
     const std::array<double, 2> at = plot.Cursors();
     int row = 0;
-    const auto add = [&](const QStringList &texts) {
+    const auto add = [&](const QStringList &texts, int curve = -1) {
         if (row >= table->rowCount())
             table->setRowCount(row + 1);
-        SetTexts(table, row++, texts);
+        SetTexts(table, row, texts);
+        table->item(row++, 0)->setData(Qt::UserRole, curve);
     };
     if (hasCursors) {
         QStringList texts = {"Cursors"};
@@ -68,7 +75,7 @@ void ShowPlotFigures(QTableWidget *table, const IPlot &plot, const std::vector<S
             const double b = plot.ValueAt(curve, at[1]);
             texts += QStringList{FigureText(a), FigureText(b), FigureText(b - a)};
         }
-        add(texts);
+        add(texts, curve);
     }
     table->setRowCount(row);
     if (isOther)

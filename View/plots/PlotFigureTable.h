@@ -12,5 +12,8 @@
 
 class QTableWidget;
 
+// The number of the curve in the current row; -1 when there is none.
+int PlotCurveOf(const QTableWidget &table);
+
 void ShowPlotFigures(QTableWidget *table, const IPlot &plot, const std::vector<SPlotCurve> &curves,
                      bool hasCursors);

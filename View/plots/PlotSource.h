@@ -13,7 +13,21 @@
 #include <QObject>
 #include <QString>
 
+#include "Model/CalDifferences.h"
 #include "View/plots/PlotInterface.h"
+
+// A second image beside the page's, which the user chooses in the plot's window. Reading it leaves what the page
+// shows as it is. What becomes of it comes by the source's signals.
+class ISecondImage
+{
+public:
+    virtual ~ISecondImage() = default;
+
+    virtual void CompareWith(const SComparedSide &side) = 0;
+    virtual void Drop() = 0;
+    virtual bool IsThere() const = 0;
+    virtual bool IsUnderWay() const = 0;  // it is being read
+};
 
 class CPlotSource : public QObject
 {
@@ -33,11 +47,15 @@ public:
     virtual std::vector<SPlotCurve> Curves() const = 0;
     // Words below the curves, such as the formula of a fit.
     virtual QString Remark() const { return {}; }
+    // What becomes of the second image; for the status line.
+    virtual QString Status() const { return {}; }
 
     // A window shows it from now on.
     virtual void Open() {}
     virtual bool HasClear() const { return true; }
     virtual void Clear() {}
+    // Null where there can be none.
+    virtual ISecondImage *Second() { return nullptr; }
     // The user clicked a point.
     virtual void GoTo(int /*curve*/, int /*point*/) {}
 

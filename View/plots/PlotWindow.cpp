@@ -1,10 +1,15 @@
 #include "View/plots/PlotWindow.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include <QAction>
 #include <QClipboard>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QMainWindow>
+#include <QMenu>
+#include <QShortcut>
 
 #include "Support/FileDialogMan.h"
 #include "Support/MessageBoxMan.h"
@@ -25,6 +30,8 @@ constexpr double kCursorPart = 0.01;  // of the view, by a key
 
 constexpr char kPictures[] =
     "PNG picture (*.png)|*.png|SVG picture (*.svg)|*.svg|PDF document (*.pdf)|*.pdf";
+
+constexpr char kImages[] = "Calibration data (*.ini *.json)|*.ini;*.json|All files (*.*)|*.*";
 
 EPlotPicture FormatOf(const QString &file)
 {
@@ -94,6 +101,7 @@ bool CPlotWindow::MakePlot()
     });
     ConnectButtons();
     AddKeys();
+    AddComparison();
     connect(m_source, &CPlotSource::Signal_Curves, this, &CPlotWindow::ShowCurves);
     connect(m_source, &CPlotSource::Signal_Points, this, [this] {
         if (isVisible() && !m_pointsTimer.isActive())
@@ -141,6 +149,58 @@ void CPlotWindow::AddKeys()
         [this] { MoveCursor(1, kCursorPart); });
 }
 
+void CPlotWindow::AddComparison()
+{
+    m_ui->m_compare->setVisible(m_source->Second() != nullptr);
+    if (!m_source->Second())
+        return;
+    const auto drop = [this] {
+        if (m_source)
+            m_source->Second()->Drop();
+    };
+    const auto askDut = [this] {
+        if (m_source)
+            m_source->Second()->CompareWith({.kind = ECalSide::Dut});
+    };
+    auto *const menu = new QMenu(m_ui->m_compare);
+    menu->addActions(
+        {AddAction(this, "m_actionCompareFile", "Compare with &file...", {"Ctrl+O"},
+                   [this] { AskForFile(); }),
+         AddAction(this, "m_actionCompareDut", "Compare with &DUT", {"Ctrl+D"}, askDut),
+         AddAction(this, "m_actionCompareNothing", "&No comparison", {"Ctrl+N"}, drop)});
+    m_ui->m_compare->setMenu(menu);
+    const auto *const go =
+        new QShortcut(Qt::Key_Return, m_ui->m_figures, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(go, &QShortcut::activated, this, &CPlotWindow::GoToCell);
+}
+
+// The page may be gone when the dialog is closed, and the window with it.
+void CPlotWindow::AskForFile()
+{
+    const QPointer<CPlotWindow> self(this);
+    CFileDialogMan dialogs;
+    const QString path =
+        dialogs.GetOpenFileName(QStringLiteral("Compare With"), QLatin1String(kImages));
+    if (self && m_source && !path.isEmpty())
+        m_source->Second()->CompareWith({.kind = ECalSide::File, .file = path});
+}
+
+// What a click on a point does, by the keyboard: of the curve in the current row, the point at cursor A, or at
+// the left end of the view.
+void CPlotWindow::GoToCell()
+{
+    const int curve = PlotCurveOf(*m_ui->m_figures);
+    if (!m_source || curve < 0)
+        return;
+    const double at = m_ui->m_cursors->isChecked() ? m_plot->Cursors()[0] : m_plot->View()[0];
+    const std::vector<double> &x = *m_curves[static_cast<size_t>(curve)].x;
+    const auto nearest = std::min_element(x.begin(), x.end(), [at](double one, double other) {
+        return std::fabs(one - at) < std::fabs(other - at);
+    });
+    if (nearest != x.end())
+        m_source->GoTo(curve, static_cast<int>(nearest - x.begin()));
+}
+
 void CPlotWindow::MoveCursor(int cursor, double part)
 {
     if (!m_ui->m_cursors->isChecked())
@@ -157,9 +217,21 @@ void CPlotWindow::ShowCurves()
     m_curves = m_source->Curves();
     m_plot->SetShape(m_source->Shape());
     m_plot->SetCurves(m_curves);
-    m_ui->m_remark->setText(m_source->Remark());
-    m_ui->m_remark->setVisible(!m_source->Remark().isEmpty());
+    ShowWords();
     ShowFigures();
+}
+
+void CPlotWindow::ShowWords()
+{
+    const auto show = [](QLabel *label, const QString &words) {
+        label->setText(words);
+        label->setVisible(!words.isEmpty());
+    };
+    show(m_ui->m_remark, m_source->Remark());
+    show(m_ui->m_status, m_source->Status());
+    if (ISecondImage *second = m_source->Second())
+        findChild<QAction *>(QStringLiteral("m_actionCompareNothing"))
+            ->setEnabled(second->IsThere());
 }
 
 void CPlotWindow::ShowPoints()

@@ -47,8 +47,12 @@ private:
     bool MakePlot();
     void ConnectButtons();
     void AddKeys();
+    void AddComparison();
+    void AskForFile();
+    void GoToCell();
     void MoveCursor(int cursor, double part);
     void ShowCurves();
+    void ShowWords();
     void ShowPoints();
     void ShowFigures();
     void Save();

@@ -3,6 +3,7 @@
 //
 //   RsrpSoak --minutes 65 --seed 1     the soak, a line a minute; ends with 1 when memory grew
 //   RsrpSoak --minutes 65 --plot       with the page's plot open; ends with 1 also when it costs too much
+//   RsrpSoak --rows 100000             what the plot costs a fetch at so many rows; ends as with --plot
 //   RsrpSoak --fetches 10              a short run of so many fetches; also without arguments
 //
 // Ends with 2 when the page does not do what it should, or opens a box.
@@ -44,7 +45,8 @@ int main(int argc, char **argv)
     const QCommandLineOption fetches("fetches", "Length of a short run.", "fetches", "10");
     const QCommandLineOption seed("seed", "Decides which action comes when.", "seed", "1");
     const QCommandLineOption plot("plot", "With the page's plot open.");
-    parser.addOptions({minutes, fetches, seed, plot});
+    const QCommandLineOption rows("rows", "What the plot costs at so many rows.", "rows");
+    parser.addOptions({minutes, fetches, seed, plot, rows});
     parser.addHelpOption();
     parser.process(application);
 
@@ -55,6 +57,8 @@ int main(int argc, char **argv)
         CSoakRun run(parser.value(seed).toUInt(), parser.isSet(plot));
         if (parser.isSet(minutes))
             return run.Minutes(parser.value(minutes).toInt()) ? 0 : 1;
+        if (parser.isSet(rows))
+            return run.AtRows(parser.value(rows).toInt()) ? 0 : 1;
         run.Fetches(parser.value(fetches).toInt());
         return 0;
     } catch (const std::runtime_error &error) {

@@ -74,6 +74,23 @@ void CSoakRun::PrintMinute() const
     std::fflush(stdout);
 }
 
+bool CSoakRun::AtRows(int rows)
+{
+    constexpr int kRounds = 4;
+    constexpr int kFetchesARound = 26;
+    m_user.Begin();
+    m_user.ShowPlot(true);
+    m_user.Fill(rows);
+    for (int round = 0; round < kRounds; ++round) {
+        for (const bool isWith : {round % 2 == 0, round % 2 != 0}) {
+            m_user.ShowPlot(isWith);
+            (isWith ? m_guiWith : m_guiWithout).Add(RunUndisturbed(kFetchesARound).gui.Mean());
+        }
+    }
+    std::printf("At %d rows: ", rows);
+    return IsPlotCheap();
+}
+
 void CSoakRun::Fetches(int fetches)
 {
     m_user.Begin();
@@ -172,7 +189,7 @@ bool CSoakRun::IsSteady() const
 
 bool CSoakRun::IsPlotCheap() const
 {
-    if (!m_hasPlot)
+    if (m_guiWithout.count == 0)
         return true;
     const double ratio = m_guiWith.Mean() / m_guiWithout.Mean();
     const bool holds = ratio <= kMostPlotCost;

@@ -31,6 +31,9 @@ public:
     // Prints a line a minute. False when memory grew by more than 2 % after the fifth, or when fetches
     // with the plot cost the GUI thread more than 1.3 times of those without.
     bool Minutes(int minutes);
+    // Fetches with the plot and without, at that many rows on the table and points in each curve. False
+    // when those with it cost more than 1.3 times.
+    bool AtRows(int rows);
     // A short run: every action once, with so many fetches in all, at least one each.
     void Fetches(int fetches);
 

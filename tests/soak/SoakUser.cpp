@@ -77,6 +77,14 @@ void CSoakUser::WaitForAnswers(int count)
     }
 }
 
+void CSoakUser::Fill(int rows)
+{
+    while (Rows() < rows) {
+        if (!m_session.Fetch())
+            throw std::runtime_error("waited in vain for rows");
+    }
+}
+
 void CSoakUser::Stop()
 {
     m_session.Press("m_stop");

@@ -31,6 +31,8 @@ public:
     // Shows the tool and starts the test.
     void Begin();
     void WaitForAnswers(int count);
+    // Fetches as fast as it goes, until the table has so many rows.
+    void Fill(int rows);
     void Start();
     void Stop();
     // Presses Clear while the test is stopped. Before that, the table must hold the rows of all

@@ -110,8 +110,9 @@ void ViewCtrlRequestTest::everySignalOfTheTableIsThere()
     QVERIFY(there.remove("Signal_TestsRun"));
     QVERIFY(there.remove("Signal_NewestTest"));  // with it
     // Of the tools beside the pages' requests, which have tests of their own.
-    for (const char *own : {"Signal_CalWork", "Signal_ComparisonDone", "Signal_GuardedPlanDone",
-                            "Signal_GuardedWriteDone", "Signal_ChipNameDone"})
+    for (const char *own :
+         {"Signal_CalWork", "Signal_ComparisonDone", "Signal_GuardedPlanDone",
+          "Signal_GuardedWriteDone", "Signal_ChipNameDone", "Signal_SecondImageDone"})
         QVERIFY2(there.remove(own), own);
     QCOMPARE(there, asked);
 }
