@@ -35,6 +35,9 @@ transmission, RX path loss and APT profiles. The package holds the plug-in,
 a bench host that shows it, and a simulated device to try it on.")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION electronics)
+# Plots need Qwt, the tool does not (packaging/shlibdeps).
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS libqwt-qt5-6)
+set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_SOURCE_DIR}/packaging/CPackDebian.cmake)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/lib)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/../package)

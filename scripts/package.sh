@@ -53,6 +53,16 @@ quorlin_say "lintian"
 lintian --fail-on error --tag-display-limit 0 --allow-root "$package"
 echo "No errors."
 
+quorlin_say "What the package needs"
+depends=$(dpkg-deb --field "$package" Depends)
+recommends=$(dpkg-deb --field "$package" Recommends)
+echo "Depends: $depends"
+echo "Recommends: $recommends"
+if [[ "$depends" == *qwt* || "$depends" != *libqt5widgets5* || "$recommends" != *libqwt-qt5-6* ]]; then
+    echo "Qwt should be recommended, not required, and all else be there." >&2
+    exit 1
+fi
+
 dpkg-deb --extract "$package" "$folder/unpacked"
 demo_of "$folder/unpacked/usr/bin/quorlin-host"
 cal_of "$folder/unpacked/usr/bin/quorlin"
