@@ -4,9 +4,7 @@
 #include <iterator>
 
 #include <QAction>
-#include <QClipboard>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QPointer>
 #include <QShortcut>
@@ -226,7 +224,7 @@ void CCompareWindow::Filter()
 void CCompareWindow::Copy()
 {
     if (m_model.rowCount() > 0)
-        QGuiApplication::clipboard()->setText(RowText(m_model, SelectedRows(*m_ui->m_differences)));
+        m_copy.Start(RowsOf(*m_ui->m_differences), &m_model, [](bool) {});
 }
 
 void CCompareWindow::GoTo()

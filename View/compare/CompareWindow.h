@@ -16,6 +16,7 @@
 
 #include "Model/CalDifferences.h"
 #include "View/compare/DifferenceModel.h"
+#include "View/engine/RowCopy.h"
 
 namespace Ui {
 class CCompareWindow;
@@ -71,5 +72,6 @@ private:
     SSideEditors m_left;
     SSideEditors m_right;
     CDifferenceModel m_model;
+    CRowCopy m_copy;
     bool m_isBusy = false;
 };

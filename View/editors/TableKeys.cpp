@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 
 #include "View/editors/LateEditors.h"
+#include "View/editors/ReadKeys.h"
 #include "View/editors/ScrollIntoView.h"
 #include "View/editors/UnsignedSpinBox.h"
 
@@ -125,6 +126,13 @@ void CTableKeys::Take(QWidget *cell)
         text->installEventFilter(this);
 }
 
+void CTableKeys::SetForReading(bool isForReading)
+{
+    m_isForReading = isForReading;
+    if (isForReading)
+        m_table->setFocusPolicy(Qt::StrongFocus);
+}
+
 void CTableKeys::FinishEdit()
 {
     if (m_edits)
@@ -182,6 +190,8 @@ void CTableKeys::TakeFocus(QWidget *widget, Qt::FocusReason reason)
         QWidget *cell = IsTabReason(reason) ? Entry() : nullptr;
         if (cell)
             Focus(cell);
+        else if (IsTabReason(reason) && m_isForReading && m_mark->IsEmpty())
+            m_mark->Go(0, 0);
         return;
     }
     // A click that marks leaves the mark where it began.
@@ -202,15 +212,23 @@ QModelIndex CTableKeys::Under(const QWidget *widget, const QMouseEvent *event) c
                                                : widget->mapTo(viewport, event->pos()));
 }
 
-// A result that is no editor any more is marked by a plain click, too.
+// A label, or an item.
+bool CTableKeys::IsResult(const QModelIndex &at) const
+{
+    if (!at.isValid())
+        return false;
+    const QWidget *cell = m_table->cellWidget(at.row(), at.column());
+    return cell ? cell->focusPolicy() == Qt::NoFocus
+                : m_table->item(at.row(), at.column()) != nullptr;
+}
+
+// A result is marked by a plain click, too.
 bool CTableKeys::PressMouse(QWidget *widget, const QMouseEvent *event)
 {
     const QModelIndex at = Under(widget, event);
     const bool isLeft = event->button() == Qt::LeftButton;
     const bool isExtended = isLeft && at.isValid() && (event->modifiers() & Qt::ShiftModifier);
-    const bool isResult = isLeft && widget == m_table->viewport() &&
-                          m_table->item(at.row(), at.column()) &&
-                          !m_table->cellWidget(at.row(), at.column());
+    const bool isResult = isLeft && widget == m_table->viewport() && IsResult(at);
     if (isExtended)
         FinishEdit();
     else if (isLeft || !m_mark->Has(at))
@@ -253,6 +271,8 @@ bool CTableKeys::PressKey(QWidget *widget, const QKeyEvent *event)
         m_commands->RunKey(event);
         return true;
     }
+    if (widget == m_table && m_isForReading && PressReadKey(m_table, m_mark, event))
+        return true;
     if (PressMark(widget, event))
         return true;
     const bool isPlain = ModifiersOf(event) == Qt::NoModifier;

@@ -56,6 +56,10 @@ public:
     // Both may be null, and may go before the table.
     void SetEdits(CEditSession *edits) { m_edits = edits; }
     void SetCommands(ITableCommands *commands) { m_commands = commands; }
+    // A table of results: the table itself takes the focus, with Tab on a cell that it marks then, and
+    // its keys are those of ReadKeys.h.
+    void SetForReading(bool isForReading);
+    bool IsForReading() const { return m_isForReading; }
     // Ends the edit under way on the page.
     void FinishEdit();
     // The cell that the table gives the focus to; null when no cell can have it. Makes late editors.
@@ -68,6 +72,7 @@ private:
     void TakeFocus(QWidget *widget, Qt::FocusReason reason);
     bool PressMouse(QWidget *widget, const QMouseEvent *event);
     bool MoveMouse(QWidget *widget, const QMouseEvent *event);
+    bool IsResult(const QModelIndex &at) const;
     QModelIndex Under(const QWidget *widget, const QMouseEvent *event) const;
     bool TakesKey(QWidget *widget, const QKeyEvent *event);
     bool OverrideShortcut(QWidget *widget, QKeyEvent *event);
@@ -85,6 +90,7 @@ private:
     QPointer<CEditSession> m_edits;
     ITableCommands *m_commands = nullptr;
     CTableMark *m_mark;
+    bool m_isForReading = false;
     bool m_isMarking = false;  // with the mouse button that is down
     CWheelGuard m_wheel;
 };

@@ -1,6 +1,7 @@
 #include "View/editors/TableMark.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include <QDockWidget>
 #include <QGuiApplication>
@@ -12,9 +13,18 @@
 
 namespace {
 
+// A longer table has its editors in its newest rows alone.
+constexpr int kMostRowsOfEditors = 1024;
+// A header that shows which columns are selected looks at each of their cells, whenever it is painted.
+// The row headers of a longer table show the mark alone.
+constexpr int kMostRowsOfBoldColumns = 10000;
+
 // The next section that is seen, some steps on; the last one when there are fewer.
 int Stepped(const QHeaderView *header, int section, int steps)
 {
+    if (!header->sectionsHidden())
+        return static_cast<int>(
+            std::clamp<qint64>(static_cast<qint64>(section) + steps, 0, header->count() - 1));
     const int by = steps < 0 ? -1 : 1;
     for (int next = section + by; steps != 0 && next >= 0 && next < header->count(); next += by) {
         if (header->isSectionHidden(next))
@@ -28,6 +38,11 @@ int Stepped(const QHeaderView *header, int section, int steps)
 std::vector<int> Seen(const QHeaderView *header, int first, int last)
 {
     std::vector<int> sections;
+    if (!header->sectionsHidden()) {
+        sections.resize(static_cast<size_t>(std::max(0, last - first + 1)));
+        std::iota(sections.begin(), sections.end(), first);
+        return sections;
+    }
     for (int i = first; i <= last; ++i) {
         if (!header->isSectionHidden(i))
             sections.push_back(i);
@@ -38,7 +53,8 @@ std::vector<int> Seen(const QHeaderView *header, int first, int last)
 void Look(const QTableWidget *table, const QItemSelection &cells, bool isMarked)
 {
     for (const QItemSelectionRange &range : cells) {
-        for (int r = range.top(); r <= range.bottom(); ++r) {
+        const int first = std::max(range.top(), table->rowCount() - kMostRowsOfEditors);
+        for (int r = first; r <= range.bottom(); ++r) {
             for (int c = range.left(); c <= range.right(); ++c) {
                 if (QWidget *cell = table->cellWidget(r, c))
                     SetCellLook(cell, ECellLook::Marked, isMarked);
@@ -108,6 +124,18 @@ void CTableMark::ExtendTo(const QModelIndex &corner)
     Set(m_current.isValid() ? QModelIndex(m_current) : corner, corner);
     if (QWidget *cell = m_table->cellWidget(corner.row(), corner.column()))
         ScrollIntoView(cell, m_table);
+    else
+        m_table->scrollTo(corner);
+}
+
+void CTableMark::Go(int rows, int columns)
+{
+    const bool isFirst = !m_corner.isValid();
+    const int row = isFirst ? 0 : Stepped(m_table->verticalHeader(), m_corner.row(), rows);
+    const int column =
+        isFirst ? 0 : Stepped(m_table->horizontalHeader(), m_corner.column(), columns);
+    m_current = m_table->model()->index(row, column);
+    ExtendTo(m_current);
 }
 
 void CTableMark::Set(const QModelIndex &current, const QModelIndex &corner)
@@ -117,12 +145,24 @@ void CTableMark::Set(const QModelIndex &current, const QModelIndex &corner)
     EnsureEditors(m_table);
     m_current = current;
     m_corner = corner;
+    ShowInColumnHeader(m_table->rowCount() <= kMostRowsOfBoldColumns);
     const auto [top, bottom] = std::minmax({current.row(), corner.row()});
     const auto [left, right] = std::minmax({current.column(), corner.column()});
     const QAbstractItemModel *model = m_table->model();
     m_table->selectionModel()->select(
         QItemSelection(model->index(top, left), model->index(bottom, right)),
         QItemSelectionModel::ClearAndSelect);
+}
+
+// A header without the table's selection shows that of a model which has none.
+void CTableMark::ShowInColumnHeader(bool isShown)
+{
+    if (!isShown && !m_none)
+        m_none = new QItemSelectionModel(m_table->model(), this);
+    QHeaderView *header = m_table->horizontalHeader();
+    QItemSelectionModel *wanted = isShown ? m_table->selectionModel() : m_none;
+    if (header->selectionModel() != wanted)
+        header->setSelectionModel(wanted);
 }
 
 void CTableMark::MarkAll()

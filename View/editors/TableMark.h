@@ -37,6 +37,8 @@ public:
     // Moves the corner by so many rows and columns that are seen; stays at the table's edge.
     void Extend(int rows, int columns);
     void ExtendTo(const QModelIndex &corner);
+    // Marks the cell alone that is so far from the corner; the first one of the table without a corner.
+    void Go(int rows, int columns);
     void MarkAll();
     // From the first section on to the last one, all of each.
     void MarkRows(int first, int last);
@@ -57,8 +59,10 @@ private:
     void ListenTo(const QHeaderView *header, void (CTableMark::*mark)(int, int));
     void Show(const QItemSelection &added, const QItemSelection &gone);
     void ClearOthers() const;
+    void ShowInColumnHeader(bool isShown);
 
     QTableWidget *const m_table;
+    QItemSelectionModel *m_none = nullptr;
     QPersistentModelIndex m_current;
     QPersistentModelIndex m_corner;
     int m_firstSection = -1;  // where a mark by a header begins

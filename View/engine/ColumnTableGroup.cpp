@@ -1,5 +1,7 @@
 #include "View/engine/ColumnTableGroup.h"
 
+#include <algorithm>
+
 #include <QHeaderView>
 #include <QTableWidget>
 
@@ -102,6 +104,14 @@ void InitRow(const SBinding &binding, CColumnCells &cells, QTableWidget *table, 
     cells.AddRow(row, content);
 }
 
+// Rows of labels alone.
+bool IsForReading(const STableGroup &group)
+{
+    return std::all_of(group.rows.begin(), group.rows.end(), [&group](const QString &member) {
+        return group.Member(member, "trait.dataType").toString() == QLatin1String("label");
+    });
+}
+
 // Of a document that comes after another one: the cells are made anew.
 void RemoveCells(QTableWidget *table)
 {
@@ -137,6 +147,7 @@ void InitColumnTable(const SBinding &binding, const QString &path, QWidget *widg
     table->setRowCount(group.rows.size());
     FillPlaces(table);
     CTableKeys::Of(table)->SetEdits(&binding.edits);
+    CTableKeys::Of(table)->SetForReading(IsForReading(group));
     auto *cells = new CColumnCells(table, &binding.page, &binding.edits);
     for (int c = 0; c < group.columns; ++c)
         table->horizontalHeader()->resizeSection(c, kColumnWidth);

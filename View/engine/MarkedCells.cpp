@@ -88,24 +88,31 @@ SMarkedCells MarkedCells(const QTableWidget *table)
     return {.table = table, .rows = mark->Rows(), .columns = mark->Columns()};
 }
 
-CellRows TextsOf(const SMarkedCells &cells, bool hasCaptions)
+SMarkedCells AllCells(const QTableWidget *table)
 {
-    CellRows texts;
-    if (hasCaptions) {
-        QStringList line(QString{});
-        for (const int column : cells.columns)
-            line.append(HeaderText(cells.table, column, Qt::Horizontal));
-        texts.push_back(line);
-    }
-    for (const int row : cells.rows) {
-        QStringList line;
-        if (hasCaptions)
-            line.append(HeaderText(cells.table, row, Qt::Vertical));
-        for (const int column : cells.columns)
-            line.append(TextOf(cells.table, row, column));
-        texts.push_back(line);
-    }
-    return texts;
+    return {.table = table,
+            .rows = SeenFrom(table->verticalHeader(), 0, static_cast<size_t>(table->rowCount())),
+            .columns =
+                SeenFrom(table->horizontalHeader(), 0, static_cast<size_t>(table->columnCount()))};
+}
+
+QStringList CaptionsOf(const SMarkedCells &cells)
+{
+    QStringList line(QString{});
+    for (const int column : cells.columns)
+        line.append(HeaderText(cells.table, column, Qt::Horizontal));
+    return line;
+}
+
+QStringList TextsOf(const QTableWidget *table, int row, const std::vector<int> &columns,
+                    bool hasCaption)
+{
+    QStringList line;
+    if (hasCaption)
+        line.append(HeaderText(table, row, Qt::Vertical));
+    for (const int column : columns)
+        line.append(TextOf(table, row, column));
+    return line;
 }
 
 SCellPlan PlanPaste(const SMarkedCells &cells, const CellRows &texts)

@@ -35,8 +35,12 @@ struct SCellPlan
 
 // The mark, or the cell that has the focus without one.
 SMarkedCells MarkedCells(const QTableWidget *table);
-// Their texts; with the table's captions in front and above when these are asked for.
-CellRows TextsOf(const SMarkedCells &cells, bool hasCaptions);
+SMarkedCells AllCells(const QTableWidget *table);
+// The captions of their columns, behind an empty text for those of the rows.
+QStringList CaptionsOf(const SMarkedCells &cells);
+// The texts of a row, with the row's caption in front when it is asked for.
+QStringList TextsOf(const QTableWidget *table, int row, const std::vector<int> &columns,
+                    bool hasCaption);
 
 // One text goes into all cells. A block goes into a mark of its size or of several times its size;
 // from a single cell on it takes the room that it needs.

@@ -8,6 +8,7 @@
 #include "Model/JsonPath.h"
 #include "Support/Log.h"
 #include "View/editors/FormFont.h"
+#include "View/editors/TableKeys.h"
 #include "View/engine/TableCells.h"
 #include "View/engine/TableGroup.h"
 
@@ -99,6 +100,7 @@ void PrepareTable(QTableWidget *table)
     QObject::disconnect(table->model(), SIGNAL(rowsInserted(QModelIndex, int, int)), table,
                         SLOT(rowsInserted(QModelIndex, int, int)));
     FillPlaces(table);
+    CTableKeys::Of(table)->SetForReading(true);
 }
 
 void MakeCells(QTableWidget *table, const STableGroup &group, ECellUse use, int first,

@@ -18,30 +18,45 @@ QStringList Line(int columns, ValueOf valueOf)
     return line;
 }
 
-}  // namespace
-
-QString RowText(const QAbstractItemModel &model, const QList<int> &rows)
+// By the ranges of the selection: Qt's own list of rows looks at every cell.
+std::vector<int> SelectedRows(const QAbstractItemView &view)
 {
-    const int columns = model.columnCount();
-    CellRows lines;
-    lines.reserve(static_cast<std::size_t>(rows.size()) + 1);
-    lines.push_back(
-        Line(columns, [&](int column) { return model.headerData(column, Qt::Horizontal); }));
-    for (const int row : rows)
-        lines.push_back(Line(columns, [&](int column) { return model.index(row, column).data(); }));
-    return TextOfCells(lines);
+    std::vector<int> rows;
+    const auto add = [&rows](int first, int last) {
+        for (int row = first; row <= last; ++row)
+            rows.push_back(row);
+    };
+    for (const QItemSelectionRange &range : view.selectionModel()->selection())
+        add(range.top(), range.bottom());
+    if (rows.empty())
+        add(0, view.model()->rowCount() - 1);
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
 }
 
-QList<int> SelectedRows(const QAbstractItemView &view)
+}  // namespace
+
+SRowCopy RowsOf(const QAbstractItemView &view)
 {
-    QList<int> rows;
-    for (const QModelIndex &index : view.selectionModel()->selectedRows())
-        rows.append(index.row());
-    if (rows.isEmpty()) {
-        rows.reserve(view.model()->rowCount());
-        for (int row = 0; row < view.model()->rowCount(); ++row)
-            rows.append(row);
-    }
-    std::sort(rows.begin(), rows.end());
-    return rows;
+    const QAbstractItemModel *const model = view.model();
+    const int columns = model->columnCount();
+    return {
+        .header =
+            Line(columns, [&](int column) { return model->headerData(column, Qt::Horizontal); }),
+        .rows = SelectedRows(view),
+        .line =
+            [model, columns](int row) {
+                return Line(columns, [&](int column) { return model->index(row, column).data(); });
+            },
+    };
+}
+
+QString RowText(const QAbstractItemView &view)
+{
+    const SRowCopy rows = RowsOf(view);
+    QString text = TextOfCells({rows.header});
+    for (const int row : rows.rows)
+        text += TextOfCells({rows.line(row)});
+    return text;
 }

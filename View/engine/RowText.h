@@ -1,15 +1,16 @@
 // Rows of a table's model as text for a spreadsheet (ClipboardText.h), the captions of the columns first.
-// GUI thread.
+// The view selects rows. GUI thread.
 //
-//   QGuiApplication::clipboard()->setText(RowText(*view->model(), SelectedRows(*view)));
+//   SaveWhole(path, RowText(*view).toUtf8());
+//   m_copy.Start(RowsOf(*view), view->model(), done);   // however many they are
 #pragma once
 
-#include <QList>
 #include <QString>
 
-class QAbstractItemModel;
+#include "View/engine/RowCopy.h"
+
 class QAbstractItemView;
 
-QString RowText(const QAbstractItemModel &model, const QList<int> &rows);
-// In the order of the view; all rows when none is selected.
-QList<int> SelectedRows(const QAbstractItemView &view);
+// The selected rows in the order of the view; all rows when none is selected.
+SRowCopy RowsOf(const QAbstractItemView &view);
+QString RowText(const QAbstractItemView &view);

@@ -56,18 +56,23 @@ struct CTableCommands::SCommand
     const char *text;
     int key;
     void (CTableCommands::*run)();
+    int readKey = 0;       // of a table for reading; 0: such a table has not this command
     bool takesKey = true;  // else it is the key of somebody else
+
+    int Key(bool isForReading) const { return isForReading ? readKey : key; }
 };
 
 const CTableCommands::SCommand CTableCommands::kCommands[] = {
     {.name = "m_actionCopyCells",
      .text = "Copy cells",
      .key = kCtrl | Qt::Key_C,
-     .run = &CTableCommands::CopyCells},
+     .run = &CTableCommands::CopyCells,
+     .readKey = kCtrlShift | Qt::Key_C},
     {.name = "m_actionCopyWithHeaders",
      .text = "Copy with headers",
      .key = kCtrlShift | Qt::Key_C,
-     .run = &CTableCommands::CopyWithHeaders},
+     .run = &CTableCommands::CopyWithHeaders,
+     .readKey = kCtrl | Qt::Key_C},
     {.name = "m_actionPasteCells",
      .text = "Paste cells",
      .key = kCtrl | Qt::Key_V,
@@ -92,6 +97,7 @@ const CTableCommands::SCommand CTableCommands::kCommands[] = {
      .text = "Mark all cells",
      .key = kCtrl | Qt::Key_A,
      .run = &CTableCommands::MarkAll,
+     .readKey = kCtrl | Qt::Key_A,
      .takesKey = false},
 };
 
@@ -119,7 +125,10 @@ QList<QAction *> CTableCommands::Actions()
     if (!m_actions.isEmpty())
         return m_actions;
     for (const SCommand &command : kCommands) {
-        const QString key = QKeySequence(command.key).toString(QKeySequence::NativeText);
+        const int keys = command.Key(m_keys && m_keys->IsForReading());
+        if (keys == 0)
+            continue;
+        const QString key = QKeySequence(keys).toString(QKeySequence::NativeText);
         auto *action = new QAction(QLatin1String(command.text) + QLatin1Char('\t') + key, this);
         action->setObjectName(QLatin1String(command.name));
         connect(action, &QAction::triggered, this, [this, &command] { Run(command); });
@@ -131,13 +140,17 @@ QList<QAction *> CTableCommands::Actions()
 bool CTableCommands::TakesKey(const QKeyEvent *event) const
 {
     const int key = KeyOf(event);
+    const bool isForReading = m_keys && m_keys->IsForReading();
+    if (m_mark->IsEmpty() && isForReading)
+        return m_table->hasFocus() &&
+               (key == (kCtrl | Qt::Key_C) || key == (kCtrlShift | Qt::Key_C));
     if (m_mark->IsEmpty())
         return key == (kCtrl | Qt::Key_V) && !m_mark->Rows().empty() &&
                HasSeveralCells(QGuiApplication::clipboard()->text());
     if (PageActionOf(event))
         return true;
     for (const SCommand &command : kCommands) {
-        if (command.takesKey && command.key == key)
+        if (command.takesKey && command.Key(isForReading) == key)
             return true;
     }
     return false;
@@ -150,7 +163,7 @@ void CTableCommands::RunKey(const QKeyEvent *event)
         return;
     }
     for (const SCommand &command : kCommands) {
-        if (command.key == KeyOf(event))
+        if (command.Key(m_keys && m_keys->IsForReading()) == KeyOf(event))
             Run(command);
     }
 }
@@ -188,13 +201,25 @@ void CTableCommands::TellMark() const
         Say(Count(cells) + QLatin1String(" marked."));
 }
 
+// Of a table for reading without a mark all of it.
 void CTableCommands::Copy(bool hasCaptions)
 {
-    const SMarkedCells cells = MarkedCells(m_table);
+    const bool isAll = m_keys && m_keys->IsForReading() && m_mark->IsEmpty();
+    SMarkedCells cells = isAll ? AllCells(m_table) : MarkedCells(m_table);
     if (cells.rows.empty() || cells.columns.empty())
         return;
-    QGuiApplication::clipboard()->setText(TextOfCells(TextsOf(cells, hasCaptions)));
-    Say(Count(cells.rows.size() * cells.columns.size()) + QLatin1String(" copied."));
+    const QString count = Count(cells.rows.size() * cells.columns.size());
+    const auto line = [table = m_table, columns = cells.columns, hasCaptions](int row) {
+        return TextsOf(table, row, columns, hasCaptions);
+    };
+    const QStringList header = hasCaptions ? CaptionsOf(cells) : QStringList();
+    m_copy.Start({.header = header, .rows = std::move(cells.rows), .line = line}, m_table->model(),
+                 [this, count](bool isDone) {
+                     Say(count +
+                         QLatin1String(isDone ? " copied." : " not copied: the table changed."));
+                 });
+    if (m_copy.IsUnderWay())
+        Say(QLatin1String("Copying ") + count + QLatin1String("..."));
 }
 
 void CTableCommands::PasteCells()

@@ -9,6 +9,10 @@
 //   Interpolate              Ctrl+Shift+I   between the first and the last column, row by row
 //   Mark all cells           Ctrl+A
 //
+// A table for reading (CTableKeys::SetForReading) has the two copies and Mark all cells alone. There Ctrl+C
+// is with headers and Ctrl+Shift+C without, and without a mark they are for the whole table. A long copy
+// takes its time between other events (RowCopy.h).
+//
 // Without a mark the keys are the editor's, but for a text of several cells, which Ctrl+V pastes
 // from the cell with the focus on; an entry of the menu is for the cell under the menu then. With a
 // mark, Ctrl+Z and Ctrl+Y are the page's actions m_actionUndo and m_actionRedo.
@@ -28,6 +32,7 @@
 
 #include "View/editors/TableKeys.h"
 #include "View/engine/MarkedCells.h"
+#include "View/engine/RowCopy.h"
 
 class QAction;
 
@@ -73,5 +78,6 @@ private:
     CTableMark *const m_mark;
     const QPointer<CTableKeys> m_keys;
     QList<QAction *> m_actions;
+    CRowCopy m_copy;
     bool m_isQuiet = false;  // of the number of marked cells
 };

@@ -1,8 +1,6 @@
 #include "View/log/SessionLogWindow.h"
 
 #include <QAction>
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QPointer>
 #include <QScrollBar>
 
@@ -73,12 +71,12 @@ void CSessionLogWindow::hideEvent(QHideEvent *event)
 
 QString CSessionLogWindow::Text() const
 {
-    return RowText(m_filter, SelectedRows(*m_ui->m_events));
+    return RowText(*m_ui->m_events);
 }
 
 void CSessionLogWindow::Copy()
 {
-    QGuiApplication::clipboard()->setText(Text());
+    m_copy.Start(RowsOf(*m_ui->m_events), &m_filter, [](bool) {});
 }
 
 void CSessionLogWindow::Save()

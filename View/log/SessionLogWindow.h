@@ -14,6 +14,8 @@
 #include <QSortFilterProxyModel>
 #include <QWidget>
 
+#include "View/engine/RowCopy.h"
+
 namespace Ui {
 class CSessionLogWindow;
 }
@@ -37,5 +39,6 @@ private:
 
     const std::unique_ptr<Ui::CSessionLogWindow> m_ui;
     QSortFilterProxyModel m_filter;
+    CRowCopy m_copy;
     bool m_isAtEnd = true;  // the newest event was in sight
 };
