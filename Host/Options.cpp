@@ -12,7 +12,7 @@ constexpr char kDescription[] =
     "Bench host: loads the Quorlin RF plug-in, queries it, and shows its window.\n"
     "\n"
     "Exit code: 0 good; 1 the demonstration failed or the tool can't run on the DUT;\n"
-    "2 wrong command line, no such profile, or no such trace;\n"
+    "2 wrong command line, no such profile, scenario or trace;\n"
     "3 the plug-in can't be loaded;\n"
     "4 there is no display.";
 
@@ -25,6 +25,10 @@ const QCommandLineOption kProfile("profile",
                                   "Profile of the simulated DUT: a name or a file "
                                   "(default: that of VOND_SIM_PROFILE).",
                                   "NAME");
+const QCommandLineOption kScenario("scenario",
+                                   "What happens to the simulated DUT: a scenario's name or a file "
+                                   "(default: that of VOND_SIM_SCENARIO).",
+                                   "NAME");
 const QCommandLineOption kHandle("handle",
                                  "Target handle for the plug-in, decimal or 0x and "
                                  "hexadecimal (default: 1).",
@@ -70,8 +74,8 @@ std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
     const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(kDescription);
-    parser.addOptions(
-        {kHelp, kPlugin, kProfile, kHandle, kLink, kVerbose, kScreenshot, kRecord, kReplay, kDemo});
+    parser.addOptions({kHelp, kPlugin, kProfile, kScenario, kHandle, kLink, kVerbose, kScreenshot,
+                       kRecord, kReplay, kDemo});
 
     if (!parser.parse(QCoreApplication::arguments()))
         return Refuse(parser.errorText());
@@ -83,7 +87,7 @@ std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
         return Refuse(
             QString("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
     for (const QCommandLineOption &option :
-         {kPlugin, kProfile, kLink, kScreenshot, kRecord, kReplay}) {
+         {kPlugin, kProfile, kScenario, kLink, kScreenshot, kRecord, kReplay}) {
         if (parser.isSet(option) && parser.value(option).isEmpty())
             return Refuse(
                 QString("Option '%1' has an empty value.").arg(option.names().constFirst()));
@@ -96,6 +100,7 @@ std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
 
     options.pluginFile = parser.isSet(kPlugin) ? parser.value(kPlugin) : DefaultPluginFile();
     options.profile = parser.value(kProfile);
+    options.scenario = parser.value(kScenario);
     options.handle = *handle;
     options.linkFile = parser.value(kLink);
     options.isVerbose = parser.isSet(kVerbose);

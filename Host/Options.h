@@ -18,7 +18,7 @@ enum EHostExit : int
 {
     eHostExitGood = 0,
     eHostExitFailed = 1,     // the demonstration failed, or the tool can't run on the DUT
-    eHostExitOptions = 2,    // wrong command line, no such profile, or no such trace
+    eHostExitOptions = 2,    // wrong command line, no such profile, scenario or trace
     eHostExitNoPlugin = 3,   // the plug-in or the link can't be loaded
     eHostExitNoDisplay = 4,  // Qt finds no display
 };
@@ -27,6 +27,7 @@ struct SHostOptions
 {
     QString pluginFile;      // never empty after reading
     QString profile;         // of the simulated DUT; empty: as the environment says
+    QString scenario;        // of the simulated DUT; empty: as the environment says
     uint32_t handle = 1;     // target handle; not used with a link
     QString linkFile;        // library that opens the link; empty: none
     bool isVerbose = false;  // debug logs of the tool too

@@ -116,9 +116,11 @@ int main(int argc, char **argv)
         Complain(error);
         return eHostExitOptions;
     }
-    // The simulated DUT comes with the plug-in and takes its profile at that moment.
+    // The simulated DUT comes with the plug-in and takes profile and scenario at that moment.
     if (!options.profile.isEmpty())
         qputenv("VOND_SIM_PROFILE", options.profile.toUtf8());
+    if (!options.scenario.isEmpty())
+        qputenv("VOND_SIM_SCENARIO", options.scenario.toUtf8());
     QLoggingCategory::setFilterRules(options.isVerbose ? "quorlin.*.debug=true"
                                                        : "quorlin.*.debug=false");
     // Qt gets no options: it knows a "-plugin" of its own. Its settings come from the environment.
@@ -141,6 +143,10 @@ int main(int argc, char **argv)
     if (IsUnknownProfile(options.profile, profiles)) {
         Complain(QString("There is no profile '%1', and no file of that name. Profiles: %2.")
                      .arg(options.profile, profiles.join(", ")));
+        return eHostExitOptions;
+    }
+    if (const QString reason = ScenarioError(options.scenario); !reason.isEmpty()) {
+        Complain(reason);
         return eHostExitOptions;
     }
     CBenchHost host(plugin);

@@ -30,6 +30,11 @@ void AddDutOptions(CLI::App &command, SGivenDut &given)
 void AddBenchOptions(CLI::App &command, SGivenBench &given)
 {
     AddDutOptions(command, given);
+    command
+        .add_option("--scenario", given.scenario,
+                    "what happens to the simulated DUT: a scenario's name, or a file")
+        ->excludes(command.get_option("--handle"))
+        ->excludes(command.get_option("--link"));
     command.add_option("--plugin", given.plugin, "the plug-in, if not the one beside the program");
     command.add_flag("--verbose", given.isVerbose, "debug lines of the tool on stderr");
 }
@@ -46,6 +51,7 @@ SBenchOptions BenchOptionsOf(const SGivenDut &given)
 SBenchOptions BenchOptionsOf(const SGivenBench &given)
 {
     SBenchOptions options = BenchOptionsOf(static_cast<const SGivenDut &>(given));
+    options.scenario = QString::fromStdString(given.scenario);
     options.pluginFile = QString::fromStdString(given.plugin);
     return options;
 }

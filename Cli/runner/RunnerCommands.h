@@ -22,13 +22,14 @@ struct SGivenDut
 
 struct SGivenBench : SGivenDut
 {
+    std::string scenario;
     std::string plugin;
     bool isVerbose = false;
 };
 
 // --profile, --handle, --link (one of them at most).
 void AddDutOptions(CLI::App &command, SGivenDut &given);
-// The same, --plugin, --verbose.
+// The same, --scenario, --plugin, --verbose.
 void AddBenchOptions(CLI::App &command, SGivenBench &given);
 
 SBenchOptions BenchOptionsOf(const SGivenDut &given);

@@ -29,6 +29,7 @@ constexpr char kRfOffFailed[] = "RF off failed: ";
 constexpr char kHandleProperty[] = "vondTargetHandle";
 constexpr char kChipName[] = "ChipName()";
 constexpr char kProfileVariable[] = "VOND_SIM_PROFILE";
+constexpr char kScenarioVariable[] = "VOND_SIM_SCENARIO";
 
 QStringList TabTitles(const QMainWindow *window)
 {
@@ -81,11 +82,13 @@ SBenchError CBench::Open(const SBenchOptions &options)
     return loaded.kind == EBenchError::None ? ShowTool(options.wait) : loaded;
 }
 
-// The simulated DUT comes with the plug-in and takes its profile at that moment.
+// The simulated DUT comes with the plug-in and takes profile and scenario at that moment.
 SBenchError CBench::LoadTool(const SBenchOptions &options)
 {
     if (!options.profile.isEmpty())
         qputenv(kProfileVariable, options.profile.toUtf8());
+    if (!options.scenario.isEmpty())
+        qputenv(kScenarioVariable, options.scenario.toUtf8());
     qApp->setProperty(kHandleProperty, m_parts->handle);
     m_parts->plugin = std::make_unique<CPluginHandle>();
     QString error;
@@ -99,6 +102,8 @@ SBenchError CBench::LoadTool(const SBenchOptions &options)
         return {EBenchError::Wrong,
                 QStringLiteral("There is no profile '%1', and no file of that name. Profiles: %2.")
                     .arg(options.profile, profiles.join(QStringLiteral(", ")))};
+    if (const QString reason = ScenarioError(options.scenario); !reason.isEmpty())
+        return {EBenchError::Wrong, reason};
     m_parts->toolVersion = m_parts->plugin->MetaData()
                                .value(QLatin1String("MetaData"))
                                .toObject()

@@ -39,6 +39,7 @@ struct SBenchOptions
 {
     QString pluginFile = {};  // empty: ../plugins/libQuorlinRf.so beside the program's folder
     QString profile = {};     // of the simulated DUT; empty: as the environment says
+    QString scenario = {};    // of the simulated DUT; empty: as the environment says
     uint32_t handle = 1;      // not used with a link
     QString linkFile = {};    // a library with VondLink_Open and VondLink_Close; empty: none
     std::chrono::milliseconds wait = kBenchWait;  // for the pages
@@ -47,7 +48,7 @@ struct SBenchOptions
 enum class EBenchError
 {
     None,
-    Wrong,        // no such profile, plug-in or link file: the command line is wrong
+    Wrong,        // no such profile, scenario, plug-in or link file: the command line is wrong
     Unsupported,  // the tool can't run on this DUT
     Failed,       // the pages did not come up
 };

@@ -8,6 +8,7 @@
 #include <thread>
 #include <utility>
 
+#include "Simulator/door/Errors.h"
 #include "Simulator/profile/ProfileJson.h"
 
 using Clock = std::chrono::steady_clock;
@@ -289,6 +290,6 @@ void CSimulator::LoadFirstScenario()
     try {
         SetScenario(Environment("VOND_SIM_SCENARIO"));
     } catch (const std::exception &error) {
-        std::fprintf(stderr, "VondSim: %s; there is no scenario\n", error.what());
+        ReportError(error.what(), "; there is no scenario");
     }
 }

@@ -78,6 +78,7 @@ def bench(
     max_dbm: Optional[float] = None,
     allow_write: bool = False,
     plugin: Optional[str] = None,
+    scenario: Optional[Union[str, "os.PathLike[str]"]] = None,
     program: Optional[str] = None,
     timeout: float = DEFAULT_TIMEOUT,
     on_note: Optional[Note] = None,
@@ -86,7 +87,7 @@ def bench(
 
     max_dbm: presses that transmit are allowed, up to this TX power. allow_write: Write is allowed.
     program: ``quorlin``, if it is not found by itself. on_note: called on another thread for each status
-    line, busy and box.
+    line, busy and box. scenario: what happens to the simulated DUT, a name or a file.
     """
     command = [find_program(program), "serve"]
     for option, value in (
@@ -94,6 +95,7 @@ def bench(
         ("--handle", handle),
         ("--link", link),
         ("--plugin", plugin),
+        ("--scenario", scenario),
     ):
         if value is not None:
             command += [option, os.fspath(value) if isinstance(value, os.PathLike) else str(value)]

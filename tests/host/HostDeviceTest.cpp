@@ -1,4 +1,5 @@
 // The bench host with the real plug-in on the simulated DUT.
+#include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
@@ -15,6 +16,8 @@ private slots:
     void ToolOpensNoHigherThanTheScreen();
     void DemoRefusesAModemWithoutNr();
     void RefusesAMistypedProfileAndNamesThemAll();
+    void RefusesAMistypedScenarioAndNamesThemAll();
+    void ScenarioMakesTheStartFail();
 };
 
 void HostDeviceTest::DemoRunsContinuousRxOnTheHandset()
@@ -61,6 +64,36 @@ void HostDeviceTest::RefusesAMistypedProfileAndNamesThemAll()
     for (const char *profile : {"handset", "largest", "c2k", "gen0", "no-nr", "unplugged"})
         QVERIFY2(run.err.contains(profile), profile);
     QCOMPARE(run.out, QString());
+}
+
+void HostDeviceTest::RefusesAMistypedScenarioAndNamesThemAll()
+{
+    const SHostRun run = RunHost({"--demo", "--scenario", "weak-sell"});
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(
+        run.err.contains("quorlin-host: The scenario can't be used: weak-sell: no such file, and "
+                         "none of the built-in scenarios "),
+        qPrintable(run.err));
+    for (const char *scenario :
+         {"weak-cell", "cable-off", "flaky-link", "slow-dut", "torn-flash", "overheating-pa"})
+        QVERIFY2(run.err.contains(scenario), scenario);
+    QCOMPARE(run.out, QString());
+}
+
+void HostDeviceTest::ScenarioMakesTheStartFail()
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath("start.json"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QByteArray text = "{'name': 'start', 'steps': [{"
+                      "'when': {'function': 'VOND_MMRf_ContRxV7_r', 'call': 1}, "
+                      "'fault': {'function': 'VOND_MMRf_ContRxV7_r', 'kind': 'fail'}}]}";
+    file.write(text.replace('\'', '"'));
+    file.close();
+    const SHostRun run = RunHost({"--demo", "--scenario", file.fileName()});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.out.contains("The tool says \"Cont Rx start failed...\""),
+             qPrintable(run.out + run.err));
 }
 
 QUORLIN_TEST_CLASS(HostDeviceTest)

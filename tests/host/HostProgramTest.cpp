@@ -43,8 +43,8 @@ void HostProgramTest::HelpNeedsNoDisplayAndNamesAllOptions()
     const SHostRun run = RunHost({"--help"}, {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"});
     QCOMPARE(run.exitCode, 0);
     for (const char *option :
-         {"--plugin <FILE>", "--profile <NAME>", "--handle <N>", "--verbose", "--screenshot <FILE>",
-          "--record <FILE>", "--replay <FILE>", "--demo"})
+         {"--plugin <FILE>", "--profile <NAME>", "--scenario <NAME>", "--handle <N>", "--verbose",
+          "--screenshot <FILE>", "--record <FILE>", "--replay <FILE>", "--demo"})
         QVERIFY2(run.out.contains(option), option);
     QCOMPARE(run.err, QString());
 }
