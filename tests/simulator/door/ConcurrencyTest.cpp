@@ -86,4 +86,53 @@ TEST_F(ConcurrencyTest, SteeringWhileCallsRunIsSafe)
     reader.join();
 }
 
+// What panels do while a test measures: they set sliders, look at everything, and save.
+TEST_F(ConcurrencyTest, PanelsMayWorkWhileATestMeasures)
+{
+    std::atomic<bool> end{false};
+    std::thread caller([&] {
+        const SNrRsrpCmdV7 command = RsrpForcedCommand();
+        while (!end) {
+            uint32_t status = 0;
+            NRfTestResult_GetMixRxReportV7 report = {};
+            VOND_NRf_RsrpV7_r(kHandle, kTimeoutMs, &command, &status);
+            VOND_NRf_GetMixRxReportV7_r(kHandle, kTimeoutMs, &report);
+            VOND_NRf_TestStop_r(kHandle, kTimeoutMs);
+        }
+    });
+    std::thread reader([&] {
+        char text[4096];
+        while (!end) {
+            SVondSimRadioState state;
+            VondSim_GetRadioState(&state);
+            VondSim_GetRadioText(text, sizeof(text));
+            VondSim_GetStateAsScenario("x", "", text, sizeof(text));
+            VondSim_GetScenarioText(text, sizeof(text));
+            SVondSimFault fault;
+            for (uint32_t i = 0; VondSim_GetFault(i, &fault) == 0; ++i)
+                VondSim_GetFaultText(fault.id, text, sizeof(text));
+            SVondSimFlashItem item;
+            VondSim_GetFlashItem(0, &item);
+            EXPECT_LT(state.downlinkKhz, 6000000u);
+        }
+    });
+    for (int i = 0; i < kRounds; ++i) {
+        VondSim_SetRadio(i % 2 == 0 ? R"({"levelDbm": {"default": -90}})" : nullptr);
+        VondSim_SetScenario(VondSim_ScenarioName(i % 3 == 0 ? 0 : 2));
+        VondSim_AddStep(
+            R"({"when": {"function": "*", "every": 3}, "radio": {"temperatureC": 30}})");
+        VondSim_FailNextCall(0);
+        SVondSimFault fault;
+        if (VondSim_GetFault(0, &fault) == 0)
+            VondSim_RemoveFault(fault.id);
+        if (i % 50 == 0)
+            VondSim_RestoreFlash();
+    }
+    end = true;
+    caller.join();
+    reader.join();
+    VondSim_SetScenario(nullptr);
+    EXPECT_EQ(VondSim_IsPlugged(), 1);
+}
+
 }  // namespace
