@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSpinBox>
 #include <QTableWidget>
 
@@ -47,24 +48,33 @@ QVariant Value(const QWidget *widget)
     return {};
 }
 
-// Grey and slanted, so that the colour does not tell it alone. The palette is reset first: the grey is
-// of the colours that the widget has without it.
+// Of the colours that the widget has without it.
+QPalette GreyPalette(const QWidget *widget)
+{
+    const bool isLabel = qobject_cast<const QLabel *>(widget);
+    const bool isCell = qobject_cast<QTableWidget *>(widget->parentWidget()->parentWidget());
+    const QPalette plain = widget->palette();
+    const QColor grey =
+        FadedText(plain.color(isLabel ? QPalette::WindowText : QPalette::Text),
+                  plain.color(isLabel && !isCell ? QPalette::Window : QPalette::Base));
+    QPalette palette;
+    palette.setColor(QPalette::Text, grey);
+    palette.setColor(QPalette::WindowText, grey);
+    return palette;
+}
+
+// Grey and slanted, so that the colour does not tell it alone.
 void SetGrey(QWidget *widget, bool isGrey)
 {
     if (widget->property(kIsGrey).toBool() == isGrey)
         return;
     widget->setProperty(kIsGrey, isGrey);
     widget->setPalette({});
-    QPalette palette;
-    if (isGrey) {
-        const bool isLabel = qobject_cast<QLabel *>(widget);
-        const QPalette plain = widget->palette();
-        const QColor grey = FadedText(plain.color(isLabel ? QPalette::WindowText : QPalette::Text),
-                                      plain.color(isLabel ? QPalette::Window : QPalette::Base));
-        palette.setColor(QPalette::Text, grey);
-        palette.setColor(QPalette::WindowText, grey);
-    }
+    const QPalette palette = isGrey ? GreyPalette(widget) : QPalette();
     widget->setPalette(palette);
+    // Below a style sheet the text of a spin box does not follow its box.
+    if (auto *text = widget->findChild<QLineEdit *>())
+        text->setPalette(palette);
     QFont font = widget->font();
     font.setItalic(isGrey);
     widget->setFont(font);
