@@ -28,6 +28,7 @@ constexpr SRatio kRatios[] = {
     {"BandChangeLargeDocument", "BandChangeSmallDocument", 0},
     {"BandChangeLargeDocument", nullptr, 16},
     {"BandChangeLogged", nullptr, 16},
+    {"BandChangeSmallDocument", "BandChangeUnrecorded", 1.2},
 };
 
 }  // namespace

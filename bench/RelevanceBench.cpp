@@ -65,9 +65,10 @@ QJsonObject Document(int ballast)
     return {{"cmdIf", QJsonObject{{"request", QJsonObject{{"group1", group}}}}}};
 }
 
-void ChangeBand(benchmark::State &state, int ballast)
+void ChangeBand(benchmark::State &state, int ballast, bool isRecorded = true)
 {
     CBenchPage page;
+    page.Changes().SetOn(isRecorded);
     auto *band = page.Add<QComboBox>(Name("band"));
     QVector<QSpinBox *> ranges;
     for (int t = 0; t < kTargets / 2; ++t) {
@@ -91,6 +92,12 @@ void BandChangeSmallDocument(benchmark::State &state)
     ChangeBand(state, 0);
 }
 BENCHMARK(BandChangeSmallDocument)->Unit(benchmark::kMicrosecond);
+
+void BandChangeUnrecorded(benchmark::State &state)
+{
+    ChangeBand(state, 0, false);
+}
+BENCHMARK(BandChangeUnrecorded)->Unit(benchmark::kMicrosecond);
 
 void BandChangeLargeDocument(benchmark::State &state)
 {

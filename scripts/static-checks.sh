@@ -77,8 +77,9 @@ View/results View/engine|View/editors|View/access|Model|Support|ViewController
 View/log View/engine|View/editors|View/access|Model|Support
 View/settings View/engine|View/editors|View/access|Support
 View/entry View/engine|View/editors|View/access|Model|Support
+View/explain View/engine|View/editors|View/access|Model
 View/plots View/compare|View/engine|View/editors|View/access|Model|Support|ViewController
-View/form View/entry|View/log|View/settings|View/engine|View/editors|View/access|Model|Support|ViewController
+View/form View/entry|View/explain|View/log|View/settings|View/engine|View/editors|View/access|Model|Support|ViewController
 View/Rx View/results|View/pages|View/plots|View/engine|View/editors|View/access|Model|Support|ViewController
 View/Tx View/results|View/pages|View/plots|View/engine|View/editors|View/access|Model|Support|ViewController
 Plots View/plots

@@ -253,7 +253,15 @@ void CNrRsrpDockWidgetV7::ShowUlFrequency(int dlFrequency)
         return;
     const QString offsets = PathFromObjectName(m_widgets.ulFrequency->objectName()) +
                             QLatin1String(".trait.valuePair.");
-    const QJsonValue offset =
-        GetJsonValueConst(m_dataModel, offsets + m_widgets.band->currentText());
+    const QString band = m_widgets.band->currentText();
+    const QJsonValue offset = GetJsonValueConst(m_dataModel, offsets + band);
+    const CChangeStep step(
+        &Changes(),
+        {.cause = EChangeCause::Relation,
+         .publisher = Changes().Member(PathFromObjectName(m_widgets.dlFrequency->objectName())),
+         .key = band,
+         .entry = offset.toVariant().toInt()},
+        Changes().Member(PathFromObjectName(m_widgets.ulFrequency->objectName())), -1,
+        m_widgets.ulFrequency);
     m_widgets.ulFrequency->setText(QString::number(dlFrequency - offset.toVariant().toInt()));
 }

@@ -140,6 +140,7 @@ void CEditSession::Begin(QWidget *editor, bool isTyped)
         return;
     }
     Finish();
+    ++m_count;
     m_editor = editor;
     m_value = ValueOf(editor);
     m_text = isTyped ? TextOfValue(editor, m_value) : TextOf(editor);

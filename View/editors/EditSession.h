@@ -41,6 +41,8 @@ public:
     void Finish();
     // The editor whose text the user is changing; null when there is none.
     QWidget *Editor() const { return m_editor; }
+    // Edits that have begun so far: tells one from the next.
+    int Count() const { return m_count; }
     // The user has typed in this editor, and the edit is under way.
     bool IsTyping(const QWidget *editor) const { return m_editor == editor && m_isTyped; }
     // An edit begins with a step that comes from elsewhere than a key or the mouse.
@@ -62,5 +64,6 @@ private:
     QVariant m_value;  // of the editor when the edit began
     QString m_text;    // the same
     bool m_isTyped = false;
+    int m_count = 0;
     QPointer<QWidget> m_ended;
 };

@@ -33,6 +33,8 @@ const QLatin1String kLineBreak("<br>");  // the box shows its text as rich text
 // anew now and then.
 constexpr int kPackagesBetweenRenewals = 256;
 
+const SChangeReason kByRangeCheck = {.key = QStringLiteral("range check")};
+
 void LogFramed(const char *words, const QString &title)
 {
     qCDebug(lcEngine) << kHyphens.data();
@@ -154,13 +156,17 @@ SBinding CAutoBindingDataModelDockWidget::BindingOf(QJsonObject &document,
         .index = m_index,
         .page = *this,
         .edits = m_edits,
+        .changes = m_changes,
     };
 }
 
 void CAutoBindingDataModelDockWidget::UpdateWidget(QJsonObject update)
 {
     m_modelReady = false;
-    Walk(kUpdateWalk, BindingOf(m_dataModel, update));
+    {
+        const CChangeScope scope(&m_changes, {.cause = EChangeCause::Result});
+        Walk(kUpdateWalk, BindingOf(m_dataModel, update));
+    }
     const QPointer<CAutoBindingDataModelDockWidget> self(this);
     CheckDateModelIntegrity(update);
     if (self)
@@ -169,6 +175,7 @@ void CAutoBindingDataModelDockWidget::UpdateWidget(QJsonObject update)
 
 void CAutoBindingDataModelDockWidget::AppendWidget(QJsonObject update)
 {
+    const CChangeScope scope(&m_changes, {.cause = EChangeCause::Result});
     Walk(kAppendWalk, BindingOf(m_dataModel, update));
 }
 
@@ -218,9 +225,10 @@ QJsonObject CAutoBindingDataModelDockWidget::DocumentOf(const std::string &text)
     return ModelFromText(text);
 }
 
-void CAutoBindingDataModelDockWidget::ChangeCells(const QString &, const CellChanges &changes)
+void CAutoBindingDataModelDockWidget::ChangeCells(const QString &name, const CellChanges &changes)
 {
     FinishEdit();
+    const CChangeScope scope(&m_changes, {.cause = EChangeCause::User, .key = name});
     SetCells(changes);
 }
 
@@ -270,12 +278,14 @@ void CAutoBindingDataModelDockWidget::Publish(ERelevance kind, const QString &cu
 
 void CAutoBindingDataModelDockWidget::Slot_RangeCheck()
 {
+    const CChangeScope scope(&m_changes, kByRangeCheck);
     if (auto *box = qobject_cast<QSpinBox *>(sender()); m_edits.TakeEnded(box))
         CheckRange(box);
 }
 
 void CAutoBindingDataModelDockWidget::Slot_PointRangeCheck()
 {
+    const CChangeScope scope(&m_changes, kByRangeCheck);
     if (auto *box = qobject_cast<QDoubleSpinBox *>(sender()); m_edits.TakeEnded(box))
         CheckRange(box);
 }

@@ -65,6 +65,8 @@
 #include "Support/MessageBoxMan.h"
 #include "View/editors/EditSession.h"
 #include "View/editors/WheelGuard.h"
+#include "View/engine/ChangeRecorder.h"
+#include "View/engine/ContextMenu.h"
 #include "View/engine/MemberSettings.h"
 #include "View/engine/ModelInterface.h"
 #include "View/engine/Relevance.h"
@@ -118,6 +120,12 @@ public:
     void ShowBox(int kind, const QString &title, const QString &text, const QString &detail = {});
     void Warn(const QString &status, const QString &text);
     QWidget *Widget() override { return this; }
+    // Why the members have changed.
+    CChangeRecorder &Changes() { return m_changes; }
+    // As of now, without what the widgets hold; empty while the page has none.
+    const QJsonObject &DataModel() const { return m_dataModel; }
+    // The actions on a member that its context menu shows; they are asked for each time.
+    void SetMemberActions(MemberActions actions) { m_memberActions = std::move(actions); }
 
 signals:
     // Text for the status bar. timeout: Prescribed; see docs/decisions/0036-prescribed-surface.md
@@ -225,8 +233,10 @@ private:
     bool m_hasAsked = false;    // a request has begun
 
     CWidgetIndex m_index;  // built when the page is first shown
-    CRelevance m_relevance{m_dataModel, m_modelInterface, m_index};
     CEditSession m_edits;
+    CChangeRecorder m_changes{m_edits};
+    CRelevance m_relevance{m_dataModel, m_modelInterface, m_index, &m_changes};
+    MemberActions m_memberActions;
     CWheelGuard m_wheel;
     int m_packageCount = 0;
 };

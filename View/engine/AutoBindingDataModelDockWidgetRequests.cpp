@@ -157,7 +157,8 @@ bool CAutoBindingDataModelDockWidget::OpenContextMenu(QWidget *widget, const QPo
     const SMenuPlace at = MenuPlaceOf(this, place);
     if (CTableMark *mark = at.table ? CTableMark::Of(at.table) : nullptr)
         mark->SetCurrent(at.table->indexAt(at.table->viewport()->mapFromGlobal(globalPos)));
-    QMenu *menu = MakeContextMenu(at, m_edits);
+    QMenu *menu = MakeContextMenu(
+        at, m_edits, m_memberActions ? m_memberActions(at, globalPos) : QList<QAction *>());
     if (menu)
         menu->popup(globalPos);
     return menu || at.editor;

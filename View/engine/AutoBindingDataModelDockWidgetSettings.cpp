@@ -73,6 +73,7 @@ QStringList CAutoBindingDataModelDockWidget::TakeSettings(const QJsonObject &gro
     const QPointer<CAutoBindingDataModelDockWidget> self(this);
     FinishEdit();
     const QString section = AbsoluteModelPath(SettingsSection());
+    const CChangeScope scope(&m_changes, {.key = QStringLiteral("settings")});
     QStringList refused;
     const auto isOn = [this](const SMemberEditor &editor) {
         return editor.editor && editor.editor->isEnabled() && editor.editor->isVisibleTo(this);

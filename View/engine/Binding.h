@@ -10,6 +10,7 @@
 #include <QJsonObject>
 #include <QString>
 
+class CChangeRecorder;
 class CEditSession;
 class CWidgetIndex;
 class QWidget;
@@ -22,6 +23,7 @@ struct SBinding
     const CWidgetIndex &index;  // of the page's widgets
     QWidget &page;              // has the slots that a data type names
     CEditSession &edits;        // watches the editors
+    CChangeRecorder &changes;   // of the members
 
     // A path of a publish or subscribe list, with the interface's word in front.
     QString AbsolutePath(const QString &relativePath) const;

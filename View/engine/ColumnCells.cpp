@@ -9,6 +9,8 @@
 
 namespace {
 
+const SChangeReason kByResult = {.cause = EChangeCause::Result};
+
 // True for rows whose cells one editor can stand for.
 bool IsSameKind(const SColumnRow &one, const SColumnRow &other)
 {
@@ -34,8 +36,9 @@ SCellWish WishOf(const SColumnRow &content, int column)
 
 }  // namespace
 
-CColumnCells::CColumnCells(QTableWidget *table, QWidget *page, CEditSession *edits)
-    : CLateEditors(table), m_page(page), m_edits(edits),
+CColumnCells::CColumnCells(QTableWidget *table, QWidget *page, CEditSession *edits,
+                           CChangeRecorder *changes)
+    : CLateEditors(table), m_page(page), m_edits(edits), m_changes(changes),
       m_rows(static_cast<size_t>(table->rowCount()))
 {
 }
@@ -95,8 +98,14 @@ void CColumnCells::Show(int row, int column, const SDataType &type, const QJsonO
     if (!found || found->content.type != &type)
         return;
     if (AreMade()) {
-        if (QWidget *editor = Editor(row, column, type))
-            type.show(editor, member, text);
+        QWidget *editor = Editor(row, column, type);
+        if (!editor)
+            return;
+        // An editor tells of its change itself.
+        const bool isHeard = m_changes && m_changes->IsWatched(editor);
+        const CChangeStep step(isHeard ? nullptr : m_changes.data(), kByResult,
+                               found->content.member, column, editor);
+        type.show(editor, member, text);
         return;
     }
     QString &shown = Texts(*found)[column];
@@ -104,7 +113,9 @@ void CColumnCells::Show(int row, int column, const SDataType &type, const QJsonO
     if (type.recallCell)
         type.recallCell(scratch, shown);
     type.show(scratch, member, text);
-    shown = type.text(scratch);
+    const QString before = std::exchange(shown, type.text(scratch));
+    if (m_changes && shown != before)
+        m_changes->Add(kByResult, found->content.member, column, before, shown);
     found->isShown = true;
 }
 
@@ -182,6 +193,8 @@ void CColumnCells::MakeRow(int row, SRow &from)
         PlaceEditor(Table(), row, c, cell);
         if (m_edits)
             m_edits->Watch(cell);
+        if (m_changes)
+            m_changes->Watch(cell, content.member, c);
         if (!content.isChecked)
             continue;
         cell->setToolTip(content.ranges);

@@ -20,6 +20,7 @@
 
 #include "View/editors/EditSession.h"
 #include "View/editors/LateEditors.h"
+#include "View/engine/ChangeRecorder.h"
 #include "View/engine/DataType.h"
 
 // A row, as its cells are made.
@@ -31,6 +32,7 @@ struct SColumnRow
     bool isEnabled = true;
     bool isChecked = false;  // against ranges, when an edit ends
     QString ranges = {};
+    int member = -1;  // id, of CChangeRecorder
 };
 
 class CColumnCells : public CLateEditors
@@ -38,8 +40,9 @@ class CColumnCells : public CLateEditors
     Q_OBJECT
 
 public:
-    // page has the slots of range checks, edits watches the editors; both may go before the table.
-    CColumnCells(QTableWidget *table, QWidget *page, CEditSession *edits);
+    // page has the slots of range checks, edits and changes watch the editors; all of them may go
+    // before the table.
+    CColumnCells(QTableWidget *table, QWidget *page, CEditSession *edits, CChangeRecorder *changes);
     ~CColumnCells() override;
 
     // Null when the table has no such cells.
@@ -78,6 +81,7 @@ private:
 
     const QPointer<QWidget> m_page;
     const QPointer<CEditSession> m_edits;
+    const QPointer<CChangeRecorder> m_changes;
     std::vector<SRow> m_rows;
     std::vector<QPointer<QWidget>> m_scratches;  // one a kind of row
 };

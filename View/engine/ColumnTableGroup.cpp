@@ -65,7 +65,7 @@ void ReadCheck(SColumnRow &row, const QJsonObject &trait)
 }
 
 void InitRow(const SBinding &binding, CColumnCells &cells, QTableWidget *table, int row,
-             const STableGroup &group)
+             const STableGroup &group, const QString &properties)
 {
     const QString member = group.rows[row];
     const QJsonObject memberObject = group.properties.value(member).toObject();
@@ -101,6 +101,8 @@ void InitRow(const SBinding &binding, CColumnCells &cells, QTableWidget *table, 
     }
     for (int c = 0; type->columnWidth != 0 && c < table->columnCount(); ++c)
         table->horizontalHeader()->resizeSection(c, type->columnWidth);
+    content.member = binding.changes.Member(properties + QLatin1Char('.') + member);
+    binding.changes.Start(content.member, {}, content.defaults);
     cells.AddRow(row, content);
 }
 
@@ -148,12 +150,12 @@ void InitColumnTable(const SBinding &binding, const QString &path, QWidget *widg
     FillPlaces(table);
     CTableKeys::Of(table)->SetEdits(&binding.edits);
     CTableKeys::Of(table)->SetForReading(IsForReading(group));
-    auto *cells = new CColumnCells(table, &binding.page, &binding.edits);
+    auto *cells = new CColumnCells(table, &binding.page, &binding.edits, &binding.changes);
     for (int c = 0; c < group.columns; ++c)
         table->horizontalHeader()->resizeSection(c, kColumnWidth);
     for (int r = 0; r < group.rows.size(); ++r) {
         table->verticalHeader()->resizeSection(r, kCellRowHeight);
-        InitRow(binding, *cells, table, r, group);
+        InitRow(binding, *cells, table, r, group, GroupPropertyPath(path));
     }
     SetColumnHeaders(table, headers);
     table->setVerticalHeaderLabels(group.Captions(group.rows));

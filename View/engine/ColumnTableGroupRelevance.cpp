@@ -82,10 +82,12 @@ void ApplyTableValueRelevance(const SRelevanceTarget &target)
         qCDebug(lcEngine) << "---> [Value Relevance][type3] Has the value in valuePair <---";
     const QJsonArray defaults = trait.value(QLatin1String("defaultValue")).toArray();
     EnsureEditors(found.table);
+    const SChangeReason reason = target.Reason(entry);
     for (int c = 0; c < found.columns; ++c) {
         QWidget *cell = found.table->cellWidget(found.row, c);
         if (!cell || !IsExactClass(cell, type->className))
             continue;
+        const CChangeStep step(target.changes, reason, target.member, c, cell);
         type->relateCell(cell, {
                                    .entry = entry,
                                    .defaultText = ColumnElement(defaults, c).toString(),
@@ -104,8 +106,14 @@ void ApplyTableStatusRelevance(const SRelevanceTarget &target)
     if (!IsJsonValueValid(entry))
         return;
     EnsureEditors(found.table);
+    const SChangeReason reason = target.Reason(entry);
     for (int c = 0; c < found.columns; ++c) {
-        if (QWidget *cell = found.table->cellWidget(found.row, c))
-            cell->setEnabled(entry.toInt() != 0);
+        QWidget *cell = found.table->cellWidget(found.row, c);
+        if (!cell)
+            continue;
+        const bool wasOn = !cell->testAttribute(Qt::WA_ForceDisabled);
+        cell->setEnabled(entry.toInt() != 0);
+        if (target.changes && wasOn != (entry.toInt() != 0))
+            target.changes->Enable(reason, target.member, c, !wasOn);
     }
 }

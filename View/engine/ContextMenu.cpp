@@ -10,6 +10,7 @@
 #include <QSpinBox>
 #include <QTableWidget>
 
+#include "Model/MemberPath.h"
 #include "View/editors/EditSession.h"
 #include "View/engine/TableCommands.h"
 
@@ -97,6 +98,9 @@ SMenuPlace MenuPlaceOf(QWidget *page, QWidget *widget)
             place.editor = widget;
         if (auto *table = qobject_cast<QTableWidget *>(widget); table && !place.table)
             place.table = table;
+        const QString name = widget->objectName();
+        if (!place.member && IsBoundName(name) && !IsCaptionName(name))
+            place.member = widget;
     }
     return place;
 }
@@ -107,17 +111,19 @@ void LeaveMenuToPage(QWidget *editor)
         editor->setContextMenuPolicy(Qt::NoContextMenu);
 }
 
-QMenu *MakeContextMenu(const SMenuPlace &place, CEditSession &edits)
+QMenu *MakeContextMenu(const SMenuPlace &place, CEditSession &edits,
+                       const QList<QAction *> &ofMember)
 {
     const bool hasOwn = HasOwnEntries(place.editor);
     const QList<QAction *> ofTable = TablePart(place.table);
-    if (!hasOwn && ofTable.isEmpty() && (!place.editor || place.editor->actions().isEmpty()))
+    const QList<QAction *> ofEditor =
+        (place.editor ? place.editor->actions() : QList<QAction *>()) + ofMember;
+    if (!hasOwn && ofTable.isEmpty() && ofEditor.isEmpty())
         return nullptr;
     QMenu *menu = OwnMenu(place, edits);
     menu->setObjectName(QStringLiteral("m_contextMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    if (place.editor)
-        AddPart(menu, place.editor->actions());
+    AddPart(menu, ofEditor);
     AddPart(menu, ofTable);
     AddPart(menu, place.page->actions());
     return menu;

@@ -5,6 +5,7 @@
 #include "Model/JsonPath.h"
 #include "Model/MemberPath.h"
 #include "Support/Log.h"
+#include "View/engine/ChangeRecorder.h"
 #include "View/engine/DataTypes.h"
 #include "View/engine/GroupTypes.h"
 #include "View/engine/ModelInterface.h"
@@ -68,8 +69,8 @@ private:
 }  // namespace
 
 CRelevance::CRelevance(const QJsonObject &document, const int &modelInterface,
-                       const CWidgetIndex &index)
-    : m_document(document), m_modelInterface(modelInterface), m_index(index)
+                       const CWidgetIndex &index, CChangeRecorder *changes)
+    : m_document(document), m_modelInterface(modelInterface), m_index(index), m_changes(changes)
 {
 }
 
@@ -100,7 +101,7 @@ void CRelevance::Publish(ERelevance kind, const QWidget *publisher, const QStrin
                                    .toArray();
     qCDebug(lcEngine) << words.publishFound << "count: " << targets.size();
     for (const QJsonValue &target : targets)
-        PublishTo(rule, AbsolutePath(target.toString()), currentText);
+        PublishTo(rule, AbsolutePath(target.toString()), path, currentText);
     qCDebug(lcEngine) << words.done;
 }
 
@@ -117,7 +118,7 @@ bool CRelevance::IsLoop(const QWidget *publisher)
 }
 
 void CRelevance::PublishTo(const SRelevanceRule &rule, const QString &target,
-                           const QString &currentText)
+                           const QString &publisher, const QString &currentText)
 {
     const SPublishWords &words = rule.words.publish;
     qCDebug(lcEngine) << words.target << target;
@@ -138,6 +139,7 @@ void CRelevance::PublishTo(const SRelevanceRule &rule, const QString &target,
         qCCritical(lcEngine) << words.unsupported;
         return;
     }
+    CChangeRecorder *const changes = m_changes && m_changes->IsOn() ? m_changes : nullptr;
     apply({
         .document = m_document,
         .modelInterface = m_modelInterface,
@@ -146,6 +148,9 @@ void CRelevance::PublishTo(const SRelevanceRule &rule, const QString &target,
         .key = key,
         .table = rule.table,
         .words = rule.words,
+        .changes = changes,
+        .member = changes ? changes->Member(target) : -1,
+        .publisher = changes ? changes->Member(publisher) : -1,
     });
 }
 

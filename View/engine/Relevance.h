@@ -26,6 +26,7 @@
 #include <QJsonObject>
 #include <QString>
 
+class CChangeRecorder;
 class CWidgetIndex;
 class QWidget;
 struct SRelevanceRule;
@@ -39,8 +40,10 @@ enum class ERelevance
 class CRelevance
 {
 public:
-    // modelInterface: one of EModelInterface. All three may change; they must outlive this object.
-    CRelevance(const QJsonObject &document, const int &modelInterface, const CWidgetIndex &index);
+    // modelInterface: one of EModelInterface. All of them may change; they must outlive this object.
+    // changes: records what the targets do; null for nobody.
+    CRelevance(const QJsonObject &document, const int &modelInterface, const CWidgetIndex &index,
+               CChangeRecorder *changes = nullptr);
 
     // Does this change pass the gate?
     static bool Takes(ERelevance kind, const QWidget *publisher, const QString &currentText);
@@ -55,12 +58,14 @@ public:
 
 private:
     bool IsLoop(const QWidget *publisher);
-    void PublishTo(const SRelevanceRule &rule, const QString &target, const QString &currentText);
+    void PublishTo(const SRelevanceRule &rule, const QString &target, const QString &publisher,
+                   const QString &currentText);
     QString AbsolutePath(const QString &relativePath) const;
 
     const QJsonObject &m_document;
     const int &m_modelInterface;
     const CWidgetIndex &m_index;
+    CChangeRecorder *const m_changes;
     int m_depth = 0;  // publishers on the stack
     int m_count = 0;  // publications since the outermost one began
 };

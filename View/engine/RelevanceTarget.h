@@ -11,6 +11,7 @@
 #include <QJsonValue>
 #include <QString>
 
+#include "View/engine/ChangeRecorder.h"
 #include "View/engine/RelevanceWords.h"
 
 class CWidgetIndex;
@@ -24,10 +25,15 @@ struct SRelevanceTarget
     QString key;                // the publishers' current texts
     const char *table;          // of entries in the target's trait, by key: "valuePair"
     const SRelevanceWords &words;
+    CChangeRecorder *changes = nullptr;  // of the page; null: none
+    int member = -1;                     // ids of the target
+    int publisher = -1;                  // and of the member that changed
 
     QJsonObject Trait() const;
     // The entry for the key; missing, with a line on the critical log, when there is none.
     QJsonValue FindEntry(const SEntryWords &entryWords) const;
     // A test page's numbers start in the middle of new limits.
     bool IsTestPage() const;
+    // Why the target takes this entry.
+    SChangeReason Reason(const QJsonValue &entry) const;
 };

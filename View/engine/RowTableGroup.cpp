@@ -7,9 +7,11 @@
 #include <QTableWidget>
 
 #include "Model/JsonPath.h"
+#include "Model/MemberPath.h"
 #include "Support/Log.h"
 #include "View/editors/ExactClass.h"
 #include "View/engine/Binding.h"
+#include "View/engine/ChangeRecorder.h"
 #include "View/engine/RowTableCells.h"
 #include "View/engine/TableCells.h"
 #include "View/engine/TableGroup.h"
@@ -42,6 +44,21 @@ QSize WithRoomForRows(const QTableWidget *table, QSize size)
     if (table->rowCount() <= 1)
         size.setHeight(size.height() * kEmptyHeightFactor);
     return size;
+}
+
+// Of each column the newest row: what the target says now.
+void RecordNewest(const SBinding &binding, const QString &path, const STableGroup &group)
+{
+    if (!binding.changes.IsOn())
+        return;
+    const QString properties = GroupPropertyPath(path) + QLatin1Char('.');
+    for (const QString &member : group.members) {
+        const QJsonValue cell =
+            group.instances.isEmpty()
+                ? QJsonValue()
+                : GetJsonValueConst(group.properties, CellPath(member, group.instances.last()));
+        binding.changes.Show(binding.changes.Member(properties + member), cell.toString());
+    }
 }
 
 }  // namespace
@@ -100,6 +117,7 @@ void UpdateRowTable(const SBinding &binding, const QString &path, QWidget *widge
                       << group.members;
     qCDebug(lcEngine) << "---> [Update][type2] Row info(from instance list) <---"
                       << group.instances;
+    RecordNewest(binding, path, group);
     const STableGroup shown(binding.document, path);
     for (int c = 0; c < group.members.size(); ++c) {
         SColumn column = ReadColumn(group, group.members[c], ECellUse::RowAppend, table);
@@ -156,6 +174,8 @@ void AppendRowTable(const SBinding &binding, const QString &path, QWidget *widge
         table->setRowCount(0);
         SetColumnHeaders(table, group.Captions(group.members));
         SetFixedTableSize(table, WithRoomForRows(table, FitTableSize(table)));
+        const CChangeScope scope(&binding.changes, {.cause = EChangeCause::User});
+        RecordNewest(binding, path, group);
         qCDebug(lcEngine) << "---> [Append][type2] Clear table.";
         return;
     }
@@ -166,6 +186,7 @@ void AppendRowTable(const SBinding &binding, const QString &path, QWidget *widge
         table->setRowCount(wanted);
     MakeCells(table, group, ECellUse::RowAppend, current,
               "---> [Fail][Append][type2] Not support this data type yet <---");
+    RecordNewest(binding, path, group);
     LayOut(table);
     table->setMinimumWidth(FitTableSize(table).width() + kAppendMargin);
     table->verticalScrollBar()->setValue(table->verticalScrollBar()->maximum());

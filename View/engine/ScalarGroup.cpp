@@ -5,6 +5,7 @@
 #include "Support/Log.h"
 #include "View/editors/EditSession.h"
 #include "View/engine/Binding.h"
+#include "View/engine/ChangeRecorder.h"
 #include "View/engine/DataTypes.h"
 #include "View/engine/InitEntry.h"
 #include "View/engine/RangeCheck.h"
@@ -69,6 +70,9 @@ void InitScalarMember(const SBinding &binding, const QString &path, QWidget *wid
         type->readsEntry ? ResolveInitEntry(binding, member, trait) : QJsonValue();
     type->init(widget, member, entry);
     binding.edits.Watch(widget);
+    const int id = binding.changes.Member(path);
+    binding.changes.Watch(widget, id, -1);
+    binding.changes.Start(id, ShownText(widget), trait.toObject().value(kDefaultValue).toString());
     FollowChanges(binding, widget, *type, member, entry.toObject());
 }
 
@@ -88,10 +92,15 @@ void UpdateScalarMember(const SBinding &binding, const QString &path, QWidget *w
     if (!IsJsonValueValid(value))
         return;
     const SDataType *type = FindScalarType(dataType, widget);
-    if (type && type->show)
+    if (type && type->show) {
+        CChangeRecorder *const changes =
+            binding.changes.IsWatched(widget) ? nullptr : &binding.changes;
+        const CChangeStep step(changes, {.cause = EChangeCause::Result},
+                               binding.changes.Member(path), -1, widget);
         type->show(widget, member, value.toString());
-    else
+    } else {
         qCCritical(lcEngine) << "---> [Fail][Update][type1] Not support this data type yet <---";
+    }
 }
 
 void PackageScalarMember(const SBinding &binding, const QString &path, QWidget *widget)

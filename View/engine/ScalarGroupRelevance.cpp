@@ -28,6 +28,12 @@ QWidget *FindTarget(const SRelevanceTarget &target)
     return widget;
 }
 
+// The widget's own flag, whatever its page's.
+bool IsOn(const QWidget *widget)
+{
+    return !widget->testAttribute(Qt::WA_ForceDisabled);
+}
+
 }  // namespace
 
 void ApplyScalarValueRelevance(const SRelevanceTarget &target)
@@ -47,6 +53,7 @@ void ApplyScalarValueRelevance(const SRelevanceTarget &target)
         return;
     }
     qCDebug(lcEngine) << type->relateLog;
+    const CChangeStep step(target.changes, target.Reason(entry), target.member, -1, widget);
     type->relate(widget, {
                              .entry = entry,
                              .defaultText = trait.value(QLatin1String("defaultValue")).toString(),
@@ -62,7 +69,12 @@ void ApplyScalarStatusRelevance(const SRelevanceTarget &target)
     const QJsonValue entry = target.FindEntry(target.words.scalar.entry);
     if (!IsJsonValueValid(entry))
         return;
+    const SChangeReason reason = target.Reason(entry);
+    const bool wasOn = IsOn(widget);
     widget->setEnabled(entry.toInt() != 0);
+    if (target.changes && IsOn(widget) != wasOn)
+        target.changes->Enable(reason, target.member, -1, !wasOn);
+    const CChangeScope scope(target.changes, reason);
     const SDataType *type = FindScalarTypeOfWidget(widget);
     if (type && type->statusChanged)
         type->statusChanged(widget);

@@ -13,6 +13,7 @@
 #include "View/editors/NamedAction.h"
 #include "View/engine/AutoBindingDataModelDockWidget.h"
 #include "View/entry/FrequencyEntry.h"
+#include "View/explain/ExplainAction.h"
 #include "View/form/PageActions.h"
 #include "View/form/TestLamp.h"
 #include "View/form/ToolsButton.h"
@@ -200,6 +201,7 @@ void CQuorlinForm::Slot_GetInitPageListDone(QStringList pageList)
     for (CAutoBindingDataModelDockWidget *page : Pages()) {
         new CPageSettings(page);
         AddFrequencyEntry(page);
+        AddExplain(page);
     }
     m_lastSettings->Restore(Pages());
 }

@@ -187,6 +187,7 @@ private:
     // CalibrationDockWidgetUndo.cpp: what undo needs of the page.
     QList<QWidget *> DataMembers() const;
     QWidget *Widget() override { return this; }
+    CChangeRecorder &Recorder() override { return Changes(); }
     ECalItem Item() const override { return m_page.item; }
     CQuorlinViewCtrl &Ctrl() override { return *m_viewCtrl; }
     void EndEdit() override { FinishEdit(); }

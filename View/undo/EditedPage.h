@@ -9,6 +9,7 @@
 
 #include "ViewController/QuorlinViewCtrl.h"
 
+class CChangeRecorder;
 class QWidget;
 
 class IEditedPage
@@ -17,6 +18,7 @@ public:
     virtual ~IEditedPage() = default;
 
     virtual QWidget *Widget() = 0;
+    virtual CChangeRecorder &Recorder() = 0;
     virtual ECalItem Item() const = 0;
     virtual CQuorlinViewCtrl &Ctrl() = 0;
 

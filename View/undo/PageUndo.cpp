@@ -9,6 +9,7 @@
 #include "View/editors/ExactClass.h"
 #include "View/editors/NamedAction.h"
 #include "View/engine/CellText.h"
+#include "View/engine/ChangeRecorder.h"
 #include "View/undo/CellsCommand.h"
 #include "View/undo/CopyRecordDialog.h"
 #include "View/undo/RecordsCommand.h"
@@ -103,19 +104,21 @@ bool CPageUndo::EndEdit()
 
 void CPageUndo::Undo()
 {
-    Step(&QUndoStack::undo);
+    Step("Undo", &QUndoStack::undo);
 }
 
 void CPageUndo::Redo()
 {
-    Step(&QUndoStack::redo);
+    Step("Redo", &QUndoStack::redo);
 }
 
-void CPageUndo::Step(void (QUndoStack::*step)())
+void CPageUndo::Step(const char *name, void (QUndoStack::*step)())
 {
     const std::shared_ptr<QUndoStack> stack = m_stack;
-    if (EndEdit())
-        (stack.get()->*step)();
+    if (!EndEdit())
+        return;
+    const CChangeScope scope(&m_page.Recorder(), {.key = QLatin1String(name)});
+    (stack.get()->*step)();
 }
 
 void CPageUndo::Record(const SCellEdit &edit, int visit)
@@ -166,6 +169,7 @@ const QUndoCommand *CPageUndo::PushCells(const QString &name, const CellEdits &e
     for (const SCellEdit &edit : edits)
         m_resets.Touch(selection, edit.place);
     auto *command = new CCellsCommand(m_writer, name, edits, CCellsCommand::EDone::No);
+    const CChangeScope scope(&m_page.Recorder(), {.key = name});
     m_stack->push(command);
     return command;
 }

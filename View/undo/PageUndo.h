@@ -63,7 +63,7 @@ private:
     bool EndEdit();
     void Undo();
     void Redo();
-    void Step(void (QUndoStack::*step)());
+    void Step(const char *name, void (QUndoStack::*step)());
     void RevertRecord();
     void RevertAll();
     void CopyRecord();
