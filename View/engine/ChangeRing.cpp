@@ -4,9 +4,12 @@
 
 namespace {
 
+// A change that is taken back has made no older one go.
+constexpr int kSpare = 256;
+
 size_t SlotOf(qint64 number)
 {
-    return static_cast<size_t>(number % CChangeRing::kMost);
+    return static_cast<size_t>(number % (CChangeRing::kMost + kSpare));
 }
 
 }  // namespace
@@ -18,20 +21,18 @@ qint64 CChangeRing::Add(SChange change)
         m_changes.push_back(std::move(change));
     else
         m_changes[slot] = std::move(change);
-    if (m_end - m_begin == kMost)
-        ++m_begin;
     return m_end++;
 }
 
 void CChangeRing::RemoveNewest()
 {
-    if (m_end > m_begin)
+    if (m_end > 0)
         m_changes[SlotOf(--m_end)] = {};
 }
 
 const SChange *CChangeRing::Find(qint64 number) const
 {
-    return number >= m_begin && number < m_end ? &m_changes[SlotOf(number)] : nullptr;
+    return number >= Begin() && number < m_end ? &m_changes[SlotOf(number)] : nullptr;
 }
 
 SChange *CChangeRing::Find(qint64 number)

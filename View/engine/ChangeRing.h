@@ -47,17 +47,16 @@ public:
 
     // The change's number.
     qint64 Add(SChange change);
-    // Takes back the newest one.
+    // Takes back the newest one; not more of them in a row than there were added.
     void RemoveNewest();
     // Null when it is not there any more, or not yet.
     SChange *Find(qint64 number);
     const SChange *Find(qint64 number) const;
     // Numbers of the oldest change and behind the newest one.
-    qint64 Begin() const { return m_begin; }
+    qint64 Begin() const { return m_end > kMost ? m_end - kMost : 0; }
     qint64 End() const { return m_end; }
 
 private:
-    std::vector<SChange> m_changes;  // by number, modulo kMost
-    qint64 m_begin = 0;
+    std::vector<SChange> m_changes;  // by number, around
     qint64 m_end = 0;
 };

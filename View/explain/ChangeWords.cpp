@@ -84,16 +84,17 @@ QString CChangeWords::Because(const SChange &change)
                                     : QStringLiteral("The user (%1)").arg(reason.key);
     case EChangeCause::Result:
         return m_page.Changes().PathOf(change.member).startsWith(QLatin1String(kCalibration))
-                   ? QStringLiteral("The calibration data of the selection")
+                   ? QStringLiteral("Calibration data of the selection")
                    : QStringLiteral("A result of the DUT");
     case EChangeCause::Relation:
         break;
     }
-    const QString publisher = Name(m_page.Changes().PathOf(reason.publisher), -1);
+    const QString path = m_page.Changes().PathOf(reason.publisher);
     const QString what = reason.isMissing ? QStringLiteral("no entry, it stays")
                          : change.isOn    ? change.to
                                           : TextOf(reason.entry);
-    return QStringLiteral("Relation with %1, key \"%2\": %3").arg(publisher, reason.key, what);
+    return QStringLiteral("Relation with %1 (%2), key \"%3\": %4")
+        .arg(Caption(path, -1), MemberKey(path), reason.key, what);
 }
 
 QStringList CChangeWords::Members() const

@@ -1,8 +1,8 @@
 // The words for a change: which member, and why (View/engine/ChangeRing.h).
 //
 //   Band (request.group1.band)
-//   Relation with Band (request.group1.band), key "n78": min 3300000, max 3800000
-//   Relation with Band (request.group1.band), key "n78,Type2": no entry, it stays
+//   Relation with Band (band), key "n78": min 3300000, max 3800000
+//   Relation with Band (band), key "n78,Type2": no entry, it stays
 //
 // Made for what is on the screen alone. GUI thread; lives no longer than its page.
 //

@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -16,9 +17,9 @@ namespace {
 
 constexpr char kPlaceKey[] = "explain/geometry";
 constexpr int kSyncMs = 50;
-constexpr int kRowRim = 4;                              // pixels above and below a row's text
-constexpr int kColumnLetters[] = {13, 38, 14, 14, 60};  // widths
-static_assert(std::size(kColumnLetters) == CChangeModel::eColumnCount);
+constexpr int kRowRim = 4;                          // pixels above and below a row's text
+constexpr int kColumnLetters[] = {14, 40, 12, 12};  // widths; the last column has the rest
+static_assert(std::size(kColumnLetters) == CChangeModel::eBecause);
 
 QString CountText(int shown, int all)
 {
@@ -42,10 +43,11 @@ CExplainWindow::CExplainWindow(CAutoBindingDataModelDockWidget *page)
     m_filter.setFilterRole(CChangeModel::kPathRole);
     m_ui->m_changes->setModel(&m_filter);
     QHeaderView *const header = m_ui->m_changes->horizontalHeader();
-    for (int column = 0; column < CChangeModel::eColumnCount; ++column)
+    for (int column = 0; column < CChangeModel::eBecause; ++column)
         header->resizeSection(column, kColumnLetters[column] *
                                           m_ui->m_changes->fontMetrics().averageCharWidth());
     header->setStretchLastSection(true);
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_ui->m_changes->verticalHeader()->setDefaultSectionSize(
         m_ui->m_changes->fontMetrics().height() + kRowRim);
     FillMembers();

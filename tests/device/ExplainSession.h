@@ -41,7 +41,7 @@ public:
     {
         QApplication::setActiveWindow(m_session.Window());
         QTest::keyClick(m_session.Window(), Qt::Key_X, Qt::ControlModifier | Qt::ShiftModifier);
-        return Window() && WaitUntil([this] { return Window()->isVisible(); });
+        return Window() && WaitUntil([this] { return Table()->hasFocus(); });
     }
     // As the window shows them: newest first.
     std::vector<SExplained> Rows() const
@@ -52,8 +52,7 @@ public:
             return model->index(row, column).data().toString();
         };
         for (int row = 0; row < model->rowCount(); ++row)
-            rows.push_back(
-                {text(row, 0), text(row, 1), text(row, 2), text(row, 3), text(row, 4)});
+            rows.push_back({text(row, 0), text(row, 1), text(row, 2), text(row, 3), text(row, 4)});
         return rows;
     }
     // Those of a member, by its key.
