@@ -78,6 +78,7 @@ private slots:
         add("CNrContRxDockWidgetV7", "m_actionLog", "CSessionLogWindow");
         add("CNrContRxDockWidgetV7", "m_actionEnterFrequency", "CFrequencyDialog");
         add("CNrContRxDockWidgetV7", "m_actionTxPowerLimit", "");
+        add("CNrRxPathlossDockWidgetV7", "m_actionExplain", "CExplainWindow");
         add("CNrRxPathlossDockWidgetV7", "m_actionCompare", "CCompareWindow");
         add("CNrRxPathlossDockWidgetV7", "m_actionPlot", "");
         add("CNrRsrpNormalDockWidgetV7", "m_actionPlot", "");

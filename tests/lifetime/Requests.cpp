@@ -47,6 +47,7 @@ void AddActions(QVector<SRequest> &requests, const char *page)
 {
     requests += {Asking(page, "save settings", "m_actionSaveSettings"),
                  Asking(page, "load settings", "m_actionLoadSettings", EBefore::Settings),
+                 Action(page, "explain", "m_actionExplain"),
                  Action(page, "float", "m_actionFloatPage")};
 }
 
