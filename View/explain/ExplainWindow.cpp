@@ -106,5 +106,5 @@ void CExplainWindow::Sync()
 
 void CExplainWindow::Copy()
 {
-    QGuiApplication::clipboard()->setText(RowText(m_filter, SelectedRows(*m_ui->m_changes)));
+    QGuiApplication::clipboard()->setText(RowText(*m_ui->m_changes));
 }

@@ -45,10 +45,10 @@ constexpr SRequest Asking(const char *page, const char *name, const char *action
 
 void AddActions(QVector<SRequest> &requests, const char *page)
 {
-    requests += {Asking(page, "save settings", "m_actionSaveSettings"),
-                 Asking(page, "load settings", "m_actionLoadSettings", EBefore::Settings),
-                 Action(page, "explain", "m_actionExplain"),
-                 Action(page, "float", "m_actionFloatPage")};
+    requests +=
+        {Asking(page, "save settings", "m_actionSaveSettings"),
+         Asking(page, "load settings", "m_actionLoadSettings", EBefore::Settings),
+         Action(page, "explain", "m_actionExplain"), Action(page, "float", "m_actionFloatPage")};
 }
 
 void AddResults(QVector<SRequest> &requests, const char *page)
