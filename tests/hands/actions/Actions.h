@@ -25,6 +25,7 @@ const SActionRow &DrawAction(CChance &chance);
 SDeed TypeKeys(CDesk &desk, CChance &chance);
 SDeed PressKey(CDesk &desk, CChance &chance);
 SDeed PressMnemonic(CDesk &desk, CChance &chance);
+SDeed PressActionKeys(CDesk &desk, CChance &chance);
 // The mouse
 SDeed ClickEditor(CDesk &desk, CChance &chance);
 SDeed ClickButton(CDesk &desk, CChance &chance);

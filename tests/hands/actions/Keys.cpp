@@ -1,7 +1,9 @@
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QKeySequence>
 #include <QLabel>
+#include <QRegularExpression>
 
 #include "tests/common/WaitUntil.h"
 #include "tests/hands/actions/Actions.h"
@@ -59,6 +61,13 @@ bool IsAnyDown(CDesk &desk)
     return false;
 }
 
+// What changes data that the page does not show, which the rules cannot see.
+bool ChangesUnseen(const QAction *action)
+{
+    static const QRegularExpression whole("Read|Import|Revert");
+    return action->text().contains(whole);
+}
+
 }  // namespace
 
 SDeed TypeKeys(CDesk &desk, CChance &chance)
@@ -96,5 +105,27 @@ SDeed PressMnemonic(CDesk &desk, CChance &chance)
     desk.Key(window, static_cast<Qt::Key>(letter.unicode()), Qt::AltModifier);
     // The button stays down for a moment and is clicked then.
     WaitUntil([&desk] { return !IsAnyDown(desk); }, kClickMs);
+    return deed;
+}
+
+// Of an action of the page in front, of the editor that has the focus, or of the window.
+SDeed PressActionKeys(CDesk &desk, CChance &chance)
+{
+    QWidget *window = KeyWindow(desk);
+    if (!window)
+        return {SDeed::Other, "no window"};
+    QList<QAction *> actions = desk.Window()->actions();
+    for (QWidget *widget :
+         {static_cast<QWidget *>(DrawPage(desk, chance)), QApplication::focusWidget()}) {
+        if (widget)
+            actions += widget->actions();
+    }
+    const QAction *action = actions.isEmpty() ? nullptr : chance.Of(actions);
+    if (!action || action->shortcut().isEmpty() || ChangesUnseen(action))
+        return {SDeed::Other, "no keys of an action"};
+    const int keys = action->shortcut()[0];
+    const SDeed deed{SDeed::Other, "press " + action->shortcut().toString() + " at " + FocusName()};
+    desk.Key(window, static_cast<Qt::Key>(keys & ~Qt::KeyboardModifierMask),
+             static_cast<Qt::KeyboardModifiers>(keys & Qt::KeyboardModifierMask));
     return deed;
 }

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QStatusBar>
 #include <QThreadPool>
 #include <QWheelEvent>
@@ -34,6 +35,13 @@ void Activate(QWidget *window)
     QCoreApplication::processEvents();
     if (QApplication::activeWindow() != window)
         QApplication::setActiveWindow(window);
+}
+
+// Of the first kind of file that the dialog offers.
+QString Suffix(const QFileDialog &dialog)
+{
+    const QString kind = dialog.nameFilters().value(0).section('*', 1);
+    return kind.left(kind.indexOf(QRegularExpression("[ )]")));
 }
 
 }  // namespace
@@ -193,8 +201,12 @@ void CDesk::Wheel(QWidget *widget, const QPoint &place, int notches)
 
 void CDesk::Key(QWidget *window, Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    if (QWindow *handle = Handle(window))
-        QTest::keyClick(handle, key, modifiers);
+    // The key may end the window that it goes to: a page is docked.
+    const QPointer<QWindow> handle = Handle(window);
+    if (handle)
+        QTest::keyPress(handle, key, modifiers);
+    if (handle)
+        QTest::keyRelease(handle, key, modifiers);
 }
 
 void CDesk::AnswerDialog()
@@ -210,7 +222,7 @@ void CDesk::AnswerDialog()
         return;
     }
     const QDockWidget *page = FrontPage();
-    const QString file = m_folder + '/' + (page ? page->objectName() : "other") + ".ini";
+    const QString file = m_folder + '/' + (page ? page->objectName() : "other") + Suffix(*dialog);
     if (dialog->acceptMode() == QFileDialog::AcceptOpen && !QFile::exists(file)) {
         dialog->reject();
         return;

@@ -1,0 +1,6 @@
+// How the tool looks in the pictures: light, or on a dark desktop.
+#pragma once
+
+class QApplication;
+
+void UseLook(QApplication &application, bool isDark);
