@@ -94,7 +94,8 @@ QString CChangeWords::Because(const SChange &change)
                          : change.isOn    ? change.to
                                           : TextOf(reason.entry);
     return QStringLiteral("Relation with %1 (%2), key \"%3\": %4")
-        .arg(Caption(path, -1), MemberKey(path), reason.key, what);
+        .arg(Caption(path, -1), MemberKey(path), reason.key,
+             what.isEmpty() ? QStringLiteral("an empty text") : what);
 }
 
 QStringList CChangeWords::Members() const
