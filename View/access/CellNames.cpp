@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr int kMostRowNames = 256;  // a table grows for days, and its newest rows are named
+
 // A caption that is a number says nothing by itself.
 QString SectionName(const QTableWidget *table, int section, Qt::Orientation orientation)
 {
@@ -26,6 +28,10 @@ QString SectionName(const QTableWidget *table, int section, Qt::Orientation orie
 CCellNames::CCellNames(QTableWidget *table) : QObject(table), m_table(table)
 {
     connect(table->model(), &QAbstractItemModel::headerDataChanged, this, &CCellNames::NameAgain);
+    connect(table->model(), &QAbstractItemModel::modelReset, this, [this] {
+        m_columns.clear();
+        m_rows.clear();
+    });
 }
 
 CCellNames *CCellNames::Of(const QWidget *table)
@@ -35,12 +41,10 @@ CCellNames *CCellNames::Of(const QWidget *table)
 
 void CCellNames::Name(int row, int column, QWidget *cell)
 {
-    const QString name = SectionName(m_table, row, Qt::Vertical) + QLatin1String(", ") +
-                         SectionName(m_table, column, Qt::Horizontal);
+    const QString name = NameOf(row, column);
     const QString unit = m_units.value(m_unitsOf == Qt::Vertical ? row : column);
     if (qobject_cast<QLabel *>(cell)) {
-        SetSpokenUnit(cell, unit);
-        SetSpokenPlace(cell, name);
+        SetSpokenPlace(cell, unit.isEmpty() ? name : name + QLatin1String(", ") + unit);
         return;
     }
     if (auto *list = qobject_cast<QComboBox *>(cell))
@@ -48,6 +52,19 @@ void CCellNames::Name(int row, int column, QWidget *cell)
     cell->setAccessibleName(name);
     SetSpokenUnit(cell, unit);
     m_limits.Follow(cell);
+}
+
+// Cells are named row by row or column by column.
+QString CCellNames::NameOf(int row, int column)
+{
+    while (m_columns.size() < m_table->columnCount())
+        m_columns.append(SectionName(m_table, m_columns.size(), Qt::Horizontal));
+    if (m_rows.size() > kMostRowNames)
+        m_rows.clear();
+    QString &rowName = m_rows[row];
+    if (rowName.isNull())
+        rowName = SectionName(m_table, row, Qt::Vertical);
+    return rowName + QLatin1String(", ") + m_columns.value(column);
 }
 
 void CCellNames::SetUnits(Qt::Orientation orientation, const QStringList &units)
@@ -62,6 +79,8 @@ void CCellNames::SetUnits(Qt::Orientation orientation, const QStringList &units)
 void CCellNames::NameAgain(Qt::Orientation orientation, int first, int last)
 {
     const bool isRows = orientation == Qt::Vertical;
+    m_columns.clear();
+    m_rows.clear();
     for (int r = isRows ? first : 0; r <= (isRows ? last : m_table->rowCount() - 1); ++r) {
         for (int c = isRows ? 0 : first; c <= (isRows ? m_table->columnCount() - 1 : last); ++c) {
             if (QWidget *cell = m_table->cellWidget(r, c))

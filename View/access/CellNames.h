@@ -10,6 +10,7 @@
 //   names->SetUnits(Qt::Vertical, {"dB", "kHz"});   // of rows
 #pragma once
 
+#include <QHash>
 #include <QStringList>
 
 #include "View/access/SpokenText.h"
@@ -31,10 +32,13 @@ public:
     void SetUnits(Qt::Orientation orientation, const QStringList &units);
 
 private:
+    QString NameOf(int row, int column);
     void NameAgain(Qt::Orientation orientation, int first, int last);
 
     QTableWidget *const m_table;
     CSpokenLimits m_limits;
     Qt::Orientation m_unitsOf = Qt::Vertical;
     QStringList m_units;
+    QStringList m_columns;  // their names, as far as they are known
+    QHash<int, QString> m_rows;
 };

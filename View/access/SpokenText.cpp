@@ -1,6 +1,7 @@
 #include "View/access/SpokenText.h"
 
 #include <QEvent>
+#include <QLabel>
 #include <QStringList>
 #include <QVariant>
 #include <QWidget>
@@ -28,9 +29,13 @@ void SetPart(QWidget *widget, const char *part, const QString &text)
 
 }  // namespace
 
-void SetSpokenPlace(QWidget *widget, const QString &place)
+// A result without a state, as most are, keeps its place in the description alone.
+void SetSpokenPlace(QWidget *result, const QString &place)
 {
-    SetPart(widget, kPlace, place);
+    if (result->property(kState).isValid())
+        SetPart(result, kPlace, place);
+    else
+        result->setAccessibleDescription(place);
 }
 
 void SetSpokenUnit(QWidget *widget, const QString &unit)
@@ -40,6 +45,8 @@ void SetSpokenUnit(QWidget *widget, const QString &unit)
 
 void SetSpokenState(QWidget *widget, const QString &state)
 {
+    if (!state.isEmpty() && !widget->property(kState).isValid() && qobject_cast<QLabel *>(widget))
+        widget->setProperty(kPlace, widget->accessibleDescription());
     SetPart(widget, kState, state);
 }
 

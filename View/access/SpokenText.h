@@ -1,7 +1,7 @@
 // What a screen reader says of an editor or a result beside its name and its value: the accessible
 // description, put together from parts that different places know.
 //
-//   place     of a result, whose name is its value: the caption, or row and column
+//   place     of a result, whose name is its value: the caption, or row and column; its unit
 //   limits    from the tool tip, "1~5,8" as "1 to 5, 8", with the unit behind them
 //   state     what is else told by a colour: "changed, was 0.93750"
 //
@@ -18,7 +18,8 @@
 
 class QWidget;
 
-void SetSpokenPlace(QWidget *widget, const QString &place);
+// With its unit; a result is a label and has no limits.
+void SetSpokenPlace(QWidget *result, const QString &place);
 void SetSpokenUnit(QWidget *widget, const QString &unit);
 // Empty: none.
 void SetSpokenState(QWidget *widget, const QString &state);

@@ -62,12 +62,15 @@ QString NameAmongEqual(const SNamed &named)
 
 void NameEditor(const SNamed &named, bool isShared, CSpokenLimits *limits)
 {
-    SetSpokenUnit(named.widget, UnitOf(named.key, named.caption));
+    const QString unit = UnitOf(named.key, named.caption);
     if (qobject_cast<QLabel *>(named.widget)) {
-        SetSpokenPlace(named.widget,
-                       named.caption.isEmpty() ? GridWords(named.widget).row : named.caption);
+        QStringList place = {named.caption.isEmpty() ? GridWords(named.widget).row : named.caption,
+                             unit};
+        place.removeAll(QString());
+        SetSpokenPlace(named.widget, place.join(kBetween));
         return;
     }
+    SetSpokenUnit(named.widget, unit);
     if (auto *list = qobject_cast<QComboBox *>(named.widget))
         NameByCaption(list);
     named.widget->setAccessibleName(isShared ? NameAmongEqual(named) : named.caption);

@@ -1,35 +1,59 @@
 #include "View/engine/MemberUnit.h"
 
 #include <QRegularExpression>
-#include <QStringList>
 
 namespace {
 
 struct SMemberUnit
 {
-    const char *members = nullptr;  // expression for the whole key
+    const char *key = nullptr;  // each # is a digit
     const char *unit = nullptr;
 };
 constexpr SMemberUnit kMemberUnits[] = {
-    {.members = "RSRP[0-3]|RSSI[0-3]", .unit = "dBm"},
-    {.members = "rssiMain|rssiDiv", .unit = "dBm"},
-    {.members = "BLER", .unit = "%"},
-    {.members = "path[01](Main|Div)(Rf|Digtal)Gain", .unit = "dB"},
-    {.members = "adviseDlPower|txPowerValue", .unit = "dBm"},
-    {.members = "dlFrequency|ulFrequency", .unit = "kHz"},
-    {.members = "freq|ulFreq", .unit = "kHz"},
-    {.members = "reportPeriod", .unit = "ms"},
-    {.members = "pdValue", .unit = "dBm"},
-    {.members = "lna[0-7]|gain[0-2]|couplerLoss(High|Middle|Low)|paGain\\d+", .unit = "dB"},
+    {.key = "RSRP#", .unit = "dBm"},
+    {.key = "RSSI#", .unit = "dBm"},
+    {.key = "rssiMain", .unit = "dBm"},
+    {.key = "rssiDiv", .unit = "dBm"},
+    {.key = "BLER", .unit = "%"},
+    {.key = "path#MainRfGain", .unit = "dB"},
+    {.key = "path#DivRfGain", .unit = "dB"},
+    {.key = "path#MainDigtalGain", .unit = "dB"},
+    {.key = "path#DivDigtalGain", .unit = "dB"},
+    {.key = "adviseDlPower", .unit = "dBm"},
+    {.key = "txPowerValue", .unit = "dBm"},
+    {.key = "dlFrequency", .unit = "kHz"},
+    {.key = "ulFrequency", .unit = "kHz"},
+    {.key = "freq", .unit = "kHz"},
+    {.key = "ulFreq", .unit = "kHz"},
+    {.key = "reportPeriod", .unit = "ms"},
+    {.key = "pdValue", .unit = "dBm"},
+    {.key = "lna#", .unit = "dB"},
+    {.key = "gain#", .unit = "dB"},
+    {.key = "couplerLossHigh", .unit = "dB"},
+    {.key = "couplerLossMiddle", .unit = "dB"},
+    {.key = "couplerLossLow", .unit = "dB"},
+    {.key = "paGain#", .unit = "dB"},
+    {.key = "paGain##", .unit = "dB"},
 };
+
+bool IsKey(const QString &key, QLatin1String pattern)
+{
+    if (key.size() != pattern.size())
+        return false;
+    for (int i = 0; i < key.size(); ++i) {
+        const bool isDigit = pattern[i] == QLatin1Char('#');
+        if (isDigit ? !key.at(i).isDigit() : key.at(i) != pattern[i])
+            return false;
+    }
+    return true;
+}
 
 }  // namespace
 
 QString UnitOfMember(const QString &key)
 {
     for (const SMemberUnit &row : kMemberUnits) {
-        const QString whole = QRegularExpression::anchoredPattern(QLatin1String(row.members));
-        if (QRegularExpression(whole).match(key).hasMatch())
+        if (IsKey(key, QLatin1String(row.key)))
             return QLatin1String(row.unit);
     }
     return {};
@@ -40,6 +64,8 @@ QString UnitOf(const QString &key, const QString &caption)
     const QString unit = UnitOfMember(key);
     if (!unit.isEmpty())
         return unit;
+    if (!caption.endsWith(QLatin1Char(')')))
+        return {};
     static const QRegularExpression kInBrackets(QStringLiteral("\\(1?(dBm|dB|kHz|ms|%)\\)\\s*$"));
     return kInBrackets.match(caption).captured(1);
 }
