@@ -255,8 +255,10 @@ private slots:
         CPlottedSession session;
         QVERIFY(session.IsReady());
         const QPointer<QWidget> window(session.plot.Window());
-        AnswerFileDialog(m_folder.filePath("none.ini"),
-                         [&](QFileDialog *) { session->ResetPlugin(); });
+        // The dialog takes only what is there.
+        const QString path = m_folder.filePath("chosen.ini");
+        QVERIFY(QFile(path).open(QIODevice::WriteOnly));
+        AnswerFileDialog(path, [&](QFileDialog *) { session->ResetPlugin(); });
         session.plot.Window()->findChild<QAction *>("m_actionCompareFile")->trigger();
         QVERIFY(WaitUntil([&] { return window.isNull(); }));
     }
