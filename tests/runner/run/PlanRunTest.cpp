@@ -149,6 +149,23 @@ TEST(PlanRunTest, aFailedExpectationIsExitOneAndThePlanGoesOn)
     ExpectWholeReports(folder, "out2", 3);
 }
 
+TEST(PlanRunTest, aScenarioHappensToItsDut)
+{
+    const CCliFolder folder;
+    folder.Write("plan.yaml", kTwoTones);
+    folder.Write("rx.json", R"({"name": "no RX", "steps": [{
+        "when": {"function": "VOND_MMRf_ContRxV7_r", "call": 1},
+        "fault": {"function": "VOND_MMRf_ContRxV7_r", "kind": "fail"}}]})");
+    folder.Write("broken.json", R"({"name": "broken", "steps": [{"when": {"function": "*"}}]})");
+    EXPECT_EQ(folder.Run("run plan.yaml --allow-transmit --scenario rx.json --out out").exitCode,
+              1);
+    EXPECT_EQ(Verdicts(folder, "out"), (QStringList{"pass", "pass", "fail"}));
+    const SCliRun broken = folder.Run("run plan.yaml --allow-transmit --scenario broken.json");
+    EXPECT_EQ(broken.exitCode, 2);
+    EXPECT_NE(broken.err.find("broken.json: steps[0].when: needs one of"), std::string::npos)
+        << broken.err;
+}
+
 TEST(PlanRunTest, aBoxFailsItsStepUnlessItIsExpected)
 {
     const std::string step = "quorlin: 1\nplan: P\nsteps:\n  - step: a\n    page: RX Pathloss\n"
