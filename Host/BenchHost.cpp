@@ -7,12 +7,16 @@
 #include <QJsonArray>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScrollArea>
 #include <QTime>
 #include <QTreeWidget>
 #include <QtGlobal>
 
 #include "Host/Tap.h"
 #include "Host/ToolWindow.h"
+#include "Host/door/DoorPanel.h"
+#include "Host/dut/DutPanel.h"
+#include "Host/dut/FaultPanel.h"
 #include "ui_BenchHost.h"
 
 namespace {
@@ -46,13 +50,14 @@ QString JoinedTexts(const QJsonArray &array)
 }  // namespace
 
 CBenchHost::CBenchHost(CPluginHandle &plugin, QWidget *parent)
-    : QMainWindow(parent), m_ui(std::make_unique<Ui::CBenchHost>()), m_plugin(plugin)
+    : QMainWindow(parent), m_plugin(plugin), m_ui(std::make_unique<Ui::CBenchHost>())
 {
     m_ui->setupUi(this);
     m_ui->m_events->header()->setResizeContentsPrecision(0);  // only the lines in sight
     for (int column : {0, 1})
         m_ui->m_events->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     FillPluginFields();
+    AddPanels();
     ShowState();
     connect(&m_plugin, &CPluginHandle::Signal_Activated, this,
             [this](const QString &name, bool isActivated) {
@@ -68,7 +73,33 @@ CBenchHost::CBenchHost(CPluginHandle &plugin, QWidget *parent)
     qApp->installEventFilter(this);
 }
 
-CBenchHost::~CBenchHost() = default;
+// The panels go by the DUT that is a member.
+CBenchHost::~CBenchHost()
+{
+    delete m_ui->m_panels;
+}
+
+void CBenchHost::AddPanels()
+{
+    const ETrace trace = TraceOfSession();
+    // A trace that is played back answers in place of the DUT.
+    if (m_dut.IsThere() && trace != ETrace::PlayedBack) {
+        AddPanel("DUT", new CDutPanel(m_dut));
+        AddPanel("Faults", new CFaultPanel(m_dut));
+    }
+    if (m_dut.IsThere() || trace != ETrace::None)
+        AddPanel("Door", new CDoorPanel(m_dut));
+    m_ui->m_panels->setVisible(m_ui->m_panels->count() > 0);
+}
+
+void CBenchHost::AddPanel(const QString &title, QWidget *panel)
+{
+    auto *area = new QScrollArea(m_ui->m_panels);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidget(panel);
+    m_ui->m_panels->addTab(area, title);
+}
 
 void CBenchHost::FillPluginFields()
 {

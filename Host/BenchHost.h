@@ -20,6 +20,7 @@
 #include <QMainWindow>
 
 #include "Host/PluginHandle.h"
+#include "Host/SimulatedDut.h"
 
 namespace Ui {
 class CBenchHost;
@@ -54,6 +55,9 @@ private slots:
 private:
     // What the host is about to do: an event, and a note in the trace.
     void BeginAction(const QString &action);
+    // The pages that the DUT at hand has; see Tap.h for the ways of a trace.
+    void AddPanels();
+    void AddPanel(const QString &title, QWidget *panel);
     void FillPluginFields();
     void FillAnswer(const SPluginToolLaunchRequirement &answer);
     void ShowState();
@@ -63,6 +67,7 @@ private:
     // Asks the user, if a test runs.
     bool MayStopTest(const QString &question);
 
-    std::unique_ptr<Ui::CBenchHost> m_ui;
     CPluginHandle &m_plugin;
+    CSimulatedDut m_dut;
+    std::unique_ptr<Ui::CBenchHost> m_ui;
 };

@@ -1,7 +1,5 @@
 #include "Host/SimulatedDut.h"
 
-#include <cstdint>
-
 #include <dlfcn.h>
 
 #include <QFileInfo>
@@ -9,57 +7,52 @@
 namespace {
 
 constexpr char kLibrary[] = "libVondCore.so";
-constexpr char kProfileName[] = "VondSim_ProfileName";
-constexpr char kScenarioName[] = "VondSim_ScenarioName";
-constexpr char kScenarioText[] = "VondSim_GetScenarioText";
-constexpr char kError[] = "VondSim_GetError";
 
-// The library that the plug-in runs on. Loads nothing: on the real libraries, there is no simulated
-// DUT.
-class CLoadedLibrary
+QStringList NamesOf(const char *(*SSimulatedDutCalls::*function)(uint32_t))
 {
-public:
-    CLoadedLibrary() : m_library(dlopen(kLibrary, RTLD_NOW | RTLD_NOLOAD)) {}
-    ~CLoadedLibrary()
-    {
-        if (m_library)
-            dlclose(m_library);
-    }
-    CLoadedLibrary(const CLoadedLibrary &) = delete;
-    CLoadedLibrary &operator=(const CLoadedLibrary &) = delete;
-
-    // Null when it has no such function.
-    template <class Function>
-    Function Find(const char *name) const
-    {
-        return m_library ? reinterpret_cast<Function>(dlsym(m_library, name)) : nullptr;
-    }
-
-private:
-    void *m_library;
-};
-
-QStringList NamesOf(const char *function)
-{
-    const CLoadedLibrary library;
-    const auto nameOf = library.Find<const char *(*)(uint32_t)>(function);
+    const CSimulatedDut dut;
     QStringList names;
     const char *name = nullptr;
-    for (uint32_t i = 0; nameOf && (name = nameOf(i)) != nullptr; ++i)
+    for (uint32_t i = 0; dut.IsThere() && (name = (dut.operator->()->*function)(i)); ++i)
         names.append(QString::fromUtf8(name));
     return names;
 }
 
 }  // namespace
 
+CSimulatedDut::CSimulatedDut() : m_library(dlopen(kLibrary, RTLD_NOW | RTLD_NOLOAD))
+{
+    if (!m_library)
+        return;
+    m_isThere = true;
+#define QUORLIN_CALL(name)                                                                         \
+    m_calls.name = reinterpret_cast<decltype(m_calls.name)>(dlsym(m_library, "VondSim_" #name));   \
+    m_isThere = m_isThere && m_calls.name;
+    QUORLIN_SIMULATED_DUT_CALLS(QUORLIN_CALL)
+#undef QUORLIN_CALL
+    if (!m_isThere)
+        m_calls = {};
+}
+
+CSimulatedDut::~CSimulatedDut()
+{
+    if (m_library)
+        dlclose(m_library);
+}
+
+QString CSimulatedDut::Error() const
+{
+    return Text(m_calls.GetError);
+}
+
 QStringList SimulatedProfiles()
 {
-    return NamesOf(kProfileName);
+    return NamesOf(&SSimulatedDutCalls::ProfileName);
 }
 
 QStringList SimulatedScenarios()
 {
-    return NamesOf(kScenarioName);
+    return NamesOf(&SSimulatedDutCalls::ScenarioName);
 }
 
 bool IsUnknownProfile(const QString &profile, const QStringList &names)
@@ -70,14 +63,10 @@ bool IsUnknownProfile(const QString &profile, const QStringList &names)
 
 QString ScenarioError(const QString &scenario)
 {
-    const CLoadedLibrary library;
-    using CopyText = uint32_t (*)(char *text, uint32_t size);
-    const auto scenarioText = library.Find<CopyText>(kScenarioText);
-    const auto error = library.Find<CopyText>(kError);
-    if (scenario.isEmpty() || !scenarioText || !error || scenarioText(nullptr, 0) > 0)
+    const CSimulatedDut dut;
+    if (scenario.isEmpty() || !dut.IsThere() || dut->GetScenarioText(nullptr, 0) > 0)
         return {};
-    char reason[1024] = "";
-    error(reason, sizeof(reason));
+    const QString reason = dut.Error();
     return QStringLiteral("The scenario can't be used: %1.")
-        .arg(reason[0] != '\0' ? QString::fromUtf8(reason) : scenario);
+        .arg(reason.isEmpty() ? scenario : reason);
 }

@@ -16,6 +16,9 @@ using TakeNote = void (*)(const char *text);
 
 constexpr char kProgram[] = "/proc/self/exe";
 constexpr char kPreload[] = "LD_PRELOAD";
+constexpr char kTapMode[] = "VOND_TAP";
+constexpr char kRecordMode[] = "record";
+constexpr char kReplayMode[] = "replay";
 
 TakeNote TakerOfNotes()
 {
@@ -65,7 +68,7 @@ QString RunUnderTap(const SHostOptions &options, char **argv)
     const QString trouble = TraceTrouble(file, isRecord ? QIODevice::Append : QIODevice::ReadOnly);
     if (!trouble.isEmpty())
         return trouble;
-    qputenv("VOND_TAP", isRecord ? "record" : "replay");
+    qputenv(kTapMode, isRecord ? kRecordMode : kReplayMode);
     qputenv("VOND_TAP_FILE", QFile::encodeName(QFileInfo(file).absoluteFilePath()));
     return TakerOfNotes() != nullptr ? QString() : StartAnew(argv);
 }
@@ -74,4 +77,14 @@ void NoteOfHost(const QString &text)
 {
     if (const TakeNote take = TakerOfNotes())
         take(text.toUtf8().constData());
+}
+
+ETrace TraceOfSession()
+{
+    const QString mode = qEnvironmentVariable(kTapMode);
+    if (!TakerOfNotes())
+        return ETrace::None;
+    return mode == QLatin1String(kRecordMode)   ? ETrace::Recorded
+           : mode == QLatin1String(kReplayMode) ? ETrace::PlayedBack
+                                                : ETrace::None;
 }

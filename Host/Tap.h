@@ -18,3 +18,12 @@ QString RunUnderTap(const SHostOptions &options, char **argv);
 
 // Nothing without the tap. Any thread.
 void NoteOfHost(const QString &text);
+
+// What the tap does in this process: nothing without it.
+enum class ETrace
+{
+    None,
+    Recorded,
+    PlayedBack,
+};
+ETrace TraceOfSession();

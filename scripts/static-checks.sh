@@ -84,7 +84,9 @@ View/Rx View/results|View/pages|View/plots|View/engine|View/editors|View/access|
 View/Tx View/results|View/pages|View/plots|View/engine|View/editors|View/access|Model|Support|ViewController
 Plots View/plots
 PluginInterface View|Support
-Host PluginInterface
+Host PluginInterface|Simulator|Trace
+Host/dut Host|Simulator
+Host/door Host|Simulator|Trace
 Runner Host|PluginInterface
 Trace Vond
 Tap Trace|Vond
@@ -129,6 +131,10 @@ Operations/tests Operations/(GeneralOperation\.h|(link|capability)/)
 Operations/calibration Operations/(GeneralOperation\.h|(link|capability)/)
 END
     if grep -rnE '"Vond/Vond(Core|App)\.h"' Controller ViewController View PluginInterface Host >&2; then
+        good=false
+    fi
+    # A host steers the simulated DUT by the types of its header alone, and finds the functions when it runs.
+    if grep -rn '#include "Simulator/' Host | grep -v '"Simulator/VondSim.h"' >&2; then
         good=false
     fi
     if grep -rn '#include "View' Plots | grep -v 'View/plots/PlotInterface.h"' >&2; then

@@ -1,0 +1,3 @@
+#include "Host/door/DoorPanel.h"
+
+CDoorPanel::CDoorPanel(CSimulatedDut &, QWidget *parent) : QWidget(parent) {}

@@ -1,0 +1,3 @@
+#include "Host/dut/DutPanel.h"
+
+CDutPanel::CDutPanel(CSimulatedDut &, QWidget *parent) : QWidget(parent) {}

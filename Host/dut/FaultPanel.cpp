@@ -1,0 +1,3 @@
+#include "Host/dut/FaultPanel.h"
+
+CFaultPanel::CFaultPanel(CSimulatedDut &, QWidget *parent) : QWidget(parent) {}
