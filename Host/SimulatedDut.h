@@ -21,6 +21,8 @@
 #define QUORLIN_SIMULATED_DUT_CALLS(X)                                                             \
     X(SetProfile)                                                                                  \
     X(SetProfileText)                                                                              \
+    X(CheckProfile)                                                                                \
+    X(Band)                                                                                        \
     X(ProfileName)                                                                                 \
     X(ProfileText)                                                                                 \
     X(Reset)                                                                                       \

@@ -43,6 +43,10 @@ int32_t VondSim_SetProfile(const char *nameOrPath);
 int32_t VondSim_SetProfileText(const char *json);
 // Name of built-in profile number index, or null behind the last.
 const char *VondSim_ProfileName(uint32_t index);
+// Whether VondSim_SetProfile would take it: 0, or -1. Nothing changes either way.
+int32_t VondSim_CheckProfile(const char *nameOrPath);
+// NR band in row index of the DUT's list, or 0 behind the last.
+uint32_t VondSim_Band(uint32_t index);
 // JSON text of the profile in force, valid until the next VondSim_SetProfile* in any thread.
 const char *VondSim_ProfileText(void);
 

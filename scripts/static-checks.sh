@@ -85,7 +85,7 @@ View/Tx View/results|View/pages|View/plots|View/engine|View/editors|View/access|
 Plots View/plots
 PluginInterface View|Support
 Host PluginInterface|Simulator|Trace
-Host/dut Host|Simulator
+Host/dut Host|Simulator|Trace
 Host/door Host|Simulator|Trace
 Runner Host|PluginInterface
 Trace Vond

@@ -12,6 +12,7 @@
 #include "Simulator/door/Errors.h"
 #include "Simulator/door/FlashInfo.h"
 #include "Simulator/door/Simulator.h"
+#include "Simulator/profile/ProfileJson.h"
 #include "Simulator/profile/ProfileRadio.h"
 #include "Simulator/scenario/BuiltinScenarios.h"
 #include "Simulator/scenario/StateText.h"
@@ -101,6 +102,21 @@ int32_t ChangeFault(uint32_t id, const Job &job)
 
 #pragma GCC visibility push(default)
 extern "C" {
+
+int32_t VondSim_CheckProfile(const char *nameOrPath)
+{
+    return Guarded(kNothingChanged, [&] {
+        const std::string name = Given(nameOrPath);
+        ParseProfile(ReadProfileText(name), name);
+    });
+}
+
+uint32_t VondSim_Band(uint32_t index)
+{
+    return WithDut([&](SDut &dut) {
+        return index < dut.profile.bands.size() ? uint32_t{dut.profile.bands[index].band} : 0U;
+    });
+}
 
 int32_t VondSim_IsPlugged(void)
 {

@@ -1,0 +1,74 @@
+#include "Host/dut/NameChoice.h"
+
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPointer>
+#include <QPushButton>
+
+#include "Host/HostSettings.h"
+
+namespace {
+
+constexpr int kMostFiles = 8;
+constexpr char kFilter[] = "JSON files (*.json);;All files (*)";
+
+}  // namespace
+
+CNameChoice::CNameChoice(QComboBox &box, QPushButton &fileButton, const SNameChoice &what,
+                         QObject *parent)
+    : QObject(parent), m_box(box), m_what(what)
+{
+    Fill();
+    connect(&m_box, qOverload<int>(&QComboBox::activated), this,
+            [this](int index) { emit Signal_Chosen(m_box.itemData(index).toString()); });
+    connect(&fileButton, &QPushButton::clicked, this, &CNameChoice::AskForFile);
+}
+
+void CNameChoice::ShowCurrent(const QString &nameOrPath)
+{
+    if (m_box.findData(nameOrPath) < 0) {
+        RememberFile(nameOrPath);
+        Fill();
+    }
+    m_box.setCurrentIndex(m_box.findData(nameOrPath));
+    m_box.setToolTip(nameOrPath);
+}
+
+void CNameChoice::AskForFile()
+{
+    const QPointer<CNameChoice> self = this;
+    const QString folder = CHostSettings().Value(m_what.subject + "/folder").toString();
+    const QString file =
+        QFileDialog::getOpenFileName(m_box.window(), m_what.title, folder, kFilter);
+    if (!self || file.isEmpty())
+        return;
+    CHostSettings().Set(m_what.subject + "/folder", QFileInfo(file).path());
+    emit Signal_Chosen(file);
+}
+
+void CNameChoice::Fill()
+{
+    m_box.clear();
+    if (!m_what.none.isEmpty())
+        m_box.addItem(m_what.none, QString());
+    for (const QString &name : m_what.names)
+        m_box.addItem(name, name);
+    for (const QString &file : Files()) {
+        m_box.addItem(QFileInfo(file).fileName(), file);
+        m_box.setItemData(m_box.count() - 1, file, Qt::ToolTipRole);
+    }
+}
+
+void CNameChoice::RememberFile(const QString &path)
+{
+    QStringList files = Files();
+    files.removeAll(path);
+    files.prepend(path);
+    CHostSettings().Set(FilesKey(), QStringList(files.mid(0, kMostFiles)));
+}
+
+QStringList CNameChoice::Files() const
+{
+    return CHostSettings().Value(FilesKey()).toStringList();
+}
