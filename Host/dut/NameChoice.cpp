@@ -27,10 +27,8 @@ CNameChoice::CNameChoice(QComboBox &box, QPushButton &fileButton, const SNameCho
 
 void CNameChoice::ShowCurrent(const QString &nameOrPath)
 {
-    if (m_box.findData(nameOrPath) < 0) {
-        RememberFile(nameOrPath);
-        Fill();
-    }
+    if (!nameOrPath.isEmpty() && m_box.findData(nameOrPath) < 0)
+        Remember(nameOrPath);
     m_box.setCurrentIndex(m_box.findData(nameOrPath));
     m_box.setToolTip(nameOrPath);
 }
@@ -60,12 +58,13 @@ void CNameChoice::Fill()
     }
 }
 
-void CNameChoice::RememberFile(const QString &path)
+void CNameChoice::Remember(const QString &path)
 {
     QStringList files = Files();
     files.removeAll(path);
     files.prepend(path);
     CHostSettings().Set(FilesKey(), QStringList(files.mid(0, kMostFiles)));
+    Fill();
 }
 
 QStringList CNameChoice::Files() const

@@ -33,6 +33,8 @@ public:
 
     // A name or a path; a file joins the ones that are remembered.
     void ShowCurrent(const QString &nameOrPath);
+    // A file that can be chosen from now on.
+    void Remember(const QString &path);
 
 signals:
     void Signal_Chosen(const QString &nameOrPath);
@@ -40,7 +42,6 @@ signals:
 private:
     void AskForFile();
     void Fill();
-    void RememberFile(const QString &path);
     QString FilesKey() const { return m_what.subject + "/files"; }
     QStringList Files() const;
 
