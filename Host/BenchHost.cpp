@@ -2,9 +2,13 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDateTime>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QLabel>
 #include <QMessageBox>
 #include <QScrollArea>
@@ -12,16 +16,29 @@
 #include <QTreeWidget>
 #include <QtGlobal>
 
+#include "Host/HostSettings.h"
+#include "Host/Picture.h"
+#include "Host/ReasonHint.h"
+#include "Host/Sign.h"
 #include "Host/Tap.h"
 #include "Host/ToolWindow.h"
 #include "Host/door/DoorPanel.h"
 #include "Host/dut/DutPanel.h"
 #include "Host/dut/FaultPanel.h"
+#include "Host/dut/RadioWords.h"
 #include "ui_BenchHost.h"
 
 namespace {
 
+constexpr int kRadioMs = 250;      // between two looks at the radio
 constexpr int kMostEvents = 1000;  // of the log; older ones go
+
+constexpr char kPictureFolder[] = "picture/folder";
+const QString kOldAnswerHint =
+    "No DUT is plugged in: the tool goes by what it has read before. Reset "
+    "makes it forget that.";
+const QString kPlugHint =
+    "No DUT is plugged in. Plug it in on the page DUT, then press Reset and Query.";
 
 QString OrNone(const QString &text)
 {
@@ -56,9 +73,15 @@ CBenchHost::CBenchHost(CPluginHandle &plugin, QWidget *parent)
     m_ui->m_events->header()->setResizeContentsPrecision(0);  // only the lines in sight
     for (int column : {0, 1})
         m_ui->m_events->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    m_ui->m_splitter->setStretchFactor(0, 1);  // the pages have the room
     FillPluginFields();
     AddPanels();
+    ShowSign(*m_ui->m_isSupportSign, ESign::None);
+    for (QWidget *part : {m_ui->m_caption_hint, m_ui->m_hint})
+        part->hide();
     ShowState();
+    connect(&m_radioTimer, &QTimer::timeout, this, &CBenchHost::ShowRadio);
+    m_radioTimer.start(kRadioMs);
     connect(&m_plugin, &CPluginHandle::Signal_Activated, this,
             [this](const QString &name, bool isActivated) {
                 AddEvent("Activated", QString("%1: %2").arg(name, isActivated ? "on" : "off"));
@@ -83,13 +106,18 @@ void CBenchHost::AddPanels()
 {
     const ETrace trace = TraceOfSession();
     // A trace that is played back answers in place of the DUT.
-    if (m_dut.IsThere() && trace != ETrace::PlayedBack) {
+    m_hasDut = m_dut.IsThere() && trace != ETrace::PlayedBack;
+    if (m_hasDut) {
         AddPanel("DUT", new CDutPanel(m_dut));
         AddPanel("Faults", new CFaultPanel(m_dut));
     }
     if (m_dut.IsThere() || trace != ETrace::None)
         AddPanel("Door", new CDoorPanel(m_dut));
-    m_ui->m_panels->setVisible(m_ui->m_panels->count() > 0);
+    m_ui->m_panels->removeTab(0);
+    AddPanel("Plug-in", m_ui->m_pluginPage);
+    m_ui->m_panels->setCurrentIndex(0);
+    for (QWidget *part : {m_ui->m_caption_dutRadio, m_ui->m_dutRadioSign, m_ui->m_dutRadio})
+        part->setVisible(m_hasDut);
 }
 
 void CBenchHost::AddPanel(const QString &title, QWidget *panel)
@@ -128,23 +156,70 @@ SPluginToolLaunchRequirement CBenchHost::Query()
     const qint64 elapsed = timer.elapsed();
     QApplication::restoreOverrideCursor();
     FillAnswer(answer);
+    TellThatToolHasAsked();
     const QString outcome =
         answer.isSupport ? "supported" : "not supported: " + answer.unsupportReason;
     AddEvent("Query", QString("%1 ms, %2").arg(elapsed).arg(outcome));
     return answer;
 }
 
+void CBenchHost::TellThatToolHasAsked()
+{
+    if (auto *panel = m_ui->m_panels->findChild<CDutPanel *>())
+        panel->ToolHasAsked();
+}
+
 void CBenchHost::FillAnswer(const SPluginToolLaunchRequirement &answer)
 {
     const uint32_t handle = qApp->property("vondTargetHandle").toUInt();
-    const QString profile = qEnvironmentVariable("VOND_SIM_PROFILE");
+    const QString profile = ProfileName();
     m_ui->m_handle->setText(QString("%1 (0x%2)").arg(handle).arg(handle, 0, 16));
     m_ui->m_profile->setText(profile.isEmpty() ? "not chosen" : profile);
     m_ui->m_isSupport->setText(answer.isSupport ? "Yes, now" : "No");
+    ShowSign(*m_ui->m_isSupportSign, answer.isSupport ? ESign::Good : ESign::Bad);
     m_ui->m_reason->setText(OrNone(answer.unsupportReason));
+    ShowHint(answer);
     m_ui->m_isNeedDb->setText(YesOrNo(answer.isNeedDb));
     m_ui->m_isNeedDriver->setText(YesOrNo(answer.isNeedDriver));
     m_ui->m_launchNote->setText(OrNone(answer.launchNote));
+}
+
+// The DUT itself knows best whether it is there.
+void CBenchHost::ShowHint(const SPluginToolLaunchRequirement &answer)
+{
+    QString hint = ReasonHint(answer.unsupportReason);
+    if (m_hasDut && m_dut->IsPlugged() == 0)
+        hint = answer.isSupport ? kOldAnswerHint : kPlugHint;
+    m_ui->m_hint->setText(hint);
+    for (QWidget *part : {m_ui->m_caption_hint, m_ui->m_hint})
+        part->setVisible(!hint.isEmpty());
+}
+
+QString CBenchHost::ProfileName() const
+{
+    if (!m_hasDut)
+        return qEnvironmentVariable("VOND_SIM_PROFILE");
+    const QJsonDocument profile = QJsonDocument::fromJson(m_dut->ProfileText());
+    return profile.object().value("name").toString();
+}
+
+void CBenchHost::ShowRadio()
+{
+    const SToolTest test = TestInTool();
+    m_ui->m_toolRadio->setText(OrNone(test.text));
+    if (test.text.isEmpty())
+        ShowSign(*m_ui->m_toolRadioSign, ESign::None);
+    else
+        ShowSign(*m_ui->m_toolRadioSign, test.color);
+    if (!m_hasDut)
+        return;
+    SVondSimRadioState state = {};
+    m_dut->GetRadioState(&state);
+    const QStringList words = {RadioWords(state), RunningWords(state)};
+    m_ui->m_dutRadio->setText(words.join(words[1].isEmpty() ? "" : "; "));
+    ShowSign(*m_ui->m_dutRadioSign, state.isTransmitting ? ESign::Bad
+                                    : state.isReceiving  ? ESign::Good
+                                                         : ESign::None);
 }
 
 void CBenchHost::ShowState()
@@ -157,6 +232,7 @@ void CBenchHost::ShowState()
         button->setEnabled(!isBusy);
     if (!isBusy)
         m_ui->statusbar->clearMessage();
+    ShowRadio();
 }
 
 void CBenchHost::AddEvent(const QString &event, const QString &detail)
@@ -194,6 +270,7 @@ void CBenchHost::on_m_reset_clicked()
         return;
     BeginAction("Reset");
     m_plugin.Tool().ResetPlugin();
+    TellThatToolHasAsked();
     if (m_plugin.IsActivated())
         m_ui->statusbar->showMessage("The pages are gone. Show the tool to have them again.");
 }
@@ -208,6 +285,29 @@ void CBenchHost::on_m_enable_clicked()
 {
     BeginAction("Enable");
     m_plugin.Tool().EnablePages();
+}
+
+// Taken before the dialog opens: what the user saw when he pressed the button.
+void CBenchHost::on_m_picture_clicked()
+{
+    const QImage picture = PictureOf({this, FindToolWindow()});
+    CHostSettings settings;
+    const QString name = QDateTime::currentDateTime().toString("'quorlin-'yyyyMMdd-HHmmss'.png'");
+    QString file = QFileDialog::getSaveFileName(
+        this, "Save a picture", QDir(settings.Value(kPictureFolder).toString()).filePath(name),
+        "Pictures (*.png)");
+    if (file.isEmpty())
+        return;
+    if (QFileInfo(file).suffix().isEmpty())
+        file += ".png";
+    settings.Set(kPictureFolder, QFileInfo(file).absolutePath());
+    QString error;
+    const bool isSaved = SavePicture(picture, file, error);
+    AddEvent("Picture", isSaved ? file : error);
+    if (isSaved)
+        m_ui->statusbar->showMessage("Saved as " + file);
+    else
+        QMessageBox::warning(this, windowTitle(), error);
 }
 
 void CBenchHost::closeEvent(QCloseEvent *event)

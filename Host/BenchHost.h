@@ -1,8 +1,10 @@
 // The window "Quorlin bench host": what the plug-in says of itself, and a button for each request
 // that a host can make.
 //
-// Shows the metadata, the answer to the launch query in words, whether the tool's window is shown
-// and whether it works on the target, and a log of all that with times.
+// Shows the metadata, the answer to the launch query in words, whether the tool's window is shown,
+// whether it works on the target, the radio as the tool knows it, and a log of all that with times.
+// With the simulated DUT there are the radio as the DUT knows it, and pages that steer the DUT and show
+// the calls that reach it.
 //
 // While the tool is busy, the requests that would disturb the link to the target are off, and
 // neither this window nor the tool's closes: the status bars of both say why. While a test runs,
@@ -18,6 +20,7 @@
 #include <memory>
 
 #include <QMainWindow>
+#include <QTimer>
 
 #include "Host/PluginHandle.h"
 #include "Host/SimulatedDut.h"
@@ -51,6 +54,7 @@ private slots:
     void on_m_reset_clicked();
     void on_m_disable_clicked();
     void on_m_enable_clicked();
+    void on_m_picture_clicked();
 
 private:
     // What the host is about to do: an event, and a note in the trace.
@@ -60,7 +64,13 @@ private:
     void AddPanel(const QString &title, QWidget *panel);
     void FillPluginFields();
     void FillAnswer(const SPluginToolLaunchRequirement &answer);
+    void ShowHint(const SPluginToolLaunchRequirement &answer);
     void ShowState();
+    // The radio as the tool and the DUT know it.
+    void ShowRadio();
+    QString ProfileName() const;
+    // The page "DUT" doesn't go by an older DUT any more.
+    void TellThatToolHasAsked();
     // May this window, or the tool's, close? If not, the event is refused, and the reason told.
     bool MayClose(QCloseEvent *event, const QString &window);
     void RefuseClose(QCloseEvent *event, const QString &window);
@@ -70,4 +80,6 @@ private:
     CPluginHandle &m_plugin;
     CSimulatedDut m_dut;
     std::unique_ptr<Ui::CBenchHost> m_ui;
+    bool m_hasDut = false;  // steered by the pages: simulated, and no trace in its place
+    QTimer m_radioTimer;
 };

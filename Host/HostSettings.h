@@ -18,6 +18,7 @@ public:
     // Invalid when the file lacks it.
     QVariant Value(const QString &key) const { return m_settings.value(key); }
     void Set(const QString &key, const QVariant &value) { m_settings.setValue(key, value); }
+    void Clear() { m_settings.clear(); }
 
 private:
     QSettings m_settings;

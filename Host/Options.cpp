@@ -5,6 +5,11 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLibrary>
+
+#include "Host/SimulatedDut.h"
 
 namespace {
 
@@ -48,6 +53,26 @@ const QCommandLineOption kReplay("replay", "Play a trace back: it answers in pla
 const QCommandLineOption kDemo("demo", "Without a person: query, show, start and stop continuous "
                                        "RX, end.");
 
+// The simulated DUT comes with the plug-in; nothing where the plug-in runs on the real pair.
+QString NamesHelp(const QString &pluginFile)
+{
+    QLibrary plugin(pluginFile);
+    if (!plugin.load())
+        return {};
+    const CSimulatedDut dut;
+    if (!dut.IsThere())
+        return {};
+    QString help = "\nProfiles of the simulated DUT: " + SimulatedProfiles().join(", ") +
+                   "; or a file.\nScenarios, or a file:\n";
+    for (const QString &name : SimulatedScenarios()) {
+        const QByteArray text(dut->BuiltinScenarioText(name.toUtf8().constData()));
+        help += QString("  %1 %2\n")
+                    .arg(name, -15)
+                    .arg(QJsonDocument::fromJson(text).object().value("about").toString());
+    }
+    return help;
+}
+
 int Refuse(const QString &text)
 {
     std::fprintf(stderr, "quorlin-host: %s\nTry quorlin-host --help.\n", qPrintable(text));
@@ -80,7 +105,9 @@ std::optional<int> ReadHostOptions(int argc, char **argv, SHostOptions &options)
     if (!parser.parse(QCoreApplication::arguments()))
         return Refuse(parser.errorText());
     if (parser.isSet(kHelp)) {
-        std::fputs(qPrintable(parser.helpText()), stdout);
+        const QString plugin = parser.value(kPlugin);
+        const QString names = NamesHelp(plugin.isEmpty() ? DefaultPluginFile() : plugin);
+        std::fputs(qPrintable(parser.helpText() + names), stdout);
         return eHostExitGood;
     }
     if (!parser.positionalArguments().isEmpty())

@@ -1,7 +1,8 @@
 // The command line of the bench host.
 //
 // Read before the application object exists, so that --help and errors work without a display.
-// Texts of --help go to stdout, errors to stderr.
+// Texts of --help go to stdout, errors to stderr. --help names the profiles and scenarios that the
+// plug-in's simulated DUT has.
 //
 //     SHostOptions options;
 //     if (const std::optional<int> exitCode = ReadHostOptions(argc, argv, options))

@@ -62,6 +62,7 @@
 
 struct SSimulatedDutCalls
 {
+// NOLINTNEXTLINE(bugprone-macro-parentheses): the name of a member
 #define QUORLIN_CALL(name) decltype(&VondSim_##name) name = nullptr;
     QUORLIN_SIMULATED_DUT_CALLS(QUORLIN_CALL)
 #undef QUORLIN_CALL

@@ -5,13 +5,17 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDockWidget>
-#include <QImageWriter>
+#include <QLabel>
 #include <QPixmap>
 #include <QStatusBar>
+
+#include "Host/Picture.h"
 
 namespace {
 
 constexpr char kToolWindowName[] = "CQuorlinForm";
+constexpr char kTestLamp[] = "m_testLamp";  // a dot and the words
+constexpr char kLampDot[] = "\u25CF ";
 
 }  // namespace
 
@@ -34,6 +38,18 @@ bool IsTestRunning()
         const auto *stop = page->findChild<QAbstractButton *>(QLatin1String(kStopButton));
         return stop && stop->isEnabledTo(page);
     });
+}
+
+SToolTest TestInTool()
+{
+    const QMainWindow *window = FindToolWindow();
+    const auto *lamp = window ? window->findChild<QLabel *>(QLatin1String(kTestLamp)) : nullptr;
+    if (!lamp || lamp->isHidden())
+        return {};
+    QString text = lamp->text();
+    if (const QString dot = QString::fromUtf8(kLampDot); text.startsWith(dot))
+        text.remove(0, dot.size());
+    return {text, lamp->palette().color(QPalette::WindowText)};
 }
 
 void TellInTool(const QString &text)
@@ -87,10 +103,5 @@ bool CToolWindow::SaveScreenshot(const QString &file, QString &error) const
         error = "Can't save a picture: the tool has no window.";
         return false;
     }
-    QImageWriter writer(file, "png");
-    if (!writer.write(m_window->grab().toImage())) {
-        error = QString("Can't save a picture as %1: %2").arg(file, writer.errorString());
-        return false;
-    }
-    return true;
+    return SavePicture(m_window->grab().toImage(), file, error);
 }

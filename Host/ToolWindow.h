@@ -6,6 +6,7 @@
 //         connect(&tool, &CToolWindow::Signal_Status, this, &CDemo::Slot_Status);
 #pragma once
 
+#include <QColor>
 #include <QMainWindow>
 #include <QObject>
 #include <QPointer>
@@ -20,6 +21,14 @@ QMainWindow *FindToolWindow();
 
 // Does a test run on the DUT? A page of the tool tells by an enabled button "m_stop".
 bool IsTestRunning();
+
+// The running test as the tool shows it: "Single Tone TX  n78  3549.990 MHz  23.00 dBm  00:01:23".
+struct SToolTest
+{
+    QString text;  // empty: none
+    QColor color;  // the tool's: another one while the DUT transmits
+};
+SToolTest TestInTool();
 
 // Shows a line in the status bar of the tool's own window.
 void TellInTool(const QString &text);

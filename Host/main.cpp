@@ -15,10 +15,13 @@
 #include "Host/SimulatedDut.h"
 #include "Host/Tap.h"
 #include "Host/ToolWindow.h"
+#include "Host/WindowPlaces.h"
+#include "Host/dut/DutPanel.h"
 
 namespace {
 
 constexpr std::chrono::seconds kDemoDeadline(60);
+constexpr char kProfileVariable[] = "VOND_SIM_PROFILE";
 
 void Print(FILE *stream, const QString &line)
 {
@@ -55,6 +58,7 @@ std::unique_ptr<QApplication> MakeApplication(int &count, char **arguments)
 
 int RunDemo(CBenchHost &host, CPluginHandle &plugin, const SHostOptions &options)
 {
+    host.show();
     CDemo demo(host, plugin, options.screenshotFile);
     QObject::connect(&demo, &CDemo::Signal_Said, [](const QString &line) { Print(stdout, line); });
     QObject::connect(&demo, &CDemo::Signal_Ended, [](const QString &failure) {
@@ -88,6 +92,8 @@ void SaveWhenReady(CToolWindow &tool, CBenchHost &host, const QString &file)
 
 int RunWindow(CBenchHost &host, const SHostOptions &options)
 {
+    const CWindowPlaces places(host);
+    host.show();
     CToolWindow tool;
     if (!options.screenshotFile.isEmpty())
         SaveWhenReady(tool, host, options.screenshotFile);
@@ -104,6 +110,15 @@ int RunWindow(CBenchHost &host, const SHostOptions &options)
     return QCoreApplication::exec();
 }
 
+// As the options say, or as it was left, unless the environment says otherwise. The demonstration is the
+// same for everybody.
+QString ProfileAtStart(const SHostOptions &options)
+{
+    const bool isRemembered = options.profile.isEmpty() && !options.isDemo &&
+                              qEnvironmentVariableIsEmpty(kProfileVariable);
+    return isRemembered ? CDutPanel::RememberedProfile() : options.profile;
+}
+
 }  // namespace
 
 int main(int argc, char **argv)
@@ -117,8 +132,9 @@ int main(int argc, char **argv)
         return eHostExitOptions;
     }
     // The simulated DUT comes with the plug-in and takes profile and scenario at that moment.
-    if (!options.profile.isEmpty())
-        qputenv("VOND_SIM_PROFILE", options.profile.toUtf8());
+    const QString profile = ProfileAtStart(options);
+    if (!profile.isEmpty())
+        qputenv(kProfileVariable, profile.toUtf8());
     if (!options.scenario.isEmpty())
         qputenv("VOND_SIM_SCENARIO", options.scenario.toUtf8());
     QLoggingCategory::setFilterRules(options.isVerbose ? "quorlin.*.debug=true"
@@ -150,6 +166,5 @@ int main(int argc, char **argv)
         return eHostExitOptions;
     }
     CBenchHost host(plugin);
-    host.show();
     return options.isDemo ? RunDemo(host, plugin, options) : RunWindow(host, options);
 }

@@ -145,7 +145,7 @@ SPluginToolLaunchRequirement CFakeTool::QueryLaunchRequirement()
                                  .arg(qApp->property("vondTargetHandle").toUInt())
                                  .arg(qEnvironmentVariable("VOND_SIM_PROFILE", "unset"));
     if (IsMode("unsupported"))
-        requirement.unsupportReason = "It is a fake DUT.";
+        requirement.unsupportReason = qEnvironmentVariable("FAKE_TOOL_REASON", "It is a fake DUT.");
     if (IsMode("unsupported-with-note"))
         requirement.unsupportReason = requirement.launchNote;
     requirement.isSupport = requirement.unsupportReason.isEmpty();

@@ -2,7 +2,7 @@
 // window has just the names and status lines by which the bench host works.
 //
 // The environment variable FAKE_TOOL says what goes wrong with it:
-//     unsupported   the launch query says no, with a reason
+//     unsupported   the launch query says no, with the reason of FAKE_TOOL_REASON or one of its own
 //     unsupported-with-note  the same, with the launch note as reason
 //     never-ready   the window never says "Init done."
 //     no-page       the window has no page

@@ -18,6 +18,7 @@ private slots:
     void RefusesAMistypedProfileAndNamesThemAll();
     void RefusesAMistypedScenarioAndNamesThemAll();
     void ScenarioMakesTheStartFail();
+    void HelpNamesProfilesAndScenarios();
 };
 
 void HostDeviceTest::DemoRunsContinuousRxOnTheHandset()
@@ -94,6 +95,19 @@ void HostDeviceTest::ScenarioMakesTheStartFail()
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.out.contains("The tool says \"Cont Rx start failed...\""),
              qPrintable(run.out + run.err));
+}
+
+void HostDeviceTest::HelpNamesProfilesAndScenarios()
+{
+    const SHostRun run = RunHost({"--help"}, {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.err, QString());
+    QVERIFY2(run.out.contains("Profiles of the simulated DUT: handset, c2k, no-nr, gen0, "
+                              "unplugged, largest"),
+             qPrintable(run.out));
+    for (const char *scenario :
+         {"weak-cell", "cable-off", "flaky-link", "slow-dut", "torn-flash", "overheating-pa"})
+        QVERIFY2(run.out.contains(QString("\n  %1 ").arg(scenario)), scenario);
 }
 
 QUORLIN_TEST_CLASS(HostDeviceTest)
