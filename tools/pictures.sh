@@ -18,7 +18,7 @@ trap 'rm -rf "$home"' EXIT
 # A backup is named in a question, and not made.
 for look in :1: dark:1:--dark 150:1.5: 150-dark:1.5:--dark; do
     IFS=: read -r folder scale dark <<<"$look"
-    rm -rf "$home"/*
+    rm -rf "${home:?}"/*
     mkdir -m 700 "$home/run"
     # shellcheck disable=SC2086  # no word where it is light
     XDG_CONFIG_HOME=$home XDG_DATA_HOME=/home/engineer/.local/share XDG_RUNTIME_DIR=$home/run QT_SCALE_FACTOR=$scale \

@@ -29,9 +29,7 @@ void OpenPlot(CAutoBindingDataModelDockWidget *page, CPlotSource *source, QActio
             return;
         }
     }
-    window->show();
-    window->raise();
-    window->activateWindow();
+    window->BringUp();
 }
 
 }  // namespace

@@ -5,15 +5,12 @@
 
 #include <QAction>
 #include <QClipboard>
-#include <QEvent>
 #include <QGuiApplication>
-#include <QMainWindow>
 #include <QMenu>
 #include <QShortcut>
 
 #include "Support/FileDialogMan.h"
 #include "Support/MessageBoxMan.h"
-#include "Support/Settings.h"
 #include "Support/WholeFile.h"
 #include "View/editors/NamedAction.h"
 #include "View/plots/PlotFigureTable.h"
@@ -41,16 +38,6 @@ EPlotPicture FormatOf(const QString &file)
                                                                      : EPlotPicture::Png;
 }
 
-// The window that the page is docked in, also while it floats.
-QMainWindow *ToolWindow(QWidget *page)
-{
-    for (QWidget *widget = page; widget; widget = widget->parentWidget()) {
-        if (auto *window = qobject_cast<QMainWindow *>(widget))
-            return window;
-    }
-    return nullptr;
-}
-
 }  // namespace
 
 CPlotWindow *CPlotWindow::Make(QWidget *page, CPlotSource *source)
@@ -60,20 +47,14 @@ CPlotWindow *CPlotWindow::Make(QWidget *page, CPlotSource *source)
 }
 
 CPlotWindow::CPlotWindow(QWidget *page, CPlotSource *source)
-    : QWidget(page, Qt::Window), m_ui(std::make_unique<Ui::CPlotWindow>()), m_source(source)
+    : CPageWindow(page, QLatin1String("plot/") + source->Key()),
+      m_ui(std::make_unique<Ui::CPlotWindow>()), m_source(source)
 {
     m_ui->setupUi(this);
     setWindowTitle(source->Title());
-    if (QMainWindow *tool = ToolWindow(page))
-        tool->installEventFilter(this);
-    setEnabled(true);
 }
 
-CPlotWindow::~CPlotWindow()
-{
-    if (isVisible())
-        KeepPlace();
-}
+CPlotWindow::~CPlotWindow() = default;
 
 bool CPlotWindow::MakePlot()
 {
@@ -109,7 +90,7 @@ bool CPlotWindow::MakePlot()
     });
     m_source->Open();
     ShowCurves();
-    restoreGeometry(CSettings::Get().Value(QLatin1String("plot/") + m_source->Key()).toByteArray());
+    RestorePlace();
     return true;
 }
 
@@ -271,42 +252,11 @@ void CPlotWindow::Save()
 }
 
 // A page turns all that it owns off with itself.
-void CPlotWindow::changeEvent(QEvent *event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange && !isEnabled())
-        setEnabled(true);
-}
-
 void CPlotWindow::showEvent(QShowEvent *event)
 {
-    QWidget::showEvent(event);
+    CPageWindow::showEvent(event);
     if (m_plot) {
         ShowPoints();
         ShowFigures();
     }
-}
-
-void CPlotWindow::hideEvent(QHideEvent *event)
-{
-    KeepPlace();
-    QWidget::hideEvent(event);
-}
-
-void CPlotWindow::KeepPlace()
-{
-    if (m_plot && m_source)
-        CSettings::Get().SetValue(QLatin1String("plot/") + m_source->Key(), saveGeometry());
-}
-
-bool CPlotWindow::eventFilter(QObject *object, QEvent *event)
-{
-    if (event->type() == QEvent::Hide && !event->spontaneous()) {
-        m_comesBack = isVisible();
-        hide();
-    } else if (event->type() == QEvent::Show && !event->spontaneous() && m_comesBack) {
-        m_comesBack = false;
-        show();
-    }
-    return QWidget::eventFilter(object, event);
 }
