@@ -1,5 +1,6 @@
 #include "tools/pictures/PictureRun.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include <QAbstractButton>
@@ -9,6 +10,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QDockWidget>
+#include <QHash>
 #include <QImage>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -58,6 +60,24 @@ void MakeEditors(const QTableWidget *table)
         if (part->inherits("CLateEditors"))
             QMetaObject::invokeMethod(part, "Ensure");
     }
+}
+
+// With the 256 colours that it has most of: nobody sees the rest, and the file is a quarter of the size.
+QImage InFewColours(const QImage &picture)
+{
+    const QImage whole = picture.convertToFormat(QImage::Format_RGB32);
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < whole.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(whole.constScanLine(y));
+        for (int x = 0; x < whole.width(); ++x)
+            ++counts[line[x]];
+    }
+    QVector<QRgb> colours = counts.keys().toVector();
+    std::sort(colours.begin(), colours.end(), [&counts](QRgb one, QRgb other) {
+        return std::pair(counts[other], one) < std::pair(counts[one], other);
+    });
+    colours.resize(std::min(colours.size(), 256));
+    return whole.convertToFormat(QImage::Format_Indexed8, colours, Qt::ThresholdDither);
 }
 
 }  // namespace
@@ -224,9 +244,7 @@ QWidget *CPictureRun::Shown(const QString &window) const
 void CPictureRun::Save(const SPictureStep &step)
 {
     QWidget *window = step.text.isEmpty() ? m_tool.data() : Shown(step.text);
-    // 256 colours are enough for a window, and a quarter of the size.
-    const QImage picture =
-        window->grab().toImage().convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither);
+    const QImage picture = InFewColours(window->grab().toImage());
     if (m_folder.isEmpty())
         return;
     const QString file = QDir(m_folder).filePath(step.what + ".png");
