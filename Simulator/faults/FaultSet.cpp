@@ -3,6 +3,19 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+// Noise in every function passes by those that answer nothing: it would be spent without a trace.
+bool IsMeant(const SFault &fault, const SFunction &function)
+{
+    if (fault.function != nullptr)
+        return fault.function->id == function.id;
+    const bool answers = function.answer != nullptr || function.HasStatus();
+    return CanShow(function, fault.kind) && (fault.kind != EFaultKind::Noise || answers);
+}
+
+}  // namespace
+
 void CFaultSet::SetProfileFaults(const std::vector<SFault> &faults)
 {
     RemoveOf(EFaultSource::Profile);
@@ -81,8 +94,7 @@ SFaultPlan CFaultSet::Plan(const SFunction &function)
         if (state.trigger && state.trigger->Meets(function))
             Arm(state);
         const SFault &fault = state.row.fault;
-        if (fault.function != nullptr ? fault.function->id != function.id
-                                      : !CanShow(function, fault.kind))
+        if (!IsMeant(fault, function))
             continue;
         ++state.row.callCount;
         if (IsOfTheFlash(fault.kind) || !Fires(state))
