@@ -65,7 +65,7 @@ QString CDutPanel::RememberedProfile()
 
 void CDutPanel::ToolHasAsked()
 {
-    m_ui->m_hint->hide();
+    m_ui->m_dutHint->hide();
 }
 
 void CDutPanel::showEvent(QShowEvent *event)
@@ -150,8 +150,8 @@ void CDutPanel::TakeProfile(const QString &nameOrPath)
     if (isGood) {
         m_profile = nameOrPath;
         CHostSettings().Set(kLastProfile, nameOrPath);
-        m_ui->m_hint->setText("The tool goes by the old DUT until it is reset and shown again.");
-        m_ui->m_hint->show();
+        m_ui->m_dutHint->setText("The tool goes by the old DUT until it is reset and shown again.");
+        m_ui->m_dutHint->show();
         OnNewDut();
         emit Signal_DutChanged();
     }

@@ -97,14 +97,14 @@ void DutPanelTest::OffersAllProfilesAndShowsTheOneInPlace()
 void DutPanelTest::ChoosesAProfileByKeyboard()
 {
     QSignalSpy changed(m_window->Find<CDutPanel>("CDutPanel"), &CDutPanel::Signal_DutChanged);
-    QVERIFY(!m_window->Find<QLabel>("m_hint")->isVisible());
+    QVERIFY(!m_window->Find<QLabel>("m_dutHint")->isVisible());
     auto *box = m_window->Find<QComboBox>("m_profile");
     box->setFocus();
     QTest::keyClick(box, Qt::Key_Down);
     QCOMPARE(box->currentText(), QString(VondSim_ProfileName(1)));
     QCOMPARE(ProfileName(), QString(VondSim_ProfileName(1)));
     QCOMPARE(changed.count(), 1);
-    QVERIFY(m_window->Find<QLabel>("m_hint")->isVisible());
+    QVERIFY(m_window->Find<QLabel>("m_dutHint")->isVisible());
 }
 
 void DutPanelTest::ChoosesAProfileByMouse()
