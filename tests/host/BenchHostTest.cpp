@@ -2,16 +2,12 @@
 #include "Host/BenchHost.h"
 
 #include <QDockWidget>
-#include <QFileDialog>
-#include <QImage>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSet>
 #include <QStatusBar>
 #include <QTabWidget>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -35,13 +31,7 @@ private slots:
     void EachButtonMakesItsRequest();
     void ButtonsHaveDifferentMnemonics();
     void ButtonsStandInTheOrderOfAHostsCalls();
-    void SignIsGreenForYesAndRedForNo();
-    void HintTellsWhatAReasonMeans_data();
-    void HintTellsWhatAReasonMeans();
-    void ShowsTheRunningTestOfTheTool();
     void HasNoPagesOfADutThatIsNotSimulated();
-    void SavesAPictureOfHostAndTool();
-    void TellsWhyAPictureIsNotSaved();
     void FollowsTheToolsWindow();
     void TellsThatPagesComeBackByShowing();
     void KeepsFromTheLinkWhileBusy();
@@ -58,9 +48,6 @@ private:
     QString Text(const char *name) const { return m_host->findChild<QLabel *>(name)->text(); }
     QPushButton *Button(const char *name) const { return m_host->findChild<QPushButton *>(name); }
     QString StatusText() const { return m_host->statusBar()->currentMessage(); }
-    QColor SignColor(const char *name) const;
-    // Presses the picture button and gives the file's name to the dialog.
-    void SavePicture(const QString &file);
     QTreeWidget *Events() const { return m_host->findChild<QTreeWidget *>("m_events"); }
     QString LastEvent() const;
     QStringList TakeRequests();
@@ -183,130 +170,12 @@ void BenchHostTest::ButtonsStandInTheOrderOfAHostsCalls()
     }
 }
 
-// Invalid: no dot.
-QColor BenchHostTest::SignColor(const char *name) const
-{
-    const auto *sign = m_host->findChild<QLabel *>(name);
-    return sign->isVisible() ? sign->palette().color(QPalette::WindowText) : QColor();
-}
-
-void BenchHostTest::SignIsGreenForYesAndRedForNo()
-{
-    QVERIFY(!SignColor("m_isSupportSign").isValid());
-    m_host->Query();
-    const QColor yes = SignColor("m_isSupportSign");
-    QVERIFY2(yes.green() > yes.red(), qPrintable(yes.name()));
-    qputenv("FAKE_TOOL", "unsupported");
-    m_host->Query();
-    const QColor no = SignColor("m_isSupportSign");
-    QVERIFY2(no.red() > no.green(), qPrintable(no.name()));
-}
-
-void BenchHostTest::HintTellsWhatAReasonMeans_data()
-{
-    QTest::addColumn<QString>("reason");
-    QTest::addColumn<QString>("words");  // empty: no hint
-    QTest::newRow("C2K") << "It is C2K modem now."
-                         << "C2K modem is active";
-    QTest::newRow("unplugged") << "Not Support due to without any this RAT info from SW."
-                               << "No DUT is plugged in";
-    QTest::newRow("no world mode")
-        << "We cannot get its support status: Failed to get multi-RAT world mode ID info."
-        << "Look at the link";
-    QTest::newRow("no NR") << "Not support this RAT from SW multi-RAT world mode ID info."
-                           << "has no NR";
-    QTest::newRow("no capability") << "Support this RAT but it failed to get its capability info."
-                                   << "bands and routes";
-    QTest::newRow("no CA capability") << "Support this RAT but it failed to get CA capability info."
-                                      << "its routes";
-    QTest::newRow("another") << "It is a fake DUT."
-                             << "";
-    QTest::newRow("none") << ""
-                          << "";
-}
-
-void BenchHostTest::HintTellsWhatAReasonMeans()
-{
-    QFETCH(QString, reason);
-    QFETCH(QString, words);
-    qputenv("FAKE_TOOL", "unsupported");
-    qputenv("FAKE_TOOL_REASON", reason.toUtf8());
-    m_host->Query();
-    qunsetenv("FAKE_TOOL_REASON");
-    QCOMPARE(Text("m_reason"), reason.isEmpty() ? QString("none") : reason);
-    const auto *hint = m_host->findChild<QLabel *>("m_hint");
-    QCOMPARE(hint->isVisible(), !words.isEmpty());
-    QVERIFY2(hint->text().contains(words), qPrintable(hint->text()));
-}
-
-void BenchHostTest::ShowsTheRunningTestOfTheTool()
-{
-    QCOMPARE(Text("m_toolRadio"), QString("none"));
-    auto *lamp = new QLabel(QString::fromUtf8("\u25CF A test  n78  00:00:01"));
-    lamp->setObjectName("m_testLamp");
-    QPalette palette;
-    palette.setColor(QPalette::WindowText, Qt::magenta);
-    lamp->setPalette(palette);
-    FindToolWindow()->statusBar()->addPermanentWidget(lamp);
-    m_host->ShowTool();
-    QTRY_COMPARE(Text("m_toolRadio"), QString("A test  n78  00:00:01"));
-    QCOMPARE(SignColor("m_toolRadioSign"), QColor(Qt::magenta));
-    lamp->hide();
-    QTRY_COMPARE(Text("m_toolRadio"), QString("none"));
-    QVERIFY(!SignColor("m_toolRadioSign").isValid());
-}
-
 void BenchHostTest::HasNoPagesOfADutThatIsNotSimulated()
 {
     const auto *pages = m_host->findChild<QTabWidget *>("m_panels");
     QCOMPARE(pages->count(), 1);
     QCOMPARE(pages->tabText(0), QString("Plug-in"));
     QVERIFY(!m_host->findChild<QLabel *>("m_dutRadio")->isVisible());
-}
-
-void BenchHostTest::SavePicture(const QString &file)
-{
-    QTimer person;
-    connect(&person, &QTimer::timeout, this, [&] {
-        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        if (!dialog)
-            return;
-        dialog->findChild<QLineEdit *>("fileNameEdit")->setText(file);
-        QTest::keyClick(dialog->findChild<QLineEdit *>("fileNameEdit"), Qt::Key_Return);
-    });
-    person.start(0);
-    QTest::mouseClick(Button("m_picture"), Qt::LeftButton);
-}
-
-// A name without an ending gets one.
-void BenchHostTest::SavesAPictureOfHostAndTool()
-{
-    QTemporaryDir folder;
-    m_host->ShowTool();
-    SavePicture(folder.filePath("bench"));
-    const QString file = folder.filePath("bench.png");
-    const QImage picture(file, "png");
-    QVERIFY2(picture.width() > m_host->width() + FindToolWindow()->width(),
-             qPrintable(QString::number(picture.width())));
-    QVERIFY(picture.height() >= m_host->height());
-    QCOMPARE(LastEvent(), "Picture: " + file);
-    QCOMPARE(StatusText(), "Saved as " + file);
-}
-
-void BenchHostTest::TellsWhyAPictureIsNotSaved()
-{
-    QString told;
-    QTimer person;
-    connect(&person, &QTimer::timeout, this, [&] {
-        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-            told = box->text();
-            box->accept();
-        }
-    });
-    person.start(0);
-    SavePicture("/nowhere/bench.png");
-    QVERIFY2(told.startsWith("Can't save a picture as /nowhere/bench.png"), qPrintable(told));
-    QVERIFY2(LastEvent().startsWith("Picture: Can't save"), qPrintable(LastEvent()));
 }
 
 void BenchHostTest::FollowsTheToolsWindow()
