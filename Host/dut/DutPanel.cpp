@@ -32,8 +32,9 @@ QString ProfileAtStart()
     const QString profile = qEnvironmentVariable("VOND_SIM_PROFILE");
     if (profile.isEmpty())
         return kDefaultProfile;
-    const bool isThere = SimulatedProfiles().contains(profile) || QFileInfo(profile).isFile();
-    return isThere ? profile : QString(kUnplugged);
+    const QStringList names = SimulatedProfiles();
+    return IsUnknownProfile(profile, names) ? QString(kUnplugged)
+                                            : CNameChoice::NameOrPath(profile, names);
 }
 
 }  // namespace
@@ -86,7 +87,7 @@ void CDutPanel::MakeChoices()
 {
     const SNameChoice profiles = {
         .subject = "profile", .title = "Profile of the DUT", .names = SimulatedProfiles()};
-    m_profiles = new CNameChoice(*m_ui->m_profile, *m_ui->m_profileFile, profiles, this);
+    m_profiles = new CNameChoice(*m_ui->m_profileChoice, *m_ui->m_profileFile, profiles, this);
     connect(m_profiles, &CNameChoice::Signal_Chosen, this, &CDutPanel::TakeProfile);
 
     m_levels = {.key = "levelDbm",

@@ -5,7 +5,6 @@
 #include <QHeaderView>
 #include <QJsonDocument>
 #include <QKeyEvent>
-#include <QPointer>
 #include <QSaveFile>
 
 #include "Host/HostSettings.h"
@@ -28,7 +27,7 @@ QByteArray Compact(const QJsonObject &json)
     return QJsonDocument(json).toJson(QJsonDocument::Compact);
 }
 
-QString NoSuchFile(const QFileDevice &file)
+QString WhyNotWritten(const QFileDevice &file)
 {
     return QString("%1 can't be written: %2.").arg(file.fileName(), file.errorString());
 }
@@ -121,8 +120,9 @@ void CFaultPanel::ConnectScenarios()
         .subject = "scenario", .title = "Scenario", .none = "none", .names = SimulatedScenarios()};
     m_scenarios = new CNameChoice(*m_ui->m_scenario, *m_ui->m_scenarioFile, what, this);
     connect(m_scenarios, &CNameChoice::Signal_Chosen, this, &CFaultPanel::TakeScenario);
-    connect(m_ui->m_saveScenario, &QPushButton::clicked, this, &CFaultPanel::SaveScenario);
-    m_scenario = qEnvironmentVariable("VOND_SIM_SCENARIO");
+    connect(m_ui->m_saveScenario, &QPushButton::clicked, this, &CFaultPanel::AskWhereToSave);
+    m_scenario =
+        CNameChoice::NameOrPath(qEnvironmentVariable("VOND_SIM_SCENARIO"), SimulatedScenarios());
     if (m_dut->GetScenarioText(nullptr, 0) == 0)
         m_scenario.clear();
     m_scenarios->ShowCurrent(m_scenario);
@@ -200,22 +200,26 @@ void CFaultPanel::TakeScenario(const QString &nameOrPath)
     m_scenarios->ShowCurrent(m_scenario);
 }
 
-void CFaultPanel::SaveScenario()
+void CFaultPanel::AskWhereToSave()
 {
-    const QPointer<CFaultPanel> self = this;
     const QString folder = CHostSettings().Value(kScenarioFolder).toString();
-    QString path = QFileDialog::getSaveFileName(this, "Save scenario", folder,
-                                                "JSON files (*.json);;All files (*)");
-    if (!self || path.isEmpty())
-        return;
-    if (QFileInfo(path).suffix().isEmpty())
-        path += ".json";
+    auto *box =
+        new QFileDialog(window(), "Save scenario", folder, "JSON files (*.json);;All files (*)");
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setAcceptMode(QFileDialog::AcceptSave);
+    box->setDefaultSuffix("json");
+    connect(box, &QFileDialog::fileSelected, this, &CFaultPanel::SaveScenario);
+    box->open();
+}
+
+void CFaultPanel::SaveScenario(const QString &path)
+{
     const QByteArray name = QFileInfo(path).completeBaseName().toUtf8();
     const QByteArray text =
         CSimulatedDut::Text(m_dut->GetStateAsScenario, name.constData(), "").toUtf8();
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-        return Tell(NoSuchFile(file));
+        return Tell(WhyNotWritten(file));
     CHostSettings().Set(kScenarioFolder, QFileInfo(path).path());
     m_scenarios->Remember(path);
     m_scenarios->ShowCurrent(m_scenario);

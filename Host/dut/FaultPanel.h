@@ -49,7 +49,8 @@ private:
     void RemoveSelected();
     void RemoveAll();
     void TakeScenario(const QString &nameOrPath);
-    void SaveScenario();
+    void AskWhereToSave();
+    void SaveScenario(const QString &path);
 
     void Refresh();
     void ShowScenario();

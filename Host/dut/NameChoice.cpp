@@ -3,7 +3,6 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QPointer>
 #include <QPushButton>
 
 #include "Host/HostSettings.h"
@@ -11,7 +10,7 @@
 namespace {
 
 constexpr int kMostFiles = 8;
-constexpr char kFilter[] = "JSON files (*.json);;All files (*)";
+constexpr char kJsonFiles[] = "JSON files (*.json);;All files (*)";
 
 }  // namespace
 
@@ -35,14 +34,15 @@ void CNameChoice::ShowCurrent(const QString &nameOrPath)
 
 void CNameChoice::AskForFile()
 {
-    const QPointer<CNameChoice> self = this;
-    const QString folder = CHostSettings().Value(m_what.subject + "/folder").toString();
-    const QString file =
-        QFileDialog::getOpenFileName(m_box.window(), m_what.title, folder, kFilter);
-    if (!self || file.isEmpty())
-        return;
-    CHostSettings().Set(m_what.subject + "/folder", QFileInfo(file).path());
-    emit Signal_Chosen(file);
+    const QString folder = CHostSettings().Value(FolderKey()).toString();
+    auto *box = new QFileDialog(m_box.window(), m_what.title, folder, kJsonFiles);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setFileMode(QFileDialog::ExistingFile);
+    connect(box, &QFileDialog::fileSelected, this, [this](const QString &file) {
+        CHostSettings().Set(FolderKey(), QFileInfo(file).path());
+        emit Signal_Chosen(file);
+    });
+    box->open();
 }
 
 void CNameChoice::Fill()
@@ -65,6 +65,12 @@ void CNameChoice::Remember(const QString &path)
     files.prepend(path);
     CHostSettings().Set(FilesKey(), QStringList(files.mid(0, kMostFiles)));
     Fill();
+}
+
+QString CNameChoice::NameOrPath(const QString &given, const QStringList &names)
+{
+    const bool isFile = !given.isEmpty() && !names.contains(given) && QFileInfo(given).isFile();
+    return isFile ? QFileInfo(given).absoluteFilePath() : given;
 }
 
 QStringList CNameChoice::Files() const

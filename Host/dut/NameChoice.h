@@ -35,6 +35,8 @@ public:
     void ShowCurrent(const QString &nameOrPath);
     // A file that can be chosen from now on.
     void Remember(const QString &path);
+    // What was given on the command line, so that it holds in another folder, too.
+    static QString NameOrPath(const QString &given, const QStringList &names);
 
 signals:
     void Signal_Chosen(const QString &nameOrPath);
@@ -43,6 +45,7 @@ private:
     void AskForFile();
     void Fill();
     QString FilesKey() const { return m_what.subject + "/files"; }
+    QString FolderKey() const { return m_what.subject + "/folder"; }
     QStringList Files() const;
 
     QComboBox &m_box;

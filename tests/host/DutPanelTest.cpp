@@ -87,7 +87,7 @@ void DutPanelTest::Choose(const char *name, const QString &value) const
 
 void DutPanelTest::OffersAllProfilesAndShowsTheOneInPlace()
 {
-    const auto *box = m_window->Find<QComboBox>("m_profile");
+    const auto *box = m_window->Find<QComboBox>("m_profileChoice");
     for (uint32_t i = 0; const char *name = VondSim_ProfileName(i); ++i)
         QVERIFY2(box->findData(name) >= 0, name);
     QCOMPARE(box->currentText(), QString("handset"));
@@ -98,7 +98,7 @@ void DutPanelTest::ChoosesAProfileByKeyboard()
 {
     QSignalSpy changed(m_window->Find<CDutPanel>("CDutPanel"), &CDutPanel::Signal_DutChanged);
     QVERIFY(!m_window->Find<QLabel>("m_dutHint")->isVisible());
-    auto *box = m_window->Find<QComboBox>("m_profile");
+    auto *box = m_window->Find<QComboBox>("m_profileChoice");
     box->setFocus();
     QTest::keyClick(box, Qt::Key_Down);
     QCOMPARE(box->currentText(), QString(VondSim_ProfileName(1)));
@@ -109,7 +109,7 @@ void DutPanelTest::ChoosesAProfileByKeyboard()
 
 void DutPanelTest::ChoosesAProfileByMouse()
 {
-    auto *box = m_window->Find<QComboBox>("m_profile");
+    auto *box = m_window->Find<QComboBox>("m_profileChoice");
     QTest::mouseClick(box, Qt::LeftButton);
     QVERIFY(box->view()->isVisible());
     const QModelIndex index = box->model()->index(box->findData("largest"), 0);
@@ -126,7 +126,7 @@ void DutPanelTest::ChoosesAProfileByMouse()
 void DutPanelTest::RemembersTheProfile()
 {
     QCOMPARE(CDutPanel::RememberedProfile(), QString());
-    Choose("m_profile", "c2k");
+    Choose("m_profileChoice", "c2k");
     QCOMPARE(CDutPanel::RememberedProfile(), QString("c2k"));
 }
 
@@ -136,15 +136,15 @@ void DutPanelTest::TakesAProfileFileAndRemembersIt()
     QVERIFY(WriteText(path, "{'name': 'own', 'base': 'handset', 'about': 'My own.'}"));
     CFileBoxes boxes(path);
     Click("m_profileFile");
-    QCOMPARE(boxes.Count(), 1);
+    QTRY_COMPARE(boxes.Count(), 1);
     QCOMPARE(ProfileName(), QString("own"));
     QCOMPARE(Text("m_about"), QString("My own."));
-    QCOMPARE(m_window->Find<QComboBox>("m_profile")->currentText(), QString("own.json"));
+    QCOMPARE(m_window->Find<QComboBox>("m_profileChoice")->currentText(), QString("own.json"));
     // The bands are those of the base.
     QVERIFY(m_window->Find<QComboBox>("m_band")->findData("n78") > 0);
     QCOMPARE(CDutPanel::RememberedProfile(), path);
     m_window->Open("DUT");
-    QVERIFY(m_window->Find<QComboBox>("m_profile")->findData(path) > 0);
+    QVERIFY(m_window->Find<QComboBox>("m_profileChoice")->findData(path) > 0);
     QFile::remove(path);
     QCOMPARE(CDutPanel::RememberedProfile(), QString());
 }
@@ -156,14 +156,14 @@ void DutPanelTest::BrokenProfileFileGetsWordsAndChangesNothing()
     QVERIFY(WriteText(path, "{'name': 'broken', 'base': 'handset', 'bnads': []}"));
     CFileBoxes boxes(path);
     Click("m_profileFile");
-    QVERIFY(m_window->Find<QLabel>("m_dutMessage")->isVisible());
+    QTRY_VERIFY(m_window->Find<QLabel>("m_dutMessage")->isVisible());
     QVERIFY2(Text("m_dutMessage").startsWith("The profile can't be used: ") &&
                  Text("m_dutMessage").contains("bnads"),
              qPrintable(Text("m_dutMessage")));
     QCOMPARE(ProfileName(), QString("handset"));
     QCOMPARE(QString(VondSim_RunningTest()), QString("SingleToneTx"));
     QCOMPARE(VondSim_IsPlugged(), 1);
-    QCOMPARE(m_window->Find<QComboBox>("m_profile")->currentText(), QString("handset"));
+    QCOMPARE(m_window->Find<QComboBox>("m_profileChoice")->currentText(), QString("handset"));
 }
 
 void DutPanelTest::PlugIsPulledAndPutIn()
