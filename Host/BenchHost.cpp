@@ -30,6 +30,8 @@
 
 namespace {
 
+constexpr int kPagesHeight = 900;  // at the start, as far as there is room
+constexpr int kEventsHeight = 150;
 constexpr int kRadioMs = 250;      // between two looks at the radio
 constexpr int kMostEvents = 1000;  // of the log; older ones go
 
@@ -74,6 +76,7 @@ CBenchHost::CBenchHost(CPluginHandle &plugin, QWidget *parent)
     for (int column : {0, 1})
         m_ui->m_events->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     m_ui->m_splitter->setStretchFactor(0, 1);  // the pages have the room
+    m_ui->m_splitter->setSizes({kPagesHeight, kEventsHeight});
     FillPluginFields();
     AddPanels();
     ShowSign(*m_ui->m_isSupportSign, ESign::None);
@@ -215,8 +218,9 @@ void CBenchHost::ShowRadio()
         return;
     SVondSimRadioState state = {};
     m_dut->GetRadioState(&state);
-    const QStringList words = {RadioWords(state), RunningWords(state)};
-    m_ui->m_dutRadio->setText(words.join(words[1].isEmpty() ? "" : "; "));
+    // The time alone: the rest stands on the page DUT, and would not fit into the line.
+    const QString time = RunningWords(state).section(',', 0, 0).toLower();
+    m_ui->m_dutRadio->setText(RadioWords(state) + (time.isEmpty() ? "" : ", " + time));
     ShowSign(*m_ui->m_dutRadioSign, state.isTransmitting ? ESign::Bad
                                     : state.isReceiving  ? ESign::Good
                                                          : ESign::None);
