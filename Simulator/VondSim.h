@@ -199,4 +199,29 @@ uint32_t VondSim_GetRequest(uint32_t index, void *bytes, uint32_t size);
 uint32_t VondSim_GetAnswer(uint32_t index, void *bytes, uint32_t size);
 void VondSim_ClearJournal(void);
 
+// When a call began.
+struct SVondSimCallTime
+{
+    uint64_t number;      // from 0, in the order in which the calls began; never given twice
+    uint64_t startNs;     // since the first call of the process
+    int64_t startUnixMs;  // by the wall clock, ms since 1970
+    uint64_t thread;      // of the caller, as the system numbers it
+};
+// As VondSim_GetCall.
+int32_t VondSim_GetCallTime(uint32_t index, SVondSimCallTime *time);
+
+// A call that has begun and not ended. It stands in no place of the journal before it ends.
+struct SVondSimOpenCall
+{
+    char function[64];
+    uint32_t handle;
+    uint32_t timeoutMs;
+    SVondSimCallTime time;
+};
+// Copies at most that many, in the order in which they began, and returns how many there are.
+uint32_t VondSim_GetOpenCalls(SVondSimOpenCall *calls, uint32_t most);
+
+// The words of a result, as VOND_GetErrorString has them, but not as a call.
+const char *VondSim_ResultText(int32_t result);
+
 }  // extern "C"

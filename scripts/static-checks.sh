@@ -110,6 +110,7 @@ Controller/guard Controller/(Interface|calibration)/
 Controller/core Controller/
 Trace/dictionary
 Trace/lines Trace/dictionary/
+Trace/words Trace/(dictionary|lines)/
 Tap/replay
 Runner/plan
 Runner/report

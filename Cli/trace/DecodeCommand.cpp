@@ -7,7 +7,8 @@
 
 #include "Cli/Commands.h"
 #include "Cli/trace/HexText.h"
-#include "Cli/trace/ShownRecord.h"
+#include "Cli/trace/RecordOutput.h"
+#include "Trace/words/ShownRecord.h"
 
 namespace {
 

@@ -12,12 +12,7 @@
 #include <string>
 #include <string_view>
 
-enum class ECallPart
-{
-    Call,  // the keys of the call itself
-    Request,
-    Answer
-};
+#include "Trace/words/CallComparison.h"
 
 class CFieldPattern
 {

@@ -7,10 +7,13 @@
 #include <nlohmann/json.hpp>
 
 #include "Cli/Commands.h"
-#include "Cli/trace/CallComparison.h"
-#include "Cli/trace/CallText.h"
+#include "Cli/trace/FieldPattern.h"
 #include "Cli/trace/Output.h"
 #include "Cli/trace/Pairing.h"
+#include "Cli/trace/TraceText.h"
+#include "Trace/lines/PrintableText.h"
+#include "Trace/words/CallComparison.h"
+#include "Trace/words/CallText.h"
 
 namespace {
 
@@ -20,12 +23,18 @@ SComparisonRules RulesOf(const STraceDiffOptions &options)
 {
     SComparisonRules rules;
     rules.isTimed = options.isTimed;
+    std::vector<CFieldPattern> patterns;
     for (const std::string &name : options.ignored) {
         if (name == "readings")
             rules.ignoresReadings = true;
         else
-            rules.ignored.emplace_back(name);
+            patterns.emplace_back(name);
     }
+    rules.isIgnored = [patterns](ECallPart part, std::string_view name) {
+        return std::any_of(patterns.begin(), patterns.end(), [&](const CFieldPattern &pattern) {
+            return pattern.Matches(part, name);
+        });
+    };
     return rules;
 }
 

@@ -5,8 +5,11 @@
 #include <stdexcept>
 
 #include "Cli/Commands.h"
-#include "Cli/trace/CallText.h"
-#include "Cli/trace/ShownRecord.h"
+#include "Cli/trace/RecordOutput.h"
+#include "Cli/trace/TraceText.h"
+#include "Trace/lines/PrintableText.h"
+#include "Trace/words/CallText.h"
+#include "Trace/words/ShownRecord.h"
 
 namespace {
 

@@ -5,8 +5,10 @@
 #include <vector>
 
 #include "Cli/Commands.h"
-#include "Cli/trace/CallText.h"
 #include "Cli/trace/Output.h"
+#include "Cli/trace/TraceText.h"
+#include "Trace/lines/PrintableText.h"
+#include "Trace/words/CallText.h"
 
 namespace {
 

@@ -4,6 +4,8 @@
 #include <cstring>
 #include <utility>
 
+#include <unistd.h>
+
 #include "Simulator/basis/Results.h"
 
 namespace {
@@ -28,15 +30,40 @@ CJournal::CJournal(const std::string &path)
 {
 }
 
-void CJournal::Append(SJournalEntry entry, CTraceWriter::Line line, const STraceView &answer)
+SJournalBegin CJournal::Begin(const STraceBegin &begin)
 {
-    m_writer.End(std::move(line),
+    using namespace std::chrono;
+    SJournalBegin begun;
+    begun.line = m_writer.Begin(begin);
+    const nanoseconds start = steady_clock::now() - m_start;
+    const auto wall = duration_cast<milliseconds>((m_startOfWall + start).time_since_epoch());
+    begun.time.startNs = static_cast<uint64_t>(start.count());
+    begun.time.startUnixMs = wall.count();
+    begun.time.thread = static_cast<uint64_t>(gettid());
+    SVondSimOpenCall open = {};
+    begin.function->name.copy(open.function, sizeof(open.function) - 1);
+    open.handle = begin.handle;
+    open.timeoutMs = begin.timeoutMs;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    begun.time.number = m_begun++;
+    open.time = begun.time;
+    m_open.push_back(open);
+    return begun;
+}
+
+void CJournal::Append(SJournalEntry entry, SJournalBegin begin, const STraceView &answer)
+{
+    entry.time = begin.time;
+    m_writer.End(std::move(begin.line),
                  {.answer = answer,
                   .result = entry.result,
                   .text = HasResult(*entry.function) ? ResultText(entry.result) : "",
                   .status = entry.status,
                   .durationNs = entry.durationNs});
     const std::lock_guard<std::mutex> lock(m_mutex);
+    std::erase_if(m_open, [&](const SVondSimOpenCall &open) {
+        return open.time.number == begin.time.number;
+    });
     m_bytes += BytesOf(entry);
     m_entries.push_back(std::move(entry));
     while (m_bytes > kMostBytes) {
@@ -82,6 +109,21 @@ bool CJournal::Get(uint32_t index, SVondSimCall &call) const
     call.requestSize = static_cast<uint32_t>(entry->request.size());
     call.answerSize = static_cast<uint32_t>(entry->answer.size());
     return true;
+}
+
+bool CJournal::GetTime(uint32_t index, SVondSimCallTime &time) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const SJournalEntry *const entry = Find(index);
+    if (entry != nullptr)
+        time = entry->time;
+    return entry != nullptr;
+}
+
+std::vector<SVondSimOpenCall> CJournal::OpenCalls() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_open;
 }
 
 uint32_t CJournal::Copy(uint32_t index, std::vector<uint8_t> SJournalEntry::*part, void *bytes,

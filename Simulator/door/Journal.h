@@ -7,10 +7,13 @@
 // is. Memory is bounded, so that a run may last for days: beyond 64 MiB the oldest calls go, while the
 // numbers of the others stay. The trace keeps everything.
 //
-//   CTraceWriter::Line line = journal.Begin({.function = &function, .request = {&command, 40}});
-//   journal.Append(std::move(entry), std::move(line), {&answer, 8});
+// Calls that have begun and not ended are kept beside it.
+//
+//   SJournalBegin begin = journal.Begin({.function = &function, .request = {&command, 40}});
+//   journal.Append(std::move(entry), std::move(begin), {&answer, 8});
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <mutex>
@@ -31,6 +34,14 @@ struct SJournalEntry
     uint64_t durationNs = 0;
     std::vector<uint8_t> request;
     std::vector<uint8_t> answer;
+    SVondSimCallTime time = {};  // set by the journal
+};
+
+// A call that has begun: it goes back to the journal with its end.
+struct SJournalBegin
+{
+    CTraceWriter::Line line;
+    SVondSimCallTime time = {};
 };
 
 class CJournal
@@ -39,13 +50,16 @@ public:
     // An empty path: no trace. A file that cannot be written costs one line on stderr.
     explicit CJournal(const std::string &path);
 
-    CTraceWriter::Line Begin(const STraceBegin &begin) { return m_writer.Begin(begin); }
-    void Append(SJournalEntry entry, CTraceWriter::Line line, const STraceView &answer);
+    SJournalBegin Begin(const STraceBegin &begin);
+    void Append(SJournalEntry entry, SJournalBegin begin, const STraceView &answer);
+    // Leaves the open calls as they are.
     void Clear();
     // Calls since the last clear, those that have gone too.
     uint32_t Count() const;
     // False behind the last entry, and for one that has gone.
     bool Get(uint32_t index, SVondSimCall &call) const;
+    bool GetTime(uint32_t index, SVondSimCallTime &time) const;
+    std::vector<SVondSimOpenCall> OpenCalls() const;
     // Copies at most size bytes of the entry's request or answer; returns the full length.
     uint32_t Copy(uint32_t index, std::vector<uint8_t> SJournalEntry::*part, void *bytes,
                   uint32_t size) const;
@@ -54,9 +68,13 @@ private:
     // Null where Get is false.
     const SJournalEntry *Find(uint32_t index) const;
 
+    const std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
+    const std::chrono::system_clock::time_point m_startOfWall = std::chrono::system_clock::now();
     mutable std::mutex m_mutex;
     std::deque<SJournalEntry> m_entries;
     uint32_t m_gone = 0;      // entries dropped from the front
     std::size_t m_bytes = 0;  // of the entries in memory
+    uint64_t m_begun = 0;
+    std::vector<SVondSimOpenCall> m_open;
     CTraceWriter m_writer;
 };

@@ -102,7 +102,7 @@ CSimulator::CSimulator() : m_journal(Environment("VOND_SIM_JOURNAL"))
 int32_t CSimulator::Run(const SCall &call, const Body &body)
 {
     const SFunction &function = FunctionOf(call.function);
-    CTraceWriter::Line line = m_journal.Begin(BeginOf(call, function));
+    SJournalBegin begin = m_journal.Begin(BeginOf(call, function));
     const Clock::time_point start = Clock::now();
     SJournalEntry entry;
     entry.request = CopyOf(call.request.data, call.request.size);
@@ -129,14 +129,14 @@ int32_t CSimulator::Run(const SCall &call, const Body &body)
     if (outcome.answered)
         entry.answer = CopyOf(call.answer.data, call.answer.size);
     entry.durationNs = NanosecondsSince(start);
-    m_journal.Append(std::move(entry), std::move(line), {call.answer.data, call.answer.size});
+    m_journal.Append(std::move(entry), std::move(begin), {call.answer.data, call.answer.size});
     return outcome.result;
 }
 
 const char *CSimulator::RunText(const SCall &call, const TextBody &body)
 {
     const SFunction &function = FunctionOf(call.function);
-    CTraceWriter::Line line = m_journal.Begin(BeginOf(call, function));
+    SJournalBegin begin = m_journal.Begin(BeginOf(call, function));
     const Clock::time_point start = Clock::now();
     SJournalEntry entry;
     entry.request = CopyOf(call.request.data, call.request.size);
@@ -151,7 +151,7 @@ const char *CSimulator::RunText(const SCall &call, const TextBody &body)
     const std::size_t length = text != nullptr ? std::strlen(text) : 0;
     entry.answer = CopyOf(text, length);
     entry.durationNs = NanosecondsSince(start);
-    m_journal.Append(std::move(entry), std::move(line), {text, length});
+    m_journal.Append(std::move(entry), std::move(begin), {text, length});
     return text;
 }
 

@@ -2,8 +2,10 @@
 
 #include "Simulator/VondSim.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include "Simulator/basis/JsonText.h"
 #include "Simulator/door/Errors.h"
@@ -118,6 +120,24 @@ uint32_t VondSim_GetRequest(uint32_t index, void *bytes, uint32_t size)
 uint32_t VondSim_GetAnswer(uint32_t index, void *bytes, uint32_t size)
 {
     return CSimulator::Instance().Journal().Copy(index, &SJournalEntry::answer, bytes, size);
+}
+
+int32_t VondSim_GetCallTime(uint32_t index, SVondSimCallTime *time)
+{
+    return time != nullptr && CSimulator::Instance().Journal().GetTime(index, *time) ? 0 : -1;
+}
+
+uint32_t VondSim_GetOpenCalls(SVondSimOpenCall *calls, uint32_t most)
+{
+    const std::vector<SVondSimOpenCall> open = CSimulator::Instance().Journal().OpenCalls();
+    if (calls != nullptr)
+        std::copy_n(open.begin(), std::min<std::size_t>(open.size(), most), calls);
+    return static_cast<uint32_t>(open.size());
+}
+
+const char *VondSim_ResultText(int32_t result)
+{
+    return ResultText(result);
 }
 
 void VondSim_ClearJournal(void)

@@ -4,42 +4,15 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <limits>
 #include <unordered_map>
 #include <utility>
 
+#include "Trace/lines/CallLines.h"
 #include "Trace/lines/LineObject.h"
 #include "Trace/lines/LineSource.h"
 #include "Trace/lines/PrintableText.h"
 
 namespace {
-
-constexpr uint64_t kAnyNumber = std::numeric_limits<uint64_t>::max();
-constexpr uint64_t kAnyWord = std::numeric_limits<uint32_t>::max();
-constexpr uint64_t kTraceVersion = 1;
-
-STraceHeader HeaderOf(const CLineObject &line)
-{
-    if (!line.Has("vondTrace"))
-        throw std::runtime_error("is no header of a trace: \"vondTrace\" is missing");
-    const uint64_t version = line.Unsigned("vondTrace", kAnyNumber);
-    if (version != kTraceVersion)
-        throw std::runtime_error("\"vondTrace\" is " + std::to_string(version) +
-                                 "; this program reads version 1");
-    STraceHeader header;
-    for (const STraceHeaderKey &row : kTraceHeaderKeys)
-        header.*row.value = line.Text(row.key);
-    return header;
-}
-
-const SFunction *FunctionIn(const CLineObject &line)
-{
-    const std::string &name = line.Text("function");
-    const SFunction *const function = FindFunction(name);
-    if (function == nullptr)
-        throw std::runtime_error("\"function\" is none of the pair's: " + name.substr(0, 80));
-    return function;
-}
 
 // The lines behind the header, as they come.
 class CJoiner
@@ -55,7 +28,7 @@ public:
             End(line);
         else if (line.Has("note"))
             m_trace.notes.push_back({.text = line.Text("note"),
-                                     .startNs = line.Unsigned("startNs", kAnyNumber),
+                                     .startNs = line.Unsigned("startNs", UINT64_MAX),
                                      .before = m_trace.calls.size()});
         else
             throw std::runtime_error("has none of the keys \"begin\", \"index\" and \"note\"");
@@ -64,13 +37,7 @@ public:
 private:
     void Begin(const CLineObject &line)
     {
-        STraceCall call;
-        call.index = line.Unsigned("begin", kAnyNumber);
-        call.function = FunctionIn(line);
-        call.thread = line.Unsigned("thread", kAnyNumber);
-        call.process = line.Unsigned("pid", kAnyNumber);
-        call.startNs = line.Unsigned("startNs", kAnyNumber);
-        call.isEnded = false;
+        STraceCall call = CallOfBegin(line);
         if (!m_places.emplace(call.index, m_trace.calls.size()).second)
             throw std::runtime_error("begins call " + std::to_string(call.index) +
                                      " a second time");
@@ -79,7 +46,7 @@ private:
 
     void End(const CLineObject &line)
     {
-        const uint64_t index = line.Unsigned("index", kAnyNumber);
+        const uint64_t index = IndexOfEnd(line);
         const std::string name = "call " + std::to_string(index);
         const auto found = m_places.find(index);
         if (found == m_places.end())
@@ -87,19 +54,7 @@ private:
         STraceCall &call = m_trace.calls[found->second];
         if (call.isEnded)
             throw std::runtime_error("ends " + name + " a second time");
-        if (FunctionIn(line) != call.function)
-            throw std::runtime_error("ends " + name + ", which began as " +
-                                     std::string(call.function->name));
-        call.handle = static_cast<uint32_t>(line.Unsigned("handle", kAnyWord));
-        call.timeoutMs = static_cast<uint32_t>(line.Unsigned("timeout", kAnyWord));
-        call.request = line.Bytes("request");
-        call.answer = line.Bytes("answer");
-        call.result = static_cast<int32_t>(line.Signed(
-            "result", std::numeric_limits<int32_t>::min(), std::numeric_limits<int32_t>::max()));
-        call.text = line.Text("text");
-        call.status = static_cast<uint32_t>(line.Unsigned("status", kAnyWord));
-        call.durationNs = line.Unsigned("durationNs", kAnyNumber);
-        call.isEnded = true;
+        EndCall(line, call);
     }
 
     STrace &m_trace;
@@ -122,7 +77,7 @@ STrace ReadLines(CLineSource &source, ECutLine cut)
         if (hasHeader)
             joiner.Add(line);
         else
-            trace.header = HeaderOf(line);
+            trace.header = HeaderOfLine(line);
         hasHeader = true;
     }
     if (!hasHeader)

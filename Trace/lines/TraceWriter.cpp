@@ -3,7 +3,6 @@
 #include <chrono>
 #include <cstdio>
 #include <ctime>
-#include <span>
 #include <utility>
 
 #include <unistd.h>
@@ -26,17 +25,6 @@ std::string Iso8601Now()
     return text;
 }
 
-void AppendRecord(CLineBuffer &line, const STraceView &record)
-{
-    if (record.data == nullptr) {
-        line.Append("null");
-        return;
-    }
-    line.Append("\"");
-    line.AppendHex({static_cast<const uint8_t *>(record.data), record.size});
-    line.Append("\"");
-}
-
 }  // namespace
 
 // Memory may run out; then the line is not there.
@@ -52,10 +40,8 @@ void CTraceWriter::WriteHeader(STraceHeader header)
     if (header.time.empty())
         header.time = Iso8601Now();
     CLineBuffer line;
-    line.Append("{\"vondTrace\":1");
-    for (const STraceHeaderKey &row : kTraceHeaderKeys)
-        line.Append(",\"").Append(row.key).Append("\":").AppendJson(header.*row.value);
-    m_file.Append(line.Append("}\n").Text());
+    AppendHeaderLine(line, header);
+    m_file.Append(line.Text());
 }
 
 CTraceWriter::Line CTraceWriter::Begin(const STraceBegin &begin) noexcept
@@ -65,20 +51,14 @@ try {
     const uint64_t startNs = m_file.Clock();
     const uint64_t index = m_file.NextIndex();
     Line line = m_buffers.Take();
-    line->Append("{\"begin\":").AppendNumber(index);
-    line->Append(",\"function\":\"").Append(begin.function->name);
-    line->Append("\",\"thread\":").AppendNumber(gettid());
-    line->Append(",\"pid\":").AppendNumber(getpid());
-    line->Append(",\"startNs\":").AppendNumber(startNs).Append("}\n");
+    AppendBeginLine(*line, {.index = index,
+                            .function = begin.function,
+                            .thread = static_cast<uint64_t>(gettid()),
+                            .process = static_cast<uint64_t>(getpid()),
+                            .startNs = startNs});
     m_file.Append(line->Text());
-
     line->Clear();
-    line->Append("{\"index\":").AppendNumber(index);
-    line->Append(",\"function\":\"").Append(begin.function->name);
-    line->Append("\",\"handle\":").AppendNumber(begin.handle);
-    line->Append(",\"timeout\":").AppendNumber(begin.timeoutMs);
-    line->Append(",\"request\":");
-    AppendRecord(*line, begin.request);
+    AppendEndLineToRequest(*line, index, begin);
     return line;
 } catch (...) {
     return nullptr;
@@ -88,12 +68,7 @@ void CTraceWriter::End(Line line, const STraceEnd &end) noexcept
 try {
     if (line == nullptr)
         return;
-    line->Append(",\"answer\":");
-    AppendRecord(*line, end.answer);
-    line->Append(",\"result\":").AppendNumber(end.result);
-    line->Append(",\"text\":").AppendJson(end.text);
-    line->Append(",\"status\":").AppendNumber(end.status);
-    line->Append(",\"durationNs\":").AppendNumber(end.durationNs).Append("}\n");
+    AppendEndLineFromAnswer(*line, end);
     m_file.Append(line->Text());
     m_buffers.GiveBack(std::move(line));
 } catch (...) {
@@ -105,8 +80,7 @@ try {
         return;
     const uint64_t startNs = m_file.Clock();
     Line line = m_buffers.Take();
-    line->Append("{\"note\":").AppendJson(text);
-    line->Append(",\"startNs\":").AppendNumber(startNs).Append("}\n");
+    AppendNoteLine(*line, text, startNs);
     m_file.Append(line->Text());
     m_buffers.GiveBack(std::move(line));
 } catch (...) {

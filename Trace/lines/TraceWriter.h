@@ -15,34 +15,10 @@
 #include <string>
 #include <string_view>
 
-#include "Trace/dictionary/Functions.h"
 #include "Trace/lines/LineBuffers.h"
 #include "Trace/lines/TraceFile.h"
 #include "Trace/lines/TraceHeader.h"
-
-// Bytes of a record as the caller has them. Null: a null pointer, or a function without such a record.
-struct STraceView
-{
-    const void *data = nullptr;
-    std::size_t size = 0;
-};
-
-struct STraceBegin
-{
-    const SFunction *function = nullptr;
-    uint32_t handle = 0;
-    uint32_t timeoutMs = 0;
-    STraceView request = {};
-};
-
-struct STraceEnd
-{
-    STraceView answer = {};
-    int32_t result = 0;
-    std::string_view text = {};  // of the result
-    uint32_t status = 0;
-    uint64_t durationNs = 0;
-};
+#include "Trace/lines/TraceLines.h"
 
 struct STraceTarget
 {

@@ -6,9 +6,10 @@
 #include <vector>
 
 #include "Cli/trace/FieldPattern.h"
-#include "Cli/trace/ShownRecord.h"
+#include "Cli/trace/RecordOutput.h"
 #include "Trace/dictionary/FieldDifference.h"
 #include "Trace/dictionary/FieldPath.h"
+#include "Trace/words/ShownRecord.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 
 namespace {

@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "Cli/trace/CallComparison.h"
 #include "Cli/trace/Pairing.h"
-#include "Cli/trace/ShownRecord.h"
 #include "Trace/lines/TraceReader.h"
+#include "Trace/words/CallComparison.h"
+#include "Trace/words/ShownRecord.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 
 namespace {

@@ -1,10 +1,15 @@
 // The journal in memory: order, arguments and bytes of every call.
 
 #include <cstring>
+#include <thread>
+
+#include <unistd.h>
 
 #include "tests/simulator/SimulatorFixture.h"
 
 namespace {
+
+constexpr uint32_t kHeldMs = 10000;
 
 class JournalTest : public CSimulatorTest
 {
@@ -92,6 +97,65 @@ TEST_F(JournalTest, CallsStandInOrder)
     EXPECT_EQ(AnswerBytes(3), BytesOf(std::string("Connection: no target is connected")));
     EXPECT_EQ(AnswerBytes(4), BytesOf(std::string("VR6240")));
     EXPECT_EQ(RequestBytes(5), BytesOf(uint32_t(1)));
+}
+
+SVondSimCallTime TimeAt(uint32_t index)
+{
+    SVondSimCallTime time = {};
+    EXPECT_EQ(VondSim_GetCallTime(index, &time), 0);
+    return time;
+}
+
+TEST_F(JournalTest, CallsTellWhenTheyBegan)
+{
+    VOND_NRf_GetChipIdName(40);
+    VOND_NRf_GetChipIdName(41);
+    const SVondSimCallTime first = TimeAt(0);
+    const SVondSimCallTime second = TimeAt(1);
+    EXPECT_EQ(second.number, first.number + 1);
+    EXPECT_GE(second.startNs, first.startNs + CallAt(0).durationNs);
+    EXPECT_GE(second.startUnixMs, first.startUnixMs);
+    EXPECT_GT(first.startUnixMs, 1'700'000'000'000);
+    EXPECT_EQ(first.thread, static_cast<uint64_t>(gettid()));
+    SVondSimCallTime none = {};
+    EXPECT_EQ(VondSim_GetCallTime(2, &none), -1);
+    EXPECT_EQ(VondSim_GetCallTime(0, nullptr), -1);
+}
+
+TEST_F(JournalTest, ClearedJournalGivesNoNumberTwice)
+{
+    VOND_NRf_GetChipIdName(40);
+    const uint64_t number = TimeAt(0).number;
+    VondSim_ClearJournal();
+    VOND_NRf_GetChipIdName(40);
+    EXPECT_EQ(TimeAt(0).number, number + 1);
+}
+
+TEST_F(JournalTest, CallThatHasBegunIsOpenUntilItEnds)
+{
+    const char *const function = "VOND_NRf_GetChipIdName";
+    EXPECT_EQ(VondSim_GetOpenCalls(nullptr, 0), 0u);
+    VondSim_Hold(function);
+    std::thread caller([] { VOND_NRf_GetChipIdName(40); });
+    ASSERT_EQ(VondSim_WaitUntilHeld(function, kHeldMs), 1);
+    SVondSimOpenCall open[2] = {};
+    EXPECT_EQ(VondSim_GetOpenCalls(open, 2), 1u);
+    EXPECT_EQ(VondSim_CallCount(), 0u);
+    VondSim_Release(function);
+    caller.join();
+    EXPECT_STREQ(open[0].function, function);
+    EXPECT_EQ(open[1].function[0], '\0');
+    EXPECT_EQ(VondSim_GetOpenCalls(open, 2), 0u);
+    EXPECT_EQ(TimeAt(0).number, open[0].time.number);
+    EXPECT_EQ(TimeAt(0).startNs, open[0].time.startNs);
+}
+
+TEST_F(JournalTest, ResultsHaveTheWordsOfThePairWithoutACall)
+{
+    const std::string words = VOND_GetErrorString(VOND_SUCCESS);
+    const uint32_t calls = VondSim_CallCount();
+    EXPECT_EQ(VondSim_ResultText(VOND_SUCCESS), words);
+    EXPECT_EQ(VondSim_CallCount(), calls);
 }
 
 TEST_F(JournalTest, ShortBufferTakesWhatFits)

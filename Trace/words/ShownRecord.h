@@ -1,4 +1,4 @@
-// A record as it is shown: every field with its value in words. Text and JSON are made from it.
+// A record as it is shown: every field with its value in words.
 //
 //   const SShownRecord shown = ShownAnswer(rssi, answer, request);
 //   shown.fields[0].name   // "dlFrequency[0]"
@@ -11,9 +11,6 @@
 #include <string>
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
-#include "Cli/trace/Output.h"
 #include "Trace/dictionary/Functions.h"
 #include "Trace/lines/TraceCall.h"
 
@@ -53,9 +50,5 @@ enum class EWhichFields
     Set  // those that are not zero
 };
 
-// A line for each field, names and values in columns.
-void PrintRecord(COutput &output, const SShownRecord &record, EWhichFields which,
-                 const std::string &indent);
-// {"size": 40, "fields": {"band": {"raw": 78, "text": "n78"}}}; "missing", "rest" and of a field
-// "reading", "remark" and "if" where there is such a thing.
-nlohmann::ordered_json RecordJson(const SShownRecord &record, EWhichFields which);
+// Is the field shown then? Reserved bytes say something only when somebody has set them.
+bool IsShown(const SShownField &field, EWhichFields which);

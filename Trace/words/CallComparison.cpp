@@ -1,9 +1,7 @@
-#include "Cli/trace/CallComparison.h"
+#include "Trace/words/CallComparison.h"
 
-#include <algorithm>
-
-#include "Cli/trace/CallText.h"
 #include "Trace/dictionary/FieldDifference.h"
+#include "Trace/words/CallText.h"
 
 namespace {
 
@@ -91,10 +89,7 @@ private:
 
     void Add(ECallPart part, SCallDifference difference)
     {
-        const bool isIgnored = std::any_of(
-            m_rules.ignored.begin(), m_rules.ignored.end(),
-            [&](const CFieldPattern &pattern) { return pattern.Matches(part, difference.name); });
-        if (isIgnored)
+        if (m_rules.isIgnored && m_rules.isIgnored(part, difference.name))
             return;
         if (part == ECallPart::Request && difference.name != "request")
             difference.name.insert(0, "request.");

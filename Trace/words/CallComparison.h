@@ -1,19 +1,28 @@
 // What differs in two calls of one function.
 //
-//   const SComparisonRules rules = {.ignored = {CFieldPattern("handle")}, .isTimed = false};
+//   const SComparisonRules rules = {.ignoresReadings = true};
 //   for (const SCallDifference &field : CallDifferences(one, other, rules))
 //       std::cout << field.name << '\n';   // "answer.rows.single.mainG"
 #pragma once
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "Cli/trace/FieldPattern.h"
 #include "Trace/lines/TraceCall.h"
+
+enum class ECallPart
+{
+    Call,  // the keys of the call itself
+    Request,
+    Answer
+};
 
 struct SComparisonRules
 {
-    std::vector<CFieldPattern> ignored;
+    // Is a field left out? None: no field is.
+    std::function<bool(ECallPart part, std::string_view name)> isIgnored = {};
     bool ignoresReadings = false;
     bool isTimed = false;  // times, durations, thread and process, too
 };
