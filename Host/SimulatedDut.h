@@ -58,6 +58,9 @@
     X(GetCall)                                                                                     \
     X(GetRequest)                                                                                  \
     X(GetAnswer)                                                                                   \
+    X(GetCallTime)                                                                                 \
+    X(GetOpenCalls)                                                                                \
+    X(ResultText)                                                                                  \
     X(ClearJournal)
 
 struct SSimulatedDutCalls
