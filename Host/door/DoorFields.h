@@ -10,6 +10,7 @@
 #include <vector>
 
 #include <QString>
+#include <QStringList>
 
 #include "Trace/lines/TraceCall.h"
 #include "Trace/words/ShownRecord.h"

@@ -15,6 +15,7 @@
 #include <QShortcut>
 
 #include "Host/SimulatedDut.h"
+#include "Host/door/MakeDoorSource.h"
 #include "Host/door/TraceSave.h"
 #include "ui_DoorPanel.h"
 

@@ -8,7 +8,6 @@
 #pragma once
 
 #include <chrono>
-#include <memory>
 #include <optional>
 
 #include <QString>
@@ -35,9 +34,3 @@ public:
     // Where the calls come from, and why none come if so: a sentence or two.
     virtual QString About() const = 0;
 };
-
-class CSimulatedDut;
-
-// The trace where the session is under the tap, otherwise the journal of the simulated DUT, otherwise
-// nothing. The DUT must outlive the source.
-std::unique_ptr<IDoorSource> MakeDoorSource(CSimulatedDut &dut);

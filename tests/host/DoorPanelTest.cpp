@@ -1,133 +1,34 @@
-// The door panel on the simulated DUT, by mouse and keyboard.
-#include "Host/door/DoorPanel.h"
-
+// The door panel's table of calls on the simulated DUT, by mouse and keyboard.
 #include <thread>
 
-#include <QCheckBox>
-#include <QClipboard>
-#include <QFileDialog>
-#include <QGuiApplication>
-#include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSet>
-#include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
 
-#include "Trace/lines/TraceReader.h"
-#include "door/DoorDut.h"
-#include "tests/common/GoodCommands.h"
+#include "door/DoorWindow.h"
 #include "tests/common/TestClass.h"
 
-class DoorPanelTest : public QObject
+class DoorPanelTest : public QObject, protected CDoorWindow
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { m_dut = std::make_unique<CDoorDut>(); }
-    void init();
-    void cleanup() { m_panel.reset(); }
+    void init() { Open(); }
+    void cleanup() { Close(); }
     void CallIsShownWhenItBeginsAndWhenItEnds();
-    void ChosenCallShowsItsFields();
-    void ArrowKeysShowTheFieldsOfTheNextCall();
-    void FieldsThatAreZeroAreShownOnDemand();
-    void OpenCallShowsItsFieldsWhenItHasEnded();
     void TypedFunctionLeavesOthersOut();
     void FailuresAloneAreShown();
     void ChosenCallStaysChosenUnderAFilter();
     void PausedTableStandsStillAndCatchesUp();
     void TableFollowsUnlessTheUserLooksBack();
-    void ChosenRowsAreCopied();
-    void AllRowsAreCopiedWithoutAChoice();
-    void FieldsAreCopied();
-    void TwoCallsAreCompared();
-    void CallsOfTwoFunctionsAreNotCompared();
-    void SavedTraceHasTheShownCalls();
-    void FileThatCannotBeWrittenIsTold();
     void ClearedJournalEmptiesTheTable();
     void DroppedCallSaysSo();
     void HundredThousandCallsAreShown();
-    void PanelGoesWhileItSaves();
     void HiddenPanelDoesNotLook();
     void WithoutASourceThePanelSaysWhy();
     void ControlsHaveNamesAndMnemonicsOfTheirOwn();
-
-private:
-    template <class Widget>
-    Widget *Find(const char *name) const
-    {
-        return m_panel->findChild<Widget *>(name);
-    }
-    QTableView *Calls() const { return Find<QTableView>("m_calls"); }
-    QTableView *Fields() const { return Find<QTableView>("m_fields"); }
-    QString Text(const char *label) const { return Find<QLabel>(label)->text(); }
-    static QString Cell(const QTableView *table, int row, int column)
-    {
-        return table->model()->index(row, column).data().toString();
-    }
-    int Rows() const { return Calls()->model()->rowCount(); }
-    void ClickRow(int row, Qt::KeyboardModifiers keys = {});
-    void Press(const char *button);
-    // Value of a field, or nothing.
-    QString Field(const QString &name, int column = 1) const;
-    // Calls of GetDlFreq.
-    void MakeCall(uint32_t handle = 1);
-    void MakeCalls(int count);
-    static QString Clipboard() { return QGuiApplication::clipboard()->text(); }
-
-    std::unique_ptr<CDoorDut> m_dut;
-    std::unique_ptr<CDoorPanel> m_panel;
 };
-
-void DoorPanelTest::init()
-{
-    m_dut->Reset();
-    m_panel = std::make_unique<CDoorPanel>(*m_dut->Simulated());
-    m_panel->resize(760, 500);
-    m_panel->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_panel.get()));
-}
-
-void DoorPanelTest::ClickRow(int row, Qt::KeyboardModifiers keys)
-{
-    const QModelIndex index = Calls()->model()->index(row, 2);
-    Calls()->scrollTo(index);
-    QTest::mouseClick(Calls()->viewport(), Qt::LeftButton, keys,
-                      Calls()->visualRect(index).center());
-}
-
-void DoorPanelTest::Press(const char *button)
-{
-    auto *const found = Find<QAbstractButton>(button);
-    QVERIFY2(found != nullptr && found->isEnabled(), button);
-    QTest::mouseClick(found, Qt::LeftButton, {}, QPoint(10, found->height() / 2));
-}
-
-QString DoorPanelTest::Field(const QString &name, int column) const
-{
-    for (int row = 0; row < Fields()->model()->rowCount(); ++row) {
-        if (Cell(Fields(), row, 0) == name)
-            return Cell(Fields(), row, column);
-    }
-    return {};
-}
-
-void DoorPanelTest::MakeCall(uint32_t handle)
-{
-    const SNrDlFreqCmdV7 command = DlFreqCommand();
-    SNrDlFreqCnfV7 answer = {};
-    m_dut->dlFreq(handle, 500, &command, &answer);
-}
-
-void DoorPanelTest::MakeCalls(int count)
-{
-    for (int i = 0; i < count; ++i)
-        MakeCall();
-    QTRY_COMPARE(Rows(), count);
-}
 
 void DoorPanelTest::CallIsShownWhenItBeginsAndWhenItEnds()
 {
@@ -146,56 +47,6 @@ void DoorPanelTest::CallIsShownWhenItBeginsAndWhenItEnds()
     QVERIFY(!Cell(Calls(), 0, 3).isEmpty());
     QCOMPARE(Cell(Calls(), 0, 2), QString(function));
     QCOMPARE(Cell(Calls(), 0, 1).size(), int(qstrlen("14:03:07.250")));
-}
-
-void DoorPanelTest::ChosenCallShowsItsFields()
-{
-    MakeCalls(1);
-    QCOMPARE(Text("m_about"),
-             QString("Choose a call to see its fields, two calls to compare them."));
-    ClickRow(0);
-    QTRY_COMPARE(Field("timeout"), QString("500 ms"));
-    QCOMPARE(Field("result"), QString("Success (0)"));
-    QVERIFY2(Field("request.band").startsWith("n"), qPrintable(Field("request.band")));
-    QVERIFY2(Text("m_about").endsWith(", VOND_NRf_GetDlFreqV7_r"), qPrintable(Text("m_about")));
-}
-
-void DoorPanelTest::ArrowKeysShowTheFieldsOfTheNextCall()
-{
-    m_dut->chipName(40);
-    MakeCall();
-    QTRY_COMPARE(Rows(), 2);
-    ClickRow(0);
-    QTRY_VERIFY(Text("m_about").endsWith("GetChipIdName"));
-    QTest::keyClick(Calls(), Qt::Key_Down);
-    QTRY_COMPARE(Field("timeout"), QString("500 ms"));
-}
-
-void DoorPanelTest::FieldsThatAreZeroAreShownOnDemand()
-{
-    MakeCalls(1);
-    ClickRow(0);
-    QTRY_VERIFY(Fields()->model()->rowCount() > 0);
-    const int few = Fields()->model()->rowCount();
-    Press("m_setOnly");
-    QTRY_VERIFY(Fields()->model()->rowCount() > few);
-    QTest::keyClick(m_panel.get(), Qt::Key_W, Qt::AltModifier);
-    QTRY_COMPARE(Fields()->model()->rowCount(), few);
-}
-
-void DoorPanelTest::OpenCallShowsItsFieldsWhenItHasEnded()
-{
-    const char *const function = "VOND_NRf_GetDlFreqV7_r";
-    m_dut->hold(function);
-    std::thread caller([&] { MakeCall(); });
-    QTRY_COMPARE(Rows(), 1);
-    ClickRow(0);
-    const bool isTold = QTest::qWaitFor([&] { return Text("m_about").contains("not come back"); });
-    m_dut->release(function);
-    caller.join();
-    QVERIFY2(isTold, qPrintable(Text("m_about")));
-    QTRY_COMPARE(Field("result"), QString("Success (0)"));
-    QVERIFY(!Field("answer.dlFrequency").isEmpty());
 }
 
 void DoorPanelTest::TypedFunctionLeavesOthersOut()
@@ -278,114 +129,6 @@ void DoorPanelTest::TableFollowsUnlessTheUserLooksBack()
     QCOMPARE(bar->value(), bar->maximum());
 }
 
-void DoorPanelTest::ChosenRowsAreCopied()
-{
-    MakeCalls(3);
-    ClickRow(1);
-    QGuiApplication::clipboard()->clear();
-    QTest::keyClick(Calls(), Qt::Key_C, Qt::ControlModifier);
-    QTRY_VERIFY(!Clipboard().isEmpty());
-    const QStringList lines = Clipboard().split('\n', Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 2);
-    QCOMPARE(lines[0], QString("Call\tTime\tFunction\tDuration\tResult"));
-    QCOMPARE(lines[1].section('\t', 0, 0), Cell(Calls(), 1, 0));
-    QCOMPARE(lines[1].section('\t', 4, 4), QString("Success (0)"));
-}
-
-void DoorPanelTest::AllRowsAreCopiedWithoutAChoice()
-{
-    MakeCalls(3);
-    QGuiApplication::clipboard()->clear();
-    Press("m_copy");
-    QTRY_COMPARE(Clipboard().split('\n', Qt::SkipEmptyParts).size(), 4);
-    QVERIFY(Text("m_state").endsWith("3 calls copied."));
-}
-
-void DoorPanelTest::FieldsAreCopied()
-{
-    MakeCalls(1);
-    ClickRow(0);
-    QTRY_VERIFY(Fields()->model()->rowCount() > 2);
-    QGuiApplication::clipboard()->clear();
-    Press("m_copyFields");
-    QTRY_VERIFY(Clipboard().contains("request.band\tn"));
-    QVERIFY(Clipboard().startsWith("Field\tValue\n"));
-    const QModelIndex index = Fields()->model()->index(1, 0);
-    QTest::mouseClick(Fields()->viewport(), Qt::LeftButton, {},
-                      Fields()->visualRect(index).center());
-    QGuiApplication::clipboard()->clear();
-    QTest::keyClick(Fields(), Qt::Key_C, Qt::ControlModifier);
-    QTRY_COMPARE(Clipboard(), QString("Field\tValue\ntimeout\t500 ms\n"));
-}
-
-void DoorPanelTest::TwoCallsAreCompared()
-{
-    MakeCall(1);
-    MakeCall(2);
-    MakeCall(1);
-    QTRY_COMPARE(Rows(), 3);
-    ClickRow(0);
-    ClickRow(1, Qt::ControlModifier);
-    QTRY_VERIFY2(Text("m_about").endsWith("differ in 1 field."), qPrintable(Text("m_about")));
-    QCOMPARE(Fields()->model()->columnCount(), 3);
-    QCOMPARE(Field("handle", 1), QString("1"));
-    QCOMPARE(Field("handle", 2), QString("2"));
-    QVERIFY(!Find<QCheckBox>("m_setOnly")->isEnabled());
-    ClickRow(0);
-    ClickRow(2, Qt::ControlModifier);
-    QTRY_VERIFY(Text("m_about").endsWith("are the same in all fields."));
-}
-
-void DoorPanelTest::CallsOfTwoFunctionsAreNotCompared()
-{
-    m_dut->chipName(40);
-    m_dut->stop(1, 500);
-    QTRY_COMPARE(Rows(), 2);
-    ClickRow(0);
-    QTest::keyClick(Calls(), Qt::Key_Down, Qt::ShiftModifier);
-    QTRY_VERIFY2(Text("m_about").contains("are of two functions"), qPrintable(Text("m_about")));
-    QCOMPARE(Fields()->model()->rowCount(), 0);
-}
-
-void DoorPanelTest::SavedTraceHasTheShownCalls()
-{
-    const QTemporaryDir folder;
-    const QString file = folder.filePath("calls.jsonl");
-    m_dut->chipName(40);
-    MakeCall(3);
-    (*m_dut->Simulated())->FailNextCall(7);
-    MakeCall(3);
-    QTRY_COMPARE(Rows(), 3);
-    QTest::keyClicks(Find<QLineEdit>("m_function"), "dlfreq");
-    Press("m_save");
-    auto *const dialog = m_panel->findChild<QFileDialog *>();
-    QVERIFY(dialog != nullptr && dialog->isVisible());
-    dialog->findChild<QLineEdit *>("fileNameEdit")->setText(file);
-    QTest::keyClick(dialog->findChild<QLineEdit *>("fileNameEdit"), Qt::Key_Return);
-    QTRY_VERIFY2(Text("m_state").contains("2 calls saved to " + file), qPrintable(Text("m_state")));
-    const STrace trace = ReadTrace(file.toStdString(), ECutLine::Refused);
-    QCOMPARE(trace.calls.size(), std::size_t{2});
-    QCOMPARE(trace.calls[0].function->id, EFunction::GetDlFreq);
-    QCOMPARE(trace.calls[0].handle, 3u);
-    QCOMPARE(trace.calls[0].request->size(), sizeof(SNrDlFreqCmdV7));
-    const SNrDlFreqCmdV7 command = DlFreqCommand();
-    QVERIFY(memcmp(trace.calls[0].request->data(), &command, sizeof(command)) == 0);
-    QCOMPARE(trace.calls[0].answer->size(), sizeof(SNrDlFreqCnfV7));
-    QCOMPARE(trace.calls[0].text, std::string("Success"));
-    QCOMPARE(trace.calls[1].result, 7);
-    QVERIFY(trace.calls[1].startNs >= trace.calls[0].startNs);
-    QCOMPARE(trace.header.core, std::string("libVondCore.so"));
-}
-
-void DoorPanelTest::FileThatCannotBeWrittenIsTold()
-{
-    MakeCalls(1);
-    m_panel->SaveAsTrace("/no-such-folder/calls.jsonl");
-    QTRY_VERIFY2(Text("m_state").contains("Can't write /no-such-folder/calls.jsonl"),
-                 qPrintable(Text("m_state")));
-    QVERIFY(Find<QPushButton>("m_save")->isEnabled());
-}
-
 void DoorPanelTest::ClearedJournalEmptiesTheTable()
 {
     MakeCalls(3);
@@ -426,18 +169,6 @@ void DoorPanelTest::HundredThousandCallsAreShown()
     QCOMPARE(Rows(), 0);
     Find<QLineEdit>("m_function")->clear();
     QCOMPARE(Rows(), kCalls);
-}
-
-void DoorPanelTest::PanelGoesWhileItSaves()
-{
-    const QTemporaryDir folder;
-    for (int i = 0; i < 20000; ++i)
-        m_dut->chipName(40);
-    QTRY_COMPARE(Rows(), 20000);
-    m_panel->SaveAsTrace(folder.filePath("calls.jsonl"));
-    QVERIFY(Text("m_state").endsWith("Saving..."));
-    m_panel.reset();
-    QCoreApplication::processEvents();
 }
 
 void DoorPanelTest::HiddenPanelDoesNotLook()

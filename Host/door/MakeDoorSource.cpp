@@ -1,4 +1,4 @@
-#include "Host/door/DoorSource.h"
+#include "Host/door/MakeDoorSource.h"
 
 #include <QFile>
 
