@@ -1,9 +1,11 @@
 #include "Support/Settings.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include "Support/Log.h"
+#include "Support/PrivateFolder.h"
 
 namespace {
 
@@ -40,8 +42,10 @@ QString CSettings::DefaultFile()
 
 void CSettings::SetValue(const QString &key, const QVariant &value)
 {
-    if (m_settings.value(key) != value)
-        m_settings.setValue(key, value);
+    if (m_settings.value(key) == value)
+        return;
+    MakePrivateFolder(QFileInfo(m_settings.fileName()).path());  // a failure shows when it is saved
+    m_settings.setValue(key, value);
 }
 
 bool CSettings::Save()

@@ -115,6 +115,13 @@ function(quorlin_module)
   quorlin_unite(${M_NAME} "${M_SOURCES}")
 endfunction()
 
+# A library shows what the map in its folder names, and nothing else: without one it shows instances of the
+# standard library's templates, which the loader would make one with the host's of the same names.
+function(quorlin_export_only target map)
+  target_link_options(${target} PRIVATE -Wl,--version-script=${CMAKE_CURRENT_SOURCE_DIR}/${map})
+  set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${map})
+endfunction()
+
 # A page: adds its header, source and Designer form to the module of the folder it lies in. The module
 # remembers it, for quorlin_page_types.
 function(quorlin_page)

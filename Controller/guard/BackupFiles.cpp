@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 
 #include "Support/CalIniFile.h"
+#include "Support/PrivateFolder.h"
 #include "Support/WholeFile.h"
 
 namespace {
@@ -62,7 +63,7 @@ QString SaveBackup(const QString &file, const SCalBackup &backup)
 QString SaveBackupFiles(const QString &folder, const SCalBackup &backup,
                         const std::function<void(CCalIniFile &)> &ini, QString &file)
 {
-    if (!QDir().mkpath(folder))
+    if (!MakePrivateFolder(folder))
         return CannotSave(folder, QStringLiteral("the folder cannot be made"));
     const QDir place(QDir(folder).absolutePath());
     QTemporaryDir beside(place.filePath(QStringLiteral(".new-backup-XXXXXX")));

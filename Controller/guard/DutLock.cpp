@@ -52,8 +52,9 @@ QString CDutLock::Take(uint32_t handle)
     Release();
     const QString name = FileOf(handle);
     const QByteArray path = QFile::encodeName(name);
-    // No symbolic link, which somebody may have put into the folder for temporary files.
-    const int file = ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666);
+    // No symbolic link, which somebody may have put into the folder for temporary files; and nobody else's to
+    // hold or to write, whatever the host lets others do with its files.
+    const int file = ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (file < 0)
         return QStringLiteral("The lock file %1 of the DUT cannot be opened: %2.")
             .arg(name, QString::fromLocal8Bit(std::strerror(errno)));
