@@ -1,7 +1,7 @@
 # Where an installed tool lies, and the Debian package of it.
 #
 #   cmake --install build/release --prefix /opt/quorlin-rf     a tree that may be moved about
-#   scripts/package.sh                                         build/package/quorlin-rf_*.deb
+#   scripts/package.sh                                         build/package/quorlin-rf_*.deb, of preset hardened
 #
 # The tree is the build's own: bin/quorlin-host, bin/quorlin, plugins/libQuorlinRf.so with libQuorlinCal.so beside it
 # (for "quorlin cal") and libQuorlinPlots.so, the Vond pair in lib/ where the plug-in's relative RUNPATH finds it, the tap beside the pair, and the header that a host needs in

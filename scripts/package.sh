@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Makes the Debian package and tries it: lintian, then the demonstration from the unpacked package and
-# from an installed tree that was moved. Fails at the first error.
+# Makes the Debian package of a hardened build and tries it: lintian, hardening of all its programs and
+# libraries, then the demonstration from the unpacked package and from an installed tree that was moved. Fails
+# at the first error.
 #
 #   scripts/package.sh             build/package/quorlin-rf_VERSION_ARCH.deb
 #   scripts/package.sh --install   also installs the package (as root), runs it, and removes it again
@@ -32,20 +33,20 @@ cal_of() {
 }
 
 quorlin_need_packages build package
-quorlin_build release QuorlinRf quorlin-host quorlin
+quorlin_build hardened QuorlinRf quorlin-host quorlin VondTap
 
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 
 quorlin_say "Installing a tree, and moving it"
-cmake --install build/release --prefix "$folder/first"
+cmake --install build/hardened --prefix "$folder/first"
 mv "$folder/first" "$folder/moved"
 demo_of "$folder/moved/bin/quorlin-host"
 cal_of "$folder/moved/bin/quorlin"
 
 quorlin_say "Making the package"
 rm -rf build/package
-(cd build/release && cpack -G DEB)
+(cd build/hardened && cpack -G DEB)
 package=$(echo build/package/*.deb)
 rm -rf build/package/_CPack_Packages
 
@@ -64,6 +65,16 @@ if [[ "$depends" == *qwt* || "$depends" != *libqt5widgets5* || "$recommends" != 
 fi
 
 dpkg-deb --extract "$package" "$folder/unpacked"
+
+quorlin_say "Hardening"
+mapfile -t files < <(find "$folder/unpacked" -type f \( -name '*.so' -o -path '*/bin/*' \) | sort)
+echo "${#files[@]} programs and libraries"
+scripts/hardening.sh "${files[@]}"
+writable=$(find "$folder/unpacked" ! -type l -perm /022)
+if [ "${#files[@]}" -lt 8 ] || [ -n "$writable" ]; then
+    echo "Eight files should be there, and none of them be others' to write. $writable" >&2
+    exit 1
+fi
 demo_of "$folder/unpacked/usr/bin/quorlin-host"
 cal_of "$folder/unpacked/usr/bin/quorlin"
 
