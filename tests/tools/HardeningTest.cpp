@@ -18,9 +18,9 @@ SScriptRun Look(const std::string &options)
                               "{\n"
                               "    char text[64];\n"
                               "    snprintf(text, sizeof text, \"%s\", texts[count - 1]);\n"
-                              "    return puts(text) < 0;\n"
+                              "    return printf(text, count) < 0;\n"
                               "}\n");
-    return folder.Run("cc " + kHard + ' ' + options +
+    return folder.Run("cc -w " + kHard + ' ' + options +
                       " program.c -o program && $ROOT/scripts/hardening.sh program");
 }
 
