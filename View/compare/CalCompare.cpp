@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QDir>
 
+#include "Support/BoxText.h"
 #include "Support/MessageBoxMan.h"
 #include "View/compare/CompareWindow.h"
 #include "View/compare/GuardedWriteDialog.h"
@@ -127,7 +128,8 @@ void CCalCompare::AskForWrite(const SGuardedPlan &plan)
         const SComparePage page = m_page;
         page.say(QStringLiteral("Guarded write failed."));
         if (self)
-            page.showBox(eBoxWarningAsIs, QStringLiteral("Guarded write failed"), plan.refusal, {});
+            page.showBox(eBoxWarningAsIs, QStringLiteral("Guarded write failed"),
+                         BoxText(plan.refusal), {});
     } else if (plan.records.isEmpty()) {
         m_page.say(
             QStringLiteral("Guarded write: the target has what the page has. Nothing was sent."));
@@ -177,5 +179,5 @@ void CCalCompare::ShowReport(const SGuardedReport &report)
         return;
     }
     const QString detail = report.rest ? Lines(*report.rest).join(QLatin1Char('\n')) : QString();
-    page.showBox(eBoxWarningAsIs, end, text, detail);
+    page.showBox(eBoxWarningAsIs, end, BoxText(text), detail);
 }

@@ -8,12 +8,12 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QSpinBox>
-#include <QTextDocument>
 
 #include "Model/JsonPath.h"
 #include "Model/ModelCopy.h"
 #include "Model/ModelText.h"
 #include "Model/StatusTable.h"
+#include "Support/BoxText.h"
 #include "Support/Log.h"
 #include "View/editors/FormFont.h"
 #include "View/engine/Binding.h"
@@ -236,7 +236,7 @@ void CAutoBindingDataModelDockWidget::ShowRefusal(const QString &command, const 
 {
     const QString text = command + QLatin1String(": ") + reason;
     emit Signal_UpdateStatus(text);
-    const QString plain = Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+    const QString plain = BoxText(text);
     QMetaObject::invokeMethod(
         this,
         [this, command, plain] { m_messageBox.Show(eBoxWarningAsIs, command, plain, {}, {}, -1); },
@@ -343,7 +343,7 @@ void CAutoBindingDataModelDockWidget::ShowItemResult(const QString &title,
 {
     const SStatusRow row = LookupStatus(result.status);
     m_messageBox.Show(row.level == eStatusError ? eBoxCritical : eBoxWarning, title, row.text,
-                      result.message.isEmpty() ? row.advice : result.message, {}, -1);
+                      result.message.isEmpty() ? row.advice : BoxText(result.message), {}, -1);
 }
 
 int CAutoBindingDataModelDockWidget::GetGroupType(const QString &memberPath)

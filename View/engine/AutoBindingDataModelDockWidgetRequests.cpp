@@ -3,9 +3,9 @@
 
 #include <QComboBox>
 #include <QMenu>
-#include <QTextDocument>
 
 #include "Model/JsonPath.h"
+#include "Support/BoxText.h"
 #include "View/editors/TabOrder.h"
 #include "View/editors/TableMark.h"
 #include "View/engine/ContextMenu.h"
@@ -35,8 +35,7 @@ void CAutoBindingDataModelDockWidget::Warn(const QString &status, const QString 
     const QPointer<CAutoBindingDataModelDockWidget> self(this);
     emit Signal_UpdateStatus(status);
     if (self)
-        ShowBox(eBoxWarningAsIs, status,
-                Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
+        ShowBox(eBoxWarningAsIs, status, BoxText(text));
 }
 
 // The caption of the first one, in the order of the document.

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QPointer>
 
+#include "Support/BoxText.h"
 #include "Support/MessageBoxMan.h"
 #include "Support/Settings.h"
 #include "View/editors/NamedAction.h"
@@ -70,5 +71,5 @@ void CLastSettings::Restore(const QList<CAutoBindingDataModelDockWidget *> &page
     CMessageBoxMan box;
     box.SetOwner(m_action->parentWidget());
     box.Show(eBoxWarningAsIs, QStringLiteral("Not all settings were restored."),
-             refused.join(QLatin1Char('\n')), {}, {}, -1);
+             BoxText(refused.join(QLatin1Char('\n'))), {}, {}, -1);
 }

@@ -7,6 +7,7 @@
 #include <QScopedValueRollback>
 
 #include "Model/StatusTable.h"
+#include "Support/BoxText.h"
 #include "Support/FileDialogMan.h"
 #include "Support/Log.h"
 #include "View/pages/CalibrationRemarks.h"
@@ -208,7 +209,8 @@ void CCalibrationDockWidget::ShowOutcome(const SFlowTexts &texts,
     if (!self || remarks.IsEmpty())
         return;
     const SRemarkBox box = RemarkBox(result.itemName, remarks);
-    m_messageBox.Show(eBoxWarningAsIs, QLatin1String(texts.running), box.text, {}, box.detail, -1);
+    m_messageBox.Show(eBoxWarningAsIs, QLatin1String(texts.running), BoxText(box.text), {},
+                      box.detail, -1);
 }
 
 void CCalibrationDockWidget::ShowProgress(ECalibrationFlow kind, int round, int routesDone,

@@ -5,7 +5,7 @@
 // its beginning. Pure function.
 //
 //   const SRemarkBox box = RemarkBox("RX PathLoss", remarks);
-//   m_messageBox.Show(eBoxWarningAsIs, title, box.text, {}, box.detail, -1);
+//   m_messageBox.Show(eBoxWarningAsIs, title, BoxText(box.text), {}, box.detail, -1);
 #pragma once
 
 #include "Model/CalRemarks.h"
