@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QEvent>
 #include <QMainWindow>
 #include <QScreen>
 #include <QSplitter>
@@ -18,6 +19,7 @@ constexpr char kDivision[] = "window/division";
 constexpr char kPageInFront[] = "window/page";
 
 constexpr int kTitleBar = 32;  // usual height of a window's title bar
+constexpr int kKeepMs = 1000;
 constexpr int kGap = 8;
 constexpr int kMostWidth = 960;
 constexpr int kMostHeight = 1040;
@@ -65,6 +67,19 @@ CWindowPlaces::CWindowPlaces(QMainWindow &host) : m_host(&host)
     if (tool)
         tool->move(places.tool);
     Restore();
+    m_keep.setSingleShot(true);
+    m_keep.setInterval(kKeepMs);
+    connect(&m_keep, &QTimer::timeout, this, &CWindowPlaces::Keep);
+    host.installEventFilter(this);
+    if (tool)
+        tool->installEventFilter(this);
+}
+
+bool CWindowPlaces::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+        m_keep.start();
+    return QObject::eventFilter(watched, event);
 }
 
 // What can't be read leaves all as it is.
@@ -80,6 +95,11 @@ void CWindowPlaces::Restore()
 }
 
 CWindowPlaces::~CWindowPlaces()
+{
+    Keep();
+}
+
+void CWindowPlaces::Keep()
 {
     if (!m_host)
         return;

@@ -1,17 +1,19 @@
 // Where the bench host and the tool stand on the screen: side by side at first, later where the user has
 // left them.
 //
-// Takes the places in its constructor, before either window shows, and keeps them when it is destroyed, in
-// the host's settings, along with the page in front and the division of the host's window. GUI thread.
+// Takes the places in its constructor, before either window shows, and keeps them in the host's settings: a
+// second after the last move, for a session that is killed, and when it is destroyed; then also the page in
+// front and the division of the host's window. GUI thread.
 //
 //     CWindowPlaces places(host);
 //     host.show();
 //     return application.exec();
 #pragma once
 
+#include <QObject>
 #include <QPointer>
 #include <QRect>
-#include <QWidget>
+#include <QTimer>
 
 class QMainWindow;
 
@@ -25,16 +27,21 @@ struct SWindowPlaces
 };
 SWindowPlaces SideBySide(const QRect &available, const QSize &tool, const QSize &hostLeast);
 
-class CWindowPlaces
+class CWindowPlaces : public QObject
 {
+    Q_OBJECT
+
 public:
     explicit CWindowPlaces(QMainWindow &host);
-    ~CWindowPlaces();
-    CWindowPlaces(const CWindowPlaces &) = delete;
-    CWindowPlaces &operator=(const CWindowPlaces &) = delete;
+    ~CWindowPlaces() override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void Restore();
+    void Keep();
 
     QPointer<QMainWindow> m_host;
+    QTimer m_keep;
 };

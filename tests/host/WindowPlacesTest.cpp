@@ -25,6 +25,7 @@ private slots:
     void ToolAndHostStandSideBySide();
     void StandInTheCornersOfTheScreenAtFirst();
     void StandWhereTheyWereLeft();
+    void PlacesAreKeptWhileTheSessionRuns();
     void BrokenSettingsAreNoMatter();
     void SettingsThatCantBeWrittenAreNoMatter();
 
@@ -124,6 +125,14 @@ void WindowPlacesTest::StandWhereTheyWereLeft()
     QCOMPARE(FindToolWindow()->geometry(), tool);
     pages = m_host->findChild<QTabWidget *>("m_panels");
     QCOMPARE(pages->tabText(pages->currentIndex()), QString("Another"));
+}
+
+void WindowPlacesTest::PlacesAreKeptWhileTheSessionRuns()
+{
+    QVERIFY(!CHostSettings().Value("window/host").isValid());
+    m_host->move(30, 20);
+    QTRY_VERIFY(CHostSettings().Value("window/host").isValid());
+    QCOMPARE(CHostSettings().Value("window/host").toByteArray(), m_host->saveGeometry());
 }
 
 void WindowPlacesTest::BrokenSettingsAreNoMatter()
