@@ -4,7 +4,7 @@
 // The choice is only asked for: whoever owns it puts the thing in place and shows what is in force.
 //
 //     SNameChoice what = {.subject = "profile", .title = "Profile of the DUT", .names = names};
-//     auto *choice = new CNameChoice(*m_ui->m_profile, *m_ui->m_profileFile, what, this);
+//     auto *choice = new CNameChoice(*m_ui->m_profileChoice, *m_ui->m_profileFile, what, this);
 //     connect(choice, &CNameChoice::Signal_Chosen, this, [=](const QString &nameOrPath) {
 //         choice->ShowCurrent(Take(nameOrPath) ? nameOrPath : m_inForce);
 //     });
