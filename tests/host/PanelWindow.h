@@ -41,7 +41,7 @@ public:
         m_host.reset();
         m_host = std::make_unique<CBenchHost>(m_plugin);
         m_host->show();
-        auto *panels = Find<QTabWidget>("m_panels");
+        QTabWidget *panels = Panels();
         for (int i = 0; i < panels->count(); ++i) {
             if (panels->tabText(i).remove('&') == title)
                 panels->setCurrentIndex(i);
@@ -51,15 +51,18 @@ public:
     }
 
     bool IsGood() const { return m_isGood; }
+    // Of the panel in front: names are those of its form.
     template <class Widget>
     Widget *Find(const QString &name) const
     {
-        return m_host->findChild<Widget *>(name);
+        return Panels()->currentWidget()->findChild<Widget *>(name);
     }
     CBenchHost &Host() { return *m_host; }
     QString File(const QString &name) const { return m_settings.filePath(name); }
 
 private:
+    QTabWidget *Panels() const { return m_host->findChild<QTabWidget *>("m_panels"); }
+
     QTemporaryDir m_settings;
     CPluginHandle m_plugin;
     std::unique_ptr<CBenchHost> m_host;
