@@ -59,6 +59,7 @@
     X(GetRequest)                                                                                  \
     X(GetAnswer)                                                                                   \
     X(GetCallTime)                                                                                 \
+    X(GetCalls)                                                                                    \
     X(GetOpenCalls)                                                                                \
     X(ResultText)                                                                                  \
     X(ClearJournal)

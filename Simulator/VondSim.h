@@ -209,6 +209,10 @@ struct SVondSimCallTime
 };
 // As VondSim_GetCall.
 int32_t VondSim_GetCallTime(uint32_t index, SVondSimCallTime *time);
+// Both for at most that many calls from there on, at once: whoever reads many calls holds up those who
+// make them the least. Returns how many; 0 where GetCall is -1.
+uint32_t VondSim_GetCalls(uint32_t index, uint32_t most, SVondSimCall *calls,
+                          SVondSimCallTime *times);
 
 // A call that has begun and not ended. It stands in no place of the journal before it ends.
 struct SVondSimOpenCall

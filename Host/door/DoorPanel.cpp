@@ -22,7 +22,7 @@
 namespace {
 
 constexpr std::chrono::milliseconds kLook(100);     // between two looks at the source
-constexpr std::chrono::milliseconds kNextLook(20);  // when more is there
+constexpr std::chrono::milliseconds kNextLook(50);  // when more is there
 constexpr std::chrono::milliseconds kLongestLook(4);
 constexpr std::size_t kLongTable = 1000;  // rows of fields
 constexpr char kHint[] = "Choose a call to see its fields, two calls to compare them.";
@@ -124,9 +124,9 @@ void CDoorPanel::SetUpTables()
 {
     const int width = fontMetrics().averageCharWidth();
     m_ui->m_calls->setModel(&m_calls);
-    SetUpTable(*m_ui->m_calls, {8 * width, 14 * width, 34 * width, 11 * width});
+    SetUpTable(*m_ui->m_calls, {7 * width, 13 * width, 30 * width, 9 * width});
     m_ui->m_fields->setModel(&m_fields);
-    SetUpTable(*m_ui->m_fields, {34 * width, 22 * width});
+    SetUpTable(*m_ui->m_fields, {});
     connect(m_ui->m_calls->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &CDoorPanel::ShowFields);
     // An open call that is chosen has ended.
@@ -250,7 +250,13 @@ void CDoorPanel::ShowFieldsOf(SDoorFields fields)
 {
     m_ui->m_about->setText(fields.about);
     m_ui->m_copyFields->setEnabled(!fields.rows.empty());
+    const int columns = m_fields.columnCount();
     ReleaseAside(m_fields.Show(std::make_shared<const SDoorFields>(std::move(fields))));
+    if (m_fields.columnCount() == columns)
+        return;
+    const int width = fontMetrics().averageCharWidth();
+    for (int column = 0; column + 1 < m_fields.columnCount(); ++column)
+        m_ui->m_fields->setColumnWidth(column, (column == 0 ? 36 : 26) * width);
 }
 
 // A long table takes longer to free than an event may.

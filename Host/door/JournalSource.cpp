@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr uint32_t kCallsBetweenLooks = 32;  // at the clock
-constexpr uint32_t kVerdictBytes = 256;      // of an answer: as far as its verdict is
+constexpr uint32_t kCallsAtOnce = 256;   // between two looks at the clock
+constexpr uint32_t kVerdictBytes = 256;  // of an answer: as far as its verdict is
 
 void SetTime(SDoorCall &call, const SVondSimCallTime &time)
 {
@@ -63,16 +63,15 @@ void CJournalSource::Poll(SDoorNews &news, DoorClock::time_point until)
 
 void CJournalSource::TakeEnded(SDoorNews &news, uint32_t count, DoorClock::time_point until)
 {
+    std::vector<SVondSimCall> rows(kCallsAtOnce);
+    std::vector<SVondSimCallTime> times(kCallsAtOnce);
     while (m_next < count) {
-        SDoorCall call;
-        if (!ReadEnded(m_next, call)) {
-            m_next = FirstFrom(m_next + 1, count);
-            continue;
-        }
-        ++m_next;
-        m_lastNumber = call.number;
-        news.calls.push_back(std::move(call));
-        if (news.calls.size() % kCallsBetweenLooks == 0 && DoorClock::now() >= until)
+        const uint32_t most = std::min(kCallsAtOnce, count - m_next);
+        const uint32_t found = m_dut->GetCalls(m_next, most, rows.data(), times.data());
+        for (uint32_t i = 0; i < found; ++i)
+            TakeCall(news, m_next + i, rows[i], times[i]);
+        m_next = found > 0 ? m_next + found : FirstFrom(m_next + 1, count);
+        if (DoorClock::now() >= until)
             break;
     }
     news.hasMore = m_next < count;
@@ -116,15 +115,14 @@ std::vector<SVondSimOpenCall> CJournalSource::OpenCalls() const
     return open;
 }
 
-bool CJournalSource::ReadEnded(uint32_t index, SDoorCall &call) const
+void CJournalSource::TakeCall(SDoorNews &news, uint32_t index, const SVondSimCall &row,
+                              const SVondSimCallTime &time)
 {
-    SVondSimCall row = {};
-    SVondSimCallTime time = {};
-    if (m_dut->GetCall(index, &row) != 0 || m_dut->GetCallTime(index, &time) != 0)
-        return false;
+    m_lastNumber = time.number;
+    SDoorCall call;
     call.function = FindFunction(row.function);
     if (call.function == nullptr)
-        return false;
+        return;
     SetTime(call, time);
     call.place = index;
     call.size = uint64_t{row.requestSize} + row.answerSize;
@@ -144,7 +142,7 @@ bool CJournalSource::ReadEnded(uint32_t index, SDoorCall &call) const
                          static_cast<uint32_t>(answered.answer->size()));
         call.hasBadVerdict = HasBadVerdict(answered);
     }
-    return true;
+    news.calls.push_back(std::move(call));
 }
 
 uint32_t CJournalSource::FirstFrom(uint32_t index, uint32_t count) const

@@ -26,7 +26,8 @@ private:
     void TakeEnded(SDoorNews &news, uint32_t count, DoorClock::time_point until);
     void TakeOpen(SDoorNews &news, const std::vector<SVondSimOpenCall> &open);
     std::vector<SVondSimOpenCall> OpenCalls() const;
-    bool ReadEnded(uint32_t index, SDoorCall &call) const;
+    void TakeCall(SDoorNews &news, uint32_t index, const SVondSimCall &row,
+                  const SVondSimCallTime &time);
     // The first call from there on that the journal still has.
     uint32_t FirstFrom(uint32_t index, uint32_t count) const;
 

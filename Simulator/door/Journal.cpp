@@ -22,6 +22,20 @@ bool HasResult(const SFunction &function)
     return function.kind != EFunctionKind::Library;
 }
 
+SVondSimCall CallOf(const SJournalEntry &entry)
+{
+    SVondSimCall call = {};
+    entry.function->name.copy(call.function, sizeof(call.function) - 1);
+    call.handle = entry.handle;
+    call.timeoutMs = entry.timeoutMs;
+    call.result = entry.result;
+    call.status = entry.status;
+    call.durationNs = entry.durationNs;
+    call.requestSize = static_cast<uint32_t>(entry.request.size());
+    call.answerSize = static_cast<uint32_t>(entry.answer.size());
+    return call;
+}
+
 }  // namespace
 
 CJournal::CJournal(const std::string &path)
@@ -99,16 +113,23 @@ bool CJournal::Get(uint32_t index, SVondSimCall &call) const
     const SJournalEntry *const entry = Find(index);
     if (entry == nullptr)
         return false;
-    call = {};
-    entry->function->name.copy(call.function, sizeof(call.function) - 1);
-    call.handle = entry->handle;
-    call.timeoutMs = entry->timeoutMs;
-    call.result = entry->result;
-    call.status = entry->status;
-    call.durationNs = entry->durationNs;
-    call.requestSize = static_cast<uint32_t>(entry->request.size());
-    call.answerSize = static_cast<uint32_t>(entry->answer.size());
+    call = CallOf(*entry);
     return true;
+}
+
+uint32_t CJournal::GetMany(uint32_t index, uint32_t most, SVondSimCall *calls,
+                           SVondSimCallTime *times) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    uint32_t count = 0;
+    for (; count < most; ++count) {
+        const SJournalEntry *const entry = Find(index + count);
+        if (entry == nullptr)
+            break;
+        calls[count] = CallOf(*entry);
+        times[count] = entry->time;
+    }
+    return count;
 }
 
 bool CJournal::GetTime(uint32_t index, SVondSimCallTime &time) const

@@ -58,6 +58,9 @@ public:
     uint32_t Count() const;
     // False behind the last entry, and for one that has gone.
     bool Get(uint32_t index, SVondSimCall &call) const;
+    // Of as many calls as there are from there on, at most that many; returns how many.
+    uint32_t GetMany(uint32_t index, uint32_t most, SVondSimCall *calls,
+                     SVondSimCallTime *times) const;
     bool GetTime(uint32_t index, SVondSimCallTime &time) const;
     std::vector<SVondSimOpenCall> OpenCalls() const;
     // Copies at most size bytes of the entry's request or answer; returns the full length.

@@ -127,6 +127,14 @@ int32_t VondSim_GetCallTime(uint32_t index, SVondSimCallTime *time)
     return time != nullptr && CSimulator::Instance().Journal().GetTime(index, *time) ? 0 : -1;
 }
 
+uint32_t VondSim_GetCalls(uint32_t index, uint32_t most, SVondSimCall *calls,
+                          SVondSimCallTime *times)
+{
+    if (calls == nullptr || times == nullptr)
+        return 0;
+    return CSimulator::Instance().Journal().GetMany(index, most, calls, times);
+}
+
 uint32_t VondSim_GetOpenCalls(SVondSimOpenCall *calls, uint32_t most)
 {
     const std::vector<SVondSimOpenCall> open = CSimulator::Instance().Journal().OpenCalls();

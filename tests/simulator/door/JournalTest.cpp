@@ -122,6 +122,21 @@ TEST_F(JournalTest, CallsTellWhenTheyBegan)
     EXPECT_EQ(VondSim_GetCallTime(0, nullptr), -1);
 }
 
+TEST_F(JournalTest, ManyCallsAreToldAtOnce)
+{
+    for (uint32_t chip = 40; chip < 43; ++chip)
+        VOND_NRf_GetChipIdName(chip);
+    SVondSimCall calls[4] = {};
+    SVondSimCallTime times[4] = {};
+    EXPECT_EQ(VondSim_GetCalls(1, 4, calls, times), 2u);
+    EXPECT_STREQ(calls[0].function, "VOND_NRf_GetChipIdName");
+    EXPECT_EQ(calls[1].durationNs, CallAt(2).durationNs);
+    EXPECT_EQ(times[1].number, TimeAt(2).number);
+    EXPECT_EQ(VondSim_GetCalls(0, 1, calls, times), 1u);
+    EXPECT_EQ(VondSim_GetCalls(3, 4, calls, times), 0u);
+    EXPECT_EQ(VondSim_GetCalls(0, 4, nullptr, times), 0u);
+}
+
 TEST_F(JournalTest, ClearedJournalGivesNoNumberTwice)
 {
     VOND_NRf_GetChipIdName(40);
