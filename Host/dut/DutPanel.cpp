@@ -191,7 +191,8 @@ void CDutPanel::FillBandsAndRoutes()
     m_ui->m_route->clear();
     m_ui->m_band->addItem("other bands", kOthers);
     m_ui->m_route->addItem("other routes", kOthers);
-    for (uint32_t i = 0; const uint32_t band = m_dut->Band(i); ++i) {
+    uint32_t band = 0;
+    for (uint32_t i = 0; (band = m_dut->Band(i)) != 0; ++i) {
         const QString name = QString("n%1").arg(band);
         if (m_ui->m_band->findData(name) < 0)
             m_ui->m_band->addItem(name, name);
