@@ -144,6 +144,8 @@ QVariant CFaultModel::data(const QModelIndex &index, int role) const
     if (!index.isValid())
         return {};
     const SRow &row = m_rows[static_cast<std::size_t>(index.row())];
+    if (role == Qt::ToolTipRole && index.column() == eParameters && row.IsFault())
+        return ParameterHint(row);
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
         return Text(row, index.column());
     if (role == Qt::CheckStateRole && index.column() == eFunction && row.IsFault())
@@ -171,6 +173,16 @@ QString CFaultModel::Text(const SRow &row, int column)
     default:
         return SourceWords(row);
     }
+}
+
+// The number of a result, and what it says.
+QString CFaultModel::ParameterHint(const SRow &row) const
+{
+    const QString words = ParameterWords(row.json);
+    if (row.json.value("kind").toString() != "fail")
+        return words;
+    const int result = row.json.value("result").toInt(kFailResult);
+    return words + ": " + QString::fromUtf8(m_dut->ResultText(result));
 }
 
 bool CFaultModel::setData(const QModelIndex &index, const QVariant &value, int role)

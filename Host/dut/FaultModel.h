@@ -58,6 +58,7 @@ private:
     // The state as a scenario tells the conditions of faults, and the steps to come.
     QJsonArray TakeSteps() const;
     static QString Text(const SRow &row, int column);
+    QString ParameterHint(const SRow &row) const;
 
     const CSimulatedDut &m_dut;
     std::vector<SRow> m_rows;

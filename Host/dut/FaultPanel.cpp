@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QKeyEvent>
 #include <QSaveFile>
+#include <QScrollArea>
 
 #include "Host/HostSettings.h"
 #include "Host/dut/FaultDialog.h"
@@ -30,6 +31,19 @@ QByteArray Compact(const QJsonObject &json)
 QString WhyNotWritten(const QFileDevice &file)
 {
     return QString("%1 can't be written: %2.").arg(file.fileName(), file.errorString());
+}
+
+// Words that come below the edge of a scroll area are brought into view, when the layout has a place
+// for them.
+void ScrollTo(QWidget *words)
+{
+    QTimer::singleShot(0, words, [words] {
+        QWidget *parent = words->parentWidget();
+        while (parent != nullptr && qobject_cast<QScrollArea *>(parent) == nullptr)
+            parent = parent->parentWidget();
+        if (parent != nullptr && words->isVisible())
+            static_cast<QScrollArea *>(parent)->ensureWidgetVisible(words);
+    });
 }
 
 }  // namespace
@@ -243,8 +257,11 @@ void CFaultPanel::ShowScenario()
     }
     const QJsonObject scenario = QJsonDocument::fromJson(text).object();
     const QString about = scenario.value("about").toString();
+    const bool isNew = about != m_ui->m_scenarioAbout->text();
     m_ui->m_scenarioAbout->setText(about);
     m_ui->m_scenarioAbout->setVisible(!about.isEmpty());
+    if (isNew)
+        ScrollTo(m_ui->m_scenarioAbout);
 }
 
 std::vector<CFaultModel::SRow> CFaultPanel::SelectedFaults() const
@@ -276,4 +293,5 @@ void CFaultPanel::Tell(const QString &message)
 {
     m_ui->m_faultMessage->setText(message);
     m_ui->m_faultMessage->setVisible(!message.isEmpty());
+    ScrollTo(m_ui->m_faultMessage);
 }

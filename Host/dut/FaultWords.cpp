@@ -39,7 +39,7 @@ QString ParameterWords(const QJsonObject &fault)
 {
     const QString kind = fault.value("kind").toString();
     if (kind == "fail")
-        return fault.contains("result") ? "result " + Number(fault, "result") : QString("result 4");
+        return "result " + QString::number(fault.value("result").toInt(kFailResult));
     if (kind == "status")
         return "status " + Number(fault, "status");
     if (kind == "delay")

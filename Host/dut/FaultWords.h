@@ -9,6 +9,9 @@
 #include <QString>
 #include <QStringList>
 
+// The result of a fault "fail" that names none.
+inline constexpr int kFailResult = 4;
+
 // C names of the functions that a fault can strike.
 QStringList FaultFunctions();
 

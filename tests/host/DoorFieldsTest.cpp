@@ -19,6 +19,7 @@ private slots:
     void init() { Open(); }
     void cleanup() { Close(); }
     void ChosenCallShowsItsFields();
+    void NamesOfFieldsAreReadWhole();
     void ArrowKeysShowTheFieldsOfTheNextCall();
     void FieldsThatAreZeroAreShownOnDemand();
     void OpenCallShowsItsFieldsWhenItHasEnded();
@@ -42,6 +43,15 @@ void DoorFieldsTest::ChosenCallShowsItsFields()
     QCOMPARE(Field("result"), QString("Success (0)"));
     QVERIFY2(Field("request.band").startsWith("n"), qPrintable(Field("request.band")));
     QVERIFY2(Text("m_about").endsWith(", VOND_NRf_GetDlFreqV7_r"), qPrintable(Text("m_about")));
+}
+
+void DoorFieldsTest::NamesOfFieldsAreReadWhole()
+{
+    MakeCalls(1);
+    ClickRow(0);
+    QTRY_VERIFY(!Field("answer.dlFrequency").isEmpty());
+    const int width = Fields()->fontMetrics().horizontalAdvance("answer.dlFrequency");
+    QVERIFY(Fields()->columnWidth(0) > width);
 }
 
 void DoorFieldsTest::ArrowKeysShowTheFieldsOfTheNextCall()

@@ -17,6 +17,8 @@ private slots:
     void cleanup() { m_window.reset(); }
     void OffersAllScenarios();
     void IsChosenAndTakenAwayByKeyboard();
+    void WordsBelowTheEdgeComeIntoView();
+    void ResultOfAFaultIsTold();
     void BrokenFileGetsWordsAndChangesNothing();
     void FileIsLoadedAndRemembered();
     void StateIsSavedAndComesBack();
@@ -63,6 +65,31 @@ void ScenarioPanelTest::IsChosenAndTakenAwayByKeyboard()
     QTest::keyClick(Box(), Qt::Key_Up);
     QCOMPARE(Box()->currentText(), QString("none"));
     QCOMPARE(CopiedText(&VondSim_GetScenarioText), QByteArray());
+}
+
+void ScenarioPanelTest::WordsBelowTheEdgeComeIntoView()
+{
+    m_window->Host().resize(m_window->Host().width(), m_window->Host().minimumSizeHint().height());
+    const auto isWhole = [this](const char *name) {
+        const auto *label = m_window->Find<QLabel>(name);
+        return label->isVisible() && label->visibleRegion().boundingRect() == label->rect();
+    };
+    Box()->setFocus();
+    QTest::keyClicks(Box(), "torn");
+    QTRY_VERIFY(isWhole("m_scenarioAbout"));
+    CFileBoxes boxes(m_window->File("mine"));
+    Click("m_saveScenario");
+    QTRY_VERIFY(isWhole("m_faultMessage"));
+}
+
+void ScenarioPanelTest::ResultOfAFaultIsTold()
+{
+    Box()->setFocus();
+    QTest::keyClicks(Box(), "flaky");
+    const QAbstractItemModel &faults = *m_window->Find<QTableView>("m_faults")->model();
+    QTRY_VERIFY(faults.rowCount() > 0);
+    QCOMPARE(faults.index(0, CFaultModel::eParameters).data(Qt::ToolTipRole).toString(),
+             QString("result 2: Connection: the target did not answer in time"));
 }
 
 void ScenarioPanelTest::BrokenFileGetsWordsAndChangesNothing()
