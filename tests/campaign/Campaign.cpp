@@ -38,6 +38,13 @@ bool CCampaign::Restart()
     return m_driver->Ready() && m_driver->Home();
 }
 
+// What went wrong in one case is not to spoil the next.
+void CCampaign::StartAfresh()
+{
+    if (!Restart())
+        m_tally.Complain(QString("%1 does not come up again").arg(m_page->name));
+}
+
 void CCampaign::RunPage(const SPage &page)
 {
     m_page = &page;
@@ -66,10 +73,15 @@ void CCampaign::RunRequest(const SRequest &request)
         return;
     }
     m_living = Living(m_driver->Session().Window());
-    for (auto row = calls.begin(); row != calls.end(); ++row) {
+    for (auto row = calls.begin(); row != calls.end(); ++row)
         m_tally.Reach(Name(request), row.key(), row.value());
-        if (!m_options.hasFaults)
-            continue;
+    if (m_options.hasFaults)
+        RunCases(request, calls);
+}
+
+void CCampaign::RunCases(const SRequest &request, const QMap<QString, int> &calls)
+{
+    for (auto row = calls.begin(); row != calls.end(); ++row) {
         const SFunction *function = FindFunction(row.key().toStdString());
         for (const SDoorFault &fault : FaultsOf(*function, row.value(), m_options.noises))
             RunFault(request, fault);
@@ -90,9 +102,8 @@ void CCampaign::RunFault(const SRequest &request, const SDoorFault &fault)
     if (problem.isEmpty())
         problem = HoldsBehind(request);
     m_tally.Book({Name(request), fault.function->name.data(), fault.kind, fault.Name()}, problem);
-    // What went wrong here is not to spoil the next case.
-    if (!problem.isEmpty() && !Restart())
-        m_tally.Complain(QString("%1 does not come up again").arg(m_page->name));
+    if (!problem.isEmpty())
+        StartAfresh();
     if (fault.kind != EFault::Fail || !isTextAskedFor)
         return;
     for (const SDoorFault &text : TextFaultsOf(fault))

@@ -32,16 +32,27 @@ class CCampaign
 {
 public:
     CCampaign(CTally &tally, const SCampaignOptions &options);
+    virtual ~CCampaign() = default;
 
     void RunPage(const SPage &page);
+
+protected:
+    // What goes wrong under a request that made these calls in its good run: here each fault of each.
+    virtual void RunCases(const SRequest &request, const QMap<QString, int> &calls);
+    // The page as it comes up, after a case that did not hold.
+    void StartAfresh();
+    // The request is good again, and has left nothing.
+    QString HoldsBehind(const SRequest &request);
+    QString Name(const SRequest &request) const;
+    const SPage &Page() const { return *m_page; }
+    CPageDriver &Driver() const { return *m_driver; }
+    CTally &Tally() const { return m_tally; }
 
 private:
     void RunRequest(const SRequest &request);
     void RunFault(const SRequest &request, const SDoorFault &fault);
     QString HoldsUnder(const SRequest &request, const SDoorFault &fault, bool &isTextAskedFor);
-    QString HoldsBehind(const SRequest &request);
     bool Restart();
-    QString Name(const SRequest &request) const;
 
     CTally &m_tally;
     const SCampaignOptions m_options;

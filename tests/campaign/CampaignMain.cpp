@@ -3,7 +3,7 @@
 //   FaultCampaign [--real-delays] [--noises=N] [PART...]
 //   FaultCampaign reach
 //
-// Parts: launch, documents, rx, tx, cal; without one, all of them. `reach` makes good runs alone
+// Parts: launch, documents, rx, tx, cal, scenarios; without one, all of them. `reach` makes good runs alone
 // and checks that together they reach the whole of the DUT's interface. --real-delays lets a late
 // answer come after a second of the clock instead of when the test opens a gate; --noises tries
 // each answer with N kinds of noise instead of one. Prints a table of the cases that ran and held;
@@ -15,10 +15,12 @@
 #include <QElapsedTimer>
 
 #include "tests/campaign/LaunchCampaign.h"
+#include "tests/campaign/ScenarioCampaign.h"
 
 namespace {
 
-constexpr const char *kParts[] = {"launch", "documents", "rx", "tx", "cal"};
+constexpr char kScenarios[] = "scenarios";
+constexpr const char *kParts[] = {"launch", "documents", "rx", "tx", "cal", kScenarios};
 constexpr char kReach[] = "reach";
 constexpr char kNoises[] = "--noises=";
 
@@ -33,6 +35,8 @@ void RunPart(const QString &part, CTally &tally, const SCampaignOptions &options
         RunLaunchCampaign(tally, options);
     if (part == "documents")
         RunDocumentCampaign(tally, options);
+    if (part == kScenarios)
+        RunScenarioCampaign(tally, options);
     CCampaign campaign(tally, options);
     for (int i = 0; i < kPageCount; ++i) {
         if (part == kPages[i].group)
@@ -71,10 +75,10 @@ int main(int argc, char **argv)
         } else if (std::find(std::begin(kParts), std::end(kParts), argument) != std::end(kParts)) {
             parts.append(argument);
         } else {
-            std::fprintf(
-                stderr,
-                "usage: %s [--real-delays] [--noises=N] [reach] [launch|documents|rx|tx|cal]...\n",
-                argv[0]);
+            std::fprintf(stderr,
+                         "usage: %s [--real-delays] [--noises=N] [reach] "
+                         "[launch|documents|rx|tx|cal|scenarios]...\n",
+                         argv[0]);
             return 2;
         }
     }

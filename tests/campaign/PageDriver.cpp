@@ -1,8 +1,11 @@
 #include "tests/campaign/PageDriver.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTableWidget>
@@ -23,6 +26,20 @@ QString PlainText(QString box)
     return box.remove("<P><FONT COLOR='#000080'><FONT SIZE='4'>")
         .remove("</FONT></FONT></P>")
         .replace("<br>", "\n");
+}
+
+QByteArray Content(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// The DUT's answer fills it; the line edit of a spin box has no name of its own.
+bool IsResult(const QWidget *editor)
+{
+    constexpr char kResponse[] = "_response_";
+    return editor->objectName().contains(kResponse) ||
+           editor->parentWidget()->objectName().contains(kResponse);
 }
 
 bool IsAlike(const QString &seen, const QString &wanted, bool isStartOnly)
@@ -112,6 +129,39 @@ int CPageDriver::Rows() const
     for (const QTableWidget *table : m_session.Page()->findChildren<QTableWidget *>())
         rows += table->rowCount();
     return rows;
+}
+
+QString CPageDriver::Entries() const
+{
+    QStringList entries;
+    for (const QLineEdit *editor : m_session.Page()->findChildren<QLineEdit *>()) {
+        if (!IsResult(editor))
+            entries.append(editor->text());
+    }
+    for (const QComboBox *choice : m_session.Page()->findChildren<QComboBox *>()) {
+        if (!IsResult(choice))
+            entries.append(choice->currentText());
+    }
+    for (const QAbstractButton *tick : m_session.Page()->findChildren<QAbstractButton *>())
+        entries.append(tick->isChecked() ? "on" : "off");
+    return entries.join('\n');
+}
+
+QByteArray CPageDriver::Exported()
+{
+    for (int i = 0; i < m_page.requestCount; ++i) {
+        if (m_page.requests[i].way != EWay::Save)
+            continue;
+        return RunWell(m_page.requests[i])
+                   ? Content(m_folder.filePath(QString("out%1.ini").arg(m_files)))
+                   : QByteArray("no export");
+    }
+    return {};
+}
+
+QByteArray CPageDriver::ExportedFirst() const
+{
+    return Content(m_goodFile);
 }
 
 void CPageDriver::Act(const SRequest &request)

@@ -56,15 +56,23 @@ public:
     // Waits for the words; what is wrong when they do not come.
     QString Await(const SRequest &request, const SWords &words);
 
+    EState State() const { return m_state; }
+    // The request that brings the page to a state from the other one. Of a page with tests.
+    const SRequest &StartOrStop(EState state) const;
+    int Rows() const;  // of all tables
+    // What the user has entered: editors, choices and ticks of the page, as one text.
+    QString Entries() const;
+    // A calibration page: the file that it exports, and the one that it has exported when it was ready.
+    QByteArray Exported();
+    QByteArray ExportedFirst() const;
+
     CPluginSession &Session() { return m_session; }
 
 private:
     QString Enabled() const;
-    int Rows() const;  // of all tables
     QString Shown(const char *widget) const;
     QString DiffersInBoxes(const SWords &words) const;
     bool RunWell(const SRequest &request);
-    const SRequest &StartOrStop(EState state) const;
 
     const SPage &m_page;
     CPluginSession m_session;

@@ -26,6 +26,21 @@ void CTally::Book(const SCase &which, const QString &problem)
             QString("%1, %2, %3: %4").arg(which.request, which.function, which.fault, problem));
 }
 
+void CTally::BookScenario(const QString &scenario, const QString &request, int made, int failed,
+                          const QString &problem)
+{
+    const bool isHeld = problem.isEmpty();
+    SPlay &row = m_byScenario[scenario];
+    row.made += made;
+    row.failed += failed;
+    ++row.cases.run;
+    row.cases.held += isHeld;
+    ++m_all.run;
+    m_all.held += isHeld;
+    if (!isHeld)
+        Complain(QString("%1, scenario %2: %3").arg(request, scenario, problem));
+}
+
 void CTally::Reach(const QString &request, const QString &function, int calls)
 {
     m_reach[function].append(calls == 1 ? request : QString("%1 (%2)").arg(request).arg(calls));
@@ -72,10 +87,23 @@ void CTally::PrintBy(const char *head, const QMap<QString, std::vector<SCount>> 
     std::printf("\n");
 }
 
+void CTally::PrintScenarios() const
+{
+    std::printf("\n| Scenario | requests made | failed of these | cases | held |\n"
+                "|---|---|---|---|---|\n");
+    for (auto row = m_byScenario.begin(); row != m_byScenario.end(); ++row)
+        std::printf("| %s | %d | %d | %d | %d |\n", qPrintable(row.key()), row->made, row->failed,
+                    row->cases.run, row->cases.held);
+}
+
 void CTally::Print() const
 {
-    PrintBy("Function of the DUT", m_byFunction);
-    PrintBy("Request", m_byRequest);
+    if (!m_byFunction.isEmpty()) {
+        PrintBy("Function of the DUT", m_byFunction);
+        PrintBy("Request", m_byRequest);
+    }
+    if (!m_byScenario.isEmpty())
+        PrintScenarios();
     std::printf("\nCases run: %d, cases held: %d\n", m_all.run, m_all.held);
     for (const QString &complaint : m_complaints)
         std::printf("DOES NOT HOLD: %s\n", qPrintable(complaint));

@@ -29,6 +29,9 @@ class CTally
 public:
     // problem: why the case does not hold; empty when it does.
     void Book(const SCase &which, const QString &problem);
+    // A scenario under a request: how often the request was made, and failed of these, in the case.
+    void BookScenario(const QString &scenario, const QString &request, int made, int failed,
+                      const QString &problem);
     // A request reaches a function in a good run.
     void Reach(const QString &request, const QString &function, int calls);
     // Something beside the cases that must hold, too.
@@ -46,11 +49,19 @@ private:
         int run = 0;
         int held = 0;
     };
+    struct SPlay
+    {
+        SCount cases;
+        int made = 0;
+        int failed = 0;
+    };
     static QString Text(const SCount &count);
+    void PrintScenarios() const;
     void PrintBy(const char *head, const QMap<QString, std::vector<SCount>> &rows) const;
 
     QMap<QString, std::vector<SCount>> m_byFunction;  // a count for each kind
     QMap<QString, std::vector<SCount>> m_byRequest;
+    QMap<QString, SPlay> m_byScenario;
     QMap<QString, QStringList> m_reach;  // function to the requests that reach it
     SCount m_all;
     QStringList m_complaints;

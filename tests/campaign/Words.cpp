@@ -36,7 +36,9 @@ constexpr const char *kStatusTexts[] = {
 };
 constexpr char kUnknownStatus[] = "Not found status descrption";
 
-constexpr const char *kFailureTexts[][2] = {{"4", "Target: failure on demand"},
+constexpr const char *kFailureTexts[][2] = {{"1", "Connection: no target is connected"},
+                                            {"2", "Connection: the target did not answer in time"},
+                                            {"4", "Target: failure on demand"},
                                             {"11", "Unknown result"}};
 
 // Outcome of an operation: a code of the status table, and the words that it leaves.
