@@ -117,7 +117,7 @@ void CTableMark::Extend(int rows, int columns)
                                 Stepped(m_table->horizontalHeader(), m_corner.column(), columns)));
 }
 
-void CTableMark::ExtendTo(const QModelIndex &corner)
+void CTableMark::ExtendTo(QModelIndex corner)
 {
     if (!corner.isValid())
         return;
@@ -138,7 +138,8 @@ void CTableMark::Go(int rows, int columns)
     ExtendTo(m_current);
 }
 
-void CTableMark::Set(const QModelIndex &current, const QModelIndex &corner)
+// By value: the index of a persistent one goes when that gets another.
+void CTableMark::Set(QModelIndex current, QModelIndex corner)
 {
     if (!current.isValid() || !corner.isValid())
         return;

@@ -36,7 +36,7 @@ public:
     void SetCurrent(const QModelIndex &at);
     // Moves the corner by so many rows and columns that are seen; stays at the table's edge.
     void Extend(int rows, int columns);
-    void ExtendTo(const QModelIndex &corner);
+    void ExtendTo(QModelIndex corner);
     // Marks the cell alone that is so far from the corner; the first one of the table without a corner.
     void Go(int rows, int columns);
     void MarkAll();
@@ -55,7 +55,7 @@ signals:
     void Changed();
 
 private:
-    void Set(const QModelIndex &current, const QModelIndex &corner);
+    void Set(QModelIndex current, QModelIndex corner);
     void ListenTo(const QHeaderView *header, void (CTableMark::*mark)(int, int));
     void Show(const QItemSelection &added, const QItemSelection &gone);
     void ClearOthers() const;

@@ -39,8 +39,7 @@ void CheckTrace(const STrace &trace)
     for (const STraceCall &call : trace.calls) {
         Require(call.function != nullptr, "a call has its function");
         Require(call.isEnded || (!call.request && !call.answer), "an open call has no records");
-        Require(CallDifferences(call, call, {.isTimed = true}).empty(),
-                "a call is like itself");
+        Require(CallDifferences(call, call, {.isTimed = true}).empty(), "a call is like itself");
         if (call.request)
             ShownRequest(*call.function, *call.request);
         if (call.answer)
