@@ -203,8 +203,13 @@ private slots:
             QAccessible::queryAccessibleInterface(table)->tableInterface()->cellAt(0, 0);
         QCOMPARE(item->text(QAccessible::Name), table->item(0, 0)->text());
         QCOMPARE(item->tableCellInterface()->rowIndex(), 0);
-        QCOMPARE(item->tableCellInterface()->columnHeaderCells().first()->text(QAccessible::Name),
-                 QString("RSRP0"));
+        const QList<QAccessibleInterface *> headers =
+            item->tableCellInterface()->columnHeaderCells();
+        QCOMPARE(headers.value(0)->text(QAccessible::Name), QString("RSRP0"));
+        // Qt makes them for whoever asks, and frees those that it has an id for.
+        for (QAccessibleInterface *header : headers)
+            QAccessible::deleteAccessibleInterface(
+                QAccessible::registerAccessibleInterface(header));
     }
 };
 

@@ -50,8 +50,8 @@ private:
     {
         QTest::mouseClick(m_window->Find<QPushButton>(button), Qt::LeftButton);
     }
-    void Type(const char *name, const QString &text) const;
-    void Choose(const char *box, const QString &value) const;
+    void Type(const char *name, const QString &text) const { m_window->Type(name, text); }
+    void Choose(const char *box, const QString &value) const { m_window->Choose(box, value); }
 
     std::unique_ptr<CPanelWindow> m_window;
 };
@@ -61,28 +61,6 @@ void DutPanelTest::init()
     m_window = std::make_unique<CPanelWindow>("DUT");
     QVERIFY(m_window->IsGood());
     QVERIFY(m_window->Find<CDutPanel>("CDutPanel")->isVisible());
-}
-
-void DutPanelTest::Type(const char *name, const QString &text) const
-{
-    auto *number = m_window->Find<QDoubleSpinBox>(name);
-    number->setFocus();
-    number->selectAll();
-    QTest::keyClicks(number, text);
-    QTest::keyClick(number, Qt::Key_Return);
-}
-
-// By keys: to the top, then down to the value.
-void DutPanelTest::Choose(const char *name, const QString &value) const
-{
-    auto *box = m_window->Find<QComboBox>(name);
-    box->setFocus();
-    const int index = box->findData(value);
-    QVERIFY2(index >= 0, qPrintable(value));
-    QTest::keyClick(box, Qt::Key_Home);
-    for (int i = 0; i < index; ++i)
-        QTest::keyClick(box, Qt::Key_Down);
-    QCOMPARE(box->currentData().toString(), value);
 }
 
 void DutPanelTest::OffersAllProfilesAndShowsTheOneInPlace()

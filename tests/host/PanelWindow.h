@@ -8,6 +8,8 @@
 
 #include <memory>
 
+#include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -56,6 +58,27 @@ public:
     Widget *Find(const QString &name) const
     {
         return Panels()->currentWidget()->findChild<Widget *>(name);
+    }
+    // Types into a number, by keys.
+    void Type(const char *name, const QString &text) const
+    {
+        auto *number = Find<QDoubleSpinBox>(name);
+        number->setFocus();
+        number->selectAll();
+        QTest::keyClicks(number, text);
+        QTest::keyClick(number, Qt::Key_Return);
+    }
+    // Chooses a box's entry by its data, by keys: to the top, then down.
+    void Choose(const char *name, const QString &value) const
+    {
+        auto *box = Find<QComboBox>(name);
+        box->setFocus();
+        const int index = box->findData(value);
+        QVERIFY2(index >= 0, qPrintable(value));
+        QTest::keyClick(box, Qt::Key_Home);
+        for (int i = 0; i < index; ++i)
+            QTest::keyClick(box, Qt::Key_Down);
+        QCOMPARE(box->currentData().toString(), value);
     }
     CBenchHost &Host() { return *m_host; }
     QString File(const QString &name) const { return m_settings.filePath(name); }

@@ -40,8 +40,8 @@ private slots:
 
 private:
     static void AddNumbers();
-    void Type(const char *name, const QString &text) const;
-    void Choose(const char *box, const QString &value) const;
+    void Type(const char *name, const QString &text) const { m_window->Type(name, text); }
+    void Choose(const char *box, const QString &value) const { m_window->Choose(box, value); }
 
     std::unique_ptr<CPanelWindow> m_window;
 };
@@ -62,28 +62,6 @@ void RadioPanelTest::AddNumbers()
     QTest::newRow("noise") << QByteArray("m_noise") << "noiseFigureDb" << 9.0;
     QTest::newRow("fluctuation") << QByteArray("m_fluctuation") << "fluctuationDb" << 1.25;
     QTest::newRow("temperature") << QByteArray("m_temperature") << "temperatureC" << -12.5;
-}
-
-void RadioPanelTest::Type(const char *name, const QString &text) const
-{
-    auto *number = m_window->Find<QDoubleSpinBox>(name);
-    number->setFocus();
-    number->selectAll();
-    QTest::keyClicks(number, text);
-    QTest::keyClick(number, Qt::Key_Return);
-}
-
-// By keys: to the top, then down to the value.
-void RadioPanelTest::Choose(const char *name, const QString &value) const
-{
-    auto *box = m_window->Find<QComboBox>(name);
-    box->setFocus();
-    const int index = box->findData(value);
-    QVERIFY2(index >= 0, qPrintable(value));
-    QTest::keyClick(box, Qt::Key_Home);
-    for (int i = 0; i < index; ++i)
-        QTest::keyClick(box, Qt::Key_Down);
-    QCOMPARE(box->currentData().toString(), value);
 }
 
 void RadioPanelTest::NumbersAreTyped()
