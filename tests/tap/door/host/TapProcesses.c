@@ -133,10 +133,16 @@ int RunCancel(void)
 }
 
 static sigjmp_buf s_out;
+static volatile uint32_t s_callsBefore;
 
+// Out of the pair alone: who jumps out of an allocation, or of what runs once, breaks his own process.
 static void JumpOut(int number)
 {
+    const struct itimerval never = {{0, 0}, {0, 0}};
     (void)number;
+    if (VOND_Fake_CallCount() == s_callsBefore)
+        return;
+    setitimer(ITIMER_REAL, &never, NULL);
     siglongjmp(s_out, 1);
 }
 
@@ -147,8 +153,9 @@ int RunJump(void)
     sigaction(SIGALRM, &action, NULL);
     for (volatile int i = 0; i < 3; ++i) {
         if (sigsetjmp(s_out, 1) == 0) {
-            const struct itimerval soon = {{0, 0}, {0, 2000}};
-            setitimer(ITIMER_REAL, &soon, NULL);
+            const struct itimerval often = {{0, 2000}, {0, 2000}};
+            s_callsBefore = VOND_Fake_CallCount();
+            setitimer(ITIMER_REAL, &often, NULL);
             VOND_NRf_TestStop_r(FAKE_STUCK, 1);
         }
     }
