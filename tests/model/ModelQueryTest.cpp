@@ -105,8 +105,10 @@ TEST(ModelQuery, UnknownMemberOrMemberWithoutTraitGivesMinusOne)
 TEST(ModelQuery, TableMemberIsNamedByThePathWithoutItsLastSegment)
 {
     const QJsonObject members{{"mode", ListMember({"a", "b"})}};
-    const QJsonObject document = Document(3, members, {{"mode", "b"}});
-    EXPECT_EQ(GetUiIndexByMemberValue(document, QString(kMode) + ".0"), 1);
+    for (int groupType : {2, 3}) {
+        const QJsonObject document = Document(groupType, members, {{"mode", "b"}});
+        EXPECT_EQ(GetUiIndexByMemberValue(document, QString(kMode) + ".0"), 1) << groupType;
+    }
 }
 
 TEST(ModelQuery, QuestionLeavesTheDocumentAlone)

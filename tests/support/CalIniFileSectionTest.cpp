@@ -89,6 +89,13 @@ TEST_F(CalIniFileSection, TextThatIsNotPlainIsHeldToALine)
     EXPECT_EQ(m_folder.Bytes(), "\xEF\xBB\xBF[S \xC2\xB1]\r\nk = a b\r\nl  = \xEF\xBF\xBD\r\n");
 }
 
+TEST_F(CalIniFileSection, TextOfWhichNothingIsPlainIsHeldToALine)
+{
+    CCalIniFile file(m_folder.WidePath().c_str());
+    WriteWhole(file, "\xC2\xB1", {{"\xC2\xB5", "\xFF"}});
+    EXPECT_EQ(m_folder.Bytes(), "\xEF\xBB\xBF[\xC2\xB1]\r\n\xC2\xB5 = \xEF\xBF\xBD\r\n");
+}
+
 TEST_F(CalIniFileSection, SectionWithoutKeysIsNoWrite)
 {
     CCalIniFile file(m_folder.WidePath().c_str());

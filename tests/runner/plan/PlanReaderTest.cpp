@@ -80,6 +80,13 @@ TEST(PlanReaderTest, aWholePlanIsReadWithPlaces)
     EXPECT_EQ(hour.exportFile->text, "loss.ini");
 }
 
+TEST(PlanReaderTest, blanksAroundATextAreNotOfIt)
+{
+    EXPECT_EQ(
+        Read("quorlin: 1\nplan: \" \\tmy plan \\n\"\nsteps: [{step: a, page: RSSI}]\n").name.text,
+        "my plan");
+}
+
 TEST(PlanReaderTest, jsonIsReadToo)
 {
     const SPlan plan = Read(R"({"quorlin": 1, "plan": "P", "steps": [{"step": "a",
@@ -122,6 +129,36 @@ TEST(PlanReaderTest, aDefineThatNoPlanHasIsTold)
     CPlanErrors errors;
     ReadPlanText("plan", kWholePlan, defines, errors);
     EXPECT_EQ(defines.Unused(), std::vector<std::string>{"power"});
+}
+
+TEST(DefinesTest, aNameIsOfLettersDigitsAndLinesAndBeginsWithNoDigit)
+{
+    for (const char *name : {"a", "z", "A", "Z", "_", "ma", "mz", "mA", "mZ", "m0", "m9", "m_"})
+        EXPECT_TRUE(IsDefineName(name)) << name;
+    for (const char *name : {"", "0", "9", "m`", "m{", "m@", "m[", "m/", "m:", "m-", "m\xe4"})
+        EXPECT_FALSE(IsDefineName(name)) << name;
+}
+
+TEST(DefinesTest, aTextWithItsValuesHasAtMost4096Characters)
+{
+    const std::string plan = "quorlin: 1\nplan: ${name}\nsteps: [{step: a, page: RSSI}]\n";
+    EXPECT_EQ(Read(plan, {{"name", std::string(4096, 'x')}}).name.text.size(), 4096u);
+    CPlanErrors errors;
+    CDefines defines({{"name", std::string(4097, 'x')}});
+    ReadPlanText("plan", plan, defines, errors);
+    ASSERT_EQ(errors.Texts().size(), 1u);
+    EXPECT_NE(errors.Texts()[0].find("too long"), std::string::npos) << errors.Texts()[0];
+}
+
+TEST(PlanErrorsTest, whatIsNoCharacterIsToldAsAQuestionMark)
+{
+    CPlanErrors errors;
+    CDefines defines({});
+    ReadPlanText("plan",
+                 "quorlin: 1\nplan: P\n\"a\\x1f \\x7f~\": 1\nsteps: [{step: a, page: RSSI}]\n",
+                 defines, errors);
+    ASSERT_EQ(errors.Texts().size(), 1u);
+    EXPECT_NE(errors.Texts()[0].find("\"a? ?~\""), std::string::npos) << errors.Texts()[0];
 }
 
 TEST(NumbersTest, aRangeIsExactInItsOwnDecimals)

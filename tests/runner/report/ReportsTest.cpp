@@ -123,6 +123,60 @@ TEST(ReportsTest, allFilesAreWholeBeforeTheFirstCaseAndAfterEach)
     EXPECT_EQ(elements["failure"], 0);
 }
 
+TEST(ReportsTest, aSuiteAPlanFileWithCountsOfItsOwn)
+{
+    QTemporaryDir place;
+    const QString folder = place.filePath("out");
+    QVector<SCaseResult> cases;
+    for (const EVerdict verdict : {EVerdict::Fail, EVerdict::Fail, EVerdict::Pass, EVerdict::Error,
+                                   EVerdict::Error, EVerdict::NotRun, EVerdict::Error}) {
+        cases << (verdict == EVerdict::NotRun ? Case(1) : Ended(1, verdict));
+        if (cases.size() <= 3)
+            continue;
+        cases.last().plan = "Day";
+        cases.last().planFile = "day.yaml";
+    }
+    CReports reports;
+    const QDateTime start = QDateTime::fromMSecsSinceEpoch(0, Qt::UTC);
+    ASSERT_EQ(reports.Open(folder, {"0.1", "VR6211", 7, start}, cases), QString());
+    for (int i = 0; i < cases.size(); ++i)
+        if (cases[i].verdict != EVerdict::NotRun)
+            reports.Add(i, cases[i]);
+    reports.Finish("stopped");
+    QStringList suites;
+    QXmlStreamReader reader(FileText(folder, "junit.xml"));
+    EXPECT_TRUE(reader.readNextStartElement() && reader.name() == "testsuites");
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement || reader.name() != "testsuite")
+            continue;
+        QStringList counts;
+        for (const char *name :
+             {"name", "tests", "failures", "errors", "skipped", "time", "timestamp"})
+            counts << reader.attributes().value(name).toString();
+        suites << counts.join(' ');
+    }
+    EXPECT_EQ(suites, (QStringList{"Night <of> \"n78\" & more 3 2 0 0 4.500 1970-01-01T00:00:00",
+                                   "Day 4 0 3 1 4.500 1970-01-01T00:00:00"}))
+        << suites.join("; ").toStdString();
+    EXPECT_TRUE(FileText(folder, "report.html").contains("<title>Night &lt;of&gt;"));
+}
+
+TEST(ReportsTest, aReadingWithoutANumberHasNoFigures)
+{
+    QTemporaryDir place;
+    const QString folder = place.filePath("out");
+    SCaseResult result = Ended(1, EVerdict::Pass);
+    result.outputs = {{"response.group1.rssi", "RSSI (dBm)", "dBm", true, {"NA", "NA"}}};
+    CReports reports;
+    ASSERT_EQ(reports.Open(folder, {"0.1", "VR6211", 7, {}}, {result}), QString());
+    reports.Add(0, result);
+    reports.Finish();
+    const QString none = "<td class=\"n\"></td>";
+    const QByteArray html = FileText(folder, "report.html");
+    EXPECT_TRUE(html.contains((none + none + none + "<td class=\"n\">NA</td>").toUtf8()))
+        << html.toStdString();
+}
+
 TEST(ReportsTest, noTextOfThePlanOrTheDutBecomesMarkup)
 {
     SRunFixture run;

@@ -83,6 +83,18 @@ TEST(FieldPathTest, NumbersAreReadByTheirName)
     EXPECT_EQ(NumberAt(kLayoutOf<SMMRfRouteConfigV7>, bytes.first(3), "bandCount"), std::nullopt);
 }
 
+TEST(FieldPathTest, ANumberIsReadUpToTheEndOfTheBytesAndNotBeyondIt)
+{
+    const SLayout &command = kLayoutOf<SNrPuschTxCmdV7>;
+    const char path[] = "normalMode.carrier[1].band";
+    const auto found = FindField(command, path);
+    ASSERT_TRUE(found);
+    std::vector<uint8_t> bytes(found->offset + found->size);
+    EXPECT_EQ(NumberAt(command, bytes, path), 0);
+    bytes.pop_back();
+    EXPECT_EQ(NumberAt(command, bytes, path), std::nullopt);
+}
+
 TEST(FieldPathTest, WhatIsNoFieldIsNotFound)
 {
     const SLayout &command = kLayoutOf<SNrPuschTxCmdV7>;
