@@ -48,7 +48,11 @@ private slots:
         CSessionLog log;
         const QString read("Read data from target: ");
         log.Add(ESessionEvent::Status, "APT Profile", read + "round 1, 0 of 9 routes");
+        QSignalSpy changed(&log, &CSessionLog::dataChanged);
         log.Add(ESessionEvent::Status, "APT Profile", read + "round 2, 9 of 9 routes");
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed[0][0].toModelIndex(), log.index(0, CSessionLog::eTime));
+        QCOMPARE(changed[0][1].toModelIndex(), log.index(0, CSessionLog::eText));
         log.Add(ESessionEvent::Status, "RX Pathloss", read + "3 of 9 routes");
         QCOMPARE(log.rowCount(), 2);
         QCOMPARE(Cell(log, 0, CSessionLog::eText), read + "round 2, 9 of 9 routes");

@@ -219,6 +219,14 @@ TEST_F(CGuardedWriteTest, MemoryOfAPageIsWrittenLikeAFile)
     EXPECT_EQ(write->Carry().end, EGuardedEnd::Verified);
 }
 
+TEST_F(CGuardedWriteTest, TheIniFileOfABackupHoldsWhatFlashHeldAndNotWhatIsWanted)
+{
+    const QString ini = QString(Ready()->BackupFile()).replace(".json", ".ini");
+    const auto write = Begun(ECalItem::Apt);
+    ASSERT_EQ(write->WantFile(ini, {}), QString());
+    EXPECT_EQ(write->ChangedRecords(), QStringList());
+}
+
 TEST_F(CGuardedWriteTest, TheSecondWriterIsToldWhoHoldsTheDut)
 {
     auto first = Begun(ECalItem::Apt);
