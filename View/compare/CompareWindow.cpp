@@ -148,8 +148,22 @@ bool CCompareWindow::eventFilter(QObject *object, QEvent *event)
 
 void CCompareWindow::SetBusy(bool isOn)
 {
+    if (isOn && !m_isBusy)
+        m_mayTakeFocus = focusWidget() == m_ui->m_compare;
     m_isBusy = isOn;
     FollowChoices();
+    // Only if nothing has it: the user may have gone elsewhere.
+    if (!isOn && m_mayTakeFocus && !focusWidget())
+        m_ui->m_compare->setFocus(Qt::OtherFocusReason);
+}
+
+// Compare goes off while it runs. Its focus goes nowhere then: the next key must not choose a filter.
+bool CCompareWindow::focusNextPrevChild(bool next)
+{
+    const QWidget *focus = focusWidget();
+    if (m_isBusy && focus == m_ui->m_compare && !focus->isEnabled())
+        return false;
+    return QDialog::focusNextPrevChild(next);
 }
 
 void CCompareWindow::FollowChoices()

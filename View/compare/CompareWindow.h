@@ -48,6 +48,7 @@ signals:
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     struct SSideEditors
@@ -74,4 +75,5 @@ private:
     CDifferenceModel m_model;
     CRowCopy m_copy;
     bool m_isBusy = false;
+    bool m_mayTakeFocus = false;  // Compare had it when it went off
 };

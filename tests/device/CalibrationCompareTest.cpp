@@ -71,6 +71,7 @@ private slots:
     void valueOfAnotherSelectionIsGoneToWithEditsKept();
     void returnOnAStatisticShowsItsDifferences();
     void keysAloneOpenCompareAndGo();
+    void comparingLeavesTheFocusAtCompare();
 
 private:
     QString File(const char *name) const { return m_folder.filePath(name); }
@@ -320,6 +321,27 @@ void CalibrationCompareTest::keysAloneOpenCompareAndGo()
     QCOMPARE(session.Window()->focusWidget(), session.Cell(e.group, e.member, e.row, e.column));
     QTest::keyClick(session.CompareWindow(), Qt::Key_Escape);
     QVERIFY(!session.CompareWindow()->isVisible());
+}
+
+// The button is off meanwhile; a key that comes then chooses no filter.
+void CalibrationCompareTest::comparingLeavesTheFocusAtCompare()
+{
+    CCompareSession session(kAptPage);
+    QVERIFY(IsReady(session));
+    QApplication::setActiveWindow(session.CompareWindow());
+    session.Choose("left", eDutSide);
+    session.Choose("right", ePageSide);
+    auto *compare = session.InWindow<QPushButton>("m_compare");
+    compare->setFocus();
+    VondSim_Hold(kReadCall);
+    QTest::keyClick(compare, Qt::Key_Space);
+    QVERIFY(VondSim_WaitUntilHeld(kReadCall, 20000) == 1);
+    QVERIFY(!compare->isEnabled());
+    const QWidget *meanwhile = session.CompareWindow()->focusWidget();
+    VondSim_Release(kReadCall);
+    QVERIFY(WaitUntil([&] { return session.IsIdle() && compare->isEnabled(); }));
+    QCOMPARE(meanwhile ? meanwhile->objectName() : QString(), QString());
+    QCOMPARE(session.CompareWindow()->focusWidget(), compare);
 }
 
 QUORLIN_TEST_CLASS(CalibrationCompareTest)
