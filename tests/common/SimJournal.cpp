@@ -37,6 +37,11 @@ QVector<SJournalCall> Journal()
     return Calls(nullptr);
 }
 
+QByteArray RequestOf(uint32_t index)
+{
+    return Bytes(&VondSim_GetRequest, index);
+}
+
 QVector<SJournalCall> JournalOf(const char *function)
 {
     return Calls(function);

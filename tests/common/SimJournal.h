@@ -25,5 +25,7 @@ struct SJournalCall
 QVector<SJournalCall> Journal();
 QVector<SJournalCall> JournalOf(const char *function);
 int CountCalls(const char *function);
+// Of one call alone; empty behind the last.
+QByteArray RequestOf(uint32_t index);
 // A number of the call's request, by its name in Trace/dictionary; nothing where it has no such number.
 std::optional<int64_t> RequestNumber(const SJournalCall &call, std::string_view field);

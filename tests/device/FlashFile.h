@@ -50,6 +50,7 @@ public:
     {
         SFlashPlace place;
         QVector<QByteArray> blocks;
+        bool isTorn = false;  // its last download was cut
     };
 
     // No records when the file is missing or damaged.
@@ -65,7 +66,9 @@ public:
             SRecordHead head;
             std::memcpy(&head, bytes.constData() + at, sizeof head);
             at += int(sizeof head);
-            SRecord record{head.place, {}};
+            const bool isTorn = (head.place.kind & kTorn) != 0;
+            head.place.kind &= ~kTorn;
+            SRecord record{head.place, {}, isTorn};
             const int size = BlockSize(head.place.kind);
             for (uint32_t i = 0; i < head.blockCount; ++i, at += size)
                 record.blocks.append(bytes.mid(at, size));
@@ -79,7 +82,8 @@ public:
     {
         QByteArray body;
         for (const SRecord &record : records) {
-            const SRecordHead head{record.place, uint32_t(record.blocks.size())};
+            SRecordHead head{record.place, uint32_t(record.blocks.size())};
+            head.place.kind |= record.isTorn ? kTorn : 0;
             body.append(reinterpret_cast<const char *>(&head), sizeof head);
             for (const QByteArray &block : record.blocks)
                 body.append(block);
@@ -133,6 +137,7 @@ private:
     };
     static_assert(sizeof(SRecordHead) == 16, "as in the file");
     static constexpr int kMagicSize = 16;
+    static constexpr uint32_t kTorn = 0x100;
 
     static int BlockSize(uint32_t kind)
     {

@@ -20,14 +20,7 @@ constexpr SActionRow kActions[] = {
 
 const SActionRow &DrawAction(CChance &chance)
 {
-    int sum = 0;
-    for (const SActionRow &row : kActions)
-        sum += row.weight;
-    int drawn = chance.Below(sum);
-    const SActionRow *row = kActions;
-    for (; drawn >= row->weight; ++row)
-        drawn -= row->weight;
-    return *row;
+    return DrawFrom(kActions, chance);
 }
 
 QDockWidget *DrawPage(CDesk &desk, CChance &chance)

@@ -8,6 +8,8 @@
 //   const SDeed deed = row.act(desk, chance);
 #pragma once
 
+#include <iterator>
+
 #include "tests/hands/Chance.h"
 #include "tests/hands/desk/Desk.h"
 #include "tests/hands/rules/Rule.h"
@@ -18,6 +20,20 @@ struct SActionRow
     SDeed (*act)(CDesk &desk, CChance &chance);
     SDeed::EKind kind = SDeed::Other;
 };
+
+// One of a table, by weight.
+template <typename Rows>
+const SActionRow &DrawFrom(const Rows &rows, CChance &chance)
+{
+    int sum = 0;
+    for (const SActionRow &row : rows)
+        sum += row.weight;
+    int drawn = chance.Below(sum);
+    const SActionRow *row = std::begin(rows);
+    for (; drawn >= row->weight; ++row)
+        drawn -= row->weight;
+    return *row;
+}
 
 const SActionRow &DrawAction(CChance &chance);
 

@@ -217,7 +217,12 @@ void CDesk::AnswerDialog()
     auto *dialog = qobject_cast<QFileDialog *>(modal);
     if (!dialog) {
         auto *question = qobject_cast<QDialog *>(modal);
-        if (question && !qobject_cast<QMessageBox *>(modal))
+        if (!question || qobject_cast<QMessageBox *>(modal))
+            return;
+        auto *write = question->findChild<QAbstractButton *>("m_write");
+        if (agrees && write)
+            write->click();
+        else
             question->reject();
         return;
     }
@@ -227,6 +232,8 @@ void CDesk::AnswerDialog()
         dialog->reject();
         return;
     }
+    if (dialog->acceptMode() == QFileDialog::AcceptSave)
+        saved.append(file);
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
     dialog->findChild<QLineEdit *>("fileNameEdit")->setText(file);
     QMetaObject::invokeMethod(dialog, "accept");
@@ -240,6 +247,8 @@ void CDesk::OnPageBusy(bool isBusy)
 
 void CDesk::OnPageStatus(const QString &text)
 {
+    auto *page = qobject_cast<QDockWidget *>(sender());
     if (onStatus)
-        onStatus(qobject_cast<QDockWidget *>(sender()), text);
+        onStatus(page, text);
+    emit Signal_Status(page, text);
 }

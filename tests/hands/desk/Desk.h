@@ -3,7 +3,7 @@
 // Keys, clicks and wheel turns go in at the windows, as those of a person do, so that focus,
 // shortcuts, popups and modal boxes take their part. A message box is closed as soon as it opens; a
 // file dialog gets the file of the page in front, or is cancelled when there is none to open. Any other
-// question is answered with no.
+// question is answered with no, but for that of a guarded write, if the user agrees.
 //
 // Settle waits until the tool is idle, or until a call to the DUT stands at a gate that the user's
 // DUT has closed (Hold): then the tool is in the middle of a request, and the next thing that the
@@ -73,8 +73,14 @@ public:
     std::function<void(QDockWidget *page, bool isBusy)> onBusy;
     std::function<void(QDockWidget *page, const QString &text)> onStatus;
 
+    bool agrees = false;          // a guarded write is answered with yes
+    QStringList saved;            // files that a dialog was answered with, to be written
     int resets = 0;               // by the host, so far
     bool isHostDisabled = false;  // the host's Disable was its last word to these pages
+
+signals:
+    // As onStatus, for one who waits in the middle of a deed.
+    void Signal_Status(QDockWidget *page, const QString &text);
 
 private slots:
     void AnswerDialog();

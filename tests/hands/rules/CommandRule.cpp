@@ -1,16 +1,10 @@
 #include "tests/hands/rules/CommandRule.h"
 
 #include "Simulator/VondSim.h"
+#include "tests/common/SimJournal.h"
 #include "tests/hands/witness/PageReader.h"
 
 namespace {
-
-QByteArray RequestOf(uint32_t index)
-{
-    QByteArray bytes(static_cast<int>(VondSim_GetRequest(index, nullptr, 0)), '\0');
-    VondSim_GetRequest(index, bytes.data(), static_cast<uint32_t>(bytes.size()));
-    return bytes;
-}
 
 QJsonObject RequestPart(const QJsonObject &document)
 {

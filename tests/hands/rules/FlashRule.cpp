@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr char kWritten[] = "Write data to target successfully.";
+constexpr char kVerified[] = "Guarded write done and verified.";
 constexpr const char *kCalPages[] = {"CNrRxPathlossDockWidgetV7", "CNrAptProfileDockWidgetV7"};
 
 bool IsOfPage(const QString &page, const FlashPlace &place)
@@ -23,6 +25,22 @@ bool IsGrownByImport(const CFlashFile::SRecord &record, int blocks)
         BlockLayout(record.place.kind),
         {reinterpret_cast<const uint8_t *>(block.constData()), size_t(block.size())}, last);
     return blocks == record.blocks.size() + 1 && frequency != 0;
+}
+
+std::tuple<uint32_t, uint32_t, uint32_t> RecordOf(const FlashPlace &place)
+{
+    return {std::get<0>(place), std::get<1>(place), std::get<2>(place)};
+}
+
+// The DUT may have left out a field of what it says it has written.
+bool IsAnyFieldStuck()
+{
+    SVondSimFault fault;
+    for (uint32_t i = 0; VondSim_GetFault(i, &fault) == 0; ++i) {
+        if (qstrcmp(fault.kind, "stuck") == 0)
+            return true;
+    }
+    return false;
 }
 
 }  // namespace
@@ -50,13 +68,14 @@ void CFlashRule::OnBusy(QDockWidget *page, bool isBusy)
     const auto state = m_pages.find(page->objectName());
     if (state == m_pages.end() || state->wasBusy)
         return;
-    FindEdits(*state, page);
+    FindEdits(*state, CellsOf(page, m_commands.Document(page->objectName())));
     state->wasBusy = true;
 }
 
 void CFlashRule::OnStatus(QDockWidget *page, const QString &text)
 {
-    const bool isEnd = text.endsWith("successfully.") || text.endsWith("failed.");
+    const bool isEnd =
+        text.endsWith("successfully.") || text.endsWith("failed.") || text == kVerified;
     if (isEnd && m_pages.contains(page->objectName()))
         m_pages[page->objectName()].ends.append(text);
 }
@@ -72,8 +91,11 @@ QString CFlashRule::After(const SDeed &deed)
     if (failure.isEmpty())
         failure = flash;
     for (auto state = m_pages.begin(); state != m_pages.end(); ++state) {
-        if (m_resets != m_desk.resets)
+        if (m_resets != m_desk.resets) {
+            const SExport file = state->file;  // it outlives the page
             *state = {};
+            state->file = file;
+        }
         for (const QString &line : qAsConst(state->ends))
             EndFlow(state.key(), *state, line);
         state->ends.clear();
@@ -94,16 +116,18 @@ QString CFlashRule::After(const SDeed &deed)
 
 void CFlashRule::LookAt(SPageState &state, const QDockWidget *page)
 {
+    const Cells cells = CellsOf(page, m_commands.Document(page->objectName()));
     if (!state.wasBusy)
-        FindEdits(state, page);
+        FindEdits(state, cells);
     state.wasBusy = false;
     state.selection = SelectionOf(page);
-    state.cells = CellsOf(page, m_commands.Document(page->objectName()));
+    state.cells = cells;
 }
 
-void CFlashRule::FindEdits(SPageState &state, const QDockWidget *page)
+void CFlashRule::FindEdits(SPageState &state, const Cells &cells)
 {
-    const auto cells = CellsOf(page, m_commands.Document(page->objectName()));
+    if (state.cells == cells)
+        return;
     for (auto cell = state.cells.begin(); cell != state.cells.end(); ++cell) {
         if (cells[cell.key()] == cell.value())
             continue;
@@ -113,6 +137,8 @@ void CFlashRule::FindEdits(SPageState &state, const QDockWidget *page)
             state.memory.possible[place].insert(value);
             if (state.memory.isRead)
                 state.memory.certain[place] = value;
+            if (cell.key().member.contains("freq", Qt::CaseInsensitive))
+                state.memory.resized.insert(RecordOf(place));
         }
     }
 }
@@ -139,8 +165,10 @@ QString CFlashRule::CheckChanges(const CFlashFile &now) const
     for (int r = 0; r < now.records.size(); ++r) {
         const int blocks = now.records[r].blocks.size();
         const bool isApt = now.records[r].place.kind == eFlashApt;
-        const bool mayGrow =
-            m_pages[kCalPages[isApt]].memory.mayGrow && IsGrownByImport(m_flash.records[r], blocks);
+        const SMemory &memory = m_pages[kCalPages[isApt]].memory;
+        const SFlashPlace &place = now.records[r].place;
+        const bool mayGrow = memory.resized.count({place.kind, place.route, place.bandwidth}) > 0 ||
+                             (memory.mayGrow && IsGrownByImport(m_flash.records[r], blocks));
         if (blocks != m_flash.records[r].blocks.size() && !mayGrow)
             return QString("route %1 has %2 blocks instead of %3")
                 .arg(now.records[r].place.route)
@@ -163,10 +191,14 @@ QString CFlashRule::CheckChanges(const CFlashFile &now) const
 QString CFlashRule::CheckWritten() const
 {
     for (const SPageState &state : m_pages) {
-        if (state.ends.isEmpty() || state.ends.last() != "Write data to target successfully.")
+        if (state.ends.isEmpty())
+            continue;
+        // A field that is stuck goes unseen but for who reads it back.
+        const bool isWritten = state.ends.last() == kWritten && !IsAnyFieldStuck();
+        if (!isWritten && state.ends.last() != kVerified)
             continue;
         for (const auto &[place, value] : state.memory.certain) {
-            if (ByteAt(m_flash, place) != value)
+            if (!state.memory.resized.count(RecordOf(place)) && ByteAt(m_flash, place) != value)
                 return QString("%1 is %2 after Write, not %3 as edited")
                     .arg(PlaceText(place))
                     .arg(ByteAt(m_flash, place))
@@ -191,9 +223,14 @@ void CFlashRule::EndFlow(const QString &className, SPageState &state, const QStr
         memory.certain.clear();
         memory.isRead = false;
     }
-    if (line.startsWith("Write") && isGood && memory.isRead) {
+    if (line == kWritten && IsAnyFieldStuck()) {
+        memory.certain.clear();
+        memory.isRead = false;
+    } else if ((line == kWritten || line == kVerified) && memory.isRead) {
         memory.possible.clear();
         memory.certain.clear();
+        // Behind another number of blocks the rest is known by the next Read.
+        memory.isRead = memory.resized.empty();
     }
 }
 

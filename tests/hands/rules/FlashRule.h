@@ -31,6 +31,7 @@ public:
     int Writes() const { return m_writeCount; }
 
 private:
+    using Cells = QMap<SCellKey, QString>;
     // What the core's memory of a page's item holds beside what the flash has.
     struct SMemory
     {
@@ -38,6 +39,8 @@ private:
         FlashBytes certain;    // in records that the last Read or Import has filled
         bool isRead = false;   // all records are, and nothing has failed since
         bool mayGrow = false;  // a file has come to records that no Read had filled
+        // Records of which frequencies were edited: a block without any is left out of them.
+        std::set<std::tuple<uint32_t, uint32_t, uint32_t>> resized;
     };
     struct SExport
     {
@@ -48,7 +51,7 @@ private:
     struct SPageState
     {
         Selection selection;
-        QMap<SCellKey, QString> cells;
+        Cells cells;
         SMemory memory;
         SExport file;
         bool wasBusy = false;  // since then
@@ -56,7 +59,7 @@ private:
     };
 
     void LookAt(SPageState &state, const QDockWidget *page);
-    void FindEdits(SPageState &state, const QDockWidget *page);
+    void FindEdits(SPageState &state, const Cells &cells);
     QString CheckFlash();
     QString CheckChanges(const CFlashFile &now) const;
     QString CheckWritten() const;
