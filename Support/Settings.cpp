@@ -9,9 +9,17 @@
 
 namespace {
 
+// QSettings parses a section when something of it is asked for, and tells no sooner that it can't.
+bool IsBroken(const QString &file)
+{
+    const QSettings settings(file, QSettings::IniFormat);
+    settings.allKeys();
+    return settings.status() == QSettings::FormatError;
+}
+
 const QString &PutAsideIfBroken(const QString &file)
 {
-    if (QSettings(file, QSettings::IniFormat).status() == QSettings::FormatError) {
+    if (IsBroken(file)) {
         const QString broken = file + QLatin1String(".broken");
         QFile::remove(broken);
         QFile::rename(file, broken);

@@ -88,6 +88,19 @@ private slots:
         QCOMPARE(Bytes(File() + ".broken"), broken);
     }
 
+    // Qt parses a section late: this one is a section of its own to begin with.
+    void aLineWithoutAKeyMakesItNoIniFile()
+    {
+        const QByteArray broken("{\"version\": 1, \"pa");
+        Put(broken);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("settings are no INI file"));
+        CSettings settings(File());
+        settings.SetValue(kKey, 4);
+        QVERIFY(settings.Save());
+        QCOMPARE(CSettings(File()).Value(kKey).toInt(), 4);
+        QCOMPARE(Bytes(File() + ".broken"), broken);
+    }
+
 private:
     QString File() const { return m_folder->filePath("quorlin-rf/settings.ini"); }
 
