@@ -18,11 +18,18 @@ std::map<std::pair<QByteArray, EPageId>, QJsonObject> s_bases;
 
 }  // namespace
 
+EPageId TargetPage(const QString &name)
+{
+    const auto pages = TargetPages();
+    const auto page = std::find(pages.begin(), pages.end(), PageOf(name));
+    return page == pages.end() ? pages.front() : *page;
+}
+
 void TakeBaseDocuments()
 {
     for (const char *dut : FuzzAnswers::kDuts) {
         FuzzAnswers::Plug(dut);
-        for (EPageId id : kFuzzPages)
+        for (EPageId id : TargetPages())
             s_bases[{dut, id}] = PackagedPage(id, PatchedPage(id));
     }
 }
@@ -30,7 +37,7 @@ void TakeBaseDocuments()
 const QJsonObject &BaseDocument(const QByteArray &dut, EPageId id)
 {
     const auto found = s_bases.find({dut, id});
-    return found == s_bases.end() ? s_bases[{FuzzAnswers::kDuts[0], id}] : found->second;
+    return found == s_bases.end() ? s_bases.at({FuzzAnswers::kDuts[0], id}) : found->second;
 }
 
 CCommandInput::CCommandInput(const QByteArray &text)
@@ -40,7 +47,7 @@ CCommandInput::CCommandInput(const QByteArray &text)
     FuzzAnswers::Plug(dut);
     for (const QJsonValue &function : input["fail"].toArray())
         FuzzAnswers::Fail(function.toString().toUtf8(), 4);
-    m_page = PageOf(input["page"].toString());
+    m_page = TargetPage(input["page"].toString());
     m_isForOthers = input["others"].toBool();
     m_isGood = !input["bad"].toBool();
     m_base = &BaseDocument(dut, m_page);

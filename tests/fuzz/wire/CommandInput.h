@@ -1,4 +1,4 @@
-// An input of CommandFuzz: a page's document with changes, and bytes for the records.
+// An input of CommandFuzz and CalDocumentFuzz: a page's document with changes, and bytes for the records.
 //
 //     {"dut": "largest", "page": "APT Profile",
 //      "document": {"calDataIf": {"config": {"group1": {"memberValue": {"txRoute": "7"}}}}},
@@ -11,15 +11,22 @@
 // its own. All keys may be left out; what is no JSON is an empty input. Values only.
 #pragma once
 
+#include <algorithm>
 #include <cstring>
 #include <initializer_list>
+#include <span>
 
 #include <QByteArray>
 #include <QJsonObject>
 
 #include "Controller/core/PageTable.h"
 
-// Takes the documents of all pages and DUTs; once, before the first input.
+// The pages of the target, at least one; an input with another page is one of the first. Each target
+// defines it.
+std::span<const EPageId> TargetPages();
+EPageId TargetPage(const QString &name);
+
+// Takes the documents of the target's pages for all DUTs; once, before the first input.
 void TakeBaseDocuments();
 const QJsonObject &BaseDocument(const QByteArray &dut, EPageId id);
 
@@ -40,8 +47,11 @@ public:
     void Fill(Record &record) const
     {
         auto *bytes = reinterpret_cast<char *>(&record);
-        for (std::size_t i = 0; i < sizeof record; ++i)
-            bytes[i] = m_bytes.isEmpty() ? 0 : m_bytes[static_cast<int>(i % m_bytes.size())];
+        const auto length = static_cast<std::size_t>(m_bytes.size());
+        if (length == 0)
+            std::memset(bytes, 0, sizeof record);
+        for (std::size_t i = 0; length > 0 && i < sizeof record; i += length)
+            std::memcpy(bytes + i, m_bytes.constData(), std::min(length, sizeof record - i));
     }
 
 private:

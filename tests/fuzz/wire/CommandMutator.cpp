@@ -250,7 +250,8 @@ QByteArray MutateFuzzInput(const QByteArray &input, std::mt19937 &random)
             FuzzBelow(random, 3) == 0 ? QStringLiteral("others") : QStringLiteral("bad");
         object[flag] = !object[flag].toBool();
     } else if (choice == 5) {
-        object["page"] = PageName(One(random, kFuzzPages));
+        object["page"] = PageName(TargetPages()[static_cast<std::size_t>(
+            FuzzBelow(random, static_cast<int>(TargetPages().size())))]);
     } else if (choice == 6) {
         object["dut"] = QString::fromLatin1(One(random, FuzzAnswers::kDuts));
         object["fail"] = FuzzBelow(random, 3) == 0
@@ -258,7 +259,7 @@ QByteArray MutateFuzzInput(const QByteArray &input, std::mt19937 &random)
                              : QJsonArray();
     } else {
         const QJsonObject &document =
-            BaseDocument(object["dut"].toString().toUtf8(), PageOf(object["page"].toString()));
+            BaseDocument(object["dut"].toString().toUtf8(), TargetPage(object["page"].toString()));
         object["document"] = Put(QJsonValue(object["document"]), Place(document, random),
                                  NewValue(document, random));
     }

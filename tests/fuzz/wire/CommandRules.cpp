@@ -1,11 +1,8 @@
 #include "tests/fuzz/wire/CommandRules.h"
 
 #include <algorithm>
-#include <memory>
 #include <span>
 
-#include "Controller/calibration/CalCmdBuilder.h"
-#include "Controller/calibration/LossConfig.h"
 #include "Controller/commands/NrCoreCmdBuilder.h"
 #include "Trace/dictionary/CommandLayouts.h"
 #include "Trace/dictionary/Decode.h"
@@ -131,44 +128,6 @@ void CheckSingleTone(const CNrCoreCmdBuilder &builder, const QJsonObject &docume
             "a tone offset is one of thirteen");
 }
 
-// Fills a record twice, and gives the outcome to keeps with what it was before.
-template <typename Record, typename Fill, typename Keeps>
-void CheckFill(const CCommandInput &input, const Fill &fill, const Keeps &keeps)
-{
-    const auto before = std::make_unique<Record>();
-    input.Fill(*before);
-    before->blockCount %= kVondCalMaxBlocks + 1;
-    const auto after = std::make_unique<Record>(fill(*before));
-    Require(after->band == before->band && after->route == before->route,
-            "a page changes no band and no route");
-    Require(after->blockCount <= kVondCalMaxBlocks, "a record has at most 4 blocks");
-    keeps(*before, *after);
-    Require(SameBytes(*after, Record(fill(*after))), "a document's second time changes nothing");
-}
-
-void KeepsApt(const SAptRouteBwRecord &before, const SAptRouteBwRecord &after)
-{
-    Require(after.paModeCount == before.paModeCount && after.reserved7 == before.reserved7 &&
-                after.reserved187 == before.reserved187 &&
-                SameBytes(after.reserved194, before.reserved194) &&
-                SameBytes(after.prfIndex, before.prfIndex),
-            "what the APT page does not show stays");
-}
-
-// isShown: subbands that the page may change.
-template <typename Record, typename IsShown>
-void KeepsLoss(const Record &before, const Record &after, int16_t SMMLossPair::*other,
-               const IsShown &isShown)
-{
-    for (int subband = 0; subband < kVondCalMaxSubbands; ++subband) {
-        Require(isShown(subband) || SameBytes(before.loss[subband], after.loss[subband]),
-                "the losses of other subbands stay");
-        for (std::size_t pair = 0; pair < std::size(before.loss[subband]); ++pair)
-            Require(before.loss[subband][pair].*other == after.loss[subband][pair].*other,
-                    "the losses of the other power mode stay");
-    }
-}
-
 }  // namespace
 
 void CheckCommands(const CCommandInput &input)
@@ -182,29 +141,4 @@ void CheckCommands(const CCommandInput &input)
         CheckReceivers(builder, input.Document());
     if (input.IsFor({EPageId::SingleToneTx}))
         CheckSingleTone(builder, input.Document());
-}
-
-void CheckCalCommands(const CCommandInput &input)
-{
-    const CCalCmdBuilder builder;
-    const QJsonObject &document = input.Document();
-    if (input.IsFor({EPageId::AptProfile}))
-        CheckFill<SAptRouteBwRecord>(
-            input, [&](const auto &record) { return builder.GetAptCmdV7(document, record); },
-            KeepsApt);
-    if (!input.IsFor({EPageId::RxPathLoss}))
-        return;
-    const SLossConfig config = ReadLossConfig(document);
-    const bool isLow = config.powerMode.contains(QLatin1String("LPM"));
-    const auto other = isLow ? &SMMLossPair::hpm : &SMMLossPair::lpm;
-    CheckFill<SMMType1PathlossByRouteV7>(
-        input, [&](const auto &record) { return builder.GetType1PathLossCmdV7(document, record); },
-        [&](const auto &before, const auto &after) {
-            KeepsLoss(before, after, other, [](int) { return true; });
-        });
-    CheckFill<SMMType2PathlossByRouteV7>(
-        input, [&](const auto &record) { return builder.GetType2PathLossCmdV7(document, record); },
-        [&](const auto &before, const auto &after) {
-            KeepsLoss(before, after, other, [&](int i) { return i == config.freqIdx; });
-        });
 }

@@ -1,10 +1,8 @@
-// What holds of every command record and every calibration record that a document has gone into,
-// whatever the document says. A broken rule ends the process.
+// What holds of every command record that a document has gone into, whatever the document says. A broken
+// rule ends the process.
 #pragma once
 
 #include "tests/fuzz/wire/CommandInput.h"
 
 // Each builder of a command, twice: the same document makes the same bytes.
 void CheckCommands(const CCommandInput &input);
-// What a page does not show stays, and the same document again changes nothing more.
-void CheckCalCommands(const CCommandInput &input);

@@ -140,6 +140,18 @@ void FuzzAnswers::TakeAll()
     Plug(kDuts[0]);
 }
 
+void FuzzAnswers::CutRoutes()
+{
+    for (auto &dut : s_answers) {
+        auto &routes = reinterpret_cast<SMMRfRouteConfigV7 *>(
+                           dut.second["VOND_MMRf_GetRouteConfigV7_r"].data())
+                           ->routes;
+        routes.txRouteCount = 4;
+        routes.rxType1RouteCount = 3;
+        routes.rxType2RouteCount = 1;
+    }
+}
+
 void FuzzAnswers::Plug(const QByteArray &dut)
 {
     const auto found = s_answers.find(dut.toStdString());

@@ -33,6 +33,9 @@ constexpr const char *kDuts[] = {"handset", "largest"};
 // Asks the simulated DUTs.
 void TakeAll();
 
+// From now on the DUTs say that they have few routes: four TX, three of type 1, one of type 2.
+void CutRoutes();
+
 // The DUT's own answers; an unknown name stands for the first DUT. The caches of the capability
 // know nothing afterwards.
 void Plug(const QByteArray &dut);

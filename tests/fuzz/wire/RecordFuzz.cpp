@@ -1,25 +1,24 @@
-// Fuzz target of the target's records: a DUT answers any bytes, and the tool reads them.
+// Fuzz target of the target's records: a DUT answers any bytes, and the readers take them.
 //
-// Each input is a DUT with changes to its answers, and the page on whose behalf it is read: launch,
-// document, test, reads and calibration, all through the core. What must hold stands in PageRun.h
-// for the answers and in CalRequestRules.h for what goes back to the DUT.
-#include <QCoreApplication>
+// Each input is a DUT with changes to its answers (RecordInput.h), and the page on whose behalf it is
+// read: all questions of the capability reader, then the page's operations, on this thread and without
+// a document. What must hold stands in RecordRules.h for the answers and in CalRequestRules.h for what
+// goes back to the DUT. FlowFuzz takes the same inputs through the whole tool.
+//
+// The DUTs have few routes, unless the input says otherwise: an input takes as long as there are routes.
 #include <QLoggingCategory>
 
 #include "tests/fuzz/common/FuzzTarget.h"
 #include "tests/fuzz/wire/FuzzAnswers.h"
-#include "tests/fuzz/wire/PageRun.h"
 #include "tests/fuzz/wire/RecordInput.h"
+#include "tests/fuzz/wire/RecordRules.h"
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
     qunsetenv("QT_LOGGING_RULES");  // they would outrule the next line
     QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
-    static int count = 1;
-    static char name[] = "RecordFuzz";
-    static char *names[] = {name, nullptr};
-    new QCoreApplication(count, names);  // lives as long as the process
     FuzzAnswers::TakeAll();
+    FuzzAnswers::CutRoutes();
     return 0;
 }
 
@@ -27,17 +26,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const SRecordInput input =
         ReadRecordInput(QByteArray(reinterpret_cast<const char *>(data), static_cast<int>(size)));
-    FuzzAnswers::Plug(input.dut);
-    for (const SRecordChange &change : input.changes) {
-        if (change.isResult)
-            FuzzAnswers::Fail(change.function, change.result);
-        else
-            FuzzAnswers::Overlay(change.function, change.offset, change.bytes, change.times);
-    }
-    CPageRun run(input.page);
-    run.Launch();
-    run.Use();
-    if (input.isFiled)
-        run.UseFile();
+    PlugInput(input);
+    CheckCapability();
+    CheckOperations(input.page);
     return 0;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "tests/fuzz/wire/FuzzAnswers.h"
 #include "tests/fuzz/wire/FuzzPages.h"
 
 namespace {
@@ -63,4 +64,15 @@ QByteArray RecordText(const SRecordInput &input)
         text += '\n';
     }
     return text;
+}
+
+void PlugInput(const SRecordInput &input)
+{
+    FuzzAnswers::Plug(input.dut);
+    for (const SRecordChange &change : input.changes) {
+        if (change.isResult)
+            FuzzAnswers::Fail(change.function, change.result);
+        else
+            FuzzAnswers::Overlay(change.function, change.offset, change.bytes, change.times);
+    }
 }

@@ -1,4 +1,4 @@
-// An input of RecordFuzz: a DUT, a page, and what the DUT answers other than it should.
+// An input of RecordFuzz and FlowFuzz: a DUT, a page, and what the DUT answers other than it should.
 //
 //     largest RX PathLoss
 //     VOND_MMRf_GetRouteConfigV7_r 448 ffff       bytes at an offset, in hexadecimal digits
@@ -36,3 +36,5 @@ struct SRecordInput
 
 SRecordInput ReadRecordInput(const QByteArray &text);
 QByteArray RecordText(const SRecordInput &input);
+// The DUT of the input answers from now on.
+void PlugInput(const SRecordInput &input);

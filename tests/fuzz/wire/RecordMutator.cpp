@@ -1,4 +1,5 @@
-// New inputs of RecordFuzz: another answer, at places and with numbers that a reader trips over.
+// New inputs of RecordFuzz and FlowFuzz: other values in the fields of the answers, by the dictionary of
+// records, and now and then bytes beside them.
 #include <algorithm>
 #include <iterator>
 
@@ -6,6 +7,7 @@
 #include "Trace/dictionary/Functions.h"
 #include "tests/fuzz/common/FuzzTarget.h"
 #include "tests/fuzz/common/JsonMutator.h"
+#include "tests/fuzz/common/LayoutMutator.h"
 #include "tests/fuzz/wire/FuzzAnswers.h"
 #include "tests/fuzz/wire/FuzzPages.h"
 #include "tests/fuzz/wire/RecordInput.h"
@@ -15,59 +17,6 @@ namespace {
 constexpr int kMaxChanges = 12;
 constexpr int kMaxTimes = 400;
 constexpr int kMaxBytes = 40;
-
-// Where an answer says how much of it counts, and what.
-struct SPlace
-{
-    const char *function;
-    const char *field;
-};
-constexpr SPlace kPlaces[] = {
-    {"VOND_MMRf_GetRfCapability_r", "worldMode"},
-    {"VOND_NRf_GetRfCapability_r", "generation"},
-    {"VOND_MMRf_GetRouteConfigV7_r", "bandCount"},
-    {"VOND_MMRf_GetRouteConfigV7_r", "band"},
-    {"VOND_MMRf_GetRouteConfigV7_r", "freqRange.tx"},
-    {"VOND_MMRf_GetRouteConfigV7_r", "freqRange.rx"},
-    {"VOND_MMRf_GetRouteConfigV7_r", "routes.txRouteCount"},
-    {"VOND_MMRf_GetRouteConfigV7_r", "routes.rxType1RouteCount"},
-    {"VOND_MMRf_GetRouteConfigV7_r", "routes.rxType2RouteCount"},
-    {"VOND_MMRf_GetRouteConfigV7_r", "routes.txRoute"},
-    {"VOND_MMRf_GetRouteConfigV7_r", "routes.rxType1Route"},
-    {"VOND_MMRf_GetRouteConfigV7_r", "routes.rxType2Route"},
-    {"VOND_MMRf_GetRouteConfigV7_r", "rxGainInfo[0]"},
-    {"VOND_MMRf_GetRouteConfigV7_r", "rxGainInfo[1]"},
-    {"VOND_NRf_GetBandRxInfo_r", "count"},
-    {"VOND_NRf_GetBandRxInfo_r", "ulMimo"},
-    {"VOND_NRf_GetRxRouteValues_r", "count"},
-    {"VOND_NRf_GetRxRouteValues_r", "entry"},
-    {"VOND_MMRf_GetRouteDetailV7_r", "rxType1"},
-    {"VOND_MMRf_GetRouteDetailV7_r", "rxType2"},
-    {"VOND_MMRf_GetRouteDetailV7_r", "txPair"},
-    {"VOND_MMRf_GetCalBlkInfoV7_r", "type1Count"},
-    {"VOND_MMRf_GetCalBlkInfoV7_r", "type1"},
-    {"VOND_MMRf_GetCalBlkInfoV7_r", "type2"},
-    {"VOND_MMRf_GetCalBlkInfoV7_r", "tx"},
-    {"VOND_MMRf_GetCalDataV7_r", "verdict"},
-    {"VOND_MMRf_GetCalDataV7_r", "type1Count"},
-    {"VOND_MMRf_GetCalDataV7_r", "type1"},
-    {"VOND_MMRf_GetCalDataV7_r", "type2BlockCount"},
-    {"VOND_MMRf_GetCalDataV7_r", "type2Route"},
-    {"VOND_MMRf_GetCalDataV7_r", "tx"},
-    {"VOND_MMRf_GetCalDataV7_r", "type1Block"},
-    {"VOND_MMRf_GetCalDataV7_r", "type2Block"},
-    {"VOND_MMRf_GetCalDataV7_r", "txBlock"},
-    {"VOND_MMRf_SetCalDataV7_r", "status"},
-};
-
-uint32_t OffsetOf(const SPlace &place)
-{
-    const auto found = FindField(*FindFunction(place.function)->answer, place.field);
-    Require(found.has_value(), "a place is a field of the answer");
-    return found->offset;
-}
-
-constexpr int kNear = 48;  // bytes around a place, a few rows
 
 constexpr uint32_t kNumbers[] = {0,   1,   2,   3,    4,     5,     16,    55,         64,
                                  78,  100, 101, 127,  128,   135,   255,   256,        1000,
@@ -95,6 +44,20 @@ QByteArray NewBytes(std::mt19937 &random)
     return bytes;
 }
 
+// Of those that pages of the kind read: capabilities mostly, which all do.
+const SFunction &AnyAnswer(std::mt19937 &random)
+{
+    constexpr EFunction kRead[] = {
+        EFunction::MultiModeCapability, EFunction::NrCapability,  EFunction::RouteConfig,
+        EFunction::RouteConfig,         EFunction::BandRxInfo,    EFunction::RxRouteValues,
+        EFunction::RouteDetail,         EFunction::GetCalBlkInfo, EFunction::GetCalData,
+        EFunction::GetCalData,          EFunction::SetCalData};
+    if (FuzzBelow(random, 4) != 0)
+        return FunctionOf(One(random, kRead));
+    const std::vector<SFuzzAnswer> &table = FuzzAnswerTable();
+    return *FindFunction(table[FuzzBelow(random, static_cast<int>(table.size()))].function);
+}
+
 SRecordChange NewChange(std::mt19937 &random)
 {
     SRecordChange change;
@@ -105,18 +68,21 @@ SRecordChange NewChange(std::mt19937 &random)
         change.result = One(random, kResults);
         return change;
     }
-    if (FuzzBelow(random, 3) != 0) {
-        const SPlace &place = One(random, kPlaces);
-        change.function = place.function;
-        change.offset = OffsetOf(place);
-        if (FuzzBelow(random, 2) == 0)
-            change.offset += static_cast<uint32_t>(FuzzBelow(random, kNear));
-    } else {
-        const SFuzzAnswer &answer = table[FuzzBelow(random, static_cast<int>(table.size()))];
-        change.function = answer.function;
-        change.offset = static_cast<uint32_t>(FuzzBelow(random, static_cast<int>(answer.size)));
+    const SFunction &function = AnyAnswer(random);
+    change.function = QByteArray(function.name.data(), static_cast<int>(function.name.size()));
+    if (function.answer == nullptr) {  // a status word alone
+        change.bytes = NewBytes(random);
+        return change;
     }
-    change.bytes = NewBytes(random);
+    if (FuzzBelow(random, 8) == 0) {
+        change.offset =
+            static_cast<uint32_t>(FuzzBelow(random, static_cast<int>(function.answer->size)));
+        change.bytes = NewBytes(random);
+    } else {
+        const SChosenField chosen = ChooseField(*function.answer, random);
+        change.offset = chosen.offset;
+        change.bytes = ValueFor(*function.answer, *chosen.field, random).left(kMaxBytes);
+    }
     if (FuzzBelow(random, 3) == 0)
         change.times = static_cast<uint32_t>(1 + FuzzBelow(random, kMaxTimes));
     return change;
@@ -127,7 +93,8 @@ SRecordChange FewRoutes(std::mt19937 &random)
 {
     SRecordChange change;
     change.function = "VOND_MMRf_GetRouteConfigV7_r";
-    change.offset = OffsetOf({"VOND_MMRf_GetRouteConfigV7_r", "routes.txRouteCount"});
+    change.offset =
+        FindField(*FunctionOf(EFunction::RouteConfig).answer, "routes.txRouteCount")->offset;
     for (int most : {4, 3, 1}) {
         change.bytes.append(static_cast<char>(1 + FuzzBelow(random, most)));
         change.bytes.append('\0');

@@ -1,4 +1,4 @@
-// What holds of every document that a record has gone into, whatever both say. A broken rule ends
+// What holds of every document that a test's result has gone into, whatever both say. A broken rule ends
 // the process.
 #pragma once
 
@@ -6,6 +6,3 @@
 
 // Only the result section is written, and rows come and go as a table's rows do.
 void CheckResponses(const CCommandInput &input);
-// Only the data section is written, the same record shown again changes nothing, and what the page
-// gives back untouched leaves the record as it was.
-void CheckCalResponses(const CCommandInput &input);
