@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
-# Builds the tool and runs all tests: the release build and the demonstration, then the same tests
+# Builds the tool and runs the tests: the release build and the demonstration, then the same tests
 # with the address and undefined-behaviour sanitizers. On a fresh Debian 12 it first installs what
 # the build needs. Needs no display. Fails at the first thing that fails.
 #
-#   ./test.sh            all of it
+# Long tests run in one of the two builds, as cmake/LongTests.cmake has them.
+#
+#   ./test.sh            what a commit has to pass
+#   ./test.sh --all      the same, and long tests in both builds
 #   ./test.sh --quick    the release build only
 #   ./test.sh --tsan     the same tests with the thread sanitizer, and a seeded race that it must find;
 #                        by itself, since it takes about as long as all of the others
@@ -12,12 +15,14 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 . scripts/setup.sh
 
 presets=(release asan)
+without=(--label-exclude '^long$')
 case "$#:${1:-}" in
     0:) ;;
+    1:--all) without=() ;;
     1:--quick) presets=(release) ;;
-    1:--tsan) presets=(tsan) ;;
+    1:--tsan) presets=(tsan) without=() ;;
     *)
-        echo "usage: ./test.sh [--quick|--tsan]" >&2
+        echo "usage: ./test.sh [--all|--quick|--tsan]" >&2
         exit 2
         ;;
 esac
@@ -27,7 +32,7 @@ for preset in "${presets[@]}"; do
     quorlin_build "$preset"
     quorlin_say "Tests of $preset"
     # Many tests wait for timers of the tool: two more than cores keep the cores at work.
-    ctest --preset "$preset" --parallel "$(($(quorlin_jobs) + 2))"
+    ctest --preset "$preset" "${without[@]}" --parallel "$(($(quorlin_jobs) + 2))"
     if [ "$preset" = release ]; then
         quorlin_demo --profile handset
     fi

@@ -104,6 +104,24 @@ function(quorlin_unite target sources)
   endforeach()
 endfunction()
 
+# Sources of test programs are united eight at a time, so that a change of one compiles few others; and those of a
+# folder again have different names in unnamed namespaces, but for the ones in apart, which stay by themselves.
+function(quorlin_unite_tests target sources apart)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ${QUORLIN_UNITY} UNITY_BUILD_MODE GROUP)
+  # Tests of a fixture in an unnamed namespace: the compiler takes such a source for a header.
+  target_compile_options(${target} PRIVATE $<$<BOOL:${QUORLIN_UNITY}>:-Wno-subobject-linkage>)
+  foreach(source IN LISTS sources)
+    if(source IN_LIST apart OR NOT source MATCHES "\\.cpp$")
+      continue()
+    endif()
+    get_filename_component(folder ${source} DIRECTORY)
+    string(MAKE_C_IDENTIFIER "in/${folder}" folder)
+    math(EXPR count_${folder} "0${count_${folder}} + 1")
+    math(EXPR batch "${count_${folder}} / 8")
+    set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${target}_${folder}_${batch})
+  endforeach()
+endfunction()
+
 # A module: one folder, one static library. Its headers are found by their folder's name
 # ("Model/JsonPath.h"); scripts/static-checks.sh holds its includes to the arrows between the folders.
 #   DEPENDS          modules and libraries that its headers show
@@ -179,9 +197,10 @@ endfunction()
 #   CLASSES  test classes of tests/common/TestClass.h, one run of the program for each; the source has
 #            the name of the class, and may stand in a folder. "LifetimeTest.resetWhileBusy" runs one
 #            function of LifetimeTest.
+#   APART    sources with names that others of their folder have, too (quorlin_unite_tests)
 #   CASES    arguments; with them, one run of the program for each, named after both
 function(quorlin_test)
-  cmake_parse_arguments(T "QT;PLAIN" "NAME;LABELS" "SOURCES;DEPENDS;CASES;CLASSES" ${ARGN})
+  cmake_parse_arguments(T "QT;PLAIN" "NAME;LABELS" "SOURCES;APART;DEPENDS;CASES;CLASSES" ${ARGN})
   foreach(class IN LISTS T_CLASSES)
     string(REGEX REPLACE "\\..*" "" source ${class})
     list(APPEND T_SOURCES ${source}.cpp)
@@ -202,6 +221,7 @@ function(quorlin_test)
     target_link_libraries(${T_NAME} PRIVATE GTest::gtest_main)
     quorlin_precompile(${T_NAME} gtest)
   endif()
+  quorlin_unite_tests(${T_NAME} "${T_SOURCES}" "${T_APART}")
 
   foreach(case IN LISTS T_CASES)
     quorlin_test_run(${T_NAME}.${case} ${T_NAME} ${T_LABELS} ${case})
@@ -224,6 +244,7 @@ function(quorlin_test_run name program label)
   if(NOT DEFINED timeout_${label})
     message(FATAL_ERROR "${name}: the label is one of unit, gui, device")
   endif()
+  quorlin_labels(labels ${name} ${label})
   set(timeout ${timeout_${label}})
   if(QUORLIN_SANITIZE STREQUAL "thread")
     math(EXPR timeout "${timeout} * 5")
@@ -233,7 +254,7 @@ function(quorlin_test_run name program label)
   file(MAKE_DIRECTORY ${home}/config ${home}/data ${home}/runtime)
   add_test(NAME ${name} COMMAND ${program} ${ARGN}
     WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
-  set_tests_properties(${name} PROPERTIES LABELS ${label} TIMEOUT ${timeout}
+  set_tests_properties(${name} PROPERTIES LABELS "${labels}" TIMEOUT ${timeout}
     ENVIRONMENT "${QUORLIN_TEST_ENVIRONMENT};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_RUNTIME_DIR=${home}/runtime")
 endfunction()
 

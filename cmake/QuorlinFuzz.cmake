@@ -53,6 +53,7 @@ function(quorlin_fuzz_target)
   endif()
   quorlin_test(NAME ${F_NAME}Replay ${qt} LABELS ${F_LABELS}
     SOURCES ${F_SOURCES} ${F_MUTATOR}
+    APART ${F_SOURCES} ${F_MUTATOR}
     DEPENDS FuzzReplay ${F_DEPENDS})
   set(environment QUORLIN_FUZZ_INPUTS=${folders} QUORLIN_FUZZ_WORDS=${F_DICTIONARY}
                   QUORLIN_FUZZ_MAX_LENGTH=${F_MAX_LENGTH})

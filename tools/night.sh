@@ -17,7 +17,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # Part, most minutes, command; MINUTES(n) is n minutes by the clock, or their share.
 parts() {
     cat <<'END'
-release   40  ./test.sh --quick
+tests     90  ./test.sh --all
 faults    15  build/release/bin/FaultCampaign --noises=3
 hands     45  build/release/bin/HandsCampaign --seed SEED --minutes MINUTES(40)
 seeds     65  many_seeds MINUTES(60)
@@ -25,7 +25,6 @@ crash     10  tools/crash.sh
 power     40  both_items
 soak      75  tools/soak.sh MINUTES(60) SEED --plot
 tsan      90  ./test.sh --tsan
-asan      60  build_asan
 lifetime  45  build/asan/bin/LifetimeCampaign --rounds 100000 --seed SEED --minutes MINUTES(40)
 fuzz      60  tools/fuzz.sh MINUTES(4)
 mutants   90  tools/mutate.sh --seed SEED --minutes MINUTES(60)
@@ -52,12 +51,6 @@ many_seeds() {
     return "$failed"
 }
 
-# shellcheck disable=SC2317  # called by name
-build_asan() {
-    quorlin_build asan
-    ctest --preset asan --parallel "$(($(quorlin_jobs) + 2))"
-}
-
 # The command of a part, with the seed and the minutes in place.
 command_of() {
     local text=$1 minutes
@@ -75,7 +68,7 @@ run_part() {
     local name=$1 most=$2 text=$3 result=passed began=$SECONDS
     quorlin_say "$name: $text"
     export seed
-    export -f both_items many_seeds build_asan quorlin_build quorlin_jobs quorlin_say
+    export -f both_items many_seeds quorlin_build quorlin_jobs quorlin_say
     timeout --kill-after=60 "${most}m" bash -euo pipefail -c "$text" >"$night/$name.log" 2>&1 || result=FAILED
     printf '%s|%s|%s|%s\n' "$commit" "$result" "$(((SECONDS - began + 59) / 60))" "$text" >"$night/$name.result"
     echo "$result"

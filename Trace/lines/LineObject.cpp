@@ -34,11 +34,11 @@ constexpr std::array<uint8_t, 256> DigitTable()
     return table;
 }
 // By sign, for a trace of an hour has a hundred million of them.
-constexpr std::array<uint8_t, 256> kDigits = DigitTable();
+constexpr std::array<uint8_t, 256> kDigitOfSign = DigitTable();
 
 uint8_t DigitOf(char sign)
 {
-    return kDigits[static_cast<uint8_t>(sign)];
+    return kDigitOfSign[static_cast<uint8_t>(sign)];
 }
 
 }  // namespace

@@ -1,0 +1,103 @@
+#!/usr/bin/env python3
+"""Counts lines and branches by folder from what `llvm-cov export` wrote.
+
+    tools/coverage.py build/coverage/all.json --uncovered build/coverage/uncovered.txt
+
+A branch is one outcome of a condition. A condition whose outcome the compiler knows is none; in code of a
+header or a template, what ran in one of its copies has run.
+"""
+
+import argparse
+import collections
+import json
+import pathlib
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+
+
+def line_counts(segments):
+    """Counts of the lines of a file by number, from its segments: of each line the highest that begins on
+    it, or else what the line before ended with."""
+    counts = {}
+    current = None  # count at the end of the lines so far; None: no code
+    at = 0
+    by_line = collections.defaultdict(list)
+    for line, _column, count, has_count, is_entry, is_gap in segments:
+        by_line[line].append((count if has_count else None, is_entry and not is_gap))
+    for line in sorted(by_line):
+        for between in range(at + 1, line):
+            if current is not None:
+                counts[between] = current
+        entries = [count for count, is_entry in by_line[line] if is_entry and count is not None]
+        if entries:
+            counts[line] = max(entries + ([current] if current is not None else []))
+        elif current is not None:
+            counts[line] = current
+        current = by_line[line][-1][0]
+        at = line
+    return counts
+
+
+def outcomes(branches):
+    """Counts of both outcomes of each condition by its place, added up over copies."""
+    found = {}
+    for line, column, end_line, end_column, true_count, false_count, *_rest in branches:
+        place = (line, column, end_line, end_column)
+        before = found.get(place, (0, 0))
+        found[place] = (before[0] + true_count, before[1] + false_count)
+    return found
+
+
+class Tally:
+    def __init__(self):
+        self.lines = self.lines_run = self.branches = self.branches_run = 0
+
+    def add(self, lines, conditions):
+        self.lines += len(lines)
+        self.lines_run += sum(1 for count in lines.values() if count)
+        self.branches += 2 * len(conditions)
+        self.branches_run += sum((true > 0) + (false > 0) for true, false in conditions.values())
+
+    def row(self, name):
+        def share(part, whole):
+            return f"{100 * part / whole:.1f} %" if whole else ""
+
+        return (f"| {name} | {self.lines} | {share(self.lines_run, self.lines)} "
+                f"| {self.branches} | {share(self.branches_run, self.branches)} |")
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("export", type=pathlib.Path)
+    parser.add_argument("--uncovered", type=pathlib.Path, required=True)
+    arguments = parser.parse_args()
+    folders = collections.defaultdict(Tally)
+    whole = Tally()
+    uncovered = []
+    for entry in json.loads(arguments.export.read_text())["data"][0]["files"]:
+        path = pathlib.Path(entry["filename"])
+        if not path.is_relative_to(ROOT):
+            continue
+        name = str(path.relative_to(ROOT))
+        text = path.read_text().splitlines()
+        lines = line_counts(entry["segments"])
+        conditions = outcomes(entry["branches"])
+        for tally in (folders[name.split("/")[0]], whole):
+            tally.add(lines, conditions)
+        for line, count in sorted(lines.items()):
+            if not count:
+                uncovered.append((name, line, "no run", text[line - 1]))
+        for (line, column, _end, end_column), (true, false) in sorted(conditions.items()):
+            if lines.get(line) and not (true and false):
+                never = "never true" if not true else "never false"
+                uncovered.append((name, line, never, text[line - 1][column - 1:end_column - 1 or None]))
+    print("| Folder | Lines | run | Branches | run |\n|---|---:|---:|---:|---:|")
+    for name, tally in sorted(folders.items()):
+        print(tally.row(name))
+    print(whole.row("all"))
+    arguments.uncovered.write_text(
+        "".join(f"{name}:{line}: {what}: {code.strip()}\n" for name, line, what, code in sorted(uncovered)))
+
+
+if __name__ == "__main__":
+    main()
