@@ -2,10 +2,13 @@
 
 #include <algorithm>
 
+#include <QBuffer>
 #include <QImageWriter>
 #include <QPainter>
 #include <QPixmap>
 #include <QWidget>
+
+#include "Support/WholeFile.h"
 
 QImage PictureOf(const QList<QWidget *> &windows)
 {
@@ -33,9 +36,11 @@ QImage PictureOf(const QList<QWidget *> &windows)
 
 bool SavePicture(const QImage &picture, const QString &file, QString &error)
 {
-    QImageWriter writer(file, "png");
-    if (writer.write(picture))
-        return true;
-    error = QString("Can't save a picture as %1: %2").arg(file, writer.errorString());
-    return false;
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, "png");
+    const QString why = writer.write(picture) ? SaveWhole(file, bytes) : writer.errorString();
+    if (!why.isEmpty())
+        error = QString("Can't save a picture as %1: %2").arg(file, why);
+    return why.isEmpty();
 }

@@ -1,7 +1,6 @@
 #include "Support/CalIniFile.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <charconv>
 #include <climits>
 #include <cstdlib>
@@ -11,9 +10,6 @@
 #include <numeric>
 #include <stdexcept>
 
-#include <unistd.h>
-
-#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -24,6 +20,7 @@
 #include <SimpleIni.h>
 
 #include "Support/IniSection.h"
+#include "Support/WholeFile.h"
 #include "Support/WideText.h"
 
 struct CCalIniFile::SIni : CSimpleIniTempl<wchar_t, SI_NoCase<wchar_t>, CWideTextConverter>
@@ -77,16 +74,6 @@ bool Write(QSaveFile &file, const std::string &text)
     return file.write(text.data(), size) == size;
 }
 
-// Finds errors that show only when the disk takes the bytes. commit() does not report them.
-bool Sync(const QSaveFile &file)
-{
-    int result = 0;
-    do {
-        result = fdatasync(file.handle());
-    } while (result != 0 && errno == EINTR);
-    return result == 0 || errno == EINVAL;  // a place that knows no sync
-}
-
 std::string InLowerCase(std::string text)
 {
     std::transform(text.begin(), text.end(), text.begin(), &LowerAscii);
@@ -119,14 +106,8 @@ bool CCalIniFile::Load()
 bool CCalIniFile::ParseFile()
 {
     const QString path = QString::fromStdWString(m_path);
-    const QFileInfo info(path);
-    if (!info.isFile() || info.size() > kMaxFileBytes)  // a folder or a pipe can be opened, too
-        return false;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
+    QByteArray bytes;
+    if (!ReadWhole(path, kMaxFileBytes, bytes).isEmpty())
         return false;
     if (m_ini->LoadData(bytes.constData(), static_cast<size_t>(bytes.size())) < 0)
         return false;
@@ -311,8 +292,6 @@ bool CCalIniFile::SaveToDisk() const
     if (!m_new.texts.empty() && block != SI_UTF8_SIGNATURE)
         block += kBetweenSections;
     QSaveFile file(QString::fromStdWString(m_path));
-    // Unbuffered: commit does not notice when the flush of a buffer falls short on a full disk, and
-    // would put the stump in place of the old file.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return false;
     for (const std::string &text : m_new.texts) {
@@ -325,7 +304,7 @@ bool CCalIniFile::SaveToDisk() const
     }
     if (!Write(file, block))
         return false;
-    return Sync(file) && file.commit();
+    return CommitWhole(file).isEmpty();
 }
 
 std::string CCalIniFile::WriteFailure(const std::string &section, const std::string &key) const

@@ -2,8 +2,11 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 
+#include "Support/IniMerge.h"
 #include "Support/Log.h"
 #include "Support/PrivateFolder.h"
 
@@ -19,7 +22,7 @@ bool IsBroken(const QString &file)
 
 const QString &PutAsideIfBroken(const QString &file)
 {
-    if (IsBroken(file)) {
+    if (QFileInfo(file).size() > kLongestSettings || IsBroken(file)) {
         const QString broken = file + QLatin1String(".broken");
         QFile::remove(broken);
         QFile::rename(file, broken);
@@ -37,8 +40,7 @@ CSettings &CSettings::Get()
     return *settings;
 }
 
-// QSettings would write over a file that it cannot read.
-CSettings::CSettings(const QString &file) : m_settings(PutAsideIfBroken(file), QSettings::IniFormat)
+CSettings::CSettings(const QString &file) : m_file(file), m_values(ReadIni(PutAsideIfBroken(file)))
 {
 }
 
@@ -50,17 +52,23 @@ QString CSettings::DefaultFile()
 
 void CSettings::SetValue(const QString &key, const QVariant &value)
 {
-    if (m_settings.value(key) == value)
+    if (m_values.value(key) == value)
         return;
-    MakePrivateFolder(QFileInfo(m_settings.fileName()).path());  // a failure shows when it is saved
-    m_settings.setValue(key, value);
+    if (m_changed.isEmpty())
+        QTimer::singleShot(0, &m_loop, [this] { Save(); });
+    m_values.insert(key, value);
+    m_changed.insert(key, value);
 }
 
 bool CSettings::Save()
 {
-    m_settings.sync();
-    const bool isSaved = m_settings.status() == QSettings::NoError;
-    if (!isSaved)
-        qCWarning(lcForm) << "settings are not saved:" << m_settings.fileName();
-    return isSaved;
+    if (m_changed.isEmpty())
+        return true;
+    MakePrivateFolder(QFileInfo(m_file).path());  // a failure shows in the next line
+    const QString why = MergeIntoIni(m_file, m_changed, m_values);
+    if (why.isEmpty())
+        m_changed.clear();
+    else
+        qCWarning(lcForm) << "settings are not saved:" << m_file << why;
+    return why.isEmpty();
 }

@@ -84,10 +84,10 @@ View/Rx View/results|View/pages|View/plots|View/engine|View/editors|View/access|
 View/Tx View/results|View/pages|View/plots|View/engine|View/editors|View/access|Model|Support|ViewController
 Plots View/plots
 PluginInterface View|Support
-Host PluginInterface|Simulator|Trace
-Host/dut Host|Simulator|Trace
-Host/door Host|Simulator|Trace
-Runner Host|PluginInterface
+Host PluginInterface|Simulator|Support|Trace
+Host/dut Host|Simulator|Support|Trace
+Host/door Host|Simulator|Support|Trace
+Runner Host|PluginInterface|Support
 Trace Vond
 Tap Trace|Vond
 Simulator Trace|Vond

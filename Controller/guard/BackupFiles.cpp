@@ -96,9 +96,12 @@ QString SaveBackupFiles(const QString &folder, const SCalBackup &backup,
                 continue;
             return CannotSave(folder, QString::fromLocal8Bit(std::strerror(errno)));
         }
+        if (QFileInfo::exists(newIni) && !TakeName(newIni, name + QStringLiteral(".ini"))) {
+            const QString why = QString::fromLocal8Bit(std::strerror(errno));
+            QFile::remove(json);  // both or none
+            return CannotSave(folder, why);
+        }
         file = json;
-        if (QFileInfo::exists(newIni) && !TakeName(newIni, name + QStringLiteral(".ini")))
-            return CannotSave(folder, QString::fromLocal8Bit(std::strerror(errno)));
         return {};
     }
     return CannotSave(folder, QStringLiteral("all names of this moment are taken"));

@@ -7,11 +7,12 @@
 #include <stdexcept>
 #include <tuple>
 
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include "Support/WholeFile.h"
 
 namespace {
 
@@ -178,22 +179,17 @@ SCalBackup ReadFile(const QByteArray &text)
 
 QString ReadCalBackup(const QString &file, SCalBackup &backup)
 {
-    QFile source(file);
     const QFileInfo info(file);
-    if (!info.isFile())
-        return QStringLiteral("%1 cannot be read: %2.")
-            .arg(file, info.exists() ? QStringLiteral("it is no file")
-                                     : QStringLiteral("there is no such file"));
-    if (!source.open(QIODevice::ReadOnly))
-        return QStringLiteral("%1 cannot be read: %2.").arg(file, source.errorString());
-    if (source.size() > kLongestCalBackup)
+    if (!info.exists())
+        return QStringLiteral("%1 cannot be read: there is no such file.").arg(file);
+    if (info.isFile() && info.size() > kLongestCalBackup)
         return QStringLiteral("%1 is no backup: it has %2 MB, and a backup at most %3.")
             .arg(file)
-            .arg(source.size() >> 20)
+            .arg(info.size() >> 20)
             .arg(kLongestCalBackup >> 20);
-    const QByteArray text = source.readAll();
-    if (source.error() != QFileDevice::NoError)
-        return QStringLiteral("%1 cannot be read: %2.").arg(file, source.errorString());
+    QByteArray text;
+    if (const QString why = ReadWhole(file, kLongestCalBackup, text); !why.isEmpty())
+        return QStringLiteral("%1 cannot be read: %2.").arg(file, why);
     try {
         backup = ReadFile(text);
     } catch (const std::exception &failure) {

@@ -4,6 +4,7 @@
 
 #include <QSaveFile>
 
+#include "Support/WholeFile.h"
 #include "Trace/lines/TraceLines.h"
 
 namespace {
@@ -73,8 +74,9 @@ STraceSaved SaveTrace(const IDoorSource &source, const STraceHeader &header,
         ++saved.written;
     }
     if (isStopped)
-        file.cancelWriting();
-    if ((!isGood || !file.commit()) && !isStopped)
-        saved.error = QString("Can't write %1: %2.").arg(path, file.errorString());
+        return saved;  // and the file goes
+    const QString why = isGood ? CommitWhole(file) : file.errorString();
+    if (!why.isEmpty())
+        saved.error = QString("Can't write %1: %2.").arg(path, why);
     return saved;
 }

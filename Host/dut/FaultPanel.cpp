@@ -5,13 +5,13 @@
 #include <QHeaderView>
 #include <QJsonDocument>
 #include <QKeyEvent>
-#include <QSaveFile>
 #include <QScrollArea>
 
 #include "Host/HostSettings.h"
 #include "Host/dut/FaultDialog.h"
 #include "Host/dut/FaultWords.h"
 #include "Host/dut/NameChoice.h"
+#include "Support/WholeFile.h"
 #include "ui_FaultPanel.h"
 
 namespace {
@@ -26,11 +26,6 @@ constexpr char kScenarioFolder[] = "scenario/folder";
 QByteArray Compact(const QJsonObject &json)
 {
     return QJsonDocument(json).toJson(QJsonDocument::Compact);
-}
-
-QString WhyNotWritten(const QFileDevice &file)
-{
-    return QString("%1 can't be written: %2.").arg(file.fileName(), file.errorString());
 }
 
 // Words that come below the edge of a scroll area are brought into view, when the layout has a place
@@ -231,9 +226,8 @@ void CFaultPanel::SaveScenario(const QString &path)
     const QByteArray name = QFileInfo(path).completeBaseName().toUtf8();
     const QByteArray text =
         CSimulatedDut::Text(m_dut->GetStateAsScenario, name.constData(), "").toUtf8();
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-        return Tell(WhyNotWritten(file));
+    if (const QString why = SaveWhole(path, text); !why.isEmpty())
+        return Tell(QString("%1 can't be written: %2.").arg(path, why));
     CHostSettings().Set(kScenarioFolder, QFileInfo(path).path());
     m_scenarios->Remember(path);
     m_scenarios->ShowCurrent(m_scenario);

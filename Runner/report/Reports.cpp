@@ -1,15 +1,20 @@
 #include "Runner/report/Reports.h"
 
 #include <QDir>
-#include <QSaveFile>
 
 #include "Runner/report/HtmlReport.h"
 #include "Runner/report/JUnit.h"
 #include "Runner/report/ReportTexts.h"
+#include "Support/WholeFile.h"
 
 namespace {
 
 constexpr qint64 kRewriteMs = 1000;
+
+QString CannotWrite(const QString &file, const QString &why)
+{
+    return QString("%1 can't be written: %2").arg(file, why);
+}
 
 }  // namespace
 
@@ -45,7 +50,7 @@ QString CReports::Open(const QString &folder, const SRunInfo &info,
     m_table.setFileName(QDir(folder).filePath("results.csv"));
     for (QFile *file : {&m_lines, &m_table})
         if (!file->open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-            return QString("%1 can't be written: %2").arg(file->fileName(), file->errorString());
+            return CannotWrite(file->fileName(), file->errorString());
     m_isOpen = true;
     const QString error = Append(m_table, CsvHeader(m_sweptKeys));
     return error.isEmpty() ? WriteForPeople() : error;
@@ -85,20 +90,23 @@ QString CReports::Finish(const QString &whyNotRun)
     return error.isEmpty() ? second : error;
 }
 
-// One write of all bytes, so that a line is there whole or not at all.
+// One write of all bytes, so that a line is there whole or not at all; of half a one nothing is left.
 QString CReports::Append(QFile &file, const QByteArray &bytes)
 {
+    const qint64 end = file.pos();
     if (bytes.isEmpty() || file.write(bytes) == bytes.size())
         return {};
-    return QString("%1 can't be written: %2").arg(file.fileName(), file.errorString());
+    const QString why = file.errorString();
+    file.resize(end);
+    file.seek(end);
+    return CannotWrite(file.fileName(), why);
 }
 
 QString CReports::WriteWhole(const QString &name, const QByteArray &bytes)
 {
-    QSaveFile file(QDir(m_folder).filePath(name));
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return {};
-    return QString("%1 can't be written: %2").arg(file.fileName(), file.errorString());
+    const QString path = QDir(m_folder).filePath(name);
+    const QString why = SaveWhole(path, bytes);
+    return why.isEmpty() ? why : CannotWrite(path, why);
 }
 
 QString CReports::WriteForPeople()

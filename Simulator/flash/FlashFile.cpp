@@ -16,6 +16,8 @@ namespace {
 constexpr char kMagic[16] = {'V', 'o', 'n', 'd', 'S', 'i', 'm', ' ',
                              'f', 'l', 'a', 's', 'h', ' ', '1', '\n'};
 
+constexpr off_t kLargestFlash = 64 * 1024 * 1024;  // bytes; the largest DUT has 12 MB
+
 constexpr char kOtherDut[] = "is the flash of another DUT";
 
 struct SHead
@@ -132,11 +134,13 @@ std::string ReadWhole(const std::string &path)
         return {};
     if (file.gcount() != sizeof(magic) || std::memcmp(magic, kMagic, sizeof(magic)) != 0)
         throw CForeignFile("is no flash of a simulated DUT");
+    if (status.st_size > kLargestFlash)
+        throw CForeignFile("is larger than any flash of a simulated DUT");
     std::ostringstream bytes;
     file.seekg(0);
     bytes << file.rdbuf();
     if (!file || !bytes)
-        throw std::runtime_error("cannot be read");
+        throw CForeignFile("cannot be read");
     return bytes.str();
 }
 

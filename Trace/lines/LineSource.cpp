@@ -40,5 +40,9 @@ bool CLineSource::Fill()
     m_size = static_cast<std::size_t>(m_stream.gcount());
     if (m_stream.bad())
         throw std::runtime_error("cannot be read");
+    m_sum += m_size;
+    if (m_sum > kLongestTrace)
+        throw std::runtime_error("is beyond the " + std::to_string(kLongestTrace >> 20) +
+                                 " MB of a trace that is read into memory");
     return m_size > 0;
 }

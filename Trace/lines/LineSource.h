@@ -1,10 +1,11 @@
-// The lines of a stream, one by one, each of bounded length.
+// The lines of a stream, one by one, each of bounded length, and bounded in all.
 //
 //   CLineSource source(stream);
 //   while (source.Next())
 //       Use(source.Line());
 //
-// Throws std::runtime_error at a line above kLongestTraceLine, and where the stream cannot be read.
+// Throws std::runtime_error at a line above kLongestTraceLine, behind kLongestTrace, and where the stream cannot
+// be read.
 #pragma once
 
 #include <cstddef>
@@ -13,6 +14,7 @@
 #include <vector>
 
 constexpr std::size_t kLongestTraceLine = 16 * 1024 * 1024;  // bytes
+constexpr std::size_t kLongestTrace = 256 * 1024 * 1024;     // bytes
 
 class CLineSource
 {
@@ -35,5 +37,6 @@ private:
     std::size_t m_size = 0;
     std::string m_line;
     std::size_t m_number = 0;
+    std::size_t m_sum = 0;  // of all bytes so far
     bool m_hasEnd = false;
 };

@@ -103,6 +103,11 @@ STrace ReadTrace(const std::string &path, ECutLine cut)
     std::error_code ignored;
     if (std::filesystem::is_directory(path, ignored))
         throw CTraceError(PrintableText(path) + ": " + std::strerror(EISDIR));
+    const std::uintmax_t size = std::filesystem::file_size(path, ignored);
+    if (!ignored && size > kLongestTrace)
+        throw CTraceError(PrintableText(path) + ": has " + std::to_string(size >> 20) +
+                          " MB, more than the " + std::to_string(kLongestTrace >> 20) +
+                          " that are read into memory");
     errno = 0;
     std::ifstream stream(path, std::ios::binary);
     if (!stream)

@@ -5,8 +5,8 @@
 //   trace.calls[0].function->name     // "VOND_QueryFunctionSupported_r"
 //   trace.notes[0].before             // 0: the note stands before the first call
 //
-// A line has at most kLongestTraceLine bytes (LineSource.h). The whole trace is held in memory, its
-// records as bytes.
+// A line has at most kLongestTraceLine bytes, and all together kLongestTrace (LineSource.h): the whole trace is
+// held in memory, its records as bytes. A file above that is refused before it is read.
 #pragma once
 
 #include <cstddef>

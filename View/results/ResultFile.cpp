@@ -5,10 +5,13 @@
 #include <QJsonDocument>
 #include <QSaveFile>
 
+#include "Support/WholeFile.h"
 #include "View/results/CsvWriter.h"
 #include "View/results/JsonLinesWriter.h"
 
 namespace {
+
+constexpr qint64 kLongestOfExport = 4 * 1024 * 1024;  // bytes; a page's settings take thousands
 
 const QLatin1String kCsvSuffix("csv");
 const QStringList kJsonLinesSuffixes{QStringLiteral("jsonl"), QStringLiteral("ndjson")};
@@ -27,16 +30,21 @@ QString SettingsFileOf(const QString &file)
 // Its two words tell an export's file from the user's own.
 bool IsOfExport(const QString &settingsFile)
 {
-    QFile file(settingsFile);
-    if (!file.open(QIODevice::ReadOnly))
+    QByteArray bytes;
+    if (!ReadWhole(settingsFile, kLongestOfExport, bytes).isEmpty())
         return false;
-    const QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonObject object = QJsonDocument::fromJson(bytes).object();
     return object.contains(QLatin1String("tool")) && object.contains(QLatin1String("chip"));
+}
+
+QString Failure(const QSaveFile &file, const QString &why)
+{
+    return QStringLiteral("%1 was not written: %2").arg(file.fileName(), why);
 }
 
 QString Failure(const QSaveFile &file)
 {
-    return QStringLiteral("%1 was not written: %2").arg(file.fileName(), file.errorString());
+    return Failure(file, file.errorString());
 }
 
 // Of what is on its way to the disk; the disk may be full only now.
@@ -54,13 +62,14 @@ QString WriteAll(QSaveFile &file, const std::function<bool()> &write, const Goes
 QString CommitBoth(QSaveFile &settings, QSaveFile &rows)
 {
     const bool wasThere = QFileInfo::exists(settings.fileName());
-    if (!settings.commit())
-        return Failure(settings);
-    if (rows.commit())
+    if (const QString why = CommitWhole(settings); !why.isEmpty())
+        return Failure(settings, why);
+    const QString why = CommitWhole(rows);
+    if (why.isEmpty())
         return {};
     if (!wasThere)
         QFile::remove(settings.fileName());
-    return Failure(rows);
+    return Failure(rows, why);
 }
 
 QString WriteCsvFiles(const QString &file, const SResultTable &table, const GoesOn &goesOn)
@@ -103,5 +112,6 @@ QString WriteResultFile(const QString &file, const SResultTable &table, const Go
         rows, [&] { return WriteJsonLines(rows, table, goesOn); }, goesOn);
     if (!failure.isEmpty())
         return failure;
-    return rows.commit() ? QString() : Failure(rows);
+    const QString why = CommitWhole(rows);
+    return why.isEmpty() ? why : Failure(rows, why);
 }

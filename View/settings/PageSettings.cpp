@@ -1,6 +1,5 @@
 #include "View/settings/PageSettings.h"
 
-#include <QFile>
 #include <QPointer>
 
 #include "Support/FileDialogMan.h"
@@ -83,12 +82,12 @@ void CPageSettings::Load()
         CFileDialogMan().GetOpenFileName(QStringLiteral("Load settings"), QLatin1String(kFilter));
     if (!self || path.isEmpty())
         return;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    constexpr qint64 kMostBytes = 2 * 1024 * 1024;
+    QByteArray text;
+    if (const QString why = ReadWhole(path, kMostBytes, text); !why.isEmpty())
         return m_page->Warn(QStringLiteral("Load settings failed."),
-                            path + QLatin1String(": ") + file.errorString());
-    constexpr qint64 kMostBytes = 2 * 1024 * 1024;  // more is refused, however much it is
-    const QStringList refused = Take(file.read(kMostBytes));
+                            path + QLatin1String(": ") + why);
+    const QStringList refused = Take(text);
     if (!self)
         return;
     if (refused.isEmpty())
