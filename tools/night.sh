@@ -22,6 +22,7 @@ faults    15  build/release/bin/FaultCampaign --noises=3
 hands     45  build/release/bin/HandsCampaign --seed SEED --minutes MINUTES(40)
 seeds     65  many_seeds MINUTES(60)
 crash     10  tools/crash.sh
+files     60  QUORLIN_FILES_EVERY=1 build/release/bin/FilesTest
 power     40  both_items
 soak      75  tools/soak.sh MINUTES(60) SEED --plot
 tsan      90  ./test.sh --tsan
