@@ -1,0 +1,36 @@
+// tools/coverage.py: lines and branches by folder.
+#include <gtest/gtest.h>
+
+#include "tests/tools/Script.h"
+
+namespace {
+
+// A function of six lines that ran twice, but for its lines 4 and 5; its condition on line 2 was true alone.
+// Beside it a header of the system.
+constexpr char kExport[] = R"(
+printf '{"data": [{"files": [
+    {"filename": "%s/Vond/VondCore.h",
+     "segments": [[1,1,2,true,true,false], [3,5,0,true,true,false], [5,1,2,true,false,false],
+                  [6,2,0,false,false,false]],
+     "branches": [[2,1,2,4,2,0,0,0,4]]},
+    {"filename": "/usr/include/string.h", "segments": [[1,1,0,true,true,false]], "branches": []}
+]}]}' "$ROOT" >all.json
+)";
+
+TEST(CoverageTableTest, linesAndBranchesOfAFolderAreCounted)
+{
+    const SScriptRun run = CScriptFolder().Run(
+        std::string(kExport) +
+        "python3 -B $ROOT/tools/coverage.py all.json --uncovered uncovered.txt\n"
+        "cut -d : -f 1-3 uncovered.txt\n");
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.output, "| Folder | Lines | run | Branches | run |\n"
+                          "|---|---:|---:|---:|---:|\n"
+                          "| Vond | 6 | 66.7 % | 2 | 50.0 % |\n"
+                          "| all | 6 | 66.7 % | 2 | 50.0 % |\n"
+                          "Vond/VondCore.h:2: never false\n"
+                          "Vond/VondCore.h:4: no run\n"
+                          "Vond/VondCore.h:5: no run\n");
+}
+
+}  // namespace
