@@ -80,20 +80,22 @@ static int IsKind(const char *kind)
     return strcmp(s_kind, kind) == 0;
 }
 
-static int IsBelow(const char *path)
+/* What of a path stands behind the folder, NULL where it is not below; whole has room for a path from "/" on. */
+static const char *PartBelow(const char *path, char *whole)
 {
     const size_t length = strlen(s_folder);
-    char whole[2 * kLongestPath];
     if (length == 0)
-        return 0;
+        return NULL;
     if (path[0] != '/') {
         if (getcwd(whole, kLongestPath) == NULL)
-            return 0;
+            return NULL;
         strcat(whole, "/");
         strncat(whole, path, kLongestPath - 1);
         path = whole;
     }
-    return strncmp(path, s_folder, length) == 0 && (path[length] == '/' || path[length] == '\0');
+    if (strncmp(path, s_folder, length) != 0 || (path[length] != '/' && path[length] != '\0'))
+        return NULL;
+    return path + length;
 }
 
 /* The path of an open file; empty where it is none. */
@@ -106,10 +108,10 @@ static const char *PathOf(int file, char *path)
     return path;
 }
 
-static void Note(int number, const char *call, const char *path)
+static void Note(int number, const char *call, const char *part)
 {
     char line[kLongestName];
-    const int length = snprintf(line, sizeof(line), "%s %.120s\n", call, path + strlen(s_folder));
+    const int length = snprintf(line, sizeof(line), "%s %.120s\n", call, part);
     if (number <= kMostCalls)
         snprintf(s_names[number - 1], kLongestName, "%.*s", length - 1, line);
     if (s_log[0] == '\0')
@@ -124,10 +126,12 @@ enum EFate { eGoes, eFails, eHalf, eDiesInside };
 /* Counts a call on a path. eFails: errno is set. */
 static enum EFate Judge(const char *call, const char *path, int isWrite)
 {
-    if (path == NULL || !IsBelow(path))
+    char whole[2 * kLongestPath];
+    const char *const part = path != NULL ? PartBelow(path, whole) : NULL;
+    if (part == NULL)
         return eGoes;
     const int number = __atomic_add_fetch(&s_count, 1, __ATOMIC_SEQ_CST);
-    Note(number, call, path);
+    Note(number, call, part);
     if (s_isFull && (isWrite || strcmp(call, "create") == 0)) {
         errno = ENOSPC;
         return eFails;

@@ -22,7 +22,7 @@ TEST(CoverageTableTest, linesAndBranchesOfAFolderAreCounted)
     const SScriptRun run = CScriptFolder().Run(
         std::string(kExport) +
         "python3 -B $ROOT/tools/coverage.py all.json --uncovered uncovered.txt\n"
-        "cut -d : -f 1-3 uncovered.txt\n");
+        "cut -d : -f 1-3 uncovered.txt");
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_EQ(run.output, "| Folder | Lines | run | Branches | run |\n"
                           "|---|---:|---:|---:|---:|\n"
