@@ -25,11 +25,19 @@
 #include <random>
 
 #include <QByteArray>
+#include <QLoggingCategory>
 
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv);
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
 
 QByteArray MutateFuzzInput(const QByteArray &input, std::mt19937 &random);
+
+// For LLVMFuzzerInitialize. What a log is for is no part of an input's work.
+inline void SwitchLogsOff()
+{
+    qunsetenv("QT_LOGGING_RULES");  // they would outrule the next line
+    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+}
 
 // Ends the process if the rule is broken, which counts as a finding. The rule goes to the standard
 // output: a hunt closes the standard error, to which the code under test may write by right.

@@ -37,3 +37,9 @@ inline int FuzzBelow(std::mt19937 &random, int limit)
 {
     return limit > 0 ? static_cast<int>(random() % static_cast<unsigned>(limit)) : 0;
 }
+
+template <typename Item, size_t count>
+const Item &FuzzOne(const Item (&items)[count], std::mt19937 &random)
+{
+    return items[FuzzBelow(random, static_cast<int>(count))];
+}

@@ -8,7 +8,6 @@
 #include <iterator>
 
 #include <QApplication>
-#include <QLoggingCategory>
 #include <QPointer>
 #include <QToolTip>
 
@@ -168,8 +167,7 @@ void CRun::Go()
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qunsetenv("QT_LOGGING_RULES");  // they would outrule the next line
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+    SwitchLogsOff();
     static int count = 1;
     static char name[] = "EngineFuzz";
     static char *names[] = {name, nullptr};

@@ -56,24 +56,18 @@ const char *const kTexts[] = {"list",          "range", "pointRange",        "la
 constexpr char kActionKeys[] = "vvvvtttwwfpouuaaehskl";
 constexpr int kShown = 94;  // printable characters behind the blank
 
-template <typename Item, size_t count>
-const Item &One(const Item (&items)[count], std::mt19937 &random)
-{
-    return items[FuzzBelow(random, static_cast<int>(count))];
-}
-
 QString Text(std::mt19937 &random)
 {
     switch (FuzzBelow(random, 4)) {
     case 0:
         return FuzzText(static_cast<uint8_t>(FuzzBelow(random, 256)));
     case 1:
-        return QLatin1String(One(kGroups, random)) + QLatin1String(".memberProperty.") +
-               QLatin1String(One(kMembers, random));
+        return QLatin1String(FuzzOne(kGroups, random)) + QLatin1String(".memberProperty.") +
+               QLatin1String(FuzzOne(kMembers, random));
     case 2:
-        return QLatin1String(One(kMembers, random));
+        return QLatin1String(FuzzOne(kMembers, random));
     default:
-        return QLatin1String(One(kTexts, random));
+        return QLatin1String(FuzzOne(kTexts, random));
     }
 }
 

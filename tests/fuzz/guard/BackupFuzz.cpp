@@ -3,7 +3,6 @@
 #include <memory>
 
 #include <QFile>
-#include <QLoggingCategory>
 #include <QTemporaryDir>
 
 #include "Controller/guard/CalBackup.h"
@@ -91,8 +90,7 @@ void CheckBackup(const SCalBackup &backup, const QString &file)
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    qunsetenv("QT_LOGGING_RULES");  // they would outrule the next line
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+    SwitchLogsOff();
     s_folder = std::make_unique<QTemporaryDir>();
     return 0;
 }

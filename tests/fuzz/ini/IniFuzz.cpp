@@ -5,7 +5,6 @@
 // hold them all. With QUORLIN_FUZZ_EXPORT naming a folder, a start writes the exports of both items
 // into it, to make inputs of.
 #include <QCoreApplication>
-#include <QLoggingCategory>
 
 #include "Operations/capability/TargetCapability.h"
 #include "Operations/link/TargetLink.h"
@@ -69,8 +68,7 @@ void ExportTo(const QString &folder)
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    qunsetenv("QT_LOGGING_RULES");  // they would outrule the next line
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+    SwitchLogsOff();
     VondSim_Reset();
     Require(VondSim_SetProfileText(kProfile) == 0, "the target's profile is good");
     SetTargetHandle(kHandle);

@@ -130,12 +130,6 @@ const char *const kLines[] = {
 // Places of lists, as many as a field has and one beside.
 constexpr int kLengths[] = {0, 1, 2, 3, 4, 8, 9, 10, 11, 16, 17, 32, 48, 63, 64, 65, 100};
 
-template <typename Item, size_t count>
-const Item &One(const Item (&items)[count], std::mt19937 &random)
-{
-    return items[FuzzBelow(random, static_cast<int>(count))];
-}
-
 bool IsHeading(const QByteArray &line)
 {
     return line.startsWith('[');
@@ -150,10 +144,10 @@ QByteArray AlteredList(const QByteArray &value, std::mt19937 &random)
         items.removeAt(at);
         break;
     case 1:
-        items.insert(at, One(kValues, random));
+        items.insert(at, FuzzOne(kValues, random));
         break;
     case 2: {
-        const int length = One(kLengths, random);
+        const int length = FuzzOne(kLengths, random);
         while (items.size() > length)
             items.removeLast();
         while (items.size() < length)
@@ -164,7 +158,7 @@ QByteArray AlteredList(const QByteArray &value, std::mt19937 &random)
         items[at] = items[FuzzBelow(random, items.size())];
         break;
     default:
-        items[at] = One(kValues, random);
+        items[at] = FuzzOne(kValues, random);
     }
     return items.join(',');
 }
@@ -173,16 +167,16 @@ QByteArray AlteredList(const QByteArray &value, std::mt19937 &random)
 QByteArray AlteredLine(const QByteArray &line, std::mt19937 &random)
 {
     if (IsHeading(line))
-        return One(kHeadings, random);
+        return FuzzOne(kHeadings, random);
     const int equals = line.indexOf('=');
     if (equals < 0)
-        return One(kLines, random);
+        return FuzzOne(kLines, random);
     const QByteArray key = line.left(equals).trimmed();
     const QByteArray value = line.mid(equals + 1).trimmed();
     if (FuzzBelow(random, 5) == 0)
-        return QByteArray(One(kKeys, random)) + " = " + value;
+        return QByteArray(FuzzOne(kKeys, random)) + " = " + value;
     if (FuzzBelow(random, 8) == 0)
-        return key + " = " + One(kValues, random);
+        return key + " = " + FuzzOne(kValues, random);
     return key + " = " + AlteredList(value, random);
 }
 
@@ -190,11 +184,11 @@ QByteArray FreshLine(std::mt19937 &random)
 {
     switch (FuzzBelow(random, 4)) {
     case 0:
-        return One(kHeadings, random);
+        return FuzzOne(kHeadings, random);
     case 1:
-        return One(kLines, random);
+        return FuzzOne(kLines, random);
     default:
-        return QByteArray(One(kKeys, random)) + " = " + One(kValues, random);
+        return QByteArray(FuzzOne(kKeys, random)) + " = " + FuzzOne(kValues, random);
     }
 }
 
@@ -220,14 +214,14 @@ void AlterSection(QList<QByteArray> &lines, int at, std::mt19937 &random)
         lines.erase(lines.begin() + first, lines.begin() + end);
         break;
     case 1:  // the same once more, under another heading
-        section.first() = One(kHeadings, random);
+        section.first() = FuzzOne(kHeadings, random);
         lines.append(section);
         break;
     case 2:
         lines.append(section);
         break;
     default:
-        lines[first] = One(kHeadings, random);
+        lines[first] = FuzzOne(kHeadings, random);
     }
 }
 

@@ -10,8 +10,6 @@
 #include <algorithm>
 #include <string>
 
-#include <QLoggingCategory>
-
 #include "Operations/capability/TargetCapability.h"
 #include "Operations/link/TargetLink.h"
 #include "Simulator/VondSim.h"
@@ -93,8 +91,7 @@ bool PutInPlace(const std::string &text)
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    qunsetenv("QT_LOGGING_RULES");  // they would outrule the next line
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+    SwitchLogsOff();
     VondSim_Reset();
     SetTargetHandle(kHandle);
     return 0;

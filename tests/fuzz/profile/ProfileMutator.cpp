@@ -52,7 +52,7 @@ const char *const kTexts[] = {
 
 QString Text(std::mt19937 &random)
 {
-    return QLatin1String(kTexts[FuzzBelow(random, static_cast<int>(std::size(kTexts)))]);
+    return QLatin1String(FuzzOne(kTexts, random));
 }
 
 const SJsonWords &Words()

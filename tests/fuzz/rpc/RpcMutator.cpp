@@ -42,10 +42,7 @@ const SJsonWords &Words()
         {"jsonrpc", "id", "method", "params", "page", "name", "value", "values", "button", "rows",
          "time", "timeout"},
         {0, 1, 2, -1, 0.001, 0.5, 64, 1e9, -1e300},
-        [](std::mt19937 &random) {
-            return QString::fromUtf8(
-                kTexts[FuzzBelow(random, static_cast<int>(std::size(kTexts)))]);
-        }};
+        [](std::mt19937 &random) { return QString::fromUtf8(FuzzOne(kTexts, random)); }};
     return words;
 }
 
@@ -63,7 +60,7 @@ QByteArray MutateFuzzInput(const QByteArray &input, std::mt19937 &random)
         lines.swapItemsAt(at, FuzzBelow(random, lines.size()));
         break;
     case 2:
-        lines.insert(at, kLines[FuzzBelow(random, static_cast<int>(std::size(kLines)))]);
+        lines.insert(at, FuzzOne(kLines, random));
         break;
     default:
         lines[at] = MutateJson(lines[at], Words(), random);

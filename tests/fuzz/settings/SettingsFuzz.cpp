@@ -8,7 +8,6 @@
 #include <memory>
 
 #include <QFile>
-#include <QLoggingCategory>
 #include <QRect>
 #include <QTemporaryDir>
 
@@ -66,8 +65,7 @@ void CheckRemembered(const QByteArray &bytes)
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    qunsetenv("QT_LOGGING_RULES");  // they would outrule the next line
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+    SwitchLogsOff();
     s_folder = std::make_unique<QTemporaryDir>();
     return 0;
 }

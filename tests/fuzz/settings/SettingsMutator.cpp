@@ -24,10 +24,7 @@ const SJsonWords &Words()
     static const SJsonWords words{
         {"version", "page", "request", "config", "group1", "group2", "band"},
         {0, 1, 2, -1, 0.5, 1e300},
-        [](std::mt19937 &random) {
-            return QString::fromUtf8(
-                kTexts[FuzzBelow(random, static_cast<int>(std::size(kTexts)))]);
-        }};
+        [](std::mt19937 &random) { return QString::fromUtf8(FuzzOne(kTexts, random)); }};
     return words;
 }
 
@@ -39,7 +36,7 @@ QByteArray MutateFuzzInput(const QByteArray &input, std::mt19937 &random)
         return MutateJson(input, Words(), random);
     QByteArrayList lines = input.split('\n');
     const int at = FuzzBelow(random, lines.size());
-    const char *const line = kLines[FuzzBelow(random, static_cast<int>(std::size(kLines)))];
+    const char *const line = FuzzOne(kLines, random);
     switch (FuzzBelow(random, 4)) {
     case 0:
         lines.removeAt(at);

@@ -17,7 +17,7 @@ const char kBytes[] = {0, 1, 2, 3, 0x7f, static_cast<char>(0x80), static_cast<ch
 
 char AnyByte(std::mt19937 &random)
 {
-    return kBytes[FuzzBelow(random, static_cast<int>(std::size(kBytes)))];
+    return FuzzOne(kBytes, random);
 }
 
 // The part of the input that its function's layout describes: the request in front of an answer, or the
@@ -50,7 +50,7 @@ QByteArray MutateFuzzInput(const QByteArray &input, std::mt19937 &random)
         altered[0] = static_cast<char>(FuzzBelow(random, 256));
         break;
     case 1:
-        altered[1] = kLetters[FuzzBelow(random, static_cast<int>(std::size(kLetters)))];
+        altered[1] = FuzzOne(kLetters, random);
         altered[2] = static_cast<char>(FuzzBelow(random, 256));
         break;
     case 2:

@@ -26,7 +26,7 @@ const char *const kTexts[] = {"VOND_NRf_TestStop_r",
 
 QString AnyText(std::mt19937 &random)
 {
-    return QString::fromUtf8(kTexts[FuzzBelow(random, static_cast<int>(std::size(kTexts)))]);
+    return QString::fromUtf8(FuzzOne(kTexts, random));
 }
 
 const SJsonWords &TraceWords()

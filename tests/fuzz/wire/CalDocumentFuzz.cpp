@@ -2,7 +2,6 @@
 // any records, and any records are shown in it. What must hold stands in CalDocumentRules.h.
 //
 // A document holds thousands of texts, so this is many times slower than CommandFuzz.
-#include <QLoggingCategory>
 
 #include "tests/fuzz/common/FuzzTarget.h"
 #include "tests/fuzz/wire/CalDocumentRules.h"
@@ -17,8 +16,7 @@ std::span<const EPageId> TargetPages()
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    qunsetenv("QT_LOGGING_RULES");  // they would outrule the next line
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+    SwitchLogsOff();
     FuzzAnswers::TakeAll();
     TakeBaseDocuments();
     return 0;

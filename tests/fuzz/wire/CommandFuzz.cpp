@@ -4,7 +4,6 @@
 // A builder takes what a page has packaged, and a page packages what a target has reported and a
 // user has typed: none of it is sure. Any builder may be given any page's document, since none
 // fails outward. What must hold stands in CommandRules.h and ResponseRules.h.
-#include <QLoggingCategory>
 
 #include "tests/fuzz/common/FuzzTarget.h"
 #include "tests/fuzz/wire/CommandInput.h"
@@ -23,8 +22,7 @@ std::span<const EPageId> TargetPages()
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    qunsetenv("QT_LOGGING_RULES");  // they would outrule the next line
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+    SwitchLogsOff();
     FuzzAnswers::TakeAll();
     TakeBaseDocuments();
     return 0;

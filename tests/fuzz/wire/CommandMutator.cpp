@@ -134,15 +134,9 @@ const char *const kKeys[] = {
     "1",
 };
 
-template <typename Item, size_t count>
-const Item &One(std::mt19937 &random, const Item (&items)[count])
-{
-    return items[FuzzBelow(random, static_cast<int>(count))];
-}
-
 QString Text(std::mt19937 &random)
 {
-    return QString::fromUtf8(One(random, kTexts));
+    return QString::fromUtf8(FuzzOne(kTexts, random));
 }
 
 const SJsonWords &Words()
@@ -180,7 +174,7 @@ QJsonValue NewValue(const QJsonObject &document, std::mt19937 &random)
 {
     switch (FuzzBelow(random, 9)) {
     case 0:
-        return One(random, kNumbers);
+        return FuzzOne(kNumbers, random);
     case 1:
         return QJsonValue();
     case 2: {
@@ -194,8 +188,8 @@ QJsonValue NewValue(const QJsonObject &document, std::mt19937 &random)
         return other.isObject() ? QJsonValue(QJsonObject()) : other;
     }
     case 4:
-        return QJsonObject{{QStringLiteral("min"), One(random, kNumbers)},
-                           {QStringLiteral("max"), One(random, kNumbers)}};
+        return QJsonObject{{QStringLiteral("min"), FuzzOne(kNumbers, random)},
+                           {QStringLiteral("max"), FuzzOne(kNumbers, random)}};
     case 5:
         return QString::number(static_cast<int>(random()) % 70000);
     default:
@@ -224,7 +218,7 @@ QString MutateHex(const QString &hex, std::mt19937 &random)
         bytes.remove(at, 1 + FuzzBelow(random, 8));
         break;
     case 1:
-        bytes.insert(at, One(random, kBytes));
+        bytes.insert(at, FuzzOne(kBytes, random));
         break;
     default:
         if (at < bytes.size())
@@ -253,7 +247,7 @@ QByteArray MutateFuzzInput(const QByteArray &input, std::mt19937 &random)
         object["page"] = PageName(TargetPages()[static_cast<std::size_t>(
             FuzzBelow(random, static_cast<int>(TargetPages().size())))]);
     } else if (choice == 6) {
-        object["dut"] = QString::fromLatin1(One(random, FuzzAnswers::kDuts));
+        object["dut"] = QString::fromLatin1(FuzzOne(FuzzAnswers::kDuts, random));
         object["fail"] = FuzzBelow(random, 3) == 0
                              ? QJsonArray{QStringLiteral("VOND_MMRf_GetRouteConfigV7_r")}
                              : QJsonArray();

@@ -4,7 +4,6 @@
 // document, test, reads and calibration, all through the core. What must hold stands in PageRun.h
 // for the answers and in CalRequestRules.h for what goes back to the DUT.
 #include <QCoreApplication>
-#include <QLoggingCategory>
 
 #include "tests/fuzz/common/FuzzTarget.h"
 #include "tests/fuzz/wire/FuzzAnswers.h"
@@ -13,8 +12,7 @@
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    qunsetenv("QT_LOGGING_RULES");  // they would outrule the next line
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+    SwitchLogsOff();
     static int count = 1;
     static char name[] = "FlowFuzz";
     static char *names[] = {name, nullptr};

@@ -6,7 +6,6 @@
 // goes back to the DUT. FlowFuzz takes the same inputs through the whole tool.
 //
 // The DUTs have few routes, unless the input says otherwise: an input takes as long as there are routes.
-#include <QLoggingCategory>
 
 #include "tests/fuzz/common/FuzzTarget.h"
 #include "tests/fuzz/wire/FuzzAnswers.h"
@@ -15,8 +14,7 @@
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    qunsetenv("QT_LOGGING_RULES");  // they would outrule the next line
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+    SwitchLogsOff();
     FuzzAnswers::TakeAll();
     FuzzAnswers::CutRoutes();
     return 0;

@@ -23,18 +23,12 @@ constexpr uint32_t kNumbers[] = {0,   1,   2,   3,    4,     5,     16,    55,  
                                  256, 41,  84,  1181, 32767, 32768, 65535, 0x7fffffff, 0xffffffff};
 constexpr int32_t kResults[] = {0, 1, 4, 11, -1, 203};
 
-template <typename Item, size_t count>
-const Item &One(std::mt19937 &random, const Item (&items)[count])
-{
-    return items[FuzzBelow(random, static_cast<int>(count))];
-}
-
 QByteArray NewBytes(std::mt19937 &random)
 {
     QByteArray bytes;
     if (FuzzBelow(random, 3) != 0) {
         const int width = 1 << FuzzBelow(random, 3);
-        const uint32_t number = One(random, kNumbers);
+        const uint32_t number = FuzzOne(kNumbers, random);
         for (int i = 0; i < width; ++i)
             bytes.append(static_cast<char>(number >> (8 * i)));
         return bytes;
@@ -53,7 +47,7 @@ const SFunction &AnyAnswer(std::mt19937 &random)
         EFunction::RouteDetail,         EFunction::GetCalBlkInfo, EFunction::GetCalData,
         EFunction::GetCalData,          EFunction::SetCalData};
     if (FuzzBelow(random, 4) != 0)
-        return FunctionOf(One(random, kRead));
+        return FunctionOf(FuzzOne(kRead, random));
     const std::vector<SFuzzAnswer> &table = FuzzAnswerTable();
     return *FindFunction(table[FuzzBelow(random, static_cast<int>(table.size()))].function);
 }
@@ -65,7 +59,7 @@ SRecordChange NewChange(std::mt19937 &random)
     if (FuzzBelow(random, 10) == 0) {
         change.function = table[FuzzBelow(random, static_cast<int>(table.size()))].function;
         change.isResult = true;
-        change.result = One(random, kResults);
+        change.result = FuzzOne(kResults, random);
         return change;
     }
     const SFunction &function = AnyAnswer(random);
@@ -121,7 +115,7 @@ void AlterBytes(QByteArray &bytes, std::mt19937 &random)
 void Alter(SRecordChange &change, std::mt19937 &random)
 {
     if (change.isResult) {
-        change.result = One(random, kResults);
+        change.result = FuzzOne(kResults, random);
         return;
     }
     switch (FuzzBelow(random, 4)) {
@@ -145,14 +139,14 @@ QByteArray MutateFuzzInput(const QByteArray &text, std::mt19937 &random)
     const int at = FuzzBelow(random, static_cast<int>(changes.size()));
     switch (FuzzBelow(random, 10)) {
     case 0:
-        input.page = One(random, kFuzzPages);
+        input.page = FuzzOne(kFuzzPages, random);
         input.isFiled = FuzzBelow(random, 3) == 0;
         if (input.isFiled)
             input.changes.push_back(FewRoutes(random));
         break;
     case 1:
         if (FuzzBelow(random, 3) == 0)
-            input.dut = One(random, FuzzAnswers::kDuts);
+            input.dut = FuzzOne(FuzzAnswers::kDuts, random);
         [[fallthrough]];
     case 2:
         if (!changes.empty())
