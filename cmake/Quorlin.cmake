@@ -8,12 +8,13 @@ include_guard(GLOBAL)
 
 # Compiler cache, told that the precompiled headers of this project are safe to share, and that another
 # clone in another folder is the same code. It keeps the hash of a file by its inode, or it would read the
-# hundred megabytes of a precompiled header again for each source.
+# hundred megabytes of a precompiled header again for each source. What a source includes it takes from the
+# compiler's list, or a source that is new to it would be preprocessed once more.
 function(quorlin_use_ccache)
   find_program(QUORLIN_CCACHE ccache)
   if(QUORLIN_CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER
-        ${CMAKE_COMMAND} -E env CCACHE_INODECACHE=true CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime
+        ${CMAKE_COMMAND} -E env CCACHE_INODECACHE=true CCACHE_DEPEND=true CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime
         CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=true ${QUORLIN_CCACHE} PARENT_SCOPE)
   endif()
 endfunction()
@@ -45,13 +46,19 @@ if(NOT QUORLIN_SANITIZE STREQUAL "none")
     OUTPUT_VARIABLE QUORLIN_FIRST_PRELOAD OUTPUT_STRIP_TRAILING_WHITESPACE)
 endif()
 
+# Targets without classes of moc's, forms and resources need none of the passes for these.
+function(quorlin_no_moc)
+  set_target_properties(${ARGN} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+endfunction()
+
 # Precompiled headers. A target may reuse one only if it is compiled alike, so there are four kinds:
 #   product   modules, and programs with product code alone
 #   qtest     QtTest programs and the libraries that they share
 #   gtest     GoogleTest programs, likewise; without moc
 #   plain     GoogleTest programs without Qt
 # Programs are compiled as position-independent as libraries are, to share theirs. Code of tests is not
-# optimised: it is most of what is compiled, and next to nothing of what runs.
+# optimised, and not checked for undefined behaviour, which a third of its compilation would go to: it is
+# most of what is compiled, and next to nothing of what runs.
 function(quorlin_precompile target kind)
   set(header_product QtPrecompiled.h)
   set(header_qtest QtTestPrecompiled.h)
@@ -71,15 +78,18 @@ function(quorlin_precompile target kind)
     list(APPEND options ${QUORLIN_PRODUCT_OPTIONS})
   elseif(NOT QUORLIN_LIBFUZZER)
     list(APPEND options -O0)
+    if(QUORLIN_SANITIZE STREQUAL "address")
+      list(APPEND options -fno-sanitize=undefined)
+    endif()
   endif()
   if(kind MATCHES "gtest|plain")
-    set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    quorlin_no_moc(${target})
   endif()
   set(holder quorlin_pch_${kind})
   if(NOT TARGET ${holder})
     file(WRITE ${PROJECT_BINARY_DIR}/pch/${holder}.cpp "")
     add_library(${holder} STATIC ${PROJECT_BINARY_DIR}/pch/${holder}.cpp)
-    set_target_properties(${holder} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    quorlin_no_moc(${holder})
     target_include_directories(${holder} PRIVATE ${PROJECT_SOURCE_DIR})
     target_compile_options(${holder} PRIVATE ${options})
     target_link_libraries(${holder} PRIVATE ${libraries})
@@ -175,7 +185,7 @@ set(QUORLIN_TEST_ENVIRONMENT
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"
     "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/races/tsan.supp:print_suppressions=0:second_deadlock_stack=1")
 
-# A library that test programs share: compiled once, as they are.
+# A library that test programs share: compiled once, as they are, if one of them is built.
 #   QT   for QtTest programs; without it for GoogleTest programs
 function(quorlin_test_library)
   cmake_parse_arguments(L "QT" "NAME" "SOURCES;DEPENDS" ${ARGN})
@@ -183,7 +193,7 @@ function(quorlin_test_library)
   if(L_QT)
     set(kind qtest)
   endif()
-  add_library(${L_NAME} STATIC ${L_SOURCES})
+  add_library(${L_NAME} STATIC EXCLUDE_FROM_ALL ${L_SOURCES})
   target_include_directories(${L_NAME} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(${L_NAME} PUBLIC ${L_DEPENDS})
   quorlin_precompile(${L_NAME} ${kind})
@@ -206,7 +216,7 @@ function(quorlin_test)
     list(APPEND T_SOURCES ${source}.cpp)
   endforeach()
   list(REMOVE_DUPLICATES T_SOURCES)
-  add_executable(${T_NAME} ${T_SOURCES})
+  add_executable(${T_NAME} EXCLUDE_FROM_ALL ${T_SOURCES})
   target_include_directories(${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR})
   if(T_CLASSES)
     list(APPEND T_DEPENDS QtKit)
@@ -236,7 +246,8 @@ function(quorlin_test)
   endif()
 endfunction()
 
-# One run of a test program, by its name in ctest, with the arguments that follow the label.
+# One run of a program, by its name in ctest, with the arguments that follow the label. A test program is built
+# with all others when it has a run in this build (cmake/RunsOnce.cmake).
 function(quorlin_test_run name program label)
   set(timeout_unit 120)
   set(timeout_gui 120)
@@ -244,7 +255,13 @@ function(quorlin_test_run name program label)
   if(NOT DEFINED timeout_${label})
     message(FATAL_ERROR "${name}: the label is one of unit, gui, device")
   endif()
-  quorlin_labels(labels ${name} ${label})
+  quorlin_runs_elsewhere(elsewhere ${name} ${program})
+  if(elsewhere)
+    return()
+  endif()
+  if(TARGET ${program})
+    set_target_properties(${program} PROPERTIES EXCLUDE_FROM_ALL FALSE)
+  endif()
   set(timeout ${timeout_${label}})
   if(QUORLIN_SANITIZE STREQUAL "thread")
     math(EXPR timeout "${timeout} * 5")
@@ -254,16 +271,20 @@ function(quorlin_test_run name program label)
   file(MAKE_DIRECTORY ${home}/config ${home}/data ${home}/runtime)
   add_test(NAME ${name} COMMAND ${program} ${ARGN}
     WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
-  set_tests_properties(${name} PROPERTIES LABELS "${labels}" TIMEOUT ${timeout}
+  set_tests_properties(${name} PROPERTIES LABELS ${label} TIMEOUT ${timeout}
     ENVIRONMENT "${QUORLIN_TEST_ENVIRONMENT};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_RUNTIME_DIR=${home}/runtime")
 endfunction()
 
 # A benchmark program, run by hand (bench/README.md); never a test, since its numbers depend on the
 # machine.
+#   MOC   has classes of moc's
 function(quorlin_bench)
-  cmake_parse_arguments(B "" "NAME" "SOURCES;DEPENDS" ${ARGN})
+  cmake_parse_arguments(B "MOC" "NAME" "SOURCES;DEPENDS" ${ARGN})
   add_executable(${B_NAME} ${B_SOURCES})
   target_include_directories(${B_NAME} PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${B_NAME} PRIVATE ${B_DEPENDS} benchmark::benchmark)
+  if(NOT B_MOC)
+    quorlin_no_moc(${B_NAME})
+  endif()
   quorlin_precompile(${B_NAME} product)
 endfunction()

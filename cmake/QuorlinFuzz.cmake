@@ -55,6 +55,9 @@ function(quorlin_fuzz_target)
     SOURCES ${F_SOURCES} ${F_MUTATOR}
     APART ${F_SOURCES} ${F_MUTATOR}
     DEPENDS FuzzReplay ${F_DEPENDS})
+  if(NOT TEST ${F_NAME}Replay)
+    return()
+  endif()
   set(environment QUORLIN_FUZZ_INPUTS=${folders} QUORLIN_FUZZ_WORDS=${F_DICTIONARY}
                   QUORLIN_FUZZ_MAX_LENGTH=${F_MAX_LENGTH})
   if(F_LEAKS)

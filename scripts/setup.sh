@@ -48,11 +48,14 @@ quorlin_need_packages() {
         apt-get install -q -y --no-install-recommends "${missing[@]}" </dev/null
 }
 
+# Of every build behind it; a script may change them.
+quorlin_options=()
+
 quorlin_build() {
     local preset=$1
     shift
     quorlin_say "Building $preset"
-    cmake --preset "$preset"
+    cmake --preset "$preset" "${quorlin_options[@]}"
     cmake --build --preset "$preset" --parallel "$(quorlin_jobs)" ${1:+--target "$@"}
 }
 

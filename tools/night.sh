@@ -125,7 +125,7 @@ commit=$(git rev-parse --short HEAD)
 seed=${QUORLIN_NIGHT_SEED:-$(date -u +%y%m%d)}
 export QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='*=false' FONTCONFIG_FILE=$PWD/tests/fonts/dejavu-sans.conf
 quorlin_need_packages build
-[ -x build/release/bin/FaultCampaign ] || quorlin_build release
+quorlin_build release
 failed=0
 while read -r name most text <&3; do
     [ "${#wanted[@]}" -eq 0 ] || [[ " ${wanted[*]} " == *" $name "* ]] || continue

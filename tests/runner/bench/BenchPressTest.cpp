@@ -8,11 +8,6 @@
 namespace {
 
 constexpr char kContRx[] = "VOND_MMRf_ContRxV7_r";
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr std::chrono::milliseconds kPressCost(40);
-#else
-constexpr std::chrono::milliseconds kPressCost(2);
-#endif
 
 }  // namespace
 
@@ -34,7 +29,6 @@ private slots:
     void pressWithoutARequestEndsWithTheNextTurn();
     void transmissionNeedsToBeAllowed();
     void writeNeedsToBeAllowed();
-    void costsLittleBesideTheDut();
 };
 
 void BenchPressTest::endsWhenTheToolIsIdle()
@@ -224,24 +218,6 @@ void BenchPressTest::writeNeedsToBeAllowed()
     QVERIFY(GuardPress({}, *page, "m_btnDownload"));
     QVERIFY(!GuardPress({.allowWrite = true}, *page, "Write"));
     QVERIFY(!GuardPress({}, *page, "Read"));
-}
-
-// The best of some, as the machine may be busy with something else.
-void BenchPressTest::costsLittleBesideTheDut()
-{
-    CBenchSession session;
-    CBenchPage *page = session.Page("Continuous RX");
-    std::chrono::microseconds best = kLong;
-    for (int i = 0; i < 20; ++i) {
-        VondSim_ClearJournal();
-        const SPressEnd start = page->Press("Start", kLong);
-        const auto dut = std::chrono::nanoseconds(JournalOf(kContRx).constFirst().call.durationNs);
-        best = std::min(best, start.duration -
-                                  std::chrono::duration_cast<std::chrono::microseconds>(dut));
-        page->Press("Stop", kLong);
-    }
-    qInfo("a press costs %lld us beside the DUT", static_cast<long long>(best.count()));
-    QVERIFY(best < kPressCost);
 }
 
 QUORLIN_TEST_CLASS(BenchPressTest)
