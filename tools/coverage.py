@@ -2,8 +2,9 @@
 """Counts lines and branches by folder from what `llvm-cov export` wrote.
 
     tools/coverage.py build/coverage/all.json --uncovered build/coverage/uncovered.txt
+    tools/coverage.py ... --least-lines 95 --least-branches 85
 
-A branch is one outcome of a condition. A condition whose outcome the compiler knows is none; in code of a
+Fails with 1 when less than a least share, in percent, ran of all lines or branches. A branch is one outcome of a condition. A condition whose outcome the compiler knows is none; in code of a
 header or a template, what ran in one of its copies has run.
 """
 
@@ -11,6 +12,7 @@ import argparse
 import collections
 import json
 import pathlib
+import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 
@@ -58,18 +60,33 @@ class Tally:
         self.branches += 2 * len(conditions)
         self.branches_run += sum((true > 0) + (false > 0) for true, false in conditions.values())
 
-    def row(self, name):
-        def share(part, whole):
-            return f"{100 * part / whole:.1f} %" if whole else ""
+    def shares(self):
+        """Percent of the lines and of the branches; what has none of them is run."""
+        return (100 * self.lines_run / self.lines if self.lines else 100.0,
+                100 * self.branches_run / self.branches if self.branches else 100.0)
 
-        return (f"| {name} | {self.lines} | {share(self.lines_run, self.lines)} "
-                f"| {self.branches} | {share(self.branches_run, self.branches)} |")
+    def row(self, name):
+        def shown(share, whole):
+            return f"{share:.1f} %" if whole else ""
+
+        lines, branches = self.shares()
+        return (f"| {name} | {self.lines} | {shown(lines, self.lines)} "
+                f"| {self.branches} | {shown(branches, self.branches)} |")
+
+
+def too_few(whole, least_lines, least_branches):
+    """A sentence for each share that is below its least."""
+    return [f"{share:.2f} % of all {what} ran; {least:g} % is the least."
+            for what, share, least in zip(("lines", "branches"), whole.shares(), (least_lines, least_branches))
+            if share < least]
 
 
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("export", type=pathlib.Path)
     parser.add_argument("--uncovered", type=pathlib.Path, required=True)
+    parser.add_argument("--least-lines", type=float, default=0)
+    parser.add_argument("--least-branches", type=float, default=0)
     arguments = parser.parse_args()
     folders = collections.defaultdict(Tally)
     whole = Tally()
@@ -97,7 +114,10 @@ def main():
     print(whole.row("all"))
     arguments.uncovered.write_text(
         "".join(f"{name}:{line}: {what}: {code.strip()}\n" for name, line, what, code in sorted(uncovered)))
+    complaints = too_few(whole, arguments.least_lines, arguments.least_branches)
+    print(*complaints, sep="\n", end="\n" if complaints else "", file=sys.stderr)
+    return 1 if complaints else 0
 
 
 if __name__ == "__main__":
-    main()
+    sys.exit(main())

@@ -33,4 +33,19 @@ TEST(CoverageTableTest, linesAndBranchesOfAFolderAreCounted)
                           "Vond/VondCore.h:5: no run\n");
 }
 
+TEST(CoverageTableTest, fewerLinesOrBranchesThanTheLeastFail)
+{
+    const SScriptRun run = CScriptFolder().Run(
+        std::string(kExport) + "count() { python3 -B $ROOT/tools/coverage.py all.json --uncovered "
+                               "uncovered.txt $@ 2>&1 >table.txt; }\n"
+                               "count --least-lines 66.6 --least-branches 50; echo $?\n"
+                               "count --least-lines 66.7 --least-branches 50; echo $?\n"
+                               "count --least-branches 50.5; echo $?");
+    EXPECT_EQ(run.output, "0\n"
+                          "66.67 % of all lines ran; 66.7 % is the least.\n"
+                          "1\n"
+                          "50.00 % of all branches ran; 50.5 % is the least.\n"
+                          "1\n");
+}
+
 }  // namespace
