@@ -14,15 +14,19 @@ import tree  # noqa: E402
 
 FOLDER = Path('build/mutants')
 RESULTS = FOLDER / 'results.jsonl'
+EQUIVALENT = Path('tools/mutants/equivalent.txt')
 
 
-def woven_sample(count, seed, folders):
+def woven_sample(arguments):
     """Builds the copy with a sample; the pairs of number and place that are in it."""
     FOLDER.mkdir(parents=True, exist_ok=True)
     refused_file = FOLDER / 'refused.txt'
     refused = set(refused_file.read_text().split()) if refused_file.exists() else set()
-    numbered = [pair for pair in enumerate(tree.sample(tree.all_places(folders), count, seed), 1)
+    places = tree.all_places(arguments.only)
+    numbered = [pair for pair in enumerate(tree.sample(places, arguments.count, arguments.seed), 1)
                 if pair[1].key not in refused]
+    if arguments.built:
+        return numbered
     copy = FOLDER / 'tree'
     tree.write_copy(copy, numbered)
     tree.configure(copy)
@@ -50,28 +54,40 @@ def runs_with_reach(numbered, desk, arguments):
 
 
 def to_judge(numbered, arguments):
-    """Those of the sample without a verdict; with --again those that none has noticed as well."""
+    """Those of the sample without a verdict, and those that a run with fewer seconds for each gave up; with
+    --again all that none has noticed and none explained. Each with the tests that need not be run again."""
     known = report.latest(RESULTS)
-    final = {'noticed'} if arguments.again else {'noticed', 'survived', 'not reached', 'unknown'}
-    return [(number, place) for number, place in numbered
-            if known.get(place.key, {}).get('result') not in final]
+    same = report.equivalents(EQUIVALENT)
+    chosen = []
+    for number, place in numbered:
+        verdict = known.get(place.key, {})
+        result = verdict.get('result')
+        if arguments.again:
+            if result != 'noticed' and place.key not in same:
+                chosen.append((number, place, []))
+        elif not result or (result == 'unknown' and verdict['most'] < arguments.most):
+            chosen.append((number, place, verdict.get('passed_by', [])))
+    return chosen
 
 
-def judge_all(numbered, tests, desk, arguments):
+def judge_all(chosen, tests, desk, arguments):
     end = time.monotonic() + 60 * arguments.minutes
+    noticed = runs.Noticed(report.latest(RESULTS).values())
 
-    def one(pair):
-        number, place = pair
+    def one(item):
+        number, place, passed_before = item
         if time.monotonic() > end:
             return
-        verdict = runs.judge(number, tests, desk, arguments.most)
+        verdict = runs.judge(number, noticed.in_order(place.path, tests), desk, arguments.most, passed_before)
+        noticed.add(place.path, verdict.get('by'))
         place_words = {'key': place.key, 'path': place.path, 'line': place.line, 'kind': place.kind,
                        'original': ' '.join(place.original.split()), 'changed': place.changed, 'number': number}
         with RESULTS.open('a') as file:
-            file.write(json.dumps({**place_words, **verdict, 'seed': arguments.seed}) + '\n')
+            file.write(json.dumps({**place_words, **verdict, 'seed': arguments.seed, 'most': arguments.most,
+                                   'again': arguments.again}) + '\n')
 
     with ThreadPoolExecutor(arguments.jobs) as pool:
-        list(pool.map(one, numbered))
+        list(pool.map(one, chosen))
 
 
 def main():
@@ -79,22 +95,24 @@ def main():
     parser.add_argument('--count', type=int, default=200, help='mutants of the sample')
     parser.add_argument('--seed', type=int, default=1, help='which sample')
     parser.add_argument('--minutes', type=float, default=480, help='no mutant is begun after that')
-    parser.add_argument('--most', type=float, default=300, help='seconds of tests for a mutant; then it is unknown')
-    parser.add_argument('--longest', type=float, default=60, help='tests that take more seconds are left out')
+    parser.add_argument('--most', type=float, default=60,
+                        help='no test of a mutant is begun after so many seconds of tests')
+    parser.add_argument('--longest', type=float, default=20, help='tests that take more seconds judge nothing')
     parser.add_argument('--jobs', type=int, default=2, help='tests at once')
     parser.add_argument('--again', action='store_true', help='judge those that were not noticed once more')
     parser.add_argument('--only', action='append', help='a folder of the product, instead of all')
+    parser.add_argument('--built', action='store_true', help='takes the copy as it is built')
     parser.add_argument('--report', action='store_true', help='only print what is known')
     arguments = parser.parse_args()
-    keys = None
+    paths = None
     if not arguments.report:
         desk = runs.Desk(FOLDER)
-        numbered = woven_sample(arguments.count, arguments.seed, arguments.only)
+        numbered = woven_sample(arguments)
         tests = runs_with_reach(numbered, desk, arguments)
         print(f'{len(numbered)} mutants, {len(tests)} test runs of {sum(run.seconds for run in tests):.0f} s', flush=True)
         judge_all(to_judge(numbered, arguments), tests, desk, arguments)
-        keys = {place.key for _, place in numbered}
-    return report.show(RESULTS, Path('tools/mutants/equivalent.txt'), keys)
+        paths = {place.key: place.path for _, place in numbered}
+    return report.show(RESULTS, EQUIVALENT, paths)
 
 
 if __name__ == '__main__':

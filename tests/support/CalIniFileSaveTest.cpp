@@ -160,6 +160,29 @@ TEST_F(CalIniFileSave, WriteIntoAMissingFolderFailsWithItsWords)
     EXPECT_TRUE(m_folder.Files().isEmpty());
 }
 
+// Too large to be an INI file of this tool: it is something else, and stays.
+TEST_F(CalIniFileSave, WriteIntoAFileThatCantBeReadFailsAndLeavesIt)
+{
+    constexpr qint64 kTooLarge = 256 * 1024 * 1024 + 1;
+    m_folder.Put("not ours");
+    ASSERT_TRUE(QFile::resize(QString::fromStdString(m_folder.Path()), kTooLarge));
+    CCalIniFile file(m_folder.WidePath().c_str());
+    CCalIniFile::CBatch batch(file);
+    EXPECT_EQ(FailureOf([&] { file.WriteString("s", "k", "v"); }),
+              "Write s::k to " + m_folder.Path() + " failed (create file failed)");
+    EXPECT_EQ(FailureOf([&] { batch.Commit(); }), "");
+    EXPECT_EQ(QFileInfo(QString::fromStdString(m_folder.Path())).size(), kTooLarge);
+}
+
+TEST_F(CalIniFileSave, WriteWithoutAPathFailsBeforeTheCommit)
+{
+    CCalIniFile file(nullptr);
+    CCalIniFile::CBatch batch(file);
+    EXPECT_EQ(FailureOf([&] { file.WriteString("s", "k", "v"); }),
+              "Write s::k to  failed (create file failed)");
+    EXPECT_EQ(FailureOf([&] { batch.Commit(); }), "");
+}
+
 TEST_F(CalIniFileSave, CommitNamesTheFirstWriteThatIsNotSaved)
 {
     CCalIniFile file(m_folder.WidePath("absent/cal.ini").c_str());

@@ -269,7 +269,16 @@ class Source:
             self._call(i)
             self._compound(i)
         self._name()
+        for place in self.places:
+            self._widen(place)
         return self.places
+
+    def _widen(self, place):
+        """To the end of the statement where an assignment's right side goes on with "?"; its key stays."""
+        if re.search(r'[-+]=', place.original) and re.match(r'\s*\?', self.text[place.end:]):
+            end = self.text.index(';', place.end)
+            place.changed += ' ' + ' '.join(self.text[place.end:end].split())
+            place.original, place.end = self.text[place.start:end], end
 
     def _name(self):
         """A key that stays when lines are added elsewhere: of the line's text, not of its number."""

@@ -23,6 +23,7 @@ class Run:
     folder: str
     environment: dict
     seconds: float = 0
+    slow: bool = False
     reached: list = field(default_factory=list)
 
 
@@ -92,7 +93,7 @@ class Desk:
 
 
 def find_reached(runs, desk, jobs, most_seconds, report):
-    """Fills in what each run reaches and takes; leaves out those that fail or take longer than the limit."""
+    """Fills in what each run reaches and takes; leaves out those that fail, and tells which are too slow to judge."""
     def look(run):
         file = desk.folder / f'reached-{get_ident()}'
         file.unlink(missing_ok=True)
@@ -102,9 +103,10 @@ def find_reached(runs, desk, jobs, most_seconds, report):
         # The file may be too much for a test of what a process may write.
         if not passed and end != 'too long':
             passed, end, run.seconds = desk.run(run, most_seconds)
+        run.slow = end == 'too long'
         if not passed:
-            report(f'{run.name}: {end}, left out')
-        return passed
+            report(f'{run.name}: {end}, judges nothing')
+        return passed or run.slow
     with ThreadPoolExecutor(jobs) as pool:
         good = list(pool.map(look, runs))
     return [run for run, passed in zip(runs, good) if passed]
@@ -118,17 +120,38 @@ def is_chance(run, end, number, desk):
     return desk.run(run, limit, QUORLIN_MUTANT=str(number))[0]
 
 
-def judge(number, runs, desk, most_seconds):
-    """Runs the tests that reach a mutant, the quickest first, until one notices it."""
-    spent, tried = 0.0, 0
-    reaching = sorted((run for run in runs if number in run.reached), key=lambda run: run.seconds)
+class Noticed:
+    """How often each run noticed a mutant of a file: the next one there is likely to be noticed by the same."""
+
+    def __init__(self, verdicts):
+        self.times = {}
+        for verdict in verdicts:
+            self.add(verdict['path'], verdict.get('by'))
+
+    def add(self, path, name):
+        if name:
+            self.times[path, name] = self.times.get((path, name), 0) + 1
+
+    def in_order(self, path, runs):
+        return sorted(runs, key=lambda run: run.seconds / (1 + self.times.get((path, run.name), 0)))
+
+
+def judge(number, runs, desk, most_seconds, passed_before=()):
+    """Runs the tests that reach a mutant, in their order, until one notices it; begins none after most_seconds.
+
+    A mutant that it passes is "unknown" while there are runs left, of which some may be too slow to be tried."""
+    spent = 0.0
+    reaching = [run for run in runs if number in run.reached]
+    passed_by = [run.name for run in reaching if run.name in passed_before]
     for run in reaching:
         if spent > most_seconds:
             break
+        if run.slow or run.name in passed_by:
+            continue
         passed, end, seconds = desk.run(run, 10 + 5 * run.seconds, QUORLIN_MUTANT=str(number))
         spent += seconds
-        tried += 1
         if not passed and not is_chance(run, end, number, desk):
             return {'result': 'noticed', 'by': run.name, 'end': end, 'seconds': round(spent, 1)}
-    result = 'not reached' if not reaching else 'survived' if tried == len(reaching) else 'unknown'
-    return {'result': result, 'tried': tried, 'of': len(reaching), 'seconds': round(spent, 1)}
+        passed_by.append(run.name)
+    result = 'not reached' if not reaching else 'survived' if len(passed_by) == len(reaching) else 'unknown'
+    return {'result': result, 'passed_by': passed_by, 'of': len(reaching), 'seconds': round(spent, 1)}

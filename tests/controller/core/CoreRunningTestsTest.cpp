@@ -208,6 +208,48 @@ TEST_F(CoreRunningTestsTest, ResetStopsOnceUnderTheHandleOfTheStartBeforeAnythin
     EXPECT_STREQ(VondSim_RunningTest(), "");
 }
 
+// With a stop that fails, a stop of its own of each reset would be seen.
+TEST_F(CoreRunningTestsTest, ResetsThatWaitTogetherSendOneStop)
+{
+    Start(7);
+    Fault(kMmStop, 4);
+    HoldTarget();
+    m_core.ResetTargetCache();
+    m_core.ResetTargetCache();
+    m_core.StopRunningTests();
+    VondSim_Release(kHeldRead);
+    WaitForPool();
+    EXPECT_EQ(CountCalls(kMmStop), 1);
+    EXPECT_TRUE(m_core.HasRunningTests());
+}
+
+TEST_F(CoreRunningTestsTest, ResetBehindAFailedStopStopsAgain)
+{
+    Start(7);
+    Fault(kMmStop, 4);
+    Run([&] { m_core.ResetTargetCache(); });
+    EXPECT_TRUE(m_core.HasRunningTests());
+    VondSim_ClearFaults();
+    Run([&] { m_core.ResetTargetCache(); });
+    EXPECT_EQ(CountCalls(kMmStop), 2);
+    EXPECT_FALSE(m_core.HasRunningTests());
+}
+
+TEST_F(CoreRunningTestsTest, StopOfAllTestsKeepsWhatWasReadOfTheTarget)
+{
+    Start();
+    Run([&] { m_core.ResetTargetCache(); });
+    m_core.GetAllSupportPage();
+    for (int round = 0; round < 2; ++round) {
+        Start();
+        Run([&] { m_core.StopRunningTests(); });
+        EXPECT_FALSE(m_core.HasRunningTests());
+        VondSim_ClearJournal();
+        m_core.GetAllSupportPage();
+        EXPECT_EQ(VondSim_CallCount(), 0u) << round;
+    }
+}
+
 TEST_F(CoreRunningTestsTest, ResetWhileAStartIsAtTheTargetStopsItBehindItsAnswer)
 {
     VondSim_Hold(kContRx);
