@@ -76,6 +76,16 @@ TEST(HostilePlansTest, aPlanBeyondOneMebibyteIsRefused)
               std::vector<std::string>{"plan:1:1: the file is too large (allowed: 1 MiB at most)"});
 }
 
+TEST(HostilePlansTest, aPlanOfOneMebibyteIsRead)
+{
+    CPlanErrors errors;
+    CDefines defines({});
+    std::string text = "quorlin: 1\nplan: P\nsteps: [{step: a, page: RSSI}] # ";
+    text.resize(kMostBytes, 'x');
+    EXPECT_TRUE(ReadPlanText("plan", text, defines, errors).has_value());
+    EXPECT_EQ(errors.Texts(), std::vector<std::string>());
+}
+
 TEST(HostilePlansTest, aMebibyteOfAnyBracketIsRefusedAtItsDepth)
 {
     for (const char *piece :

@@ -150,6 +150,13 @@ TEST(DefinesTest, aTextWithItsValuesHasAtMost4096Characters)
     EXPECT_NE(errors.Texts()[0].find("too long"), std::string::npos) << errors.Texts()[0];
 }
 
+TEST(DefinesTest, valuesStandAnywhereInATextAndTheRestStays)
+{
+    const std::string plan = "quorlin: 1\nplan: of ${a}, ${bc} and ${a}!\n"
+                             "steps: [{step: a, page: RSSI}]\n";
+    EXPECT_EQ(Read(plan, {{"a", "one"}, {"bc", "two"}}).name.text, "of one, two and one!");
+}
+
 TEST(PlanErrorsTest, whatIsNoCharacterIsToldAsAQuestionMark)
 {
     CPlanErrors errors;

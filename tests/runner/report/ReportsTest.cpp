@@ -161,6 +161,17 @@ TEST(ReportsTest, aSuiteAPlanFileWithCountsOfItsOwn)
     EXPECT_TRUE(FileText(folder, "report.html").contains("<title>Night &lt;of&gt;"));
 }
 
+TEST(ReportsTest, aTestCaseHasItsNameAndNoCharacterThatXmlLacks)
+{
+    SRunFixture run;
+    run.reports.Add(0, Ended(1, EVerdict::Fail));
+    run.reports.Finish();
+    const QByteArray xml = FileText(run.folder, "junit.xml");
+    EXPECT_TRUE(xml.contains(" name=\"gains [band=n77]\"")) << xml.toStdString();
+    EXPECT_TRUE(xml.contains("too &lt;low&gt;?")) << xml.toStdString();
+    EXPECT_FALSE(xml.contains('\x02'));
+}
+
 TEST(ReportsTest, aReadingWithoutANumberHasNoFigures)
 {
     QTemporaryDir place;
