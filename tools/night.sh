@@ -29,6 +29,7 @@ tsan      90  ./test.sh --tsan
 lifetime  45  build/asan/bin/LifetimeCampaign --rounds 100000 --seed SEED --minutes MINUTES(40)
 fuzz      60  tools/fuzz.sh MINUTES(4)
 mutants   90  tools/mutate.sh --seed SEED --minutes MINUTES(60)
+coverage  60  tools/coverage.sh
 END
 }
 
