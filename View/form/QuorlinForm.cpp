@@ -15,6 +15,7 @@
 #include "View/entry/FrequencyEntry.h"
 #include "View/explain/ExplainAction.h"
 #include "View/form/PageActions.h"
+#include "View/form/StyleCaches.h"
 #include "View/form/TestLamp.h"
 #include "View/form/ToolsButton.h"
 #include "View/log/SessionLogWindow.h"
@@ -195,6 +196,7 @@ void CQuorlinForm::Slot_GetInitPageListDone(QStringList pageList)
     disconnect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_GetInitPageListDone, this,
                &CQuorlinForm::Slot_GetInitPageListDone);
     const QPointer<CQuorlinForm> self(this);
+    FreeStyleCaches(this);  // of pages that have gone
     InitPage(pageList);
     if (!self)
         return;
