@@ -107,10 +107,12 @@ set(QUORLIN_RUNS_ONLY_none
     RssiLayoutTest
     ScriptTest
     SettingsBytesTest
+    SoakTest
     StatusBarTest
     StrangerTest
     TxStartStopTest
-    WindowLookTest)
+    WindowLookTest
+    WorkdaySoak)
 
 # Whether this run of a program is left to the other build.
 function(quorlin_runs_elsewhere out run program)

@@ -25,6 +25,7 @@ crash     10  tools/crash.sh
 files     60  QUORLIN_FILES_EVERY=1 build/release/bin/FilesTest
 power     40  both_items
 soak      75  tools/soak.sh MINUTES(60) SEED --plot
+day       45  tools/soak.sh --day 8 SEED
 tsan      90  ./test.sh --tsan
 lifetime  45  build/asan/bin/LifetimeCampaign --rounds 100000 --seed SEED --minutes MINUTES(40)
 fuzz      60  tools/fuzz.sh MINUTES(4)

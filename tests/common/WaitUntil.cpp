@@ -1,8 +1,16 @@
 #include "tests/common/WaitUntil.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
+
+int ClockSpeed()
+{
+    static const int speed = std::max(1, qEnvironmentVariableIntValue("QUORLIN_CLOCK_SPEED"));
+    return speed;
+}
 
 bool WaitUntil(const std::function<bool()> &condition, int deadlineMs)
 {
@@ -10,7 +18,7 @@ bool WaitUntil(const std::function<bool()> &condition, int deadlineMs)
     QTimer deadline;
     deadline.setSingleShot(true);
     QObject::connect(&deadline, &QTimer::timeout, [&isLate] { isLate = true; });
-    deadline.start(deadlineMs);
+    deadline.start(deadlineMs * ClockSpeed());
     while (!condition()) {
         if (isLate)
             return false;

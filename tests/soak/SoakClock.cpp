@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include <sys/syscall.h>
 #include <time.h>
+#include <unistd.h>
 
 #include <QEvent>
 #include <QTimer>
@@ -15,11 +17,11 @@ double Milliseconds(const QElapsedTimer &timer)
     return static_cast<double>(timer.nsecsElapsed()) * 1e-6;
 }
 
-// Of this thread, ms.
+// Of this thread, ms; asked of the system itself, past a library that makes clocks run faster.
 double ProcessorTime()
 {
     timespec time = {};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    syscall(SYS_clock_gettime, CLOCK_THREAD_CPUTIME_ID, &time);
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) * 1e-6;
 }
 

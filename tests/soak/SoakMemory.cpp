@@ -8,9 +8,6 @@
 
 namespace {
 
-constexpr std::size_t kAround = 5;    // lines that make a moment
-constexpr std::size_t kBaseline = 2;  // first of those around minute 5
-
 struct SFigure
 {
     const char *name;
@@ -24,11 +21,11 @@ constexpr SFigure kFigures[] = {
 
 std::size_t Median(const std::vector<SMemory> &lines, std::size_t first, const SFigure &figure)
 {
-    std::size_t values[kAround] = {};
-    for (std::size_t i = 0; i < kAround; ++i)
+    std::size_t values[kMomentLines] = {};
+    for (std::size_t i = 0; i < kMomentLines; ++i)
         values[i] = lines[first + i].*figure.bytes;
     std::sort(std::begin(values), std::end(values));
-    return values[kAround / 2];
+    return values[kMomentLines / 2];
 }
 
 }  // namespace
@@ -46,11 +43,11 @@ SMemory ReadMemory()
 std::vector<SGrowth> CompareMemory(const std::vector<SMemory> &lines)
 {
     std::vector<SGrowth> result;
-    if (lines.size() < kBaseline + 2 * kAround)
+    if (lines.size() < kFewestLines)
         return result;
     for (const SFigure &figure : kFigures) {
-        const std::size_t before = Median(lines, kBaseline, figure);
-        const std::size_t after = Median(lines, lines.size() - kAround, figure);
+        const std::size_t before = Median(lines, kFirstLine, figure);
+        const std::size_t after = Median(lines, lines.size() - kMomentLines, figure);
         const double ratio = static_cast<double>(after) / static_cast<double>(before);
         result.push_back({figure.name, before, after, (ratio - 1) * 100});
     }

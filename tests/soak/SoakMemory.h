@@ -23,10 +23,14 @@ SMemory ReadMemory();
 
 constexpr double kMostGrowth = 2;  // percent
 
+constexpr std::size_t kMomentLines = 5;  // that make a moment
+constexpr std::size_t kFirstLine = 2;    // of those around minute 5
+constexpr std::size_t kFewestLines = kFirstLine + 2 * kMomentLines;
+
 struct SGrowth
 {
     const char *name;
-    std::size_t before;  // bytes after five minutes
+    std::size_t before;  // bytes after five lines
     std::size_t after;   // bytes at the end
     double percent;
 

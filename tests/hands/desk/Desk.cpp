@@ -51,7 +51,7 @@ CDesk::CDesk(const QString &profile, const QString &folder)
       m_window(m_session->Window())
 {
     connect(&m_dialogs, &QTimer::timeout, this, &CDesk::AnswerDialog);
-    m_dialogs.start(1);
+    m_dialogs.start(ClockSpeed());
 }
 
 CDesk::~CDesk()

@@ -23,6 +23,7 @@
 
 #include "tests/common/BoxWatcher.h"
 #include "tests/common/PluginSession.h"
+#include "tests/common/WaitUntil.h"
 #include "tests/hands/desk/Watchdog.h"
 
 class CDesk : public QObject
@@ -91,7 +92,7 @@ private:
     bool IsHeld() const;
 
     const QString m_folder;
-    CBoxWatcher m_boxes{1};
+    CBoxWatcher m_boxes{ClockSpeed()};
     CWatchdog m_watchdog;
     std::unique_ptr<CPluginSession> m_session;
     QPointer<QMainWindow> m_window;

@@ -23,6 +23,7 @@ struct SDeed
     QString words;  // for the report
     QPointer<QWidget> target = {};
     QString failure = {};  // it could not be done
+    bool isDone = true;    // false: there was nothing to do it to
 };
 
 class IRule

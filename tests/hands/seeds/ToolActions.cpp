@@ -4,10 +4,9 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStackedWidget>
-#include <QTableWidget>
 
 #include "Simulator/VondSim.h"
+#include "tests/hands/seeds/PageDeeds.h"
 #include "tests/hands/seeds/SeedActions.h"
 #include "tests/hands/witness/PageReader.h"
 
@@ -43,55 +42,9 @@ constexpr const char *kActions[] = {
     "m_actionEnterFrequency",
 };
 
-// In front of the others, as a click on its tab brings it.
-QDockWidget *Raised(CDesk &desk, const char *className)
+SDeed Trigger(CDesk &desk, CChance &chance, const char *action)
 {
-    QDockWidget *page = desk.Page(className);
-    if (page && !page->isVisible())
-        return nullptr;
-    if (page)
-        page->raise();
-    return page;
-}
-
-SDeed Press(CDesk &desk, QDockWidget *page, const char *button)
-{
-    auto *found = page ? page->findChild<QPushButton *>(button) : nullptr;
-    const QString words = QString("press %1 on %2").arg(button, NameOf(page));
-    if (!found || !found->isEnabled() || found->visibleRegion().isEmpty())
-        return {SDeed::Other, words + ", which cannot be"};
-    desk.Click(found);
-    return {SDeed::Other, words, found};
-}
-
-QAction *ActionOf(CDesk &desk, QDockWidget *page, const QString &name)
-{
-    QList<QAction *> actions = desk.Window()->findChildren<QAction *>(name);
-    for (QAction *action : qAsConst(actions)) {
-        const QObject *owner = action->parent();
-        if (owner == desk.Window() || owner == page ||
-            (page && page->isAncestorOf(qobject_cast<const QWidget *>(owner))))
-            return action;
-    }
-    return nullptr;
-}
-
-// Undo of a Read or an Import changes data that the page does not show, which the rules cannot see.
-bool ChangesUnseen(const QAction *action)
-{
-    return action->text().contains("Read") || action->text().contains("Import") ||
-           action->text().contains("Revert") || action->text().contains("record");
-}
-
-SDeed Trigger(CDesk &desk, CChance &chance, const QString &name)
-{
-    QDockWidget *page = DrawPage(desk, chance);
-    QAction *action = ActionOf(desk, page, name);
-    const QString words = name + " on " + NameOf(page);
-    if (!action || !action->isEnabled() || ChangesUnseen(action))
-        return {SDeed::Other, words + ", which cannot be"};
-    action->trigger();
-    return {SDeed::Other, words};
+    return TriggerOn(desk, DrawPage(desk, chance), action);
 }
 
 }  // namespace
@@ -115,14 +68,14 @@ SDeed TriggerAction(CDesk &desk, CChance &chance)
 SDeed PressFlow(CDesk &desk, CChance &chance)
 {
     if (chance.OneIn(3))
-        return Press(desk, Raised(desk, chance.Of(kCalPages)), chance.Of(kCalFlows));
-    return Press(desk, Raised(desk, chance.Of(kTestPages)), chance.Of(kTestFlows));
+        return PressOn(desk, RaisedPage(desk, chance.Of(kCalPages)), chance.Of(kCalFlows));
+    return PressOn(desk, RaisedPage(desk, chance.Of(kTestPages)), chance.Of(kTestFlows));
 }
 
 // A value, typed over the one that is there.
 SDeed EditCell(CDesk &desk, CChance &chance)
 {
-    QDockWidget *page = Raised(desk, chance.Of(kCalPages));
+    QDockWidget *page = RaisedPage(desk, chance.Of(kCalPages));
     const QList<QDoubleSpinBox *> cells = SeenOn<QDoubleSpinBox>(page);
     if (cells.isEmpty())
         return {SDeed::Other, "no cell"};
@@ -145,15 +98,15 @@ SDeed EditCell(CDesk &desk, CChance &chance)
 SDeed GuardedWrite(CDesk &desk, CChance &chance)
 {
     desk.agrees = !chance.OneIn(4);
-    SDeed deed = Press(desk, Raised(desk, chance.Of(kCalPages)), "m_btnGuardedWrite");
+    SDeed deed = PressOn(desk, RaisedPage(desk, chance.Of(kCalPages)), "m_btnGuardedWrite");
     deed.words += desk.agrees ? ", yes" : ", no";
     return deed;
 }
 
 SDeed Compare(CDesk &desk, CChance &chance)
 {
-    QDockWidget *page = Raised(desk, chance.Of(kCalPages));
-    SDeed deed = Press(desk, page, "m_btnCompare");
+    QDockWidget *page = RaisedPage(desk, chance.Of(kCalPages));
+    SDeed deed = PressOn(desk, page, "m_btnCompare");
     QList<QDialog *> windows = desk.Window()->findChildren<QDialog *>("CCompareWindow");
     if (windows.isEmpty())
         return deed;
