@@ -269,6 +269,7 @@ function(quorlin_test_run name program label)
   # Settings, backups and locks of a run are its own: runs are parallel, and a person has his.
   set(home ${CMAKE_BINARY_DIR}/homes/${name})
   file(MAKE_DIRECTORY ${home}/config ${home}/data ${home}/runtime)
+  file(CHMOD ${home}/runtime PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
   add_test(NAME ${name} COMMAND ${program} ${ARGN}
     WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
   set_tests_properties(${name} PROPERTIES LABELS ${label} TIMEOUT ${timeout}
