@@ -150,6 +150,8 @@ protected:
     // The document of an answer that came with this text. A page whose view controller has it as an
     // object already takes that.
     virtual QJsonObject DocumentOf(const std::string &text);
+    // Settings come into this editor next, without an event that a user's entry begins with.
+    virtual void BeforeEntry(QWidget *) {}
 
     bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;

@@ -91,6 +91,7 @@ QStringList CAutoBindingDataModelDockWidget::TakeSettings(const QJsonObject &gro
             const QString before = PackagedText(editor.editor);
             if (before == wanted)
                 continue;
+            BeforeEntry(editor.editor);
             if (!EnterPackaged(editor.editor, wanted))
                 refused.append(QStringLiteral("%1: %2 is not possible here, it stays %3")
                                    .arg(NameOf(editor), wanted, before));

@@ -171,6 +171,8 @@ void CQuorlinForm::StartInit()
 {
     if (m_isInitStarted)
         return;
+    if (m_wasShown)
+        FreeStyleCaches(this);  // of pages that have gone
     setEnabled(false);
     Slot_UpdateStatusbar(QStringLiteral("Please to wait the init flow..."));
     qCDebug(lcForm) << "CQuorlinForm::showEvent start";
@@ -196,7 +198,6 @@ void CQuorlinForm::Slot_GetInitPageListDone(QStringList pageList)
     disconnect(&m_viewCtrl, &CQuorlinViewCtrl::Signal_GetInitPageListDone, this,
                &CQuorlinForm::Slot_GetInitPageListDone);
     const QPointer<CQuorlinForm> self(this);
-    FreeStyleCaches(this);  // of pages that have gone
     InitPage(pageList);
     if (!self)
         return;

@@ -97,6 +97,12 @@ bool CCalibrationDockWidget::eventFilter(QObject *object, QEvent *event)
     return QObject::eventFilter(object, event);
 }
 
+void CCalibrationDockWidget::BeforeEntry(QWidget *editor)
+{
+    if (m_form.selectors.contains(editor))
+        TakeSnapshot();
+}
+
 void CCalibrationDockWidget::TakeSnapshot()
 {
     m_lastDocument = PackageDocument();

@@ -145,6 +145,8 @@ protected:
     bool ChangeSelection(const char *log, const QString &selected);
 
     QJsonObject DocumentOf(const std::string &text) override;
+    // Takes the snapshot before a selector changes.
+    void BeforeEntry(QWidget *editor) override;
 
     // A snapshot has been taken, or new data are shown.
     virtual void ShowSelectionDetails();

@@ -14,6 +14,7 @@
 #include "tests/common/TestClass.h"
 #include "tests/common/WaitUntil.h"
 #include "tests/device/CalibrationSession.h"
+#include "tests/device/PathLossTables.h"
 #include "tests/device/TxPages.h"
 
 namespace {
@@ -217,6 +218,35 @@ private slots:
         QCOMPARE(root.keys(), (QStringList{"config", "page", "version"}));
         Load(session, file);
         QVERIFY(session.WaitForStatus(QString("Settings loaded from %1.").arg(file)));
+    }
+
+    void cellsAreKeptWhenLoadedSettingsChooseOtherData_data()
+    {
+        QTest::addColumn<bool>("wasAtASelector");
+        QTest::newRow("before, when the cell was old") << true;
+        QTest::newRow("never") << false;
+    }
+    void cellsAreKeptWhenLoadedSettingsChooseOtherData()
+    {
+        QFETCH(bool, wasAtASelector);
+        const QTemporaryDir folder;
+        const QString file = folder.filePath("lpm.json");
+        Put(file, Json("{'version': 1, 'page': 'RX Pathloss', 'config': {'group1': "
+                       "{'powerMode': 'LPM', 'route': '2'}}}"));
+        CCalibrationSession session(kPathLossPage);
+        QVERIFY(session.ShowAndWait());
+        QVERIFY(session.Run(kRead));
+        if (wasAtASelector)
+            session.Selector("route")->setFocus();
+        session.Type(kMain, "lna0", 0, 4, "2");
+        Load(session, file);
+        QVERIFY(session.WaitForStatus(QString("Settings loaded from %1.").arg(file)));
+        QCOMPARE(session.Selector("powerMode")->currentText(), QString("LPM"));
+        QCOMPARE(session.Selector("route")->currentText(), QString("2"));
+        QVERIFY(session.CellText(kMain, "lna0", 0, 4) != "2.00000");
+        session.Select("powerMode", "HPM");
+        session.Select("route", "1");
+        QCOMPARE(session.CellText(kMain, "lna0", 0, 4), QString("2.00000"));
     }
 
     void theLastSettingsComeBackForWhoWantsThem()
