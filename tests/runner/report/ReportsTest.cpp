@@ -167,6 +167,7 @@ TEST(ReportsTest, aTestCaseHasItsNameAndNoCharacterThatXmlLacks)
     run.reports.Add(0, Ended(1, EVerdict::Fail));
     run.reports.Finish();
     const QByteArray xml = FileText(run.folder, "junit.xml");
+    EXPECT_TRUE(xml.startsWith("<?xml version=\"1.0\"")) << xml.toStdString();
     EXPECT_TRUE(xml.contains(" name=\"gains [band=n77]\"")) << xml.toStdString();
     EXPECT_TRUE(xml.contains("too &lt;low&gt;?")) << xml.toStdString();
     EXPECT_FALSE(xml.contains('\x02'));

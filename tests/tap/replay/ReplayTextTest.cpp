@@ -75,6 +75,24 @@ TEST(ReplayTextTest, RequestOfAnotherSizeOrNoneIsToldSo)
         "0, has a null pointer in place of 8 bytes\n");
 }
 
+TEST(ReplayTextTest, AnotherSizeCountsAsADifference)
+{
+    const SVondCapabilityReq asked = {56, 180};
+    struct
+    {
+        SVondCapabilityReq sizes = {56, 180};
+        uint32_t more = 0;
+    } const longer;
+    const STraceCall ofOtherSize = Recorded(EFunction::LteCapability, longer);
+    const STraceCall ofOtherField = Recorded(EFunction::LteCapability, SVondCapabilityReq{56, 181});
+    EXPECT_NE(LineOf(EFunction::LteCapability, asked, {ofOtherField, ofOtherSize})
+                  .find("call 0, has calibrationSize 181 bytes in place of 180 bytes"),
+              std::string::npos);
+    EXPECT_NE(LineOf(EFunction::LteCapability, asked, {ofOtherSize, ofOtherField})
+                  .find("call 0, has (size) 12 bytes in place of 8 bytes"),
+              std::string::npos);
+}
+
 TEST(ReplayTextTest, NameWithoutAnyCharacterIsARequestToo)
 {
     const CReplay replay({}, {Recorded(EFunction::QueryFunctionSupported)});

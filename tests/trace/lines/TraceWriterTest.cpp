@@ -2,6 +2,9 @@
 #include "Trace/lines/TraceWriter.h"
 
 #include <array>
+#include <chrono>
+#include <cstdio>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -78,6 +81,30 @@ TEST_F(TraceWriterTest, CallIsReadAsItWasWritten)
     EXPECT_EQ(call.process, static_cast<uint64_t>(getpid()));
     EXPECT_EQ(call.thread, static_cast<uint64_t>(gettid()));
     EXPECT_TRUE(call.isEnded);
+}
+
+// Milliseconds since 1970 of a text such as "2026-11-22T12:30:00.250Z".
+int64_t MillisecondsOf(const std::string &time)
+{
+    std::tm utc = {};
+    const char *const rest = strptime(time.c_str(), "%Y-%m-%dT%H:%M:%S", &utc);
+    int milliseconds = -1;
+    if (rest == nullptr || std::sscanf(rest, ".%3dZ", &milliseconds) != 1)
+        return 0;
+    return int64_t{timegm(&utc)} * 1000 + milliseconds;
+}
+
+TEST_F(TraceWriterTest, HeaderHasTheTimeOfDayWhenTheTraceBegan)
+{
+    const auto now = [] {
+        using namespace std::chrono;
+        return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
+    };
+    const int64_t before = now();
+    const CTraceWriter writer({.path = m_path, .who = "Test"}, m_header);
+    const int64_t written = MillisecondsOf(ReadTrace(m_path, ECutLine::Refused).header.time);
+    EXPECT_GE(written, before);
+    EXPECT_LE(written, now());
 }
 
 TEST_F(TraceWriterTest, LinesStandInTheFileAtOnce)

@@ -175,6 +175,7 @@ private slots:
         AskMenu(&grid.m_page, grid.Cell(1, 1));
         Choose("Step up");
         QCOMPARE(grid.Box(1, 1)->text(), QString("11.03125"));
+        QCOMPARE(grid.m_page.Edits().Editor(), grid.Cell(1, 1));
         AskMenu(&grid.m_page, grid.Cell(1, 1));
         Choose("Step down");
         QCOMPARE(grid.Box(1, 1)->text(), QString("11.00000"));

@@ -163,6 +163,20 @@ private slots:
         QCOMPARE(grid.Numbers(1), QString("0 0.25 0.5 0.75 1"));
     }
 
+    void rowWithANumberAtOneEndAloneIsNotInterpolated()
+    {
+        for (const int gone : {0, 4}) {
+            CCellGrid grid;
+            grid.MarkCells(0, 0, 1, 4);
+            grid.Box(0, 2)->setValue(30);
+            grid.Box(1, 2)->setValue(30);
+            grid.m_table->removeCellWidget(0, gone);
+            grid.Press(Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
+            QCOMPARE(grid.Box(0, 2)->value(), 30.0);
+            QCOMPARE(grid.Box(1, 2)->value(), 12.0);
+        }
+    }
+
     void interpolationGoesToTheStepsOfTheWire()
     {
         CCellGrid grid;

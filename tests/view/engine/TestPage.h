@@ -60,6 +60,7 @@ public:
     bool IsModelReady() const { return m_modelReady; }
 
     using CAutoBindingDataModelDockWidget::AppendWidget;
+    using CAutoBindingDataModelDockWidget::Edits;
     using CAutoBindingDataModelDockWidget::GetGroupType;
     using CAutoBindingDataModelDockWidget::PackageMemberValue;
     using CAutoBindingDataModelDockWidget::ShowItemResult;
