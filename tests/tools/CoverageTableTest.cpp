@@ -48,4 +48,33 @@ TEST(CoverageTableTest, fewerLinesOrBranchesThanTheLeastFail)
                           "1\n");
 }
 
+// A function of two lines of the file a.h, the first this one, that never ran.
+std::string ExportOfOneFunction(int line)
+{
+    const std::string at = std::to_string(line);
+    const std::string behind = std::to_string(line + 1);
+    return R"(printf '{"data": [{"functions": [{"count": 0, "filenames": ["%s/a.h"], "regions": [[)" +
+           at + ",1," + std::to_string(line + 1) +
+           R"(,2,0,0,0,0]]}], "files": [{"filename": "%s/a.h", "segments": [[)" + at +
+           ",1,0,true,true,false], [" + behind +
+           R"(,2,0,false,false,false]], "branches": []}]}]}' "$PWD" "$PWD" >all.json
+)";
+}
+
+TEST(CoverageTableTest, functionsThatOnlyTheCompilerRanCountForNothing)
+{
+    const std::string script = "mkdir tools; cp $ROOT/tools/coverage.py tools\n"
+                               "printf 'int constexpr_none;\\nint Plain()\\n{\\n}\\nconstexpr int "
+                               "Table()\\n{\\n}\\n' >a.h\n";
+    const auto uncovered = [&](int line) {
+        return CScriptFolder()
+            .Run(script + ExportOfOneFunction(line) +
+                 "python3 -B tools/coverage.py all.json --uncovered uncovered.txt >table.txt\n"
+                 "cut -d : -f 1-3 uncovered.txt")
+            .output;
+    };
+    EXPECT_EQ(uncovered(3), "a.h:3: no run\na.h:4: no run\n");
+    EXPECT_EQ(uncovered(6), "");
+}
+
 }  // namespace
