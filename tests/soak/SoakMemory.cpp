@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <fstream>
+#include <sstream>
+#include <string>
+#include <string_view>
 
 #include <malloc.h>
 #include <unistd.h>
@@ -12,12 +15,40 @@ struct SFigure
 {
     const char *name;
     std::size_t SMemory::*bytes;
+    bool isOfAllArenas;
 };
 
 constexpr SFigure kFigures[] = {
-    {"resident", &SMemory::resident},
-    {"in use", &SMemory::inUse},
+    {"resident", &SMemory::resident, true},
+    {"in use", &SMemory::inUse, false},
+    {"outside malloc", &SMemory::outside, false},
 };
+
+// Of a line such as "7f3c58000000-7f3c5a1b2000 rw-p 00000000 00:00 0   [heap]". glibc aligns its arenas.
+bool IsArena(const std::string &mapping)
+{
+    constexpr unsigned long long kArenaAlignment = 64 * 1024 * 1024;
+    std::istringstream words(mapping);
+    std::string range, rights, offset, device, file, path;
+    words >> range >> rights >> offset >> device >> file >> path;
+    return path == "[heap]" ||
+           (path.empty() && std::stoull(range, nullptr, 16) % kArenaAlignment == 0);
+}
+
+std::size_t ResidentOutsideMalloc()
+{
+    std::ifstream mappings("/proc/self/smaps");
+    std::size_t kilobytes = 0;
+    bool isArena = false;
+    for (std::string line; std::getline(mappings, line);) {
+        constexpr std::string_view kResident = "Rss:";
+        if (line.compare(0, kResident.size(), kResident) == 0)
+            kilobytes += isArena ? 0 : std::stoull(line.substr(kResident.size()));
+        else if (line.find(':') > line.find(' '))
+            isArena = IsArena(line);
+    }
+    return kilobytes * 1024;
+}
 
 std::size_t Median(const std::vector<SMemory> &lines, std::size_t first, const SFigure &figure)
 {
@@ -37,7 +68,7 @@ SMemory ReadMemory()
     std::ifstream("/proc/self/statm") >> pages >> residentPages;
     const struct mallinfo2 heap = mallinfo2();
     return {residentPages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE)),
-            heap.uordblks + heap.hblkhd};
+            heap.uordblks + heap.hblkhd, ResidentOutsideMalloc()};
 }
 
 std::vector<SGrowth> CompareMemory(const std::vector<SMemory> &lines)
@@ -49,7 +80,7 @@ std::vector<SGrowth> CompareMemory(const std::vector<SMemory> &lines)
         const std::size_t before = Median(lines, kFirstLine, figure);
         const std::size_t after = Median(lines, lines.size() - kMomentLines, figure);
         const double ratio = static_cast<double>(after) / static_cast<double>(before);
-        result.push_back({figure.name, before, after, (ratio - 1) * 100});
+        result.push_back({figure.name, figure.isOfAllArenas, before, after, (ratio - 1) * 100});
     }
     return result;
 }

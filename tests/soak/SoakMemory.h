@@ -16,6 +16,7 @@ struct SMemory
 {
     std::size_t resident;  // bytes that lie in main memory: code, stacks and heap, free blocks too
     std::size_t inUse;     // bytes that malloc has given out, of all its arenas
+    std::size_t outside;   // of the resident ones, those that are not in malloc's arenas
 };
 
 // 0 for what the system does not tell.
@@ -30,6 +31,7 @@ constexpr std::size_t kFewestLines = kFirstLine + 2 * kMomentLines;
 struct SGrowth
 {
     const char *name;
+    bool isOfAllArenas;  // counts what malloc keeps free, too
     std::size_t before;  // bytes after five lines
     std::size_t after;   // bytes at the end
     double percent;

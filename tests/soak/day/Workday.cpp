@@ -45,6 +45,7 @@ void PrintWorkdayHead()
                                         "In use before the reset, MB",
                                         "Resident, MB",
                                         "In use, MB",
+                                        "Outside malloc, MB",
                                         "Files",
                                         "Threads",
                                         "Widgets",
@@ -159,14 +160,15 @@ void CWorkday::Line()
     const SStretch longest = CSoakApplication::Instance()->TakeLongest();
     const SHandles &handles = m_handles.back();
     const qint64 minutes = m_time.elapsed() / 60000;
-    std::printf(
-        "| %lld:%02lld | %.1f | %d | %d | %d | %.3f | %.3f | %.3f | %d | %d | %d | %d | %d | %d | "
-        "%.1f | %.1f |\n",
-        minutes / 60, minutes % 60, (MachineSeconds() - m_machineAtStart) / 60, m_rounds,
-        m_tool.Tests(), m_tool.Reports(), InMegabytes(beforeReset),
-        InMegabytes(m_memory.back().resident), InMegabytes(m_memory.back().inUse), handles.files,
-        handles.threads, handles.widgets, handles.windows, handles.objects, handles.timers,
-        longest.worked, longest.passed / ClockSpeed());
+    std::printf("| %lld:%02lld | %.1f | %d | %d | %d | %.3f | %.3f | %.3f | %.3f | %d | %d | %d | "
+                "%d | %d | %d | "
+                "%.1f | %.1f |\n",
+                minutes / 60, minutes % 60, (MachineSeconds() - m_machineAtStart) / 60, m_rounds,
+                m_tool.Tests(), m_tool.Reports(), InMegabytes(beforeReset),
+                InMegabytes(m_memory.back().resident), InMegabytes(m_memory.back().inUse),
+                InMegabytes(m_memory.back().outside), handles.files, handles.threads,
+                handles.widgets, handles.windows, handles.objects, handles.timers, longest.worked,
+                longest.passed / ClockSpeed());
     std::fflush(stdout);
     if (m_options.isVerbose)
         TellChanges();
@@ -188,11 +190,13 @@ bool CWorkday::IsSteady() const
     std::printf(memory.empty() ? "\nToo short to compare.\n" : "\n");
     bool isSteady = true;
     for (const SGrowth &growth : memory) {
-        isSteady = isSteady && growth.Holds();
+        // What malloc keeps free behind a reset of 70 MB in small pieces goes up and down by as much.
+        const bool isJudged = !growth.isOfAllArenas;
+        isSteady = isSteady && (!isJudged || growth.Holds());
         std::printf("Memory %s: %.3f MB after five lines, %.3f MB at the end: %+.2f %%, at most "
                     "%+.0f %%: %s\n",
                     growth.name, InMegabytes(growth.before), InMegabytes(growth.after),
-                    growth.percent, kMostGrowth, Word(growth.Holds()));
+                    growth.percent, kMostGrowth, isJudged ? Word(growth.Holds()) : "not judged");
     }
     for (const SHandleGrowth &growth : CompareHandles(m_handles)) {
         isSteady = isSteady && growth.Holds();
