@@ -10,6 +10,7 @@ option(QUORLIN_ALL_RUNS "Also the test runs that the other of the check's two bu
 set(QUORLIN_RUNS_ONLY_address
     BackupFuzzReplay
     CalDocumentFuzzReplay
+    CalibrationCompareEndTest
     CalibrationFlowTest
     CalibrationLifetimeTest
     CalibrationRemarksTest
@@ -19,23 +20,30 @@ set(QUORLIN_RUNS_ONLY_address
     DecodeFuzzReplay
     EngineFuzzReplay
     EngineTest
+    FaultCampaign.rx
+    FaultCampaign.tx
     FlowFuzzReplay
     FormTest
+    GuardedWriteEndTest
     GuardedWriteTest
     HandsCampaign
     HandsCampaign.Seeds
+    HostDeviceTest
     IniFuzzReplay
     LifetimeCampaign
     LifetimeTest
     ModelUnitTest
     PlanFuzzReplay
+    PlanTest
     ProfileFuzzReplay
     RecordFuzzReplay
     RequestProgressTest
     ResetInBusyTest
     ResultFilesTest
+    RfOffTest
     RpcFuzzReplay
     RsrpLifetimeTest
+    RssiLifetimeTest
     RunningTestEndTest
     ScenarioFuzzReplay
     SettingsFuzzReplay
@@ -48,8 +56,8 @@ set(QUORLIN_RUNS_ONLY_address
     TxLifetimeTest
     ViewControllerTest)
 
-# In the release build alone: what starts programs by the dozen, or works through tables of cases, documents, faults
-# and cuts, or looks at the page, of which other runs meet the same code with the sanitizers.
+# In the release build alone: what starts programs by the dozen, works through tables of cases, documents, faults and
+# cuts, or looks at what a page shows, sends and keeps. Campaigns and ends meet the same code with the sanitizers.
 set(QUORLIN_RUNS_ONLY_none
     AccessNamesTest
     AccessSignsTest
@@ -60,15 +68,21 @@ set(QUORLIN_RUNS_ONLY_none
     AptProfilePageTest
     BenchBytesTest
     BenchPageTest
+    BenchPressTest
     CalCliTest
     CalCrashTest
+    CalibratedRssiTest
     CalibrationCompareTest
     CalibrationCutTest.importCutInAnySectionLeavesWhatIsNotEdited
     CalibrationCutTest.readCutInAnyRoundLeavesWhatIsNotEdited
+    CalibrationFilesTest
     CalibrationFlashTest
     CapabilityUnitTest
     ChangedCellsTest
     CliTest
+    ContRxChoicesTest
+    ContRxCommandTest
+    ContRxPageTest
     ControllerUnitTest
     EditUnderWayTest
     EmptyChoiceTest
@@ -79,37 +93,62 @@ set(QUORLIN_RUNS_ONLY_none
     FaultCampaign.scenarios
     FilesTest
     FilledJsonTest
+    FrequencyEntryTest
     KeyboardActionsTest
     KeyboardWalkTest
+    LateEditorsDocumentTest
+    LateEditorsTest
     ModelCheckTest
     OperationsUnitTest
     PageDocumentTest
     PageFocusTest
+    PageSettingsTest
+    PageUndoTest
+    PathLossFlashTest
+    PathLossGainKeysTest
     PathLossPageTest
     Pictures
     PlanBytesTests
     PlanRunTests
     PlayBackTest
     PlotComparisonTest
+    PlotHandsTest
     PlotTest
     PowerCut.apt-handset
     PowerCut.apt-odd
     PowerCut.rx-path-loss-handset
     PowerCut.rx-path-loss-odd
+    PuschTxForcedPageTest
+    PuschTxNormalPageTest
+    PythonTest.bench
     PythonTest.describe
     PythonTest.serve
     RecipeTest
     RecordUndoTest
     ResetUndoTest
+    ResultCopyTest
     ResultExportTest
+    ResultMarkTest
+    RsrpCounterTest
     RsrpPageTest
     RsrpReportTest
+    RssiCalculatorTest
+    RssiCommandTest
+    RssiExportTest
     RssiLayoutTest
+    RssiPageTest
+    RssiResultTest
+    RunningInputsTest
     ScriptTest
+    SessionLogWindowTest
     SettingsBytesTest
+    SingleTonePageTest
     SoakTest
     StatusBarTest
     StrangerTest
+    StrayWheelTest
+    TableMarksTest
+    TxPowerLimitTest
     TxStartStopTest
     WindowLookTest
     WorkdaySoak)
