@@ -66,7 +66,8 @@ SRan CTapRun::Run(const std::string &program, const Words &arguments, const Word
     Words variables = environment;
     const std::string first = TAP_FIRST_PRELOAD;
     variables.push_back("LD_PRELOAD=" + first + (first.empty() ? "" : ":") + preload);
-    for (const char *const name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS", "PATH"}) {
+    for (const char *const name :
+         {"ASAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS", "LLVM_PROFILE_FILE", "PATH"}) {
         if (const char *const value = std::getenv(name))
             variables.push_back(std::string(name) + "=" + value);
     }
