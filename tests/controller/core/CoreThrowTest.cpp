@@ -81,6 +81,34 @@ TEST_F(CoreThrowTest, LookThatThrowsGivesTheTargetBack)
     EXPECT_TRUE(LookThrows(ask));
 }
 
+// The items of the last DUT are made anew first, without memory for them.
+TEST_F(CoreThrowTest, GuardedWriteThatThrowsIsRefusedInWords)
+{
+    m_core.ResetTargetCache();
+    s_failingSize = sizeof(CMultiRatPathLossV7);
+    const SGuardedPlan plan = m_core.PlanGuardedWrite(ECalItem::PathLoss);
+    s_failingSize = 0;
+    EXPECT_EQ(plan.refusal, "std::bad_alloc Nothing was sent to the target.");
+    EXPECT_FALSE(plan.work);
+    EXPECT_EQ(m_core.PlanGuardedWrite(ECalItem::PathLoss).refusal.indexOf("bad_alloc"), -1);
+}
+
+TEST_F(CoreThrowTest, CompareThatThrowsIsToldInWords)
+{
+    const SComparedSide memory = {.kind = ECalSide::Memory};
+    m_core.ResetTargetCache();
+    s_failingSize = sizeof(CMultiRatPathLossV7);
+    const SCalCompared compared = m_core.CompareCal(ECalItem::PathLoss, memory, memory);
+    const SCalSecondRead read = m_core.ReadSecondImage(ECalItem::PathLoss, memory);
+    s_failingSize = 0;
+    EXPECT_EQ(compared.result.message, "std::bad_alloc");
+    EXPECT_NE(compared.result.status, 0);
+    EXPECT_EQ(read.result.message, "std::bad_alloc");
+    EXPECT_NE(read.result.status, 0);
+    EXPECT_EQ(m_core.CompareCal(ECalItem::PathLoss, memory, memory).result.status, 0);
+    EXPECT_EQ(m_core.ReadSecondImage(ECalItem::PathLoss, memory).result.status, 0);
+}
+
 TEST_F(CoreThrowTest, LookThatThrowsLeavesTheItemsOfTheLastDutStale)
 {
     m_core.ResetTargetCache();

@@ -207,6 +207,127 @@ TEST_F(CGuardedWriteTest, BlocksThatRepeatAValueDifferentlyAreMendedAndTold)
     EXPECT_EQ(write->Carry().end, EGuardedEnd::Verified);
 }
 
+TEST_F(CGuardedWriteTest, BytesThatNoFieldShowsAreNamedWhenTheyAreNotMended)
+{
+    SCalBlockImage flash = Flash(ECalItem::Apt);
+    const auto torn =
+        std::find_if(flash.records.begin(), flash.records.end(), [](const SCalBlockRecord &record) {
+            return record.blocks.size() > CalBlockSize(record.kind);
+        });
+    ASSERT_NE(torn, flash.records.end());
+    torn->blocks[2] ^= 1;
+    std::vector<ECalSent> sent;
+    ASSERT_EQ(FindCalItem(ECalItem::Apt).make()->DownloadBlocks({{*torn}}, sent), 0u);
+    const QString file = Edited(ECalItem::Apt, "Route", "1", 1);
+    const auto write = Begun(ECalItem::Apt);
+    ASSERT_EQ(write->WantFile(file, {}), QString());
+    Fault(kSet, 7);
+    const SGuardedOutcome outcome = write->Carry();
+    EXPECT_EQ(outcome.end, EGuardedEnd::NotWritten);
+    const QString name = QString::fromStdString(CalRecordName(torn->kind, torn->place));
+    EXPECT_TRUE(outcome.text.contains(name + " block 1 ")) << outcome.text.toStdString();
+}
+
+TEST_F(CGuardedWriteTest, RecordsThatShouldGoOrComeAreNamedWhenTheyDoNot)
+{
+    const SCalBlockImage before = Flash(ECalItem::Apt);
+    SCalBlockImage other = before;
+    other.records[1].blocks.clear();
+    std::vector<ECalSent> sent;
+    for (const bool isGoing : {true, false}) {
+        ASSERT_EQ(FindCalItem(ECalItem::Apt).make()->DownloadBlocks(isGoing ? other : before, sent),
+                  0u);
+        auto keep = Begun(ECalItem::Apt);
+        ASSERT_EQ(keep->SaveBackup(Path("backups")), QString());
+        const QString backup = keep->BackupFile();
+        keep.reset();
+        ASSERT_EQ(FindCalItem(ECalItem::Apt).make()->DownloadBlocks(isGoing ? before : other, sent),
+                  0u);
+        const auto restore = Begun(ECalItem::Apt);
+        ASSERT_EQ(restore->WantFile(backup, {.isRestore = true}), QString());
+        Fault(kSet, 7);
+        const SGuardedOutcome outcome = restore->Carry();
+        EXPECT_EQ(outcome.notWritten, QStringList({kThree[1]}));
+        EXPECT_TRUE(
+            outcome.text.contains(kThree[1] + (isGoing ? ": still in flash" : ": not in flash")))
+            << outcome.text.toStdString();
+        VondSim_ClearFaults();
+    }
+}
+
+TEST_F(CGuardedWriteTest, ARecordThatTheReadBackLeavesOutIsUnknown)
+{
+    auto item = FindCalItem(ECalItem::PathLoss).make();
+    ASSERT_EQ(item->UploadFromFlash(), 0u);
+    SCalImage image = item->Image();
+    const auto first =
+        std::find_if(image.records.begin(), image.records.end(),
+                     [](const SCalImageRecord &record) { return record.kind == ECalRoute::Type1; });
+    ASSERT_NE(first, image.records.end());
+    first->bytes[offsetof(SMMType1PathlossByRouteV7, plOffset)] ^= 1;
+    const auto write = Begun(ECalItem::PathLoss);
+    ASSERT_EQ(write->WantImage(image, {}), QString());
+    const QStringList changed = write->ChangedRecords();
+    ASSERT_EQ(changed.size(), 1);
+    AnswerBytes("VOND_MMRf_GetCalBlkInfoV7_r", 8, "0500");  // five blocks
+    const SGuardedOutcome outcome = write->Carry();
+    EXPECT_EQ(outcome.end, EGuardedEnd::Unknown);
+    EXPECT_TRUE(outcome.isReadBack);
+    EXPECT_EQ(outcome.unknown, changed);
+}
+
+// Another program without the lock, or the DUT itself.
+TEST_F(CGuardedWriteTest, ARecordThatWasNotSentAndIsOtherAllTheSameIsNamed)
+{
+    const auto write = Ready();
+    SCalBlockRecord bystander = write->Flash().records.back();
+    ASSERT_FALSE(
+        kThree.contains(QString::fromStdString(CalRecordName(bystander.kind, bystander.place))));
+    bystander.blocks[4] ^= 1;
+    std::vector<ECalSent> sent;
+    ASSERT_EQ(FindCalItem(ECalItem::Apt).make()->DownloadBlocks({{bystander}}, sent), 0u);
+    const SGuardedOutcome outcome = write->Carry();
+    EXPECT_EQ(outcome.end, EGuardedEnd::Different);
+    EXPECT_EQ(outcome.written, kThree);
+    EXPECT_EQ(
+        outcome.different,
+        QStringList({QString::fromStdString(CalRecordName(bystander.kind, bystander.place))}));
+}
+
+TEST_F(CGuardedWriteTest, OfManyDifferencesTheFirstTwentyAreToldAndTheOthersCounted)
+{
+    const QString file =
+        Edited(ECalItem::Apt, "Tx compensation power detector coupler loss 0", "1.5", 23);
+    const auto write = Begun(ECalItem::Apt);
+    ASSERT_EQ(write->WantFile(file, {}), QString());
+    ASSERT_EQ(write->Changes().Count(), 23u);
+    Fault(kSet, 7);
+    const SGuardedOutcome outcome = write->Carry();
+    EXPECT_EQ(outcome.text.count(" 1.5 dB wanted, "), 20) << outcome.text.toStdString();
+    EXPECT_TRUE(outcome.text.contains("\n... and 3 more values\n"));
+}
+
+TEST_F(CGuardedWriteTest, ABackupOfEmptyFlashIsOneFileAndEmptiesFlashAgain)
+{
+    const SCalBlockImage before = Flash(ECalItem::Apt);
+    SCalBlockImage none = before;
+    for (SCalBlockRecord &record : none.records)
+        record.blocks.clear();
+    std::vector<ECalSent> sent;
+    ASSERT_EQ(FindCalItem(ECalItem::Apt).make()->DownloadBlocks(none, sent), 0u);
+    auto keep = Begun(ECalItem::Apt);
+    EXPECT_EQ(keep->SaveIni(Path("empty.ini")), "Flash has no record of this item.");
+    ASSERT_EQ(keep->SaveBackup(Path("backups")), QString());
+    const QString backup = keep->BackupFile();
+    EXPECT_EQ(FilesOf(Path("backups")).size(), 1);
+    keep.reset();
+    ASSERT_EQ(FindCalItem(ECalItem::Apt).make()->DownloadBlocks(before, sent), 0u);
+    const auto restore = Begun(ECalItem::Apt);
+    ASSERT_EQ(restore->WantFile(backup, {.isRestore = true}), QString());
+    EXPECT_EQ(restore->Carry().end, EGuardedEnd::Verified);
+    EXPECT_TRUE(IsSame(Flash(ECalItem::Apt), none));
+}
+
 TEST_F(CGuardedWriteTest, MemoryOfAPageIsWrittenLikeAFile)
 {
     auto item = FindCalItem(ECalItem::Apt).make();
