@@ -90,6 +90,18 @@ TEST(DiffTest, CallsAndFieldsThatDifferAreNamedWithBothValues)
     EXPECT_EQ(run.exitCode, 1);
 }
 
+TEST(DiffTest, StatusThatDiffersIsNamedWithBothWords)
+{
+    SCallText pusch = kStop;
+    pusch.function = "VOND_NRf_PuschTxV7_r";
+    SCallText refused = pusch;
+    refused.status = 1;
+    const SCliRun run =
+        Diff(TraceHeaderLine() + CallLines(pusch), TraceHeaderLine() + CallLines(refused));
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_NE(run.out.find("frequency is on no NR-ARFCN (1)"), std::string::npos) << run.out;
+}
+
 TEST(DiffTest, IgnoredFieldsAndReadingsAreNoDifference)
 {
     const std::string fields = "--ignore request.band --ignore dlFrequency --ignore status "

@@ -61,6 +61,25 @@ SCliRun RunOn(const std::string &trace, const std::string &arguments)
     return folder.Run(arguments);
 }
 
+TEST(ShowTest, LongCallsAreInSecondsAndAStatusWithoutANameIsItsNumber)
+{
+    SCallText call = kStop;
+    call.function = "VOND_NRf_PuschTxV7_r";
+    call.status = 4711;
+    call.durationNs = 1234567890;
+    const SCliRun run = RunOn(TraceHeaderLine() + CallLines(call), "trace show t.jsonl");
+    EXPECT_NE(run.out.find("Success (0), status 4711  1.235 s\n"), std::string::npos) << run.out;
+}
+
+// The second half of Latin-1 begins with characters that steer a terminal, too.
+TEST(ShowTest, ControlCharactersOfTwoBytesAreShownAsBytes)
+{
+    SCallText call = kContRx;
+    call.text = "caf\u00e9\u009b31m";
+    const SCliRun run = RunOn(TraceHeaderLine() + CallLines(call), "trace show t.jsonl");
+    EXPECT_NE(run.out.find("caf\u00e9\\xc2\\x9b31m (5)"), std::string::npos) << run.out;
+}
+
 TEST(ShowTest, TraceReadsLikeAStory)
 {
     const SCliRun run = RunOn(Story(), "trace show t.jsonl");
