@@ -31,15 +31,27 @@ void CalibrationCompareEndTest::badFileIsToldAndThePageGoesOn_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("name");
-    QTest::newRow("missing") << QByteArray() << "missing.ini";
-    QTest::newRow("no section") << QByteArray("[Other]\r\nKey = 1\r\n") << "other.ini";
-    QTest::newRow("no backup") << QByteArray("{\"a\": 1}") << "no.json";
+    QTest::addColumn<QString>("words");
+    QTest::newRow("missing") << QByteArray() << "missing.ini"
+                             << "";
+    QTest::newRow("no section") << QByteArray("[Other]\r\nKey = 1\r\n") << "other.ini"
+                                << "";
+    QTest::newRow("no backup") << QByteArray("{\"a\": 1}") << "no.json"
+                               << "no backup of calibration data";
+    QTest::newRow("backup of another item")
+        << QByteArray(
+               R"({"format": "quorlin-rf calibration", "version": 1, "item": "rx-path-loss",
+                          "chip": "VR6240", "handle": 23063, "time": "", "routes": [], "records": [],
+                          "unread": []})")
+        << "other.json"
+        << "other.json is a backup of rx-path-loss.";
 }
 
 void CalibrationCompareEndTest::badFileIsToldAndThePageGoesOn()
 {
     QFETCH(QByteArray, content);
     QFETCH(QString, name);
+    QFETCH(QString, words);
     const QString path = m_folder.filePath(name);
     if (!content.isEmpty()) {
         QFile file(path);
@@ -50,6 +62,7 @@ void CalibrationCompareEndTest::badFileIsToldAndThePageGoesOn()
     QVERIFY(session.Compare(eDutSide, eFileSide, {}, path));
     QVERIFY2(session.Summary().startsWith("Compare failed. "), qPrintable(session.Summary()));
     QVERIFY(session.Summary().size() > 20);
+    QVERIFY2(session.Summary().contains(words), qPrintable(session.Summary()));
     QCOMPARE(session.StatusBar(), QString("Compare failed."));
     QCOMPARE(CountOf(session), 0);
     QVERIFY(session.Compare(eDutSide, ePageSide));
