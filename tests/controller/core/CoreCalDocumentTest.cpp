@@ -128,9 +128,46 @@ TEST_F(CoreCalDocumentTest, AnotherGenerationAnswersNothingAndStoresNothing)
     StoreLoss(LossPage("Type1", "5"), "calDataIf.data.group1", "plOffset", "1");
     EXPECT_EQ(m_core.GetAptCalibrationData(ModelToText(AptPage("7", "BW0"))), "");
     EXPECT_EQ(m_core.GetPathLossCalibrationData(ModelToText(LossPage("Type1", "5"))), "");
+    EXPECT_FALSE(m_core.GetCalibrationData(ECalItem::Apt, AptPage("7", "BW0")));
+    EXPECT_FALSE(m_core.GetCalBase(ECalItem::Apt, AptPage("7", "BW0")));
     Plug("handset");
     EXPECT_EQ(Coupler("7", "BW0"), "0.00000");
     EXPECT_EQ(FirstLoss(LossPage("Type1", "5"), "calDataIf.data.group1", "plOffset"), "0.00000");
+}
+
+TEST_F(CoreCalDocumentTest, ARecordThatNeverCameInHasNoBase)
+{
+    StoreCoupler("1", "BW0", "3");
+    EXPECT_FALSE(m_core.GetCalBase(ECalItem::Apt, AptPage("1", "BW0")));
+    Run([this] { m_core.UploadFromFlashStart({kApt}); });
+    EXPECT_TRUE(m_core.GetCalBase(ECalItem::Apt, AptPage("1", "BW0")));
+}
+
+TEST_F(CoreCalDocumentTest, ACopyOntoARecordThatNeverCameInIsShownAndNotWritten)
+{
+    QJsonObject page = AptPage("1", "BW0");
+    Put(page, kCoupler, {{"couplerLossHigh", "3"}});
+    const CalChange change = m_core.CopyCalRecord(ECalItem::Apt, page, {{.route = 2, .region = 0}});
+    ASSERT_TRUE(change);
+    EXPECT_EQ(Coupler("2", "BW0"), "3.00000");
+    EXPECT_TRUE(WriteAll().isEmpty());
+    m_core.ApplyCalChange(ECalItem::Apt, page, *change, ECalWay::Back);
+    EXPECT_EQ(Coupler("2", "BW0"), "0.00000");
+}
+
+TEST_F(CoreCalDocumentTest, AChangeOfAnEarlierConnectionIsNotTakenBack)
+{
+    StoreCoupler("1", "BW0", "3");
+    const CalChange change =
+        m_core.CopyCalRecord(ECalItem::Apt, AptPage("1", "BW0"), {{.route = 2, .region = 0}});
+    ASSERT_TRUE(change);
+    for (const char *profile : {"gen0", "handset"}) {
+        Plug(profile);
+        m_core.ResetTargetCache();
+        StoreCoupler("2", "BW0", "5");
+        m_core.ApplyCalChange(ECalItem::Apt, AptPage("1", "BW0"), *change, ECalWay::Back);
+    }
+    EXPECT_EQ(Coupler("2", "BW0"), "5.00000");
 }
 
 TEST_F(CoreCalDocumentTest, StoringBeforeAnyReadMakesNothingValid)
