@@ -206,15 +206,23 @@ endfunction()
 #   PLAIN    GoogleTest program that needs no Qt
 #   CLASSES  test classes of tests/common/TestClass.h, one run of the program for each; the source has
 #            the name of the class, and may stand in a folder. "LifetimeTest.resetWhileBusy" runs one
-#            function of LifetimeTest.
+#            function of LifetimeTest. A class without a run in this build is not compiled.
 #   APART    sources with names that others of their folder have, too (quorlin_unite_tests)
 #   CASES    arguments; with them, one run of the program for each, named after both
 function(quorlin_test)
   cmake_parse_arguments(T "QT;PLAIN" "NAME;LABELS" "SOURCES;APART;DEPENDS;CASES;CLASSES" ${ARGN})
   foreach(class IN LISTS T_CLASSES)
-    string(REGEX REPLACE "\\..*" "" source ${class})
-    list(APPEND T_SOURCES ${source}.cpp)
+    get_filename_component(run ${class} NAME)
+    quorlin_runs_elsewhere(elsewhere ${run} ${T_NAME})
+    if(NOT elsewhere)
+      string(REGEX REPLACE "\\..*" "" source ${class})
+      list(APPEND T_SOURCES ${source}.cpp)
+    endif()
   endforeach()
+  if(NOT T_SOURCES)  # not built, and yet a target
+    list(TRANSFORM T_CLASSES REPLACE "\\..*" "" OUTPUT_VARIABLE T_SOURCES)
+    list(TRANSFORM T_SOURCES APPEND .cpp)
+  endif()
   list(REMOVE_DUPLICATES T_SOURCES)
   add_executable(${T_NAME} EXCLUDE_FROM_ALL ${T_SOURCES})
   target_include_directories(${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR})
