@@ -20,6 +20,7 @@ set(QUORLIN_RUNS_ONLY_address
     DecodeFuzzReplay
     EngineFuzzReplay
     EngineTest
+    ExpectationsTest
     FaultCampaign.rx
     FaultCampaign.tx
     FlowFuzzReplay

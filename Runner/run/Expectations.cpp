@@ -152,13 +152,13 @@ QString JudgeReadings(const SPlanExpect &expect, const QStringList &readings,
             .arg(minus.size());
     QVector<double> numbers;
     for (int i = 0; i < texts.size(); ++i) {
-        bool isNumber = false, isMinusNumber = true;
-        double number = texts[i].toDouble(&isNumber);
-        if (!minus.isEmpty())
-            number -= minus[minus.size() > 1 ? i : 0].toDouble(&isMinusNumber);
-        if (!isNumber || !isMinusNumber || !std::isfinite(number))
-            return QString("\"%1\" is no number").arg(isNumber ? minus.value(0) : texts[i]);
-        numbers << number;
+        const QString away = minus.value(minus.size() > 1 ? i : 0, "0");
+        for (const QString &text : {texts[i], away}) {
+            bool isNumber = false;
+            if (!std::isfinite(text.toDouble(&isNumber)) || !isNumber)
+                return QString("\"%1\" is no number").arg(text);
+        }
+        numbers << texts[i].toDouble() - away.toDouble();
     }
     return JudgeNumbers(expect, numbers);
 }
