@@ -285,7 +285,7 @@ function(quorlin_test_run name program label)
 endfunction()
 
 # A benchmark program, run by hand (bench/README.md); never a test, since its numbers depend on the
-# machine.
+# machine. The commit's check does not build it, a night does.
 #   MOC   has classes of moc's
 function(quorlin_bench)
   cmake_parse_arguments(B "MOC" "NAME" "SOURCES;DEPENDS" ${ARGN})
@@ -294,6 +294,9 @@ function(quorlin_bench)
   target_link_libraries(${B_NAME} PRIVATE ${B_DEPENDS} benchmark::benchmark)
   if(NOT B_MOC)
     quorlin_no_moc(${B_NAME})
+  endif()
+  if(NOT QUORLIN_ALL_RUNS)
+    set_target_properties(${B_NAME} PROPERTIES EXCLUDE_FROM_ALL TRUE)
   endif()
   quorlin_precompile(${B_NAME} product)
 endfunction()

@@ -69,6 +69,10 @@ TEST(ShowTest, LongCallsAreInSecondsAndAStatusWithoutANameIsItsNumber)
     call.durationNs = 1234567890;
     const SCliRun run = RunOn(TraceHeaderLine() + CallLines(call), "trace show t.jsonl");
     EXPECT_NE(run.out.find("Success (0), status 4711  1.235 s\n"), std::string::npos) << run.out;
+    call.durationNs = 1000000000;
+    EXPECT_NE(
+        RunOn(TraceHeaderLine() + CallLines(call), "trace show t.jsonl").out.find("  1.000 s\n"),
+        std::string::npos);
 }
 
 // The second half of Latin-1 begins with characters that steer a terminal, too.

@@ -1,6 +1,7 @@
 // Settings of a page: saved to a file, loaded from one, and restored at the start.
 #include <QAction>
 #include <QComboBox>
+#include <QDir>
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QJsonDocument>
@@ -170,6 +171,18 @@ private slots:
         QTest::newRow("numbers")
             << Json("{'version': 1, 'page': 'Single Tone TX', 'request': {'group1': {'band': 78}}}")
             << "group1.band is no text.";
+        QTest::newRow("group that is a number")
+            << Json("{'version': 1, 'page': 'Single Tone TX', 'request': {'group1': 7}}")
+            << "group1 is no text.";
+        QTest::newRow("list with a number") << Json("{'version': 1, 'page': 'Single Tone TX', "
+                                                    "'request': {'group1': {'band': ['n1', 7]}}}")
+                                            << "group1.band is no text.";
+        QTest::newRow("no version") << Json("{'page': 'Single Tone TX', 'request': {'group1': {}}}")
+                                    << "It has no version.";
+        QTest::newRow("no page") << Json("{'version': 1, 'request': {'group1': {}}}")
+                                 << "It names no page.";
+        QTest::newRow("no settings")
+            << Json("{'version': 1, 'page': 'Single Tone TX'}") << "It has no settings.";
         QTest::newRow("empty") << QByteArray() << "It is no JSON: illegal value, at byte 0.";
         QTest::newRow("huge") << QByteArray(3 * 1024 * 1024, ' ')
                               << "it has 3 MB, and such a file at most 2";
@@ -188,6 +201,24 @@ private slots:
         QVERIFY(WaitUntil([&] { return boxes.Seen().size() == 1; }));
         QVERIFY2(boxes.Seen()[0].text.endsWith(words), qPrintable(boxes.Seen()[0].text));
         QCOMPARE(session.Find<QComboBox>(kTone + "band")->currentText(), QString("n1"));
+    }
+
+    void settingsThatCannotBeSavedAreToldInABox()
+    {
+        const QTemporaryDir folder;
+        const QString file = folder.filePath("none/tone.json");
+        CPluginSession session("handset", 1, kSingleTone.className);
+        QVERIFY(session.ShowAndWait());
+        CBoxWatcher boxes;
+        const QString gone = folder.filePath("none");
+        QVERIFY(QDir().mkdir(gone));
+        AnswerFileDialog(file, [gone](QFileDialog *dialog) {
+            QObject::connect(dialog, &QDialog::accepted, [gone] { QDir().rmdir(gone); });
+        });
+        Trigger(session, "m_actionSaveSettings");
+        QVERIFY(session.WaitForStatus("Save settings failed."));
+        QVERIFY(WaitUntil([&] { return boxes.Seen().size() == 1; }));
+        QVERIFY2(boxes.Seen()[0].text.startsWith(file + ": "), qPrintable(boxes.Seen()[0].text));
     }
 
     void aRunningTestKeepsItsSettings()

@@ -46,6 +46,12 @@ private slots:
         QCOMPARE(CSettings(File()).Value(kKey).toStringList(), (QStringList{"route", "field"}));
     }
 
+    void withNothingToSaveASaveIsGoodAndMakesNoFile()
+    {
+        QVERIFY(CSettings(File()).Save());
+        QVERIFY(!QFile::exists(File()));
+    }
+
     void valuesThatAreSetReachTheDiskAtTheEnd()
     {
         {

@@ -54,6 +54,24 @@ struct SRunFixture
     SRunFixture() { EXPECT_EQ(reports.Open(folder, info, {Case(1), Case(2)}), QString()); }
 };
 
+// Name of the element that a test case stands in, of each.
+QStringList ParentsOfCases(const QByteArray &xml)
+{
+    QStringList open, parents;
+    QXmlStreamReader reader(xml);
+    while (!reader.atEnd()) {
+        const auto token = reader.readNext();
+        if (token == QXmlStreamReader::StartElement) {
+            if (reader.name() == "testcase")
+                parents << open.value(open.size() - 1);
+            open << reader.name().toString();
+        } else if (token == QXmlStreamReader::EndElement) {
+            open.removeLast();
+        }
+    }
+    return parents;
+}
+
 // Names of the elements with their number; nothing if the text is no XML.
 QMap<QString, int> XmlElements(const QByteArray &xml)
 {
@@ -158,7 +176,10 @@ TEST(ReportsTest, aSuiteAPlanFileWithCountsOfItsOwn)
     EXPECT_EQ(suites, (QStringList{"Night <of> \"n78\" & more 3 2 0 0 4.500 1970-01-01T00:00:00",
                                    "Day 4 0 3 1 4.500 1970-01-01T00:00:00"}))
         << suites.join("; ").toStdString();
-    EXPECT_TRUE(FileText(folder, "report.html").contains("<title>Night &lt;of&gt;"));
+    const QByteArray page = FileText(folder, "report.html");
+    EXPECT_TRUE(page.contains("<title>Night &lt;of&gt;"));
+    for (const char *count : {">1 pass<", ">2 fail<", ">3 error<", ">1 not run<"})
+        EXPECT_TRUE(page.contains(count)) << count;
 }
 
 TEST(ReportsTest, aTestCaseHasItsNameAndNoCharacterThatXmlLacks)
@@ -168,6 +189,7 @@ TEST(ReportsTest, aTestCaseHasItsNameAndNoCharacterThatXmlLacks)
     run.reports.Finish();
     const QByteArray xml = FileText(run.folder, "junit.xml");
     EXPECT_TRUE(xml.startsWith("<?xml version=\"1.0\"")) << xml.toStdString();
+    EXPECT_EQ(ParentsOfCases(xml), (QStringList{"testsuite", "testsuite"}));
     EXPECT_TRUE(xml.contains(" name=\"gains [band=n77]\"")) << xml.toStdString();
     EXPECT_TRUE(xml.contains("too &lt;low&gt;?")) << xml.toStdString();
     EXPECT_FALSE(xml.contains('\x02'));

@@ -112,8 +112,8 @@ TEST(ValueTextTest, TextsEndAtTheirZeroOrFillTheirRoom)
     EXPECT_EQ(TextIn(hardware, "port"), "TX_0");
     std::memset(hardware.port, 'x', sizeof hardware.port);
     EXPECT_EQ(TextIn(hardware, "port"), std::string(sizeof hardware.port, 'x'));
-    std::memcpy(hardware.port, "a\n\xff\\\0", 5);
-    EXPECT_EQ(TextIn(hardware, "port"), "a\\x0a\\xff\\x5c");
+    std::memcpy(hardware.port, "a b\n\xff\\\0", 7);
+    EXPECT_EQ(TextIn(hardware, "port"), "a b\\x0a\\xff\\x5c");
 }
 
 TEST(ValueTextTest, ReservedBytesAreDigits)

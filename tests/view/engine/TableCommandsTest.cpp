@@ -163,6 +163,29 @@ private slots:
         QCOMPARE(grid.Numbers(1), QString("0 0.25 0.5 0.75 1"));
     }
 
+    void aMarkBehindAPasteIsToldAgain()
+    {
+        CCellGrid grid;
+        PutClipboard("1\t2\n");
+        grid.MarkCells(0, 0, 0, 0);
+        grid.Press(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(grid.Marked(), QString("0,0 0,1"));
+        grid.MarkCells(0, 0, 2, 0);
+        QCOMPARE(grid.m_status, QString("3 cells marked."));
+    }
+
+    void aRefusedPasteLeavesTheMarkAsItIs()
+    {
+        CCellGrid grid;
+        PutClipboard("1\tno number\n");
+        grid.MarkCells(0, 0, 0, 0);
+        const QString before = grid.Marked();
+        grid.Press(Qt::Key_V, Qt::ControlModifier);
+        ClosedBox();
+        QCOMPARE(grid.Marked(), before);
+        QCOMPARE(grid.Numbers(0), QString("0 1 2 3 4"));
+    }
+
     void rowWithANumberAtOneEndAloneIsNotInterpolated()
     {
         for (const int gone : {0, 4}) {
